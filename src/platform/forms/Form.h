@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <utility>
+
+#include "platform/forms/Control.h"
+#include "platform/forms/ControlArray.h"
+#include "platform/forms/Guard.h"
+#include "platform/forms/KeyEvent.h"
+
+namespace akarix {
+
+/// A screen. Built in code by its constructor; shown modeless or modally; closed by hiding (it stays loaded,
+/// with what is on it) or by unloading (the next Instance() builds it anew).
+class Form : public QWidget {
+    Q_OBJECT
+
+ public:
+    /// \param name the system's own name of the form, e.g. "MstDeal_frm"; becomes the object name.
+    Form(const QString& name, const QString& caption);
+
+    QString Caption() const { return windowTitle(); }
+    void SetCaption(const QString& caption) { setWindowTitle(caption); }
+
+    /// Shows the form, brings it to the front and gives it the keyboard.
+    void Show();
+    /// Shows it and returns when it has been hidden or unloaded.
+    void ShowModal();
+    void Hide();
+    /// Runs QueryUnload, then takes the form away. The object lives until the event loop's next turn.
+    void Unload();
+
+    /// All controls of the form in the order they were made (the classic Controls collection).
+    QList<QWidget*> Controls() const;
+
+    /// Attaches a handler: run inside an action, an escaping error shown in the run time's box.
+    template <class Sender, class Signal, class Handler>
+    void on(Sender* sender, Signal signal, Handler handler) {
+        QObject::connect(sender, signal, this, [handler = std::move(handler)](auto&&... arguments) mutable {
+            RunGuarded([&] { handler(arguments...); });
+        });
+    }
+    /// The same for every control of an array; the handler gets the index first.
+    template <class T, class Signal, class Handler>
+    void on(const ControlArray<T>& array, Signal signal, Handler handler) {
+        for (const auto& [index, control] : array) {
+            const int i = index;
+            QObject::connect(control, signal, this, [handler, i](auto&&... arguments) mutable {
+                RunGuarded([&] { handler(i, arguments...); });
+            });
+        }
+    }
+
+    /// The one instance of a form class, built on first use and after an unload.
+    template <class F>
+    static F& Instance() {
+        static QPointer<QWidget> instance;
+        if (instance.isNull() || static_cast<Form*>(instance.data())->unloaded_) {
+            instance = new F;
+        }
+        return *static_cast<F*>(instance.data());
+    }
+
+ protected:
+    /// Before the form goes away. Setting cancel keeps it; closing the window asks here too.
+    virtual void QueryUnload(bool& cancel);
+    virtual void MouseDown(int button, int shift, int x, int y);
+
+    void closeEvent(QCloseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+    bool unloaded_ = false;
+};
+
+/// Opens a screen the way the menu does: its one instance is shown and its init run.
+template <class F>
+void OpenScreen() {
+    F& form = Form::Instance<F>();
+    form.Show();
+    form.init();
+}
+
+}  // namespace akarix

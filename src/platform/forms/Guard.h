@@ -1,0 +1,16 @@
+#pragma once
+
+#include <functional>
+
+namespace akarix {
+
+/// What is run around every event handler that goes through Form::on, nested handlers included; the shell
+/// hangs the store's grouping of writes here, so that this folder need not know the store.
+void SetActionHooks(std::function<void()> begin, std::function<void()> end);
+
+/// Runs a handler inside an action. A RuntimeError that escapes is shown in the run time's box and ends the
+/// handler alone; any other exception is shown as error 51 (internal error). Gives false when an error was
+/// shown.
+bool RunGuarded(const std::function<void()>& handler);
+
+}  // namespace akarix

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "platform/forms/KeyEvent.h"
+
+namespace akarix {
+
+/// Input methods of a text box, with the classic IMEMode numbers.
+enum class ImeMode {
+    NoControl = 0,
+    On = 1,
+    Off = 2,  ///< plain half-width typing; the input method is not asked
+    Hiragana = 4,
+    KatakanaHalf = 6,  ///< committed kana is turned into half-width katakana
+};
+
+/// A one-line text box. Enter, Tab and the up and down arrows reach KeyDown first and never Qt's own focus
+/// chain while somebody listens; an Enter that commits an input method's text does not arrive at all.
+class TextBox : public QLineEdit {
+    Q_OBJECT
+
+ public:
+    explicit TextBox(QWidget* parent = nullptr);
+
+    QString Text() const { return text(); }
+    void SetText(const QString& text) { setText(text); }
+    /// In bytes of code page 932; 0 is no limit. Not enforced while typing: the field walk cuts.
+    int MaxLength() const { return maxBytes_; }
+    void SetMaxLength(int bytes) { maxBytes_ = bytes; }
+    ImeMode IMEMode() const { return imeMode_; }
+    void SetIMEMode(ImeMode mode);
+    void SetSelStart(int position);
+    void SetSelLength(int length);
+
+ signals:
+    void KeyDown(akarix::KeyEvent& event);
+    void GotFocus();
+    void LostFocus();
+    void Click();
+
+ protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+    int maxBytes_ = 0;
+    ImeMode imeMode_ = ImeMode::NoControl;
+    bool composing_ = false;
+};
+
+}  // namespace akarix

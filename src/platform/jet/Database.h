@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "platform/jet/Recordset.h"
+
+namespace akarix {
+
+class Engine;
+class Workspace;
+
+/// One open file of the store. Use after Close raises 3420.
+class Database {
+ public:
+    ~Database();
+
+    /// Runs an action query or a definition. Rows that break a key, a kind or a width are dropped without a
+    /// word; a statement that cannot be understood raises.
+    void Execute(const QString& sql);
+    Recordset OpenRecordset(const QString& sql);
+    /// Rows changed by the last Execute.
+    std::int64_t RecordsAffected() const;
+    void Close();
+
+    const QString& Name() const;
+    /// The engine behind, for the companion programs and bench/.
+    Engine& engine();
+
+ private:
+    friend class Workspace;
+    struct Impl;
+    explicit Database(std::unique_ptr<Impl> impl);
+    std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace akarix

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QPainter>
+#include <QSizeF>
+#include <QString>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace akarix {
+
+/// One page to be drawn: paper size in points and the drawing itself, in twips from the paper's upper left
+/// corner. It may be played more than once (a preview repaints), so it owns what it draws.
+struct PrintPage {
+    QSizeF paper{595.276, 841.89};
+    std::function<void(QPainter&)> draw;
+};
+
+/// Where finished pages go. The program has three: a printer's queue, a PDF file and the preview window.
+class PrintSink {
+ public:
+    virtual ~PrintSink() = default;
+    /// Adds pages to the document under way.
+    virtual void add(std::vector<PrintPage> pages) = 0;
+    /// Ends the document: the job goes to the queue, the file is complete. Raises 482 (printer error) with a
+    /// text the operator understands when it could not be written.
+    virtual void finish() = 0;
+};
+
+/// A sink on the current printer (queue or PDF file). Raises 482 when there is none or the target cannot be
+/// written.
+std::unique_ptr<PrintSink> OpenPrinterSink(const QString& documentName);
+
+/// Shows pages in the preview window, modally.
+void ShowPreview(const QString& title, const std::vector<PrintPage>& pages);
+
+}  // namespace akarix

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace akarix {
+
+/// The ANSI code page of a Japanese system (Windows-31J). A character without a place becomes "?".
+/// Mapping: ICU's ibm-943_P15A-2003 / windows-932 family; ～ ① ㈱ 髙 survive both ways.
+QByteArray ToCodePage932(const QString& text);
+QString FromCodePage932(const QByteArray& bytes);
+/// Bytes the text takes in that code page.
+int ByteLength932(const QString& text);
+
+}  // namespace akarix

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/runtime/Date.h"
+
+namespace akarix {
+
+int Year(Date date);
+int Month(Date date);
+int Day(Date date);
+int Hour(Date date);
+int Minute(Date date);
+int Second(Date date);
+/// 1 (Sunday) to 7 (Saturday).
+int Weekday(Date date);
+
+}  // namespace akarix

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <vector>
+
+namespace akarix {
+
+/// What the grid export needs of a grid: sizes in twips, texts by row and column, row 0 being the heads.
+struct GridSource {
+    int rows = 0;
+    std::vector<int> widths;
+    std::vector<int> alignments;  ///< 7 is right
+    std::function<QString(int row, int column)> text;
+};
+
+/// Writes a grid as an .xlsx workbook; see output/EX for what stands where. Columns of a width of 10 twips or
+/// less are left out; a column that is right-aligned arrives as numbers, the others as text. False when the
+/// file cannot be written.
+bool WriteGridWorkbook(const QString& path, const QString& title, const QString& subtitle,
+                       const QString& created, const GridSource& grid);
+
+}  // namespace akarix

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+namespace akarix {
+
+struct FormattedNumber {
+    QString text;
+    QColor color;  ///< invalid unless the format names one
+};
+
+/// A number through a cell's format code: sections, conditions, colours, fill and skip marks, dates with
+/// eras.
+FormattedNumber FormatNumber(double value, const QString& code);
+/// A text through the format's text section.
+QString FormatText(const QString& text, const QString& code);
+
+}  // namespace akarix

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/sheet/Sheet.h"
+
+namespace akarix {
+
+/// Reads one sheet of an .xlsx workbook (ECMA-376, SpreadsheetML). Raises 1004 when the file is missing, is
+/// no workbook, or has no sheet of that name; the description says which.
+Sheet ReadSheet(const QString& path, const QString& sheetName);
+
+}  // namespace akarix
