@@ -1,0 +1,21 @@
+#include "values/NumStr.h"
+
+#include "platform/runtime/Format.h"
+#include "platform/runtime/Str.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+QString NumStr(const Variant& value) {
+    return Trim(Str(value));
+}
+
+QString PadFormat(const Variant& value, const QString& mask) {
+    return (QString(20, u' ') + Format(value, mask)).right(mask.size());
+}
+
+QString PadText(const QString& text, int width) {
+    return text.leftJustified(width, u' ', true);
+}
+
+}  // namespace akarix

@@ -1,0 +1,55 @@
+#include "values/NumVal.h"
+
+#include "platform/runtime/CCur.h"
+#include "platform/runtime/CInt.h"
+#include "platform/runtime/CLng.h"
+#include "platform/runtime/Val.h"
+
+namespace akarix {
+
+namespace {
+
+bool isDigit(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
+
+template <class Keep>
+QString filtered(const QString& text, Keep keep) {
+    QString kept;
+    for (const QChar c : text) {
+        if (keep(c)) kept += c;
+    }
+    return kept;
+}
+
+}  // namespace
+
+QString KeepNumeric(const QString& text) {
+    const QString kept = filtered(text, [](QChar c) { return isDigit(c) || c == u'.' || c == u'-'; });
+    return kept.isEmpty() || kept == u"." ? QStringLiteral("0") : kept;
+}
+
+QString KeepDigits(const QString& text) {
+    const QString kept = filtered(text, isDigit);
+    return kept.isEmpty() ? QStringLiteral("0") : kept;
+}
+
+double NumVal(const QString& text) {
+    return Val(KeepNumeric(text));
+}
+
+Currency ToCurrency(const QString& text) {
+    return NumVal(text) == 0.0 ? Currency() : CCur(KeepNumeric(text));
+}
+
+// The two below convert the text as typed: a letter in a code must stop the operator, not vanish.
+
+std::int16_t ToInteger(const QString& text) {
+    return NumVal(text) == 0.0 ? std::int16_t{0} : CInt(text);
+}
+
+std::int32_t ToLong(const QString& text) {
+    return NumVal(text) == 0.0 ? 0 : CLng(text);
+}
+
+}  // namespace akarix

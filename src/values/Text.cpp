@@ -1,0 +1,52 @@
+#include "values/Text.h"
+
+#include "platform/runtime/CStr.h"
+#include "platform/runtime/CodePage932.h"
+
+namespace akarix {
+
+namespace {
+
+bool isLeadByte(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
+}
+
+}  // namespace
+
+QString NullToEmpty(const Variant& value) {
+    return value.IsNull() ? QString() : Trim(CStr(value));
+}
+
+Variant NullToZero(const Variant& value) {
+    return value.IsNull() ? Variant(std::int16_t{0}) : value;
+}
+
+QString EmptyToBlank(const QString& text) {
+    return text.isEmpty() ? QStringLiteral(" ") : text;
+}
+
+bool HasText(const Variant& value) {
+    return !NullToEmpty(value).isEmpty();
+}
+
+QString CutBytes(const QString& text, int bytes) {
+    const QByteArray all = ToCodePage932(text);
+    qsizetype end = 0;
+    while (end < all.size()) {
+        const int width = isLeadByte(all[end]) ? 2 : 1;
+        if (end + width > bytes) break;
+        end += width;
+    }
+    return FromCodePage932(all.left(end));
+}
+
+QString Trim(const QString& text) {
+    qsizetype from = 0;
+    qsizetype to = text.size();
+    while (from < to && text[from] == u' ') ++from;
+    while (to > from && text[to - 1] == u' ') --to;
+    return text.mid(from, to - from);
+}
+
+}  // namespace akarix
