@@ -44,8 +44,10 @@ QString CutBytes(const QString& text, int bytes) {
 QString Trim(const QString& text) {
     qsizetype from = 0;
     qsizetype to = text.size();
-    while (from < to && text[from] == u' ') ++from;
-    while (to > from && text[to - 1] == u' ') --to;
+    while (from < to && text[from] == u' ')
+        ++from;
+    while (to > from && text[to - 1] == u' ')
+        --to;
     return text.mid(from, to - from);
 }
 
