@@ -16,6 +16,8 @@ std::int32_t NextCode(const QString& table);
 std::int32_t NextHaisou();
 void PrevReadingDate(int year, int month, std::int32_t deal, QString& text);
 QString GetContents(const QString& sql);
+/// The address of a postal code, hyphen or not; empty when it is unknown.
+QString AddressOfZip(const QString& zip);
 /// The billing month of a date for a customer, by the closing day.
 void DateToGetudo(std::int32_t deal, Date hizuke, int& nendo, int& getudo);
 

@@ -1,0 +1,100 @@
+#include "store/CreateDatabase.h"
+
+#include "platform/jet/Action.h"
+#include "platform/jet/DBEngine.h"
+#include "store/Tables.h"
+#include "store/dbAccess.h"
+
+namespace akarix {
+
+namespace {
+
+struct Setting {
+    int code;
+    const char16_t* contents;
+};
+
+// A blank stands for "empty": no text column holds a text without length.
+const Setting systemSettings[] = {
+    {1, u"31"},   // closing day of a new customer: the month's end
+    {2, u"1"},    // pages are shown before they are printed
+    {3, u"25"},   // reading day
+    {100, u"1"},  // invoices by the workbook template
+    {123, u" "},  // no password
+};
+
+const Setting userOptions[] = {
+    {1, u"2"},    // western years
+    {2, u"300"},  // alarm lease, yen a month
+    {3, u"500"},  // ACU lease, yen a month
+};
+constexpr int firstConsignorOption = 4;
+constexpr int lastConsignorOption = 22;
+
+struct Named {
+    int code;
+    const char16_t* name;
+};
+
+// 2 is the class that the reading of a debit result posts.
+const Named paymentClasses[] = {{1, u"集金"}, {2, u"口座振替"}, {3, u"振込"}, {4, u"相殺"}, {5, u"値引"}};
+
+struct CodeListEntry {
+    const char16_t* table;
+    int code;
+    const char16_t* kana;
+    const char16_t* name;
+};
+
+const CodeListEntry codeListEntries[] = {
+    {u"Dbn", 1, u"ｲﾂﾊﾟﾝ", u"一般"},   {u"Dbn", 2, u"ｷﾞﾖｳﾑ", u"業務用"}, {u"Kko", 1, u"ﾅｼ", u"なし"},
+    {u"DyJkn", 1, u"ﾋﾖｳｼﾞﾕﾝ", u"標準"}, {u"Col", 1, u"ｼﾛ", u"白"},        {u"Col", 2, u"ﾊｲ", u"灰"},
+    {u"Shk", 1, u"ﾊｲﾀﾂ", u"配達"},    {u"Shk", 2, u"ｼﾞｻﾝ", u"持参"},
+};
+
+void addSetting(Database& db, const QString& table, int code, const QString& contents) {
+    db.Execute(QStringLiteral("INSERT INTO %1(Code,contents) VALUES(%2,'%3')")
+                   .arg(table, QString::number(code), contents));
+}
+
+void fillSettings(Database& db) {
+    for (const Setting& row : systemSettings) {
+        addSetting(db, QStringLiteral("zSysFunc"), row.code, QString::fromUtf16(row.contents));
+    }
+    for (const Setting& row : userOptions) {
+        addSetting(db, QStringLiteral("UserOP"), row.code, QString::fromUtf16(row.contents));
+    }
+    for (int code = firstConsignorOption; code <= lastConsignorOption; ++code) {
+        addSetting(db, QStringLiteral("UserOP"), code, QStringLiteral(" "));
+    }
+}
+
+void fillCodes(Database& db) {
+    for (const Named& row : paymentClasses) {
+        db.Execute(QStringLiteral("INSERT INTO NyukinKubun(Code,Namae) VALUES(%1,'%2')")
+                       .arg(row.code)
+                       .arg(QString::fromUtf16(row.name)));
+    }
+    for (const CodeListEntry& row : codeListEntries) {
+        const QString name = QString::fromUtf16(row.name);
+        db.Execute(QStringLiteral("INSERT INTO %1(Code,Kana,Namae,Ryaku) VALUES(%2,'%3','%4','%4')")
+                       .arg(QString::fromUtf16(row.table))
+                       .arg(row.code)
+                       .arg(QString::fromUtf16(row.kana), name));
+    }
+}
+
+}  // namespace
+
+void CreateDelivered(const QString& path) {
+    Database* db = DBEngine::Workspaces(0).CreateDatabase(path, ConnectText());
+    {
+        const Action all;
+        for (const TableDef& table : Tables()) db->Execute(CreateTableText(table));
+        fillSettings(*db);
+        fillCodes(*db);
+    }
+    db->Close();
+}
+
+}  // namespace akarix

@@ -1,0 +1,24 @@
+#include "store/FieldValue.h"
+
+#include "platform/runtime/CCur.h"
+#include "platform/runtime/CInt.h"
+#include "platform/runtime/CLng.h"
+
+namespace akarix {
+
+Currency moneyOf(const Variant& value) {
+    if (const Currency* money = value.If<Currency>()) return *money;
+    return value.IsNull() ? Currency() : CCur(value);
+}
+
+std::int32_t longOf(const Variant& value) {
+    if (const std::int32_t* number = value.If<std::int32_t>()) return *number;
+    return value.IsNull() ? 0 : CLng(value);
+}
+
+std::int16_t integerOf(const Variant& value) {
+    if (const std::int16_t* number = value.If<std::int16_t>()) return *number;
+    return value.IsNull() ? std::int16_t{0} : CInt(value);
+}
+
+}  // namespace akarix

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/runtime/Variant.h"
+
+namespace akarix {
+
+/// A column's value as a number of one kind; Null and Empty are 0. A value that does not fit raises 6.
+Currency moneyOf(const Variant& value);
+std::int32_t longOf(const Variant& value);
+std::int16_t integerOf(const Variant& value);
+
+}  // namespace akarix
