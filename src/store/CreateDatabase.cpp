@@ -47,9 +47,9 @@ struct CodeListEntry {
 };
 
 const CodeListEntry codeListEntries[] = {
-    {u"Dbn", 1, u"ｲﾂﾊﾟﾝ", u"一般"},   {u"Dbn", 2, u"ｷﾞﾖｳﾑ", u"業務用"}, {u"Kko", 1, u"ﾅｼ", u"なし"},
+    {u"Dbn", 1, u"ｲﾂﾊﾟﾝ", u"一般"},     {u"Dbn", 2, u"ｷﾞﾖｳﾑ", u"業務用"}, {u"Kko", 1, u"ﾅｼ", u"なし"},
     {u"DyJkn", 1, u"ﾋﾖｳｼﾞﾕﾝ", u"標準"}, {u"Col", 1, u"ｼﾛ", u"白"},        {u"Col", 2, u"ﾊｲ", u"灰"},
-    {u"Shk", 1, u"ﾊｲﾀﾂ", u"配達"},    {u"Shk", 2, u"ｼﾞｻﾝ", u"持参"},
+    {u"Shk", 1, u"ﾊｲﾀﾂ", u"配達"},      {u"Shk", 2, u"ｼﾞｻﾝ", u"持参"},
 };
 
 void addSetting(Database& db, const QString& table, int code, const QString& contents) {
@@ -90,7 +90,8 @@ void CreateDelivered(const QString& path) {
     Database* db = DBEngine::Workspaces(0).CreateDatabase(path, ConnectText());
     {
         const Action all;
-        for (const TableDef& table : Tables()) db->Execute(CreateTableText(table));
+        for (const TableDef& table : Tables())
+            db->Execute(CreateTableText(table));
         fillSettings(*db);
         fillCodes(*db);
     }

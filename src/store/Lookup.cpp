@@ -30,18 +30,16 @@ std::int32_t nextAfter(const QString& sql, std::int32_t step) {
 }  // namespace
 
 QString GetName(const QString& table, const Variant& code) {
-    Recordset set =
-        gDb->OpenRecordset(QStringLiteral("SELECT Code,Namae FROM ") + table + QStringLiteral(" WHERE Code=") +
-                           NumStr(code));
+    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Code,Namae FROM ") + table +
+                                       QStringLiteral(" WHERE Code=") + NumStr(code));
     const QString name = set.Eof() ? blank : NullToEmpty(set[QStringLiteral("Namae")]);
     set.Close();
     return name;
 }
 
 void GetNameAndNoSeikyu(const QString& table, const Variant& code, QString& name, int& noSeikyu) {
-    Recordset set =
-        gDb->OpenRecordset(QStringLiteral("SELECT Code,Namae,NoSeikyu FROM ") + table +
-                           QStringLiteral(" WHERE Code=") + NumStr(code));
+    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Code,Namae,NoSeikyu FROM ") + table +
+                                       QStringLiteral(" WHERE Code=") + NumStr(code));
     name = blank;
     noSeikyu = 0;
     if (!set.Eof()) {
@@ -83,9 +81,9 @@ std::int32_t NextHaisou() {
 
 void PrevReadingDate(int year, int month, std::int32_t deal, QString& text) {
     // No order is asked for: any earlier reading will do.
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Dgd ") + QStringLiteral(" WHERE Deal  =") +
-                                       NumStr(deal) + QStringLiteral(" AND   Nendo*100+Getudo<") +
-                                       NumStr(std::int32_t{year * 100 + month}));
+    Recordset set = gDb->OpenRecordset(
+        QStringLiteral("SELECT * FROM Dgd ") + QStringLiteral(" WHERE Deal  =") + NumStr(deal) +
+        QStringLiteral(" AND   Nendo*100+Getudo<") + NumStr(std::int32_t{year * 100 + month}));
     text.clear();
     if (!set.Eof()) {
         const QString day = NumStr(NullToZero(set[QStringLiteral("Nendo")])) + u'/' +
@@ -104,8 +102,7 @@ QString GetContents(const QString& sql) {
 }
 
 QString AddressOfZip(const QString& zip) {
-    Recordset set =
-        gDb->OpenRecordset(QStringLiteral("SELECT Addr FROM Zip7 WHERE Code=") + KeepDigits(zip));
+    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Addr FROM Zip7 WHERE Code=") + KeepDigits(zip));
     const QString address = set.Eof() ? QString() : NullToEmpty(set[QStringLiteral("Addr")]);
     set.Close();
     return address;

@@ -37,12 +37,12 @@ const QStringList byLine{QStringLiteral("Dno"), QStringLiteral("Eda")};
 std::vector<TableDef> masters() {
     return {
         table(u"Deal",
-              {longInteger(u"Code"),  integer(u"Rte"),     text(u"Kana", 30),   text(u"Namae", 40),
-               text(u"Ryaku", 20),    text(u"Yubin", 8),   text(u"Addr1", 50),  text(u"Addr2", 50),
-               text(u"TEL", 15),      text(u"Fax", 15),    integer(u"Sime"),    integer(u"SH"),
-               integer(u"Map"),       integer(u"Sisetu"),  integer(u"Simekiri"), longInteger(u"Haisou"),
-               integer(u"TankaPtn"),  integer(u"Bnk"),     integer(u"Stn"),     integer(u"Kind"),
-               text(u"Koza", 10),     integer(u"ACU"),     integer(u"Keihou"),  integer(u"NoSeikyu"),
+              {longInteger(u"Code"), integer(u"Rte"),    text(u"Kana", 30),    text(u"Namae", 40),
+               text(u"Ryaku", 20),   text(u"Yubin", 8),  text(u"Addr1", 50),   text(u"Addr2", 50),
+               text(u"TEL", 15),     text(u"Fax", 15),   integer(u"Sime"),     integer(u"SH"),
+               integer(u"Map"),      integer(u"Sisetu"), integer(u"Simekiri"), longInteger(u"Haisou"),
+               integer(u"TankaPtn"), integer(u"Bnk"),    integer(u"Stn"),      integer(u"Kind"),
+               text(u"Koza", 10),    integer(u"ACU"),    integer(u"Keihou"),   integer(u"NoSeikyu"),
                money(u"DiscGaku")},
               byCode),
         table(u"Hin", {longInteger(u"Code"), text(u"Kana", 30), text(u"Namae", 40), money(u"Tanka")}, byCode),
@@ -108,13 +108,11 @@ std::vector<TableDef> codeLists() {
 
 std::vector<TableDef> scratch() {
     return {
-        table(u"TempD",
-              {longInteger(u"Dno"), integer(u"Nendo"), integer(u"Getudo"), integer(u"Kubun"), date(u"Hizuke"),
-               money(u"KonkaiMeter"), text(u"HinNamae", 40), money(u"Suu"), money(u"Tanka"), money(u"Gaku"),
-               integer(u"NFLG")}),
-        table(u"TempTtoD",
-              {integer(u"Nendo"), integer(u"Getudo"), integer(u"Eda"), integer(u"Hi"), longInteger(u"Dno"),
-               money(u"GGaku"), money(u"UGaku"), money(u"NGaku")}),
+        table(u"TempD", {longInteger(u"Dno"), integer(u"Nendo"), integer(u"Getudo"), integer(u"Kubun"),
+                         date(u"Hizuke"), money(u"KonkaiMeter"), text(u"HinNamae", 40), money(u"Suu"),
+                         money(u"Tanka"), money(u"Gaku"), integer(u"NFLG")}),
+        table(u"TempTtoD", {integer(u"Nendo"), integer(u"Getudo"), integer(u"Eda"), integer(u"Hi"),
+                            longInteger(u"Dno"), money(u"GGaku"), money(u"UGaku"), money(u"NGaku")}),
         table(u"TempZan", {longInteger(u"Code"), money(u"Zan")}),
     };
 }
@@ -167,7 +165,8 @@ QString CreateTableText(const TableDef& table) {
     }
     for (std::size_t i = 0; i < table.uniqueKeys.size(); ++i) {
         QStringList columns;
-        for (const QString& column : table.uniqueKeys[i]) columns.append(u'[' + column + u']');
+        for (const QString& column : table.uniqueKeys[i])
+            columns.append(u'[' + column + u']');
         parts.append(QStringLiteral("CONSTRAINT [%1_key%2] UNIQUE (%3)")
                          .arg(table.name)
                          .arg(i)
