@@ -41,23 +41,23 @@ Currency CalcGasCharge(std::int32_t deal, Currency usage) {
 
     const QString use = NumStr(usage);
     // No order: where bands overlap, the one that comes first counts.
-    Recordset band =
-        gDb->OpenRecordset(QStringLiteral("SELECT GasKeisan.Ptn, GasKeisan.St, GasKeisan.Ed, GasKeisan.Kihon, "
-                                          "GasKeisan.Tanka From GasKeisan WHERE GasKeisan.Ptn=") +
-                           NumStr(pattern) + QStringLiteral(" AND GasKeisan.St<=") + use +
-                           QStringLiteral(" AND GasKeisan.Ed>=") + use);
+    Recordset band = gDb->OpenRecordset(
+        QStringLiteral("SELECT GasKeisan.Ptn, GasKeisan.St, GasKeisan.Ed, GasKeisan.Kihon, "
+                       "GasKeisan.Tanka From GasKeisan WHERE GasKeisan.Ptn=") +
+        NumStr(pattern) + QStringLiteral(" AND GasKeisan.St<=") + use +
+        QStringLiteral(" AND GasKeisan.Ed>=") + use);
     Currency charge;
     if (!band.Eof()) {
         const Currency above = usage - Currency(int{integerOf(band[QStringLiteral("St")])});
-        charge =
-            moneyOf(band[QStringLiteral("Kihon")]) + Int(above * moneyOf(band[QStringLiteral("Tanka")]));
+        charge = moneyOf(band[QStringLiteral("Kihon")]) + Int(above * moneyOf(band[QStringLiteral("Tanka")]));
     }
     band.Close();
     return charge;
 }
 
 bool IsNoInvoice(std::int32_t deal) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT NoSeikyu FROM Deal WHERE Code=") + NumStr(deal));
+    Recordset set =
+        gDb->OpenRecordset(QStringLiteral("SELECT NoSeikyu FROM Deal WHERE Code=") + NumStr(deal));
     const bool noInvoice = set.Eof() || integerOf(set[QStringLiteral("NoSeikyu")]) == 1;
     set.Close();
     return noInvoice;

@@ -66,11 +66,10 @@ void clearSalesWithoutSlips(int nendo, int getudo) {
 }
 
 void rememberClosingDate(int nendo, int getudo, Date creation) {
-    Recordset set =
-        gDb->OpenRecordset(QStringLiteral("SELECT Syukei.Nen, Syukei.Tuki, Syukei.Hizuke From Syukei WHERE "
-                                          "Syukei.Nen=") +
-                           NumStr(std::int32_t{nendo}) + QStringLiteral(" AND Syukei.Tuki=") +
-                           NumStr(std::int32_t{getudo}));
+    Recordset set = gDb->OpenRecordset(
+        QStringLiteral("SELECT Syukei.Nen, Syukei.Tuki, Syukei.Hizuke From Syukei WHERE "
+                       "Syukei.Nen=") +
+        NumStr(std::int32_t{nendo}) + QStringLiteral(" AND Syukei.Tuki=") + NumStr(std::int32_t{getudo}));
     if (set.Eof()) {
         set.AddNew();
     } else {
@@ -100,10 +99,10 @@ LeaseFees readLeaseFees() {
 
 /// Removes the slip that an earlier run made for the customer and month; gives its number, or 0.
 std::int32_t removeLeaseSlip(int nendo, int getudo, std::int32_t deal) {
-    Recordset set = gDb->OpenRecordset(
-        QStringLiteral("SELECT * FROM Dud  WHERE Deal  =") + NumStr(deal) +
-        QStringLiteral(" AND   Nendo =") + NumStr(std::int32_t{nendo}) + QStringLiteral(" AND   Getudo=") +
-        NumStr(std::int32_t{getudo}) + QStringLiteral(" AND   CreateAuto=1"));
+    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Dud  WHERE Deal  =") + NumStr(deal) +
+                                       QStringLiteral(" AND   Nendo =") + NumStr(std::int32_t{nendo}) +
+                                       QStringLiteral(" AND   Getudo=") + NumStr(std::int32_t{getudo}) +
+                                       QStringLiteral(" AND   CreateAuto=1"));
     const std::int32_t dno = set.Eof() ? 0 : longOf(set[QStringLiteral("Dno")]);
     set.Close();
     if (dno != 0) gDb->Execute(QStringLiteral("DELETE FROM Dud WHERE Dno=") + NumStr(dno));
@@ -114,19 +113,18 @@ std::int32_t removeLeaseSlip(int nendo, int getudo, std::int32_t deal) {
 
 void BuildMonthLedger(int nendo, int getudo, Date creation) {
     clearSalesWithoutSlips(nendo, getudo);
-    forEachRow(QStringLiteral("SELECT * FROM Dgd ") + ofMonth(nendo, getudo) +
-                   QStringLiteral(" ORDER BY Deal"),
-               [=](Recordset& set) {
-                   PutGGaku(nendo, getudo, longOf(set[QStringLiteral("Deal")]),
-                            moneyOf(set[QStringLiteral("Gaku")]));
-               });
-    forEachRow(QStringLiteral("SELECT * FROM Deal  WHERE ACU=1 OR Keihou=1  ORDER BY Code"),
-               [=](Recordset& set) {
-                   MakeLeaseSlip(nendo, getudo, creation, longOf(set[QStringLiteral("Code")]),
-                                 integerOf(set[QStringLiteral("ACU")]),
-                                 integerOf(set[QStringLiteral("Keihou")]),
-                                 integerOf(set[QStringLiteral("TankaPtn")]));
-               });
+    forEachRow(
+        QStringLiteral("SELECT * FROM Dgd ") + ofMonth(nendo, getudo) + QStringLiteral(" ORDER BY Deal"),
+        [=](Recordset& set) {
+            PutGGaku(nendo, getudo, longOf(set[QStringLiteral("Deal")]),
+                     moneyOf(set[QStringLiteral("Gaku")]));
+        });
+    forEachRow(
+        QStringLiteral("SELECT * FROM Deal  WHERE ACU=1 OR Keihou=1  ORDER BY Code"), [=](Recordset& set) {
+            MakeLeaseSlip(nendo, getudo, creation, longOf(set[QStringLiteral("Code")]),
+                          integerOf(set[QStringLiteral("ACU")]), integerOf(set[QStringLiteral("Keihou")]),
+                          integerOf(set[QStringLiteral("TankaPtn")]));
+        });
     // After the lease slips, so that they are in the sum.
     forEachRow(QStringLiteral("SELECT Deal, SUM(Gaku) AS tGaku  FROM  Dud ") + ofMonth(nendo, getudo) +
                    QStringLiteral(" GROUP BY Deal  ORDER BY Deal"),
@@ -171,9 +169,9 @@ void PutNGaku(int nendo, int getudo, std::int32_t deal, Currency amount) {
 }
 
 void PutZenkaiGaku(std::int32_t deal, int nendo, int getudo, Currency amount) {
-    Recordset set = gDb->OpenRecordset(
-        QStringLiteral("SELECT Deal,Nendo,Getudo,ZenkaiGaku,SyokiFlg  FROM  TtoD ") +
-        ofLedgerRow(deal, nendo, getudo));
+    Recordset set =
+        gDb->OpenRecordset(QStringLiteral("SELECT Deal,Nendo,Getudo,ZenkaiGaku,SyokiFlg  FROM  TtoD ") +
+                           ofLedgerRow(deal, nendo, getudo));
     if (set.Eof()) {
         set.AddNew();
         set.Fields(QStringLiteral("Deal")) = deal;
@@ -204,8 +202,7 @@ void MakeLeaseSlip(int nendo, int getudo, Date creation, std::int32_t deal, int 
                      QStringLiteral("      , ") + NumStr(deal) + QStringLiteral("      , 0 ") +
                      QStringLiteral("      ,'") + name + QStringLiteral("' ") + QStringLiteral("      , ") +
                      NumStr(fee) + QStringLiteral("      , ") + NumStr(std::int32_t{nendo}) +
-                     QStringLiteral("      , ") + NumStr(std::int32_t{getudo}) +
-                     QStringLiteral("      ,1)"));
+                     QStringLiteral("      , ") + NumStr(std::int32_t{getudo}) + QStringLiteral("      ,1)"));
         ++eda;
     };
     if (acu == 1) addLine(QStringLiteral("ACUリース代"), fees.acu);
@@ -252,8 +249,8 @@ Variant PriorBalance(std::int32_t deal, int nendo, int getudo) {
 }
 
 QString ReadClosingDate(std::int16_t year, std::int16_t month) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Hizuke FROM Syukei  WHERE Nen=") + NumStr(year) +
-                                       QStringLiteral(" AND Tuki=") + NumStr(month));
+    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Hizuke FROM Syukei  WHERE Nen=") +
+                                       NumStr(year) + QStringLiteral(" AND Tuki=") + NumStr(month));
     const QString date = set.Eof() ? QString() : NullToEmpty(set[QStringLiteral("Hizuke")]);
     set.Close();
     return date;
