@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QRadioButton>
 
 namespace akarix {
@@ -14,9 +15,10 @@ class OptionButton : public QRadioButton {
 
     bool Value() const { return isChecked(); }
     void SetValue(bool chosen) { setChecked(chosen); }
-    void SetCaption(const QString& caption) { setText(caption); }
+    void SetCaption(const QString& caption);
 
  signals:
+    /// It has become the chosen one.
     void Click();
 
  protected:
@@ -38,6 +40,20 @@ class CheckBox : public QCheckBox {
 
  protected:
     void keyPressEvent(QKeyEvent* event) override;
+};
+
+/// A border with a caption around controls that belong together; the options in it exclude each other.
+class Frame : public QGroupBox {
+    Q_OBJECT
+
+ public:
+    explicit Frame(const QString& caption = {}, QWidget* parent = nullptr);
+
+    QString Caption() const { return caption_; }
+    void SetCaption(const QString& caption);
+
+ private:
+    QString caption_;
 };
 
 }  // namespace akarix

@@ -6,7 +6,8 @@
 
 namespace akarix {
 
-/// A drop-down list whose rows carry a number (ItemData).
+/// A drop-down list whose rows carry a number (ItemData). The arrow keys choose, Enter and Tab belong to
+/// KeyDown while somebody listens.
 class ComboBox : public QComboBox {
     Q_OBJECT
 
@@ -15,10 +16,11 @@ class ComboBox : public QComboBox {
 
     int ListCount() const { return count(); }
     int ListIndex() const { return currentIndex(); }
-    void SetListIndex(int index);
+    void SetListIndex(int index);  ///< -1 selects nothing; raises 380 outside the list
+    /// Adds a row at the end; the selection stays as it was.
     void AddItem(const QString& text, int itemData = 0);
-    void RemoveItem(int index) { removeItem(index); }
-    int ItemData(int index) const;
+    void RemoveItem(int index);     ///< removing the selected row leaves nothing selected; raises 5 outside
+    int ItemData(int index) const;  ///< raises 381 outside the list
     QString Text() const { return currentText(); }
 
  signals:
@@ -30,9 +32,9 @@ class ComboBox : public QComboBox {
 
  protected:
     bool event(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 };
 
 }  // namespace akarix

@@ -2,9 +2,11 @@
 
 #include <QPushButton>
 
+#include "platform/forms/KeyEvent.h"
+
 namespace akarix {
 
-/// A button: pressed by a click, by Space and by Enter.
+/// A button: pressed by a click, by Space and by Enter. The arrow keys walk to its neighbours in tab order.
 class CommandButton : public QPushButton {
     Q_OBJECT
 
@@ -16,8 +18,10 @@ class CommandButton : public QPushButton {
 
  signals:
     void Click();
+    void KeyDown(akarix::KeyEvent& event);
 
  protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 

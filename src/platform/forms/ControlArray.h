@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QString>
 #include <map>
+#include <utility>
 
 #include "platform/runtime/RuntimeError.h"
 
@@ -10,8 +12,13 @@ namespace akarix {
 template <class T>
 class ControlArray {
  public:
+    ControlArray() = default;
+    /// \param name the system's name of the array; its controls are then called "name(index)".
+    explicit ControlArray(QString name) : name_(std::move(name)) {}
+
     T& add(int index, T* control) {
         controls_[index] = control;
+        if (!name_.isEmpty()) control->setObjectName(QStringLiteral("%1(%2)").arg(name_).arg(index));
         return *control;
     }
     /// Raises 340 when there is no control of that index.
@@ -26,6 +33,7 @@ class ControlArray {
     auto end() const { return controls_.end(); }
 
  private:
+    QString name_;
     std::map<int, T*> controls_;
 };
 

@@ -3,12 +3,15 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <optional>
 #include <utility>
 
 #include "platform/forms/Control.h"
 #include "platform/forms/ControlArray.h"
 #include "platform/forms/Guard.h"
 #include "platform/forms/KeyEvent.h"
+
+class QEventLoop;
 
 namespace akarix {
 
@@ -29,8 +32,14 @@ class Form : public QWidget {
     /// Shows it and returns when it has been hidden or unloaded.
     void ShowModal();
     void Hide();
-    /// Runs QueryUnload, then takes the form away. The object lives until the event loop's next turn.
+    /// Runs QueryUnload, then takes the form away. The object lives until the action under way has ended.
     void Unload();
+
+    /// Whether the window's border can be dragged. Without a word the layout says it: a form that holds
+    /// something that grows in height (a grid) can, any other has the size of its contents.
+    void SetResizable(bool resizable);
+    /// The next free place of the walk, counted from 0 in the order of asking.
+    int takeTabIndex();
 
     /// All controls of the form in the order they were made (the classic Controls collection).
     QList<QWidget*> Controls() const;
@@ -66,12 +75,24 @@ class Form : public QWidget {
  protected:
     /// Before the form goes away. Setting cancel keeps it; closing the window asks here too.
     virtual void QueryUnload(bool& cancel);
+    /// A press on the form itself, not on a control: button 1 left, 2 right, 4 middle; place in twips.
     virtual void MouseDown(int button, int shift, int x, int y);
 
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
  private:
+    void present(QWidget* owner);
+    void arrange();
+    void place(QWidget* owner);
+    void adjustToContents();
+
+    QEventLoop* modalLoop_ = nullptr;
+    std::optional<bool> resizable_;
+    int nextTabIndex_ = 0;
+    bool arranged_ = false;
+    bool placed_ = false;
     bool unloaded_ = false;
 };
 

@@ -4,7 +4,7 @@
 
 namespace akarix {
 
-/// Fixed text, or the name beside a code.
+/// Fixed text, or the name beside a code. Line breaks stand as they are; nothing is read as markup.
 class Label : public QLabel {
     Q_OBJECT
 

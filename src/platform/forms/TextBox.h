@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QLineEdit>
 
 #include "platform/forms/KeyEvent.h"
@@ -12,7 +13,7 @@ enum class ImeMode {
     On = 1,
     Off = 2,  ///< plain half-width typing; the input method is not asked
     Hiragana = 4,
-    KatakanaHalf = 6,  ///< committed kana is turned into half-width katakana
+    KatakanaHalf = 6,  ///< kana and wide letters are turned into their half-width forms as they come in
 };
 
 /// A one-line text box. Enter, Tab and the up and down arrows reach KeyDown first and never Qt's own focus
@@ -30,27 +31,35 @@ class TextBox : public QLineEdit {
     void SetMaxLength(int bytes) { maxBytes_ = bytes; }
     ImeMode IMEMode() const { return imeMode_; }
     void SetIMEMode(ImeMode mode);
+    int SelStart() const { return hasSelectedText() ? selectionStart() : cursorPosition(); }
+    int SelLength() const { return selectionLength(); }
     void SetSelStart(int position);
     void SetSelLength(int length);
 
  signals:
     void KeyDown(akarix::KeyEvent& event);
+    /// Focus came from, or went to, another control; changing windows or opening a menu is no such move.
     void GotFocus();
     void LostFocus();
     void Click();
 
  protected:
     bool event(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+    bool takesKey(const QKeyEvent& press);
+    bool belongsToInputMethod(const QKeyEvent& press);
+    void narrowKana();
+
     int maxBytes_ = 0;
     ImeMode imeMode_ = ImeMode::NoControl;
     bool composing_ = false;
+    bool narrowing_ = false;
+    QDeadlineTimer commitKey_;  ///< until then a press is taken for the one that committed the composition
 };
 
 }  // namespace akarix

@@ -1,0 +1,46 @@
+#include "platform/forms/CommandButton.h"
+
+#include <QKeyEvent>
+
+#include "platform/forms/Control.h"
+
+namespace akarix {
+
+CommandButton::CommandButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
+    RegisterControl(this);
+    setAttribute(Qt::WA_NoMousePropagation);
+    connect(this, &QPushButton::clicked, this, &CommandButton::Click);
+}
+
+bool CommandButton::event(QEvent* event) {
+    if (event->type() == QEvent::KeyPress &&
+        OfferKey(*static_cast<QKeyEvent*>(event), {}, [this](KeyEvent& press) { emit KeyDown(press); })) {
+        event->accept();
+        return true;
+    }
+    return QPushButton::event(event);
+}
+
+void CommandButton::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            // A held Enter walks through the fields; it must not run on into the button at their end.
+            if (!event->isAutoRepeat()) click();
+            break;
+        case Qt::Key_Left:
+        case Qt::Key_Up:
+            focusNextPrevChild(false);
+            break;
+        case Qt::Key_Right:
+        case Qt::Key_Down:
+            focusNextPrevChild(true);
+            break;
+        default:
+            QPushButton::keyPressEvent(event);
+            return;
+    }
+    event->accept();
+}
+
+}  // namespace akarix

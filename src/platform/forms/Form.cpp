@@ -1,0 +1,184 @@
+#include "platform/forms/Form.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QLayout>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+
+namespace akarix {
+namespace {
+
+int classicButton(Qt::MouseButton button) {
+    switch (button) {
+        case Qt::LeftButton:
+            return 1;
+        case Qt::RightButton:
+            return 2;
+        case Qt::MiddleButton:
+            return 4;
+        default:
+            return 0;
+    }
+}
+
+bool hasGrowingChild(const QWidget* form) {
+    const auto areas = form->findChildren<QAbstractScrollArea*>();
+    return std::any_of(areas.begin(), areas.end(), [](const QAbstractScrollArea* area) {
+        return !area->isWindow() && area->sizePolicy().expandingDirections().testFlag(Qt::Vertical) &&
+               area->maximumHeight() == QWIDGETSIZE_MAX;
+    });
+}
+
+}  // namespace
+
+Form::Form(const QString& name, const QString& caption) {
+    setObjectName(name);
+    setWindowTitle(caption);
+}
+
+void Form::Show() {
+    present(nullptr);
+}
+
+void Form::ShowModal() {
+    QWidget* owner = QApplication::activeModalWidget();
+    if (owner == nullptr) owner = QApplication::activeWindow();
+    if (owner == this) owner = nullptr;
+    if (isVisible()) hide();
+    const QPointer<QWidget> before = QApplication::focusWidget();
+    setWindowModality(Qt::ApplicationModal);
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint);
+
+    QEventLoop loop;
+    QEventLoop* const outer = std::exchange(modalLoop_, &loop);
+    const QPointer<Form> self = this;
+    present(owner);
+    if (isVisible()) loop.exec(QEventLoop::DialogExec);
+    if (self) {
+        modalLoop_ = outer;
+        setWindowModality(Qt::NonModal);
+    }
+    // Without a window manager nobody gives the keyboard back to the window below.
+    if (before && before->window()->isVisible() && !before->window()->isActiveWindow()) {
+        before->window()->activateWindow();
+    }
+}
+
+void Form::Hide() {
+    hide();
+}
+
+void Form::Unload() {
+    if (unloaded_) return;
+    bool cancel = false;
+    QueryUnload(cancel);
+    if (cancel || unloaded_) return;
+    unloaded_ = true;
+    hide();
+    AfterAction([self = QPointer<Form>(this)] {
+        if (self) self->deleteLater();
+    });
+}
+
+QList<QWidget*> Form::Controls() const {
+    return ControlsOf(this);
+}
+
+int Form::takeTabIndex() {
+    return nextTabIndex_++;
+}
+
+void Form::SetResizable(bool resizable) {
+    resizable_ = resizable;
+}
+
+void Form::QueryUnload(bool& /*cancel*/) {}
+
+void Form::MouseDown(int /*button*/, int /*shift*/, int /*x*/, int /*y*/) {}
+
+void Form::closeEvent(QCloseEvent* event) {
+    RunGuarded([this] { Unload(); });
+    event->setAccepted(unloaded_);
+}
+
+void Form::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (!event->spontaneous() && modalLoop_ != nullptr) modalLoop_->quit();
+}
+
+void Form::mousePressEvent(QMouseEvent* event) {
+    const QPoint at = event->position().toPoint();
+    RunGuarded([&] {
+        MouseDown(classicButton(event->button()), ToShift(event->modifiers()), at.x() * TwipsPerPixel,
+                  at.y() * TwipsPerPixel);
+    });
+}
+
+void Form::present(QWidget* owner) {
+    if (!arranged_) arrange();
+    if (!isVisible()) place(owner);
+    if (isMinimized()) {
+        showNormal();
+    } else {
+        show();
+    }
+    raise();
+    activateWindow();
+}
+
+void Form::arrange() {
+    arranged_ = true;
+    QWidget* previous = nullptr;
+    QList<QWidget*> walk = Controls();
+    walk.removeIf([](const QWidget* control) { return TabIndex(control) < 0; });
+    std::stable_sort(walk.begin(), walk.end(),
+                     [](const QWidget* a, const QWidget* b) { return TabIndex(a) < TabIndex(b); });
+    for (QWidget* control : walk) {
+        if (previous != nullptr) setTabOrder(previous, control);
+        previous = control;
+    }
+    // A new form's keyboard starts at the head of the walk unless its code has chosen otherwise.
+    if (focusWidget() == nullptr && !walk.isEmpty()) walk.front()->setFocus();
+    if (layout() != nullptr && !resizable_.value_or(hasGrowingChild(this))) {
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+    }
+}
+
+void Form::place(QWidget* owner) {
+    adjustToContents();
+    const QScreen* screen = owner != nullptr ? owner->screen() : QWidget::screen();
+    const QRect room = screen->availableGeometry();
+    const QRect around = owner != nullptr ? owner->frameGeometry() : room;
+    QRect wanted(QPoint(), size());
+    wanted.moveCenter(around.center());
+    wanted.moveLeft(
+        std::clamp(wanted.left(), room.left(), std::max(room.left(), room.right() - wanted.width())));
+    wanted.moveTop(
+        std::clamp(wanted.top(), room.top(), std::max(room.top(), room.bottom() - wanted.height())));
+    if (owner != nullptr || !placed_) move(wanted.topLeft());
+    placed_ = true;
+    if (owner != nullptr) {
+        winId();  // a window handle is needed to stay above the owner
+        windowHandle()->setTransientParent(owner->window()->windowHandle());
+    }
+}
+
+void Form::adjustToContents() {
+    ensurePolished();
+    if (layout() == nullptr) return;
+    layout()->activate();
+    if (!placed_ || layout()->sizeConstraint() == QLayout::SetFixedSize) {
+        const QSize wanted =
+            layout()->sizeConstraint() == QLayout::SetFixedSize || !testAttribute(Qt::WA_Resized) ? sizeHint()
+                                                                                                  : size();
+        resize(wanted.expandedTo(layout()->minimumSize()));
+    }
+}
+
+}  // namespace akarix

@@ -1,0 +1,98 @@
+#include "platform/forms/Guard.h"
+
+#include <QString>
+#include <utility>
+#include <vector>
+
+#include "platform/forms/MsgBox.h"
+#include "platform/runtime/RuntimeError.h"
+
+namespace akarix {
+namespace {
+
+std::function<void()> beginHook;
+std::function<void()> endHook;
+std::function<void()> fatalStep;
+std::vector<std::function<void()>> afterwards;
+int depth = 0;
+
+class Action {
+ public:
+    Action() {
+        ++depth;
+        try {
+            if (beginHook) beginHook();
+        } catch (...) {
+            leave();
+            throw;
+        }
+    }
+    ~Action() {
+        if (!open_) return;
+        // The handler's own error is on its way up; a second one would only hide it.
+        try {
+            finish();
+        } catch (...) {  // NOLINT(bugprone-empty-catch)
+        }
+    }
+    Action(const Action&) = delete;
+    Action& operator=(const Action&) = delete;
+
+    void finish() {
+        leave();
+        if (endHook) endHook();
+    }
+
+ private:
+    void leave() {
+        open_ = false;
+        if (--depth > 0) return;
+        for (const auto& step : std::exchange(afterwards, {}))
+            step();
+    }
+
+    bool open_ = true;
+};
+
+bool showAndFail(const RuntimeError& error) {
+    ShowRuntimeError(error);
+    if (fatalStep) fatalStep();
+    return false;
+}
+
+}  // namespace
+
+void SetActionHooks(std::function<void()> begin, std::function<void()> end) {
+    beginHook = std::move(begin);
+    endHook = std::move(end);
+}
+
+bool RunGuarded(const std::function<void()>& handler) {
+    try {
+        Action action;
+        handler();
+        action.finish();
+        return true;
+    } catch (const RuntimeError& error) {
+        return showAndFail(error);
+    } catch (const std::exception& error) {
+        return showAndFail(
+            RuntimeError(51, QStringLiteral("%1\n%2").arg(ErrorText(51), QString::fromUtf8(error.what()))));
+    }
+}
+
+void AfterAction(std::function<void()> step) {
+    if (depth == 0) {
+        step();
+    } else {
+        afterwards.push_back(std::move(step));
+    }
+}
+
+FatalErrors::FatalErrors(std::function<void()> end) : outer_(std::exchange(fatalStep, std::move(end))) {}
+
+FatalErrors::~FatalErrors() {
+    fatalStep = std::move(outer_);
+}
+
+}  // namespace akarix
