@@ -1,0 +1,9 @@
+#include "platform/runtime/CCur.h"
+
+#include "platform/runtime/NumberOf.h"
+
+namespace akarix {
+
+Currency CCur(const Variant& value) { return Currency::FromScaled(numberOf(value).scaled(4)); }
+
+}  // namespace akarix

@@ -1,0 +1,30 @@
+#include "platform/runtime/Clock.h"
+
+#include <QDateTime>
+#include <cmath>
+
+#include "platform/runtime/Calendar.h"
+
+namespace akarix {
+
+namespace {
+
+Date& replacedClock() {
+    static Date moment;
+    return moment;
+}
+
+}  // namespace
+
+Date Now() {
+    if (!replacedClock().IsZero()) return replacedClock();
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate day = now.date();
+    return Moment{dayNumber(day.year(), day.month(), day.day()), now.time().msecsSinceStartOfDay() / 1000}.date();
+}
+
+Date Today() { return Date(std::trunc(Now().Serial())); }
+
+void SetClock(Date moment) { replacedClock() = moment; }
+
+}  // namespace akarix

@@ -1,0 +1,82 @@
+#include "platform/runtime/CodePage932.h"
+
+#include <unicode/ucnv.h>
+
+#include <limits>
+#include <memory>
+
+#include "platform/runtime/RuntimeError.h"
+
+namespace akarix {
+
+namespace {
+
+struct CloseConverter {
+    void operator()(UConverter* converter) const { ucnv_close(converter); }
+};
+
+// A converter carries state and must not be shared between threads; opening one is slow.
+UConverter* converter() {
+    static thread_local const std::unique_ptr<UConverter, CloseConverter> kept = [] {
+        UErrorCode status = U_ZERO_ERROR;
+        std::unique_ptr<UConverter, CloseConverter> opened(ucnv_open("ibm-943_P15A-2003", &status));
+        if (U_FAILURE(status)) throw RuntimeError(48);
+        ucnv_setSubstChars(opened.get(), "?", 1, &status);
+        return opened;
+    }();
+    return kept.get();
+}
+
+// The converter's table comes from a family of machines that stored these three control characters in a circle;
+// here each keeps its own code. None of them is ever the second byte of a character.
+char straightByte(char c) { return c == '\x1c' ? '\x7f' : c == '\x7f' ? '\x1a' : c == '\x1a' ? '\x1c' : c; }
+
+QChar straightCharacter(QChar c) {
+    return c == QChar(0x1a) ? QChar(0x7f) : c == QChar(0x1c) ? QChar(0x1a) : c == QChar(0x7f) ? QChar(0x1c) : c;
+}
+
+bool isLeadByte(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return (byte >= 0x81 && byte <= 0x9f) || (byte >= 0xe0 && byte <= 0xfc);
+}
+
+/// The first half of a character at the end stands for nothing: it is what a cut by bytes leaves behind.
+qsizetype lengthWithoutHalf(const QByteArray& bytes) {
+    qsizetype at = 0;
+    while (at < bytes.size()) {
+        const qsizetype width = isLeadByte(bytes[at]) ? 2 : 1;
+        if (at + width > bytes.size()) break;
+        at += width;
+    }
+    return at;
+}
+
+}  // namespace
+
+QByteArray ToCodePage932(const QString& text) {
+    if (text.isEmpty()) return {};
+    QByteArray bytes(text.size() * 2, Qt::Uninitialized);
+    UErrorCode status = U_ZERO_ERROR;
+    const int32_t length =
+        ucnv_fromUChars(converter(), bytes.data(), static_cast<int32_t>(bytes.size()),
+                        reinterpret_cast<const UChar*>(text.utf16()), static_cast<int32_t>(text.size()), &status);
+    bytes.truncate(length);
+    for (char& c : bytes) c = straightByte(c);
+    return bytes;
+}
+
+QString FromCodePage932(const QByteArray& bytes) {
+    if (bytes.isEmpty()) return {};
+    QString text(bytes.size(), Qt::Uninitialized);
+    UErrorCode status = U_ZERO_ERROR;
+    const int32_t length =
+        ucnv_toUChars(converter(), reinterpret_cast<UChar*>(text.data()), static_cast<int32_t>(text.size()),
+                      bytes.constData(), static_cast<int32_t>(lengthWithoutHalf(bytes)), &status);
+    text.truncate(length);
+    for (QChar& c : text) c = straightCharacter(c);
+    return text;
+}
+
+int ByteLength932(const QString& text) { return static_cast<int>(ToCodePage932(text).size()); }
+
+}  // namespace akarix

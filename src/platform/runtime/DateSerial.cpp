@@ -1,0 +1,21 @@
+#include "platform/runtime/DateSerial.h"
+
+#include "platform/runtime/Calendar.h"
+#include "platform/runtime/RuntimeError.h"
+
+namespace akarix {
+
+Date DateSerial(int year, int month, int day) {
+    if (year < 0 || year > 9999) throw RuntimeError(5);
+    const std::int64_t months = std::int64_t{fullYear(year)} * 12 + month - 1;
+    const std::int64_t carriedYear = (months >= 0 ? months : months - 11) / 12;
+    return Moment{dayNumber(carriedYear, static_cast<int>(months - carriedYear * 12) + 1, day), 0}.date();
+}
+
+Date TimeSerial(int hour, int minute, int second) {
+    const std::int64_t seconds = (std::int64_t{hour} * 60 + minute) * 60 + second;
+    const std::int64_t days = (seconds >= 0 ? seconds : seconds - 86399) / 86400;
+    return Moment{days, static_cast<int>(seconds - days * 86400)}.date();
+}
+
+}  // namespace akarix

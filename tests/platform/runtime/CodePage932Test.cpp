@@ -1,0 +1,43 @@
+#include <gtest/gtest.h>
+
+#include "platform/runtime/CodePage932.h"
+
+namespace akarix {
+
+namespace {
+
+TEST(CodePage932, KnowsTheWindowsCharacters) {
+    struct Case {
+        const char16_t* text;
+        const char* hex;
+    };
+    const Case cases[] = {
+        {u"～", "8160"},   {u"－", "817c"},   {u"∥", "8161"}, {u"①", "8740"}, {u"㈱", "878a"},
+        {u"髙", "fbfc"},   {u"﨑", "fab1"},   {u"Ⅲ", "8756"}, {u"ｱﾞ", "b1de"}, {u"表", "955c"},
+        {u"\\~", "5c7e"},  {u"あA\r\n", "82a0410d0a"}, {u"￥", "818f"}, {u"\x7f\x1a\x1c", "7f1a1c"}, {u"\ue000", "f040"},
+    };
+    for (const Case& c : cases) {
+        const QString text = QString::fromUtf16(c.text);
+        EXPECT_EQ(ToCodePage932(text).toHex().toStdString(), c.hex);
+        EXPECT_EQ(FromCodePage932(QByteArray::fromHex(c.hex)), text) << c.hex;
+        EXPECT_EQ(ByteLength932(text), static_cast<int>(strlen(c.hex) / 2));
+    }
+}
+
+TEST(CodePage932, DropsAHalfCharacterAtTheEnd) {
+    const QByteArray bytes = ToCodePage932(QStringLiteral("aソ表"));
+    EXPECT_EQ(FromCodePage932(bytes.left(2)), QStringLiteral("a"));
+    EXPECT_EQ(FromCodePage932(bytes.left(3)), QStringLiteral("aソ"));
+    EXPECT_EQ(FromCodePage932(bytes.left(4)), QStringLiteral("aソ"));
+}
+
+TEST(CodePage932, PutsAQuestionMarkForWhatHasNoPlace) {
+    EXPECT_EQ(ToCodePage932(QStringLiteral("a😀b")), "a?b");
+    EXPECT_EQ(ToCodePage932(QStringLiteral("ไ한")), "??");
+    EXPECT_TRUE(ToCodePage932(QString()).isEmpty());
+    EXPECT_TRUE(FromCodePage932(QByteArray()).isEmpty());
+}
+
+}  // namespace
+
+}  // namespace akarix

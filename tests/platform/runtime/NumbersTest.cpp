@@ -1,0 +1,203 @@
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+
+#include "platform/runtime/CBool.h"
+#include "platform/runtime/CCur.h"
+#include "platform/runtime/CDbl.h"
+#include "platform/runtime/CInt.h"
+#include "platform/runtime/CLng.h"
+#include "platform/runtime/CStr.h"
+#include "platform/runtime/Fix.h"
+#include "platform/runtime/Int.h"
+#include "platform/runtime/IsNumeric.h"
+#include "platform/runtime/Raises.h"
+#include "platform/runtime/Str.h"
+#include "platform/runtime/Val.h"
+
+namespace akarix {
+
+namespace {
+
+Currency money(const char* text) { return Currency::FromText(QString::fromUtf8(text)); }
+std::string utf8(const QString& text) { return text.toStdString(); }
+
+TEST(Currency, RoundsProductsAndQuotientsHalfToEven) {
+    struct Case {
+        const char *a, *b, *product, *quotient;
+    };
+    const Case cases[] = {
+        {"1.0001", "0.5", "0.5", "2.0002"},      {"1.0003", "0.5", "0.5002", "2.0006"},
+        {"-1.0003", "0.5", "-0.5002", "-2.0006"}, {"0.0001", "2", "0.0002", "0"},
+        {"0.0003", "-2", "-0.0006", "-0.0002"},   {"125.5", "380.25", "47721.375", "0.33"},
+        {"1", "3", "3", "0.3333"},                {"20", "-3", "-60", "-6.6667"},
+        {"303700049.9", "3037000", "922337051546300", "100"},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(utf8((money(c.a) * money(c.b)).ToText()), c.product) << c.a << " * " << c.b;
+        EXPECT_EQ(utf8((money(c.a) / money(c.b)).ToText()), c.quotient) << c.a << " / " << c.b;
+    }
+}
+
+TEST(Currency, LeavingTheRangeOverflows) {
+    const Currency top = Currency::FromScaled(std::numeric_limits<std::int64_t>::max());
+    const Currency bottom = Currency::FromScaled(std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(utf8(top.ToText()), "922337203685477.5807");
+    EXPECT_EQ(utf8(bottom.ToText()), "-922337203685477.5808");
+    EXPECT_EQ(money("922337203685477.5807"), top);
+    EXPECT_EQ(raised([&] { return top + Currency::FromScaled(1); }), 6);
+    EXPECT_EQ(raised([&] { return bottom - Currency::FromScaled(1); }), 6);
+    EXPECT_EQ(raised([&] { return -bottom; }), 6);
+    EXPECT_EQ(raised([&] { return top * Currency(2); }), 6);
+    EXPECT_EQ(raised([&] { return top / money("0.5"); }), 6);
+    EXPECT_EQ(raised([&] { return top / Currency(0); }), 11);
+    EXPECT_EQ(raised([] { return Currency(std::int64_t{922337203685478}); }), 6);
+    EXPECT_EQ(raised([] { return money("922337203685477.58075"); }), 6);
+    EXPECT_EQ(raised([] { return money("1,000"); }), 13);
+}
+
+TEST(Conversion, ReadsNumbersAsAClerkWritesThem) {
+    struct Case {
+        const char* text;
+        double value;
+    };
+    const Case cases[] = {
+        {"12", 12},           {"  -12.5 ", -12.5},  {"12-", -12},      {"- 5", -5},        {"(1,234.5)", -1234.5},
+        {"\\1,200", 1200},    {"¥1,200", 1200},     {"-\\5", -5},      {"(\\5)", -5},      {"１２３", 123},
+        {"－１，２３４．５", -1234.5}, {".5", 0.5},  {"5.", 5},         {"1E3", 1000},      {"1d-2", 0.01},
+        {"&H1F", 31},         {"&O17", 15},         {"&HFFFF", 65535}, {"&HFFFFFFFF", -1}, {"1,2", 12},
+        {"　１　", 1},        {"+7", 7},            {"100\\", 100},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(CDbl(c.text), c.value) << c.text;
+        EXPECT_TRUE(IsNumeric(c.text)) << c.text;
+    }
+    for (const char* text : {"", " ", "abc", "12a", "1.2.3", "+-5", "-5-", "(-5)", "(5", "5)", "1 2", ".", "-", ",1",
+                             "1.2,3", "50%", "&HG", "&H", "1E", "2011/3/25", "\\\\5"}) {
+        EXPECT_EQ(raised([&] { return CDbl(text); }), 13) << text;
+        EXPECT_FALSE(IsNumeric(text)) << text;
+    }
+    EXPECT_EQ(raised([] { return CDbl("1E400"); }), 6);
+    EXPECT_FALSE(IsNumeric("1E400"));
+    EXPECT_TRUE(IsNumeric(Variant()));
+    EXPECT_TRUE(IsNumeric(true));
+    EXPECT_FALSE(IsNumeric(NullValue{}));
+    EXPECT_FALSE(IsNumeric(Date(40000)));
+}
+
+TEST(Conversion, WholeNumbersRoundHalfToEvenBeforeTheRangeIsTested) {
+    struct Case {
+        Variant value;
+        int whole;
+    };
+    const Case cases[] = {{0.5, 0},      {1.5, 2},           {2.5, 2},        {-0.5, 0},        {-1.5, -2},
+                          {2.51, 3},     {money("2.5"), 2},  {money("-3.5"), -4}, {"2.5", 2},   {"32767.4", 32767},
+                          {true, -1},    {Variant(), 0},     {-32768.5, -32768}, {"&HFFFF", -1}, {Date(2.5), 2}};
+    for (const Case& c : cases) EXPECT_EQ(CInt(c.value), c.whole);
+    EXPECT_EQ(raised([] { return CInt(32767.5); }), 6);
+    EXPECT_EQ(raised([] { return CInt(70000); }), 6);
+    EXPECT_EQ(raised([] { return CInt(NullValue{}); }), 94);
+    EXPECT_EQ(CLng(2147483647.4), 2147483647);
+    EXPECT_EQ(CLng(-2147483648.5), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(raised([] { return CLng(2147483647.5); }), 6);
+    EXPECT_EQ(raised([] { return CLng("99999999999999999999"); }), 6);
+    EXPECT_EQ(raised([] { return CLng("12a"); }), 13);
+}
+
+TEST(Conversion, CurrencyGoesByDecimalDigits) {
+    EXPECT_EQ(CCur("922337203685477.5807"), money("922337203685477.5807"));
+    EXPECT_EQ(CCur("0.00005"), money("0"));
+    EXPECT_EQ(CCur("0.00015"), money("0.0002"));
+    EXPECT_EQ(CCur("0.000150001"), money("0.0002"));
+    EXPECT_EQ(CCur(1.23455), money("1.2346"));
+    EXPECT_EQ(CCur(922337203685477.5), money("922337203685477.5"));
+    EXPECT_EQ(raised([] { return CCur(1e15); }), 6);
+    EXPECT_EQ(raised([] { return CCur(""); }), 13);
+}
+
+TEST(Conversion, Booleans) {
+    EXPECT_TRUE(CBool("true"));
+    EXPECT_TRUE(CBool("0.1"));
+    EXPECT_FALSE(CBool(Variant()));
+    EXPECT_EQ(raised([] { return CBool("はい"); }), 13);
+}
+
+TEST(Val, ReadsTheNumberInFront) {
+    struct Case {
+        const char* text;
+        double value;
+    };
+    const Case cases[] = {
+        {"", 0},          {"abc", 0},      {"1 615 198th Street", 1615198},
+        {"  -12.5kg", -12.5}, {"2457", 2457}, {"24 and 57", 24},
+        {"1,200", 1},     {"-", 0},        {"--5", 0},
+        {".5", 0.5},      {"-.5", -0.5},   {"1.2.3", 1.2},
+        {"1E3", 1000},    {"1d-2x", 0.01}, {"1E", 1},
+        {"1E+", 1},       {"&HFFFF", -1},  {"&HFFFF&", 65535},
+        {"&H1 0", 16},    {"&H10000", 65536}, {"&HFFFFFFFF", -1},
+        {"&O17", 15},     {"&O177777", -1}, {"&HG", 0},
+        {"１２", 0},      {"¥12", 0},      {"\t1\n2", 12},
+        {"1-2", 1},       {"+3", 3},       {".", 0},
+    };
+    for (const Case& c : cases) EXPECT_EQ(Val(QString::fromUtf8(c.text)), c.value) << c.text;
+}
+
+TEST(Text, OfNumbers) {
+    struct Case {
+        Variant value;
+        const char *str, *cstr;
+    };
+    const Case cases[] = {
+        {0, " 0", "0"},
+        {0.5, " .5", "0.5"},
+        {-0.5, "-.5", "-0.5"},
+        {1234567.891, " 1234567.891", "1234567.891"},
+        {0.1 + 0.2, " .3", "0.3"},
+        {1.0 / 3, " .333333333333333", "0.333333333333333"},
+        {1.0 / 30, " 3.33333333333333E-02", "3.33333333333333E-02"},
+        {0.0001, " .0001", "0.0001"},
+        {1e-12, " .000000000001", "0.000000000001"},
+        {1e-16, " 1E-16", "1E-16"},
+        {999999999999999.0, " 999999999999999", "999999999999999"},
+        {1e15, " 1E+15", "1E+15"},
+        {-1.5e100, "-1.5E+100", "-1.5E+100"},
+        {0.1f, " .1", "0.1"},
+        {16777216.0f, " 1.677722E+07", "1.677722E+07"},
+        {money("-0.0005"), "-.0005", "-0.0005"},
+        {money("922337203685477.5807"), " 922337203685477.5807", "922337203685477.5807"},
+        {Variant(), " 0", ""},
+        {" 12.50 ", " 12.5", " 12.50 "},
+        {true, "True", "True"},
+        {Date(40627), "2011/03/25", "2011/03/25"},
+        {Date(40627.5), "2011/03/25 12:00:00", "2011/03/25 12:00:00"},
+        {Date(0.0625), "1:30:00", "1:30:00"},
+        {Date(), "0:00:00", "0:00:00"},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(utf8(Str(c.value)), c.str);
+        EXPECT_EQ(utf8(CStr(c.value)), c.cstr);
+    }
+    EXPECT_EQ(raised([] { return Str("abc"); }), 13);
+    EXPECT_EQ(raised([] { return Str(NullValue{}); }), 94);
+    EXPECT_EQ(raised([] { return CStr(NullValue{}); }), 94);
+}
+
+TEST(WholePart, IntFloorsAndFixCuts) {
+    EXPECT_EQ(Int(money("-8.4")), Currency(-9));
+    EXPECT_EQ(Fix(money("-8.4")), Currency(-8));
+    EXPECT_EQ(Int(money("99.99")), Currency(99));
+    EXPECT_EQ(Int(Currency(-8)), Currency(-8));
+    EXPECT_EQ(raised([] { return Int(Currency::FromScaled(std::numeric_limits<std::int64_t>::min())); }), 6);
+    EXPECT_EQ(Int(-8.4), -9.0);
+    EXPECT_EQ(Fix(-8.4), -8.0);
+    EXPECT_EQ(Int(Variant(money("2.5"))), Variant(Currency(2)));
+    EXPECT_EQ(Int(Variant("2.5")), Variant(2.0));
+    EXPECT_EQ(Fix(Variant(Date(2.5))), Variant(Date(2)));
+    EXPECT_EQ(Int(Variant(NullValue{})), Variant(NullValue{}));
+    EXPECT_EQ(Int(Variant(true)).Type(), VarType::Integer);
+}
+
+}  // namespace
+
+}  // namespace akarix
