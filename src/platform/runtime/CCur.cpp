@@ -4,6 +4,8 @@
 
 namespace akarix {
 
-Currency CCur(const Variant& value) { return Currency::FromScaled(numberOf(value).scaled(4)); }
+Currency CCur(const Variant& value) {
+    return Currency::FromScaled(numberOf(value).scaled(4));
+}
 
 }  // namespace akarix

@@ -17,7 +17,8 @@ QString dateText(Date date) {
         if (!moment.hasTime()) return text;
         text += u' ';
     }
-    return text + QString::asprintf("%d:%02d:%02d", moment.second / 3600, moment.second / 60 % 60, moment.second % 60);
+    return text + QString::asprintf("%d:%02d:%02d", moment.second / 3600, moment.second / 60 % 60,
+                                    moment.second % 60);
 }
 
 }  // namespace

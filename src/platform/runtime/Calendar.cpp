@@ -52,15 +52,16 @@ CivilDay Moment::civil() const {
     const std::int64_t dayOfCycle = n % kDaysPerCycle;
     const std::int64_t yearOfCycle =
         (dayOfCycle - dayOfCycle / 1460 + dayOfCycle / 36524 - dayOfCycle / 146096) / 365;
-    const std::int64_t dayOfYear =
-        dayOfCycle - (365 * yearOfCycle + yearOfCycle / 4 - yearOfCycle / 100);
+    const std::int64_t dayOfYear = dayOfCycle - (365 * yearOfCycle + yearOfCycle / 4 - yearOfCycle / 100);
     const std::int64_t m = (5 * dayOfYear + 2) / 153;
     const int month = static_cast<int>(m < 10 ? m + 3 : m - 9);
     return {static_cast<int>(cycle * 400 + yearOfCycle + (month <= 2 ? 1 : 0)), month,
             static_cast<int>(dayOfYear - (153 * m + 2) / 5 + 1)};
 }
 
-bool isLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
+bool isLeapYear(int year) {
+    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+}
 
 int daysInMonth(int year, int month) {
     if (month == 2) return isLeapYear(year) ? 29 : 28;

@@ -12,8 +12,8 @@ struct CivilDay {
     int day;
 };
 
-/// A date value in whole seconds: a serial carries rounding noise, so that its day and its time of day must be
-/// found together. Raises 5 outside the years 100 to 9999.
+/// A date value in whole seconds: a serial carries rounding noise, so that its day and its time of day must
+/// be found together. Raises 5 outside the years 100 to 9999.
 struct Moment {
     std::int64_t day;  ///< days since 1899-12-30
     int second;        ///< of the day, 0 to 86,399

@@ -20,11 +20,16 @@ Date Now() {
     if (!replacedClock().IsZero()) return replacedClock();
     const QDateTime now = QDateTime::currentDateTime();
     const QDate day = now.date();
-    return Moment{dayNumber(day.year(), day.month(), day.day()), now.time().msecsSinceStartOfDay() / 1000}.date();
+    return Moment{dayNumber(day.year(), day.month(), day.day()), now.time().msecsSinceStartOfDay() / 1000}
+        .date();
 }
 
-Date Today() { return Date(std::trunc(Now().Serial())); }
+Date Today() {
+    return Date(std::trunc(Now().Serial()));
+}
 
-void SetClock(Date moment) { replacedClock() = moment; }
+void SetClock(Date moment) {
+    replacedClock() = moment;
+}
 
 }  // namespace akarix

@@ -27,12 +27,17 @@ UConverter* converter() {
     return kept.get();
 }
 
-// The converter's table comes from a family of machines that stored these three control characters in a circle;
-// here each keeps its own code. None of them is ever the second byte of a character.
-char straightByte(char c) { return c == '\x1c' ? '\x7f' : c == '\x7f' ? '\x1a' : c == '\x1a' ? '\x1c' : c; }
+// The converter's table comes from a family of machines that stored these three control characters in a
+// circle; here each keeps its own code. None of them is ever the second byte of a character.
+char straightByte(char c) {
+    return c == '\x1c' ? '\x7f' : c == '\x7f' ? '\x1a' : c == '\x1a' ? '\x1c' : c;
+}
 
 QChar straightCharacter(QChar c) {
-    return c == QChar(0x1a) ? QChar(0x7f) : c == QChar(0x1c) ? QChar(0x1a) : c == QChar(0x7f) ? QChar(0x1c) : c;
+    return c == QChar(0x1a)   ? QChar(0x7f)
+           : c == QChar(0x1c) ? QChar(0x1a)
+           : c == QChar(0x7f) ? QChar(0x1c)
+                              : c;
 }
 
 bool isLeadByte(char c) {
@@ -57,11 +62,12 @@ QByteArray ToCodePage932(const QString& text) {
     if (text.isEmpty()) return {};
     QByteArray bytes(text.size() * 2, Qt::Uninitialized);
     UErrorCode status = U_ZERO_ERROR;
-    const int32_t length =
-        ucnv_fromUChars(converter(), bytes.data(), static_cast<int32_t>(bytes.size()),
-                        reinterpret_cast<const UChar*>(text.utf16()), static_cast<int32_t>(text.size()), &status);
+    const int32_t length = ucnv_fromUChars(converter(), bytes.data(), static_cast<int32_t>(bytes.size()),
+                                           reinterpret_cast<const UChar*>(text.utf16()),
+                                           static_cast<int32_t>(text.size()), &status);
     bytes.truncate(length);
-    for (char& c : bytes) c = straightByte(c);
+    for (char& c : bytes)
+        c = straightByte(c);
     return bytes;
 }
 
@@ -73,10 +79,13 @@ QString FromCodePage932(const QByteArray& bytes) {
         ucnv_toUChars(converter(), reinterpret_cast<UChar*>(text.data()), static_cast<int32_t>(text.size()),
                       bytes.constData(), static_cast<int32_t>(lengthWithoutHalf(bytes)), &status);
     text.truncate(length);
-    for (QChar& c : text) c = straightCharacter(c);
+    for (QChar& c : text)
+        c = straightCharacter(c);
     return text;
 }
 
-int ByteLength932(const QString& text) { return static_cast<int>(ToCodePage932(text).size()); }
+int ByteLength932(const QString& text) {
+    return static_cast<int>(ToCodePage932(text).size());
+}
 
 }  // namespace akarix

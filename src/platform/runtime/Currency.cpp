@@ -35,7 +35,9 @@ Wide divideHalfEven(Wide dividend, Wide divisor) {
 
 }  // namespace
 
-Currency::Currency(std::int64_t value) { *this = checked(Wide{value} * kScale); }
+Currency::Currency(std::int64_t value) {
+    *this = checked(Wide{value} * kScale);
+}
 
 Currency Currency::FromText(const QString& text) {
     const auto decimal = Decimal::fromPlain(text);
@@ -43,13 +45,21 @@ Currency Currency::FromText(const QString& text) {
     return FromScaled(decimal->scaled(4));
 }
 
-QString Currency::ToText() const { return Decimal::of(*this).plainText(); }
+QString Currency::ToText() const {
+    return Decimal::of(*this).plainText();
+}
 
-Currency Currency::operator-() const { return checked(-Wide{scaled_}); }
+Currency Currency::operator-() const {
+    return checked(-Wide{scaled_});
+}
 
-Currency operator+(Currency a, Currency b) { return checked(Wide{a.scaled_} + b.scaled_); }
+Currency operator+(Currency a, Currency b) {
+    return checked(Wide{a.scaled_} + b.scaled_);
+}
 
-Currency operator-(Currency a, Currency b) { return checked(Wide{a.scaled_} - b.scaled_); }
+Currency operator-(Currency a, Currency b) {
+    return checked(Wide{a.scaled_} - b.scaled_);
+}
 
 Currency operator*(Currency a, Currency b) {
     return checked(divideHalfEven(Wide{a.scaled_} * b.scaled_, Currency::kScale));

@@ -24,7 +24,9 @@ Decimal ofScientific(const QByteArray& text) {
     return d;
 }
 
-int length(const std::string& s) { return static_cast<int>(s.size()); }
+int length(const std::string& s) {
+    return static_cast<int>(s.size());
+}
 
 }  // namespace
 
@@ -98,7 +100,8 @@ void Decimal::roundTo(int places) {
         digits.resize(static_cast<std::size_t>(keep));
         if (up) {
             auto i = digits.size();
-            while (i > 0 && digits[i - 1] == '9') digits[--i] = '0';
+            while (i > 0 && digits[i - 1] == '9')
+                digits[--i] = '0';
             if (i > 0) {
                 ++digits[i - 1];
             } else {
@@ -134,8 +137,8 @@ double Decimal::toDouble() const {
     if (isZero()) return 0.0;
     if (point > 400) throw RuntimeError(6);
     if (point < -400) return 0.0;
-    const QByteArray text = (negative ? "-0." : "0.") + QByteArray::fromStdString(digits) + 'e' +
-                            QByteArray::number(point);
+    const QByteArray text =
+        (negative ? "-0." : "0.") + QByteArray::fromStdString(digits) + 'e' + QByteArray::number(point);
     const double value = text.toDouble();
     if (!std::isfinite(value)) throw RuntimeError(6);
     return value;
@@ -149,7 +152,8 @@ QString Decimal::plainText() const {
     if (point <= 0) text += u'0';
     if (length(digits) > point) {
         text += u'.';
-        for (int i = point; i < 0; ++i) text += u'0';
+        for (int i = point; i < 0; ++i)
+            text += u'0';
         text += QLatin1StringView(digits.data() + std::max(point, 0), length(digits) - std::max(point, 0));
     }
     return text;

@@ -6,9 +6,13 @@
 
 namespace akarix {
 
-Currency Fix(Currency value) { return Currency::FromScaled(value.Scaled() - value.Scaled() % Currency::kScale); }
+Currency Fix(Currency value) {
+    return Currency::FromScaled(value.Scaled() - value.Scaled() % Currency::kScale);
+}
 
-double Fix(double value) { return std::trunc(value); }
+double Fix(double value) {
+    return std::trunc(value);
+}
 
 Variant Fix(const Variant& value) {
     return wholePart(value, [](auto number) { return Fix(number); });

@@ -12,7 +12,9 @@ Currency Int(Currency value) {
     return rest < 0 ? cut - Currency(1) : cut;
 }
 
-double Int(double value) { return std::floor(value); }
+double Int(double value) {
+    return std::floor(value);
+}
 
 Variant Int(const Variant& value) {
     return wholePart(value, [](auto number) { return Int(number); });

@@ -5,7 +5,9 @@
 
 namespace akarix {
 
-int significantDigits(VarType type) { return type == VarType::Single ? 7 : 15; }
+int significantDigits(VarType type) {
+    return type == VarType::Single ? 7 : 15;
+}
 
 Decimal numberOf(const Variant& value) {
     switch (value.Type()) {

@@ -5,8 +5,8 @@
 
 namespace akarix {
 
-/// The exact number behind a value, without a detour through a double where it has none: Empty is 0, True -1, a
-/// date its serial. Raises 94 for Null, 13 for text that is no number.
+/// The exact number behind a value, without a detour through a double where it has none: Empty is 0, True -1,
+/// a date its serial. Raises 94 for Null, 13 for text that is no number.
 Decimal numberOf(const Variant& value);
 
 /// Digits that the classic texts show for the kind: 7 for a Single, else 15.

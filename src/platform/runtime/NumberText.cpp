@@ -22,8 +22,10 @@ class Trimmings {
     explicit Trimmings(QString text) : rest_(std::move(text)) {}
 
     bool strip() {
-        while (!rest_.isEmpty() && stripFront(rest_.front())) dropFront();
-        while (!rest_.isEmpty() && !broken_ && stripBack(rest_.back())) dropBack();
+        while (!rest_.isEmpty() && stripFront(rest_.front()))
+            dropFront();
+        while (!rest_.isEmpty() && !broken_ && stripBack(rest_.back()))
+            dropBack();
         return !broken_ && parenthesis_ != 1;
     }
     bool negative() const { return minus_ || parenthesis_ == 2; }
@@ -97,7 +99,8 @@ std::optional<Decimal> readNumberText(const QString& text) {
         if (!radix || radix->length != s.size()) return std::nullopt;
         // A text, unlike a literal, is no 16-bit number by its length alone.
         const bool is32 = radix->bits <= 0xFFFFFFFF;
-        return Decimal::of(is32 ? static_cast<std::int32_t>(radix->bits) : static_cast<std::int64_t>(radix->bits));
+        return Decimal::of(is32 ? static_cast<std::int32_t>(radix->bits)
+                                : static_cast<std::int64_t>(radix->bits));
     }
     Trimmings trimmings(s);
     if (!trimmings.strip()) return std::nullopt;

@@ -13,7 +13,8 @@ QString LocalPath(const QString& path) {
         local = QStringLiteral("Drive/") + local[0].toUpper() + below;
     }
 #endif
-    while (local.size() > 1 && local.endsWith(u'/') && !local.endsWith(QLatin1String(":/"))) local.chop(1);
+    while (local.size() > 1 && local.endsWith(u'/') && !local.endsWith(QLatin1String(":/")))
+        local.chop(1);
     return local;
 }
 

@@ -9,15 +9,17 @@ namespace akarix {
 
 namespace {
 
-/// As a literal of the language is read: up to four hexadecimal digits are a signed 16-bit number unless closed
-/// by "&", up to eight a signed 32-bit one.
+/// As a literal of the language is read: up to four hexadecimal digits are a signed 16-bit number unless
+/// closed by "&", up to eight a signed 32-bit one.
 double literalOf(const RadixText& radix) {
     if (radix.bits <= 0xFFFF && !radix.closed) return static_cast<std::int16_t>(radix.bits);
     if (radix.bits <= 0xFFFFFFFF) return static_cast<std::int32_t>(radix.bits);
     return static_cast<double>(radix.bits);
 }
 
-bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
+bool isDigit(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
 
 }  // namespace
 
@@ -29,7 +31,8 @@ double Val(const QString& text) {
     qsizetype end = 0;
     const auto skipDigits = [&] {
         const qsizetype from = end;
-        while (end < s.size() && isDigit(s[end])) ++end;
+        while (end < s.size() && isDigit(s[end]))
+            ++end;
         return end > from;
     };
     if (end < s.size() && (s[end] == u'-' || s[end] == u'+')) ++end;

@@ -12,9 +12,14 @@ TEST(CodePage932, KnowsTheWindowsCharacters) {
         const char* hex;
     };
     const Case cases[] = {
-        {u"～", "8160"},   {u"－", "817c"},   {u"∥", "8161"}, {u"①", "8740"}, {u"㈱", "878a"},
-        {u"髙", "fbfc"},   {u"﨑", "fab1"},   {u"Ⅲ", "8756"}, {u"ｱﾞ", "b1de"}, {u"表", "955c"},
-        {u"\\~", "5c7e"},  {u"あA\r\n", "82a0410d0a"}, {u"￥", "818f"}, {u"\x7f\x1a\x1c", "7f1a1c"}, {u"\ue000", "f040"},
+        {u"～", "8160"},     {u"－", "817c"},
+        {u"∥", "8161"},      {u"①", "8740"},
+        {u"㈱", "878a"},     {u"髙", "fbfc"},
+        {u"﨑", "fab1"},     {u"Ⅲ", "8756"},
+        {u"ｱﾞ", "b1de"},     {u"表", "955c"},
+        {u"\\~", "5c7e"},    {u"あA\r\n", "82a0410d0a"},
+        {u"￥", "818f"},     {u"\x7f\x1a\x1c", "7f1a1c"},
+        {u"\ue000", "f040"},
     };
     for (const Case& c : cases) {
         const QString text = QString::fromUtf16(c.text);

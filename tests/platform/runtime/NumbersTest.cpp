@@ -20,18 +20,26 @@ namespace akarix {
 
 namespace {
 
-Currency money(const char* text) { return Currency::FromText(QString::fromUtf8(text)); }
-std::string utf8(const QString& text) { return text.toStdString(); }
+Currency money(const char* text) {
+    return Currency::FromText(QString::fromUtf8(text));
+}
+std::string utf8(const QString& text) {
+    return text.toStdString();
+}
 
 TEST(Currency, RoundsProductsAndQuotientsHalfToEven) {
     struct Case {
         const char *a, *b, *product, *quotient;
     };
     const Case cases[] = {
-        {"1.0001", "0.5", "0.5", "2.0002"},      {"1.0003", "0.5", "0.5002", "2.0006"},
-        {"-1.0003", "0.5", "-0.5002", "-2.0006"}, {"0.0001", "2", "0.0002", "0"},
-        {"0.0003", "-2", "-0.0006", "-0.0002"},   {"125.5", "380.25", "47721.375", "0.33"},
-        {"1", "3", "3", "0.3333"},                {"20", "-3", "-60", "-6.6667"},
+        {"1.0001", "0.5", "0.5", "2.0002"},
+        {"1.0003", "0.5", "0.5002", "2.0006"},
+        {"-1.0003", "0.5", "-0.5002", "-2.0006"},
+        {"0.0001", "2", "0.0002", "0"},
+        {"0.0003", "-2", "-0.0006", "-0.0002"},
+        {"125.5", "380.25", "47721.375", "0.33"},
+        {"1", "3", "3", "0.3333"},
+        {"20", "-3", "-60", "-6.6667"},
         {"303700049.9", "3037000", "922337051546300", "100"},
     };
     for (const Case& c : cases) {
@@ -63,18 +71,37 @@ TEST(Conversion, ReadsNumbersAsAClerkWritesThem) {
         double value;
     };
     const Case cases[] = {
-        {"12", 12},           {"  -12.5 ", -12.5},  {"12-", -12},      {"- 5", -5},        {"(1,234.5)", -1234.5},
-        {"\\1,200", 1200},    {"¥1,200", 1200},     {"-\\5", -5},      {"(\\5)", -5},      {"１２３", 123},
-        {"－１，２３４．５", -1234.5}, {".5", 0.5},  {"5.", 5},         {"1E3", 1000},      {"1d-2", 0.01},
-        {"&H1F", 31},         {"&O17", 15},         {"&HFFFF", 65535}, {"&HFFFFFFFF", -1}, {"1,2", 12},
-        {"　１　", 1},        {"+7", 7},            {"100\\", 100},
+        {"12", 12},
+        {"  -12.5 ", -12.5},
+        {"12-", -12},
+        {"- 5", -5},
+        {"(1,234.5)", -1234.5},
+        {"\\1,200", 1200},
+        {"¥1,200", 1200},
+        {"-\\5", -5},
+        {"(\\5)", -5},
+        {"１２３", 123},
+        {"－１，２３４．５", -1234.5},
+        {".5", 0.5},
+        {"5.", 5},
+        {"1E3", 1000},
+        {"1d-2", 0.01},
+        {"&H1F", 31},
+        {"&O17", 15},
+        {"&HFFFF", 65535},
+        {"&HFFFFFFFF", -1},
+        {"1,2", 12},
+        {"　１　", 1},
+        {"+7", 7},
+        {"100\\", 100},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(CDbl(c.text), c.value) << c.text;
         EXPECT_TRUE(IsNumeric(c.text)) << c.text;
     }
-    for (const char* text : {"", " ", "abc", "12a", "1.2.3", "+-5", "-5-", "(-5)", "(5", "5)", "1 2", ".", "-", ",1",
-                             "1.2,3", "50%", "&HG", "&H", "1E", "2011/3/25", "\\\\5"}) {
+    for (const char* text :
+         {"",  " ", "abc", "12a",   "1.2.3", "+-5", "-5-", "(-5)", "(5",        "5)",   "1 2",
+          ".", "-", ",1",  "1.2,3", "50%",   "&HG", "&H",  "1E",   "2011/3/25", "\\\\5"}) {
         EXPECT_EQ(raised([&] { return CDbl(text); }), 13) << text;
         EXPECT_FALSE(IsNumeric(text)) << text;
     }
@@ -91,10 +118,12 @@ TEST(Conversion, WholeNumbersRoundHalfToEvenBeforeTheRangeIsTested) {
         Variant value;
         int whole;
     };
-    const Case cases[] = {{0.5, 0},      {1.5, 2},           {2.5, 2},        {-0.5, 0},        {-1.5, -2},
-                          {2.51, 3},     {money("2.5"), 2},  {money("-3.5"), -4}, {"2.5", 2},   {"32767.4", 32767},
-                          {true, -1},    {Variant(), 0},     {-32768.5, -32768}, {"&HFFFF", -1}, {Date(2.5), 2}};
-    for (const Case& c : cases) EXPECT_EQ(CInt(c.value), c.whole);
+    const Case cases[] = {{0.5, 0},           {1.5, 2},           {2.5, 2},          {-0.5, 0},
+                          {-1.5, -2},         {2.51, 3},          {money("2.5"), 2}, {money("-3.5"), -4},
+                          {"2.5", 2},         {"32767.4", 32767}, {true, -1},        {Variant(), 0},
+                          {-32768.5, -32768}, {"&HFFFF", -1},     {Date(2.5), 2}};
+    for (const Case& c : cases)
+        EXPECT_EQ(CInt(c.value), c.whole);
     EXPECT_EQ(raised([] { return CInt(32767.5); }), 6);
     EXPECT_EQ(raised([] { return CInt(70000); }), 6);
     EXPECT_EQ(raised([] { return CInt(NullValue{}); }), 94);
@@ -129,18 +158,39 @@ TEST(Val, ReadsTheNumberInFront) {
         double value;
     };
     const Case cases[] = {
-        {"", 0},          {"abc", 0},      {"1 615 198th Street", 1615198},
-        {"  -12.5kg", -12.5}, {"2457", 2457}, {"24 and 57", 24},
-        {"1,200", 1},     {"-", 0},        {"--5", 0},
-        {".5", 0.5},      {"-.5", -0.5},   {"1.2.3", 1.2},
-        {"1E3", 1000},    {"1d-2x", 0.01}, {"1E", 1},
-        {"1E+", 1},       {"&HFFFF", -1},  {"&HFFFF&", 65535},
-        {"&H1 0", 16},    {"&H10000", 65536}, {"&HFFFFFFFF", -1},
-        {"&O17", 15},     {"&O177777", -1}, {"&HG", 0},
-        {"１２", 0},      {"¥12", 0},      {"\t1\n2", 12},
-        {"1-2", 1},       {"+3", 3},       {".", 0},
+        {"", 0},
+        {"abc", 0},
+        {"1 615 198th Street", 1615198},
+        {"  -12.5kg", -12.5},
+        {"2457", 2457},
+        {"24 and 57", 24},
+        {"1,200", 1},
+        {"-", 0},
+        {"--5", 0},
+        {".5", 0.5},
+        {"-.5", -0.5},
+        {"1.2.3", 1.2},
+        {"1E3", 1000},
+        {"1d-2x", 0.01},
+        {"1E", 1},
+        {"1E+", 1},
+        {"&HFFFF", -1},
+        {"&HFFFF&", 65535},
+        {"&H1 0", 16},
+        {"&H10000", 65536},
+        {"&HFFFFFFFF", -1},
+        {"&O17", 15},
+        {"&O177777", -1},
+        {"&HG", 0},
+        {"１２", 0},
+        {"¥12", 0},
+        {"\t1\n2", 12},
+        {"1-2", 1},
+        {"+3", 3},
+        {".", 0},
     };
-    for (const Case& c : cases) EXPECT_EQ(Val(QString::fromUtf8(c.text)), c.value) << c.text;
+    for (const Case& c : cases)
+        EXPECT_EQ(Val(QString::fromUtf8(c.text)), c.value) << c.text;
 }
 
 TEST(Text, OfNumbers) {
