@@ -1,13 +1,15 @@
 #pragma once
 
 #include <QString>
-#include <functional>
 
 #include "platform/jet/Recordset.h"
 
 namespace akarix {
 
 class FlexGrid;
+
+/// True: pages are shown on the screen and go no further. False: they go to the current printer.
+extern bool gPrintPreview;
 
 /// The screen behind a paged report: it writes the cells.
 class ReportForm {
@@ -21,21 +23,27 @@ class ReportForm {
 };
 
 /// The Excel driver: one open template at a time, filled by cell address and printed page by page. Templates
-/// are .xlsx files in the folder Prt below the current directory, sheet "Sheet1".
+/// are .xlsx files in the folder Prt below the current directory, sheet "Sheet1"; a missing one raises 1004.
 void ExcelOpen(const QString& name);
+/// \param rows detail rows of a page, the one for the total included
+/// \param firstRow the row before the first detail row
 void ExcelOpenPaged(const QString& name, int rows, int firstRow);
 void ExcelCell(const QString& address, const QString& text);
+/// Merges a block, or takes it apart when the flag is "0".
 void ExcelMerge(const QString& address, const QString& flag);
-/// Shows the page (gPrintPreview) or sends it to the current printer. The template stays open for the next
-/// page.
+/// Shows the page (gPrintPreview), blocking until it is closed, or adds it to the document for the current
+/// printer. The template stays open for the next page.
 void ExcelPrintPage();
+/// Sends the document off: one job, one file, however many pages. Raises 482 when it cannot be written.
 void ExcelClose();
 
 void SetReport(ReportForm* form, Recordset set);
-/// The paged loop; closes the report.
+/// The paged loop; closes the report. The recordset must not be empty (3021).
 void ExcelRunPaged();
 
-/// Copies a grid to a new workbook and asks where to save it. Errors are dropped.
+/// Copies a grid to a new workbook, which is saved where the operator says; cancelled, nothing is left. The
+/// date stands at the top right, the title in the middle of row 2, line1 and line2 in row 4, the grid from
+/// row 6 on. A file that cannot be written is told in a message.
 void GridToExcel(const QString& title, const QString& line1, const QString& line2, FlexGrid& grid);
 
 }  // namespace akarix

@@ -16,9 +16,10 @@ struct PrintPage {
     std::function<void(QPainter&)> draw;
 };
 
-/// Where finished pages go. The program has three: a printer's queue, a PDF file and the preview window.
+/// Where finished pages go.
 class PrintSink {
  public:
+    /// A document that was not finished is dropped: nothing is printed, no file is left.
     virtual ~PrintSink() = default;
     /// Adds pages to the document under way.
     virtual void add(std::vector<PrintPage> pages) = 0;
@@ -27,11 +28,12 @@ class PrintSink {
     virtual void finish() = 0;
 };
 
-/// A sink on the current printer (queue or PDF file). Raises 482 when there is none or the target cannot be
-/// written.
+/// A document on the current printer (queue or PDF file). Raises 482 when there is none or the target cannot
+/// be written.
 std::unique_ptr<PrintSink> OpenPrinterSink(const QString& documentName);
 
-/// Shows pages in the preview window, modally.
+/// Shows pages in the preview window, modally: the form "Preview_frm" with the pages "Pages", the buttons
+/// "Previous", "Next" and "Close", the list "Zoom". Esc closes it.
 void ShowPreview(const QString& title, const std::vector<PrintPage>& pages);
 
 }  // namespace akarix

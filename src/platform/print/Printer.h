@@ -15,17 +15,23 @@ class Printer {
     static QStringList Names();
 
     bool IsPdf() const { return !pdfPath_.isEmpty(); }
-    const QString& Name() const { return name_; }
+    /// The queue's name; the machine's default printer as long as none was chosen. Empty when there is none.
+    QString Name() const;
     const QString& PdfPath() const { return pdfPath_; }
     int Copies() const { return copies_; }
 
     void UseQueue(const QString& name, int copies = 1);
     void UsePdf(const QString& absolutePath);
 
+    /// The file for the next document: the chosen path, and behind it "name (2).pdf" and so on, so that an
+    /// action that prints several documents keeps them all.
+    QString NextPdfPath();
+
  private:
     QString name_;
     QString pdfPath_;
     int copies_ = 1;
+    int pdfDocuments_ = 0;
 };
 
 }  // namespace akarix

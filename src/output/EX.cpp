@@ -1,0 +1,164 @@
+#include "output/EX.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QTimer>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "output/TemplateCache.h"
+#include "platform/forms/MsgBox.h"
+#include "platform/print/PrintJob.h"
+#include "platform/runtime/RuntimeError.h"
+#include "platform/sheet/SheetPainter.h"
+
+namespace akarix {
+
+bool gPrintPreview = false;
+
+namespace {
+
+struct Workbook {
+    QString name;
+    Sheet sheet;
+    std::shared_ptr<PrintSink> document;  ///< begun by the first page that goes to the printer
+};
+
+struct PagedReport {
+    int sheetRows = 0;
+    int sheetFirstRow = 0;
+    ReportForm* form = nullptr;
+    std::optional<Recordset> set;
+};
+
+std::optional<Workbook> book;
+PagedReport report;
+
+Workbook& OpenBook() {
+    if (!book) throw RuntimeError(91);
+    return *book;
+}
+
+/// A run that died half-way leaves the workbook open; the pages it has printed stay printed, and go out as
+/// soon as the program waits for the operator again.
+void FinishWhenAbandoned(const std::weak_ptr<PrintSink>& document) {
+    if (document.expired() || !book || book->document != document.lock()) return;
+    try {
+        std::exchange(book->document, nullptr)->finish();
+    } catch (const RuntimeError& error) {
+        MsgBox(error.description(), book->name);
+    }
+}
+
+/// The pages of the sheet as it stands now; they keep a copy, since the template is filled again.
+std::vector<PrintPage> PagesOf(const Sheet& filled) {
+    const auto sheet = std::make_shared<const Sheet>(filled);
+    const std::vector<SheetPage> layout = LayOutSheet(*sheet);
+    std::vector<PrintPage> pages;
+    for (size_t i = 0; i < layout.size(); ++i) {
+        pages.push_back({QSizeF(sheet->page.paperWidth, sheet->page.paperHeight),
+                         [sheet, part = layout[i], number = static_cast<int>(i) + 1,
+                          count = static_cast<int>(layout.size())](QPainter& painter) {
+                             PaintSheet(painter, *sheet, part, number, count);
+                         }});
+    }
+    return pages;
+}
+
+}  // namespace
+
+void ExcelOpen(const QString& name) {
+    if (book && book->document) FinishWhenAbandoned(book->document);
+    book.reset();
+    const QString path = QStringLiteral("Prt/%1.xlsx").arg(name);
+    if (!QFileInfo::exists(path)) {
+        throw RuntimeError(1004, QStringLiteral("テンプレート '%1' が見つかりません。").arg(path));
+    }
+    book = Workbook{name, CachedTemplate(path), nullptr};
+}
+
+void ExcelOpenPaged(const QString& name, int rows, int firstRow) {
+    ExcelOpen(name);
+    report.sheetRows = rows;
+    report.sheetFirstRow = firstRow;
+}
+
+void ExcelCell(const QString& address, const QString& text) {
+    OpenBook().sheet.setValue(address, text);
+}
+
+void ExcelMerge(const QString& address, const QString& flag) {
+    OpenBook().sheet.setMerged(address, flag != QStringLiteral("0"));
+}
+
+void ExcelPrintPage() {
+    Workbook& open = OpenBook();
+    std::vector<PrintPage> pages = PagesOf(open.sheet);
+    if (gPrintPreview) {
+        ShowPreview(open.name, pages);
+        return;
+    }
+    if (!open.document) {
+        open.document = OpenPrinterSink(open.name);
+        QTimer::singleShot(0, qApp, [document = std::weak_ptr(open.document)] { FinishWhenAbandoned(document); });
+    }
+    open.document->add(std::move(pages));
+}
+
+void ExcelClose() {
+    if (!book) return;
+    const std::shared_ptr<PrintSink> document = std::exchange(book->document, nullptr);
+    book.reset();
+    if (document) document->finish();
+    QCoreApplication::processEvents();
+}
+
+void SetReport(ReportForm* form, Recordset set) {
+    report.form = form;
+    report.set.emplace(std::move(set));
+}
+
+void ExcelRunPaged() {
+    if (!report.form || !report.set) throw RuntimeError(91);
+    ReportForm& form = *report.form;
+    Recordset& set = *report.set;
+
+    set.MoveLast();
+    const int count = set.RecordCount();
+    set.MoveFirst();
+    int page = 0;
+    int line = 0;
+    for (int i = 0; i < count; ++i) {
+        if (line == 0) {
+            ++page;
+            form.ClrDetail();
+            form.PrintOutHead(page);
+        }
+        ++line;
+        if (line >= report.sheetRows) {
+            ExcelPrintPage();
+            ++page;
+            form.ClrDetail();
+            form.PrintOutHead(page);
+            line = 1;
+        }
+        form.PrintOutDetail(report.sheetFirstRow + line, set);
+        set.MoveNext();
+    }
+
+    ++line;
+    if (line >= report.sheetRows) {
+        ExcelPrintPage();
+        ++page;
+        form.PrintOutHead(page);  // before the clearing here, unlike above: a head inside the block is lost
+        form.ClrDetail();
+        line = 1;
+    }
+    form.PrintOutDetailGokei(line, report.sheetFirstRow, page);
+    if (line >= 2) ExcelPrintPage();
+    ExcelClose();
+    report.set.reset();
+}
+
+}  // namespace akarix

@@ -1,0 +1,33 @@
+#include "output/EX.h"
+#include "platform/forms/FlexGrid.h"
+#include "platform/forms/MsgBox.h"
+#include "platform/print/AskSavePath.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/Format.h"
+#include "platform/sheet/GridExport.h"
+
+namespace akarix {
+
+void GridToExcel(const QString& title, const QString& line1, const QString& line2, FlexGrid& grid) {
+    const Date today = Today();
+    const QString path = AskSavePath(
+        title, QStringLiteral("%1_%2.xlsx").arg(title, Format(today, QStringLiteral("yyyymmdd"))));
+    if (path.isEmpty()) return;
+
+    GridSource source;
+    source.rows = grid.Rows();
+    for (int column = 0; column < grid.Cols(); ++column) {
+        source.widths.push_back(grid.ColWidth(column));
+        source.alignments.push_back(grid.ColAlignment(column));
+    }
+    source.text = [&grid](int row, int column) { return grid.TextMatrix(row, column); };
+
+    const QString subtitle = line1 + QStringLiteral("     ") + line2;
+    const QString created = QStringLiteral("作成日 : ") + Format(today, QStringLiteral("yyyy/mm/dd"));
+    if (!WriteGridWorkbook(path, title, subtitle, created, source)) {
+        MsgBox(QStringLiteral("ファイル '%1' に書き込めません。\n保存先を確かめて、もう一度行って下さい。").arg(path),
+               title);
+    }
+}
+
+}  // namespace akarix

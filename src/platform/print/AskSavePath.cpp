@@ -1,0 +1,82 @@
+#include "platform/print/AskSavePath.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+#include <memory>
+
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/TextBox.h"
+#include "platform/print/FileField.h"
+#include "platform/print/FileName.h"
+
+namespace akarix {
+namespace {
+
+class SaveAs_frm : public Form {
+ public:
+    SaveAs_frm(const QString& caption, const QString& path, std::shared_ptr<QString> answer)
+        : Form(QStringLiteral("SaveAs_frm"), caption), answer_(std::move(answer)) {
+        file_ = new FileField(path, QFileInfo(path).suffix(), this);
+        auto* save = new CommandButton(QStringLiteral("保存"), this);
+        auto* cancel = new CommandButton(QStringLiteral("キャンセル"), this);
+        save->setObjectName(QStringLiteral("Save"));
+        cancel->setObjectName(QStringLiteral("Cancel"));
+
+        auto* buttons = new QHBoxLayout;
+        buttons->addStretch();
+        buttons->addWidget(save);
+        buttons->addWidget(cancel);
+        auto* layout = new QVBoxLayout(this);
+        layout->addWidget(new Label(QStringLiteral("保存するファイル"), this));
+        layout->addWidget(file_);
+        layout->addLayout(buttons);
+
+        on(file_->box(), &TextBox::KeyDown, [this](KeyEvent& event) {
+            if (event.KeyCode == key::Return) {
+                event.KeyCode = 0;
+                this->save();
+            }
+        });
+        on(file_->browse(), &CommandButton::Click, [this] { file_->chooseFile(); });
+        on(save, &CommandButton::Click, [this] { this->save(); });
+        on(cancel, &CommandButton::Click, [this] { Unload(); });
+        file_->box()->setFocus();
+        file_->box()->selectAll();
+    }
+
+ protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Escape) {
+            Unload();
+        } else {
+            Form::keyPressEvent(event);
+        }
+    }
+
+ private:
+    void save() {
+        const QString path = file_->accepted();
+        if (path.isEmpty()) return;
+        *answer_ = path;
+        Unload();
+    }
+
+    FileField* file_;
+    std::shared_ptr<QString> answer_;
+};
+
+}  // namespace
+
+QString AskSavePath(const QString& caption, const QString& name) {
+    const auto answer = std::make_shared<QString>();
+    auto* form = new SaveAs_frm(caption, FreePath(QDir(DocumentFolder()).filePath(SafeFileName(name))), answer);
+    form->ShowModal();
+    return *answer;
+}
+
+}  // namespace akarix

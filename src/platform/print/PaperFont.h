@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QFont>
+#include <QHash>
+
+namespace akarix {
+
+/// How a font is set on paper. Sizes are in points; the QFont made of it counts its pixels in twips.
+struct PaperFontKey {
+    QString name;
+    double size = 11;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    bool strikeout = false;
+    friend bool operator==(const PaperFontKey&, const PaperFontKey&) = default;
+    friend size_t qHash(const PaperFontKey& key, size_t seed = 0) {
+        return qHashMulti(seed, key.name, key.size, key.bold, key.italic, key.underline, key.strikeout);
+    }
+};
+
+/// A font ready for a painter in twips, with the widths of its letters remembered.
+class PaperFont {
+ public:
+    explicit PaperFont(const PaperFontKey& key);
+
+    const QFont& font() const { return font_; }
+    double em() const { return em_; }
+    /// From the top of a line of one em to the base line. The substitutes' own line heights differ from those
+    /// of the fonts that the templates are made for.
+    double ascent() const { return em_ * 0.859; }
+    double width(const QString& text);
+    /// True when the machine lacks the named font and another one stands in, whose figures may be wider.
+    bool substituted() const { return substituted_; }
+
+ private:
+    QFont font_;
+    double em_;
+    bool substituted_ = false;
+    QHash<char32_t, double> widths_;
+};
+
+/// The remembered font of a key; the reference holds as long as the program runs.
+PaperFont& FontOnPaper(const PaperFontKey& key);
+
+}  // namespace akarix

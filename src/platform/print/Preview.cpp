@@ -1,0 +1,88 @@
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "platform/forms/ComboBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/print/PreviewPages.h"
+#include "platform/print/PrintJob.h"
+
+namespace akarix {
+namespace {
+
+class Preview_frm : public Form {
+ public:
+    Preview_frm(const QString& title, const std::vector<PrintPage>& pages)
+        : Form(QStringLiteral("Preview_frm"), QStringLiteral("印刷プレビュー - ") + title) {
+        pages_ = new PreviewPages(pages, this);
+        pages_->setObjectName(QStringLiteral("Pages"));
+        previous_ = button(QStringLiteral("前頁"), QStringLiteral("Previous"));
+        next_ = button(QStringLiteral("次頁"), QStringLiteral("Next"));
+        CommandButton* close = button(QStringLiteral("閉じる"), QStringLiteral("Close"));
+        place_ = new Label(QString(), this);
+        place_->setObjectName(QStringLiteral("Place"));
+        auto* zoom = new ComboBox(this);
+        zoom->setObjectName(QStringLiteral("Zoom"));
+        zoom->AddItem(QStringLiteral("幅に合わせる"), 0);
+        zoom->AddItem(QStringLiteral("100%"), 100);
+        zoom->AddItem(QStringLiteral("150%"), 150);
+        zoom->SetListIndex(0);
+
+        auto* bar = new QHBoxLayout;
+        bar->addWidget(previous_);
+        bar->addWidget(next_);
+        bar->addWidget(place_);
+        bar->addStretch();
+        bar->addWidget(zoom);
+        bar->addWidget(close);
+        auto* layout = new QVBoxLayout(this);
+        layout->addLayout(bar);
+        layout->addWidget(pages_, 1);
+        resize(Twips(13200), Twips(11400));
+
+        on(previous_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() - 1); });
+        on(next_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() + 1); });
+        on(close, &CommandButton::Click, [this] { Unload(); });
+        on(zoom, &ComboBox::Click, [this, zoom] { pages_->setZoom(zoom->ItemData(zoom->ListIndex())); });
+        on(pages_, &PreviewPages::currentPageChanged, [this](int page) { showPlace(page); });
+        showPlace(0);
+        pages_->setFocus();
+    }
+
+ protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Escape) {
+            Unload();
+        } else {
+            Form::keyPressEvent(event);
+        }
+    }
+
+ private:
+    CommandButton* button(const QString& caption, const QString& name) {
+        auto* made = new CommandButton(caption, this);
+        made->setObjectName(name);
+        return made;
+    }
+
+    void showPlace(int page) {
+        place_->SetCaption(QStringLiteral("%1 / %2 頁").arg(page + 1).arg(pages_->pageCount()));
+        previous_->setEnabled(page > 0);
+        next_->setEnabled(page + 1 < pages_->pageCount());
+    }
+
+    PreviewPages* pages_;
+    CommandButton* previous_;
+    CommandButton* next_;
+    Label* place_;
+};
+
+}  // namespace
+
+void ShowPreview(const QString& title, const std::vector<PrintPage>& pages) {
+    (new Preview_frm(title, pages))->ShowModal();
+}
+
+}  // namespace akarix

@@ -1,0 +1,149 @@
+#include "platform/print/PrinterDialog.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QSpinBox>
+#include <memory>
+
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/TextBox.h"
+#include "platform/print/FileField.h"
+#include "platform/print/FileName.h"
+#include "platform/print/Printer.h"
+#include "platform/runtime/RuntimeError.h"
+
+namespace akarix {
+namespace {
+
+class Printer_frm : public Form {
+ public:
+    explicit Printer_frm(std::shared_ptr<bool> accepted)
+        : Form(QStringLiteral("Printer_frm"), QStringLiteral("印刷")), accepted_(std::move(accepted)) {
+        build();
+        fill();
+        on(printers_, &QListWidget::currentRowChanged, [this](int) { showChoice(); });
+        on(printers_, &QListWidget::itemActivated, [this](QListWidgetItem*) { print(); });
+        on(file_->box(), &TextBox::KeyDown, [this](KeyEvent& event) { pathKey(event); });
+        on(file_->browse(), &CommandButton::Click, [this] { file_->chooseFile(); });
+        on(print_, &CommandButton::Click, [this] { print(); });
+        on(cancel_, &CommandButton::Click, [this] { Unload(); });
+        showChoice();
+        printers_->setFocus();
+    }
+
+ protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Escape) {
+            Unload();
+        } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            print();
+        } else {
+            Form::keyPressEvent(event);
+        }
+    }
+
+ private:
+    void build() {
+        printers_ = new QListWidget(this);
+        printers_->setObjectName(QStringLiteral("Printers"));
+        printers_->setMinimumHeight(Twips(1800));
+        copies_ = new QSpinBox(this);
+        copies_->setObjectName(QStringLiteral("Copies"));
+        copies_->setRange(1, 99);
+        const Printer& current = Printer::Current();
+        copies_->setValue(current.Copies());
+        const QString folder =
+            current.IsPdf() ? QFileInfo(current.PdfPath()).absolutePath() : DocumentFolder();
+        file_ = new FileField(FreePath(QDir(folder).filePath(QStringLiteral("印刷.pdf"))), QStringLiteral("pdf"),
+                              this);
+        print_ = new CommandButton(QStringLiteral("印刷"), this);
+        print_->setObjectName(QStringLiteral("Print"));
+        cancel_ = new CommandButton(QStringLiteral("キャンセル"), this);
+        cancel_->setObjectName(QStringLiteral("Cancel"));
+
+        auto* layout = new QGridLayout(this);
+        layout->addWidget(new Label(QStringLiteral("プリンタ"), this), 0, 0, Qt::AlignTop);
+        layout->addWidget(printers_, 0, 1);
+        layout->addWidget(new Label(QStringLiteral("部数"), this), 1, 0);
+        layout->addWidget(copies_, 1, 1, Qt::AlignLeft);
+        layout->addWidget(new Label(QStringLiteral("ファイル"), this), 2, 0, Qt::AlignTop);
+        layout->addWidget(file_, 2, 1);
+        auto* buttons = new QHBoxLayout;
+        buttons->addStretch();
+        buttons->addWidget(print_);
+        buttons->addWidget(cancel_);
+        layout->addLayout(buttons, 3, 0, 1, 2);
+        layout->setRowStretch(0, 1);
+    }
+
+    void fill() {
+        const Printer& current = Printer::Current();
+        const QStringList names = Printer::Names();
+        printers_->addItems(names);
+        printers_->addItem(QStringLiteral("PDF ファイル"));
+        const auto row = current.IsPdf() ? -1 : names.indexOf(current.Name());
+        printers_->setCurrentRow(row < 0 ? pdfRow() : static_cast<int>(row));
+    }
+
+    int pdfRow() const { return printers_->count() - 1; }
+    bool pdfChosen() const { return printers_->currentRow() == pdfRow(); }
+
+    void showChoice() {
+        file_->setEnabled(pdfChosen());
+        copies_->setEnabled(!pdfChosen());
+        file_->clearMessage();
+    }
+
+    void pathKey(KeyEvent& event) {
+        switch (event.KeyCode) {
+            case key::Return:
+                print();
+                break;
+            case key::Up:
+                printers_->setFocus();
+                break;
+            case key::Down:
+                print_->setFocus();
+                break;
+            default:
+                return;
+        }
+        event.KeyCode = 0;
+    }
+
+    void print() {
+        if (pdfChosen()) {
+            const QString path = file_->accepted();
+            if (path.isEmpty()) return;
+            Printer::Current().UsePdf(path);
+        } else {
+            Printer::Current().UseQueue(printers_->currentItem()->text(), copies_->value());
+        }
+        *accepted_ = true;
+        Unload();
+    }
+
+    QListWidget* printers_;
+    QSpinBox* copies_;
+    FileField* file_;
+    CommandButton* print_;
+    CommandButton* cancel_;
+    std::shared_ptr<bool> accepted_;
+};
+
+}  // namespace
+
+void ShowPrinter() {
+    const auto accepted = std::make_shared<bool>(false);
+    auto* form = new Printer_frm(accepted);
+    form->ShowModal();
+    if (!*accepted) throw RuntimeError(32755);
+}
+
+}  // namespace akarix
