@@ -101,7 +101,8 @@ void ExcelPrintPage() {
     }
     if (!open.document) {
         open.document = OpenPrinterSink(open.name);
-        QTimer::singleShot(0, qApp, [document = std::weak_ptr(open.document)] { FinishWhenAbandoned(document); });
+        QTimer::singleShot(0, qApp,
+                           [document = std::weak_ptr(open.document)] { FinishWhenAbandoned(document); });
     }
     open.document->add(std::move(pages));
 }

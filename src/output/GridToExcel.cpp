@@ -25,7 +25,8 @@ void GridToExcel(const QString& title, const QString& line1, const QString& line
     const QString subtitle = line1 + QStringLiteral("     ") + line2;
     const QString created = QStringLiteral("作成日 : ") + Format(today, QStringLiteral("yyyy/mm/dd"));
     if (!WriteGridWorkbook(path, title, subtitle, created, source)) {
-        MsgBox(QStringLiteral("ファイル '%1' に書き込めません。\n保存先を確かめて、もう一度行って下さい。").arg(path),
+        MsgBox(QStringLiteral("ファイル '%1' に書き込めません。\n保存先を確かめて、もう一度行って下さい。")
+                   .arg(path),
                title);
     }
 }

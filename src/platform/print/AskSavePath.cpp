@@ -74,7 +74,8 @@ class SaveAs_frm : public Form {
 
 QString AskSavePath(const QString& caption, const QString& name) {
     const auto answer = std::make_shared<QString>();
-    auto* form = new SaveAs_frm(caption, FreePath(QDir(DocumentFolder()).filePath(SafeFileName(name))), answer);
+    auto* form =
+        new SaveAs_frm(caption, FreePath(QDir(DocumentFolder()).filePath(SafeFileName(name))), answer);
     form->ShowModal();
     return *answer;
 }

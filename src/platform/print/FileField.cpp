@@ -66,9 +66,9 @@ QString FileField::accepted() {
 }
 
 void FileField::chooseFile() {
-    const QString chosen = QFileDialog::getSaveFileName(
-        window(), QStringLiteral("ファイルの保存先"), absolutePath(),
-        QStringLiteral("%1 ファイル (*.%2)").arg(suffix_.toUpper(), suffix_));
+    const QString chosen =
+        QFileDialog::getSaveFileName(window(), QStringLiteral("ファイルの保存先"), absolutePath(),
+                                     QStringLiteral("%1 ファイル (*.%2)").arg(suffix_.toUpper(), suffix_));
     if (chosen.isEmpty()) return;
     clearMessage();
     path_->SetText(QDir::toNativeSeparators(chosen));

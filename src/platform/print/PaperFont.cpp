@@ -69,7 +69,8 @@ double PaperFont::width(const QString& text) {
     for (const char32_t letter : text.toUcs4()) {
         auto found = widths_.find(letter);
         if (found == widths_.end()) {
-            found = widths_.insert(letter, QFontMetricsF(font_).horizontalAdvance(QString::fromUcs4(&letter, 1)));
+            found =
+                widths_.insert(letter, QFontMetricsF(font_).horizontalAdvance(QString::fromUcs4(&letter, 1)));
         }
         sum += *found;
     }

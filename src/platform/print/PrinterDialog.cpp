@@ -60,8 +60,8 @@ class Printer_frm : public Form {
         copies_->setValue(current.Copies());
         const QString folder =
             current.IsPdf() ? QFileInfo(current.PdfPath()).absolutePath() : DocumentFolder();
-        file_ = new FileField(FreePath(QDir(folder).filePath(QStringLiteral("印刷.pdf"))), QStringLiteral("pdf"),
-                              this);
+        file_ = new FileField(FreePath(QDir(folder).filePath(QStringLiteral("印刷.pdf"))),
+                              QStringLiteral("pdf"), this);
         print_ = new CommandButton(QStringLiteral("印刷"), this);
         print_->setObjectName(QStringLiteral("Print"));
         cancel_ = new CommandButton(QStringLiteral("キャンセル"), this);

@@ -55,7 +55,8 @@ class DevicePages {
 
 class QueueSink : public PrintSink {
  public:
-    QueueSink(const Printer& target, const QString& documentName) : printer_(QPrinter::HighResolution), pages_(printer_) {
+    QueueSink(const Printer& target, const QString& documentName)
+        : printer_(QPrinter::HighResolution), pages_(printer_) {
         const QString name = target.Name();
         if (name.isEmpty()) RaisePrinterError(QStringLiteral("プリンタがありません。"));
         // An unknown name is not refused but silently answered with another queue.
@@ -89,7 +90,8 @@ class QueueSink : public PrintSink {
 /// The file is written beside its place and takes it when complete: a failure leaves what was there before.
 class PdfSink : public PrintSink {
  public:
-    PdfSink(const QString& path, const QString& documentName) : file_(path), writer_(&file_), pages_(writer_) {
+    PdfSink(const QString& path, const QString& documentName)
+        : file_(path), writer_(&file_), pages_(writer_) {
         const QString reason = WhyNotWritable(path);
         failure_ = QStringLiteral("PDF ファイル '%1' に書き込めません。").arg(path) + reason;
         if (!reason.isEmpty() || !file_.open(QIODevice::WriteOnly)) RaisePrinterError(failure_);
