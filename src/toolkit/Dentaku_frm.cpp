@@ -1,0 +1,97 @@
+#include "toolkit/Dentaku_frm.h"
+
+#include <QGridLayout>
+#include <algorithm>
+#include <array>
+
+#include "platform/forms/ComboBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/MemoBox.h"
+#include "platform/forms/TextBox.h"
+#include "platform/runtime/CCur.h"
+#include "platform/runtime/Format.h"
+#include "toolkit/ControlMaker.h"
+#include "toolkit/Evaluate.h"
+#include "toolkit/FieldWalk.h"
+#include "values/NumVal.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+namespace {
+
+const std::array<QString, 4> kMasks = {
+    QStringLiteral("###,###,###,###,##0"), QStringLiteral("###,###,###,###,##0.0"),
+    QStringLiteral("###,###,###,###,##0.00"), QStringLiteral("###,###,###,###,##0.000")};
+
+bool holdsOperator(const QString& text) {
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar c) { return c == u'*' || c == u'+' || c == u'-' || c == u'/'; });
+}
+
+}  // namespace
+
+Dentaku_frm::Dentaku_frm() : Form(QStringLiteral("電卓"), QStringLiteral("メモ型電卓")) {
+    setFixedSize(Twips(3825), Twips(5715));
+    move(0, 0);
+
+    ControlMaker make(*this);
+    eSiki_ = &Named(new MemoBox(this), QStringLiteral("eSiki"));
+    eAns_ = &make.box(QStringLiteral("eAns"), 0, ImeMode::Off);
+    eAns_->setAlignment(Qt::AlignRight);
+    Combo1_ = &make.combo(QStringLiteral("Combo1"));
+    for (int decimals = 0; decimals < 4; ++decimals) {
+        Combo1_->AddItem(QString::number(decimals), decimals);
+    }
+    Combo1_->SetListIndex(1);
+    CommandButton& clear = make.button(QStringLiteral("Command1"), QStringLiteral("クリア"));
+
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->addWidget(new Label(QStringLiteral("式を入れてEnterを押して下さい。"), this), 0, 0, 1, 2);
+    layout->addWidget(eSiki_, 1, 0, 1, 2);
+    layout->addWidget(new Label(QStringLiteral("掛け算 = *"), this), 2, 0);
+    layout->addWidget(new Label(QStringLiteral("割り算 = /"), this), 2, 1);
+    layout->addWidget(eAns_, 3, 0, 1, 2);
+    layout->addWidget(new Label(QStringLiteral("少数以下"), this), 4, 0);
+    layout->addWidget(Combo1_, 4, 1);
+    layout->addWidget(&clear, 5, 1);
+    layout->setRowStretch(1, 1);
+    layout->setColumnStretch(1, 1);
+
+    on(eSiki_, &MemoBox::KeyDown, [this](KeyEvent& event) {
+        if (event.KeyCode != key::Return) return;
+        event.KeyCode = 0;
+        answerMemo();
+    });
+    on(Combo1_, &ComboBox::Click, [this] { reformatAnswer(); });
+    on(Combo1_, &ComboBox::LostFocus, [this] { reformatAnswer(); });
+    on(&clear, &CommandButton::Click, [this] {
+        eSiki_->SetText({});
+        eAns_->SetText({});
+    });
+}
+
+void Dentaku_frm::init() {
+    SetFocus(eSiki_);
+}
+
+void Dentaku_frm::answerMemo() {
+    const QString memo = Trim(eSiki_->Text());
+    // A bare number is a note, no question: it is not echoed as an answer.
+    ShowAnswer(holdsOperator(memo) ? Evaluate(memo) : Currency());
+}
+
+void Dentaku_frm::reformatAnswer() {
+    if (HasText(eAns_->Text())) ShowAnswer(CCur(NumVal(eAns_->Text())));
+}
+
+QString Dentaku_frm::ShowAnswer(Currency value) {
+    const int decimals = std::max(Combo1_->ListIndex(), 0);
+    const QString text = Format(value, kMasks[static_cast<std::size_t>(decimals)]);
+    eAns_->SetText(text);
+    return text;
+}
+
+}  // namespace akarix

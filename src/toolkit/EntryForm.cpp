@@ -1,0 +1,39 @@
+#include "toolkit/EntryForm.h"
+
+#include "toolkit/FieldWalk.h"
+#include "toolkit/Lookups.h"
+
+namespace akarix {
+
+EntryForm::PressEnter EntryForm::wireKeys(const ControlArray<TextBox>& boxes, EnterRule enter) {
+    const PressEnter press = [this, boxes, enter = std::move(enter)](int index) {
+        if (!enter(index)) return;
+        TextBox& box = boxes(index);
+        FitMaxLength(box);
+        NextField(*this, TabIndex(&box));
+    };
+    on(boxes, &TextBox::KeyDown, [this, boxes, press](int index, KeyEvent& event) {
+        switch (MapEditKey(event.KeyCode, event.Shift)) {
+            case key::Return:
+                event.KeyCode = 0;
+                press(index);
+                break;
+            case key::Up:
+                event.KeyCode = 0;
+                FitMaxLength(boxes(index));
+                PrevField(*this, TabIndex(&boxes(index)));
+                break;
+            default:
+                break;
+        }
+    });
+    on(boxes, &TextBox::LostFocus, [boxes](int index) { FitMaxLength(boxes(index)); });
+    return press;
+}
+
+void EntryForm::wireLookup(Image& picture, const QString& table, const QString& mode, TextBox& box,
+                           const PressEnter& press, int field) {
+    WireLookup(*this, picture, table, mode, box, [press, field] { press(field); });
+}
+
+}  // namespace akarix

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/TextBox.h"
+
+namespace akarix {
+
+/// A screen whose fields are walked by the keyboard. Enter and Tab go on, Up and Shift+Tab go back; whichever
+/// way a field is left, its text is cut to the field's bytes.
+class EntryForm : public Form {
+ public:
+    using Form::Form;
+
+ protected:
+    /// What Enter asks of a field before the walk goes on; False when it has moved the focus itself.
+    using EnterRule = std::function<bool(int index)>;
+    /// Does what Enter does in the field of that index, wherever the focus is.
+    using PressEnter = std::function<void(int index)>;
+
+    /// Wires the keys of an array of fields. May be called for each array of a form.
+    PressEnter wireKeys(const ControlArray<TextBox>& boxes, EnterRule enter);
+
+    /// Wires a lookup picture: the code picked there goes into `box`, then Enter is pressed in field `field`.
+    void wireLookup(Image& picture, const QString& table, const QString& mode, TextBox& box,
+                    const PressEnter& press, int field);
+};
+
+}  // namespace akarix

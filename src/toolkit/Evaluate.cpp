@@ -1,0 +1,39 @@
+#include "toolkit/Evaluate.h"
+
+#include <muParser.h>
+
+#include "platform/runtime/CCur.h"
+#include "platform/runtime/RuntimeError.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+namespace {
+
+QString lastLine(const QString& memo) {
+    static const QString kBreak = QStringLiteral("\r\n");
+    const QString text = Trim(memo);
+    const qsizetype at = text.lastIndexOf(kBreak);
+    return at < 0 ? text : Trim(text.mid(at + kBreak.size()));
+}
+
+}  // namespace
+
+Currency Evaluate(const QString& expression) {
+    const QString line = lastLine(expression);
+    if (line.isEmpty()) return {};
+    try {
+        mu::Parser parser;
+        parser.SetExpr(line.toStdString());
+        int results = 0;
+        const double* values = parser.Eval(results);
+        // A comma makes two results of "1,200*2"; that is no expression of the desk's.
+        return results == 1 ? CCur(values[0]) : Currency();
+    } catch (const mu::Parser::exception_type&) {
+        return {};
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
+
+}  // namespace akarix

@@ -1,0 +1,123 @@
+#include "toolkit/FieldWalk.h"
+
+#include <algorithm>
+
+#include "platform/forms/CommandButton.h"
+#include "platform/runtime/CLng.h"
+#include "store/dbAccess.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+namespace {
+
+bool walks(const QWidget* control) {
+    return qobject_cast<const TextBox*>(control) || qobject_cast<const ComboBox*>(control) ||
+           qobject_cast<const CommandButton*>(control);
+}
+
+QWidget* walkerAt(const Form& form, int tabIndex) {
+    for (QWidget* control : form.Controls()) {
+        if (walks(control) && TabIndex(control) == tabIndex) return control;
+    }
+    return nullptr;
+}
+
+void focusWalker(QWidget* control) {
+    if (auto* box = qobject_cast<TextBox*>(control)) {
+        FocusSelect(*box);
+    } else {
+        SetFocus(control);
+    }
+}
+
+/// Takes the walk to the first visible control that `step` leads to. A number that no control holds, a label's
+/// included, sends it to 0. The bound only matters on a form whose control 0 is hidden.
+template <class Step>
+void walk(Form& form, int from, Step step) {
+    int target = from;
+    for (qsizetype tries = 2 * form.Controls().size() + 2; tries > 0; --tries) {
+        target = step(target);
+        QWidget* control = walkerAt(form, target);
+        if (!control) {
+            target = 0;
+            control = walkerAt(form, target);
+        }
+        if (control && control->isVisibleTo(&form)) return focusWalker(control);
+    }
+}
+
+}  // namespace
+
+void NextField(Form& form, int tabIndex) {
+    walk(form, tabIndex, [](int at) { return at + 1; });
+}
+
+void PrevField(Form& form, int tabIndex) {
+    walk(form, tabIndex, [](int at) { return std::max(at - 1, 0); });
+}
+
+int MapEditKey(int keyCode, int shift) {
+    if (keyCode != key::Tab) return keyCode;
+    return shift == ShiftMask ? key::Up : key::Return;
+}
+
+void ClearControls(Form& form) {
+    for (QWidget* control : form.Controls()) {
+        if (auto* box = qobject_cast<TextBox*>(control)) {
+            box->SetText({});
+        } else if (auto* combo = qobject_cast<ComboBox*>(control)) {
+            combo->SetListIndex(-1);
+        }
+    }
+}
+
+void FocusSelect(TextBox& box) {
+    SetFocus(&box);
+    box.SetSelStart(0);
+    box.SetSelLength(static_cast<int>(box.Text().size()));
+}
+
+void FitMaxLength(TextBox& box) {
+    if (box.MaxLength() == 0) return;
+    const QString cut = CutBytes(box.Text(), box.MaxLength());
+    if (cut != box.Text()) box.SetText(cut);
+}
+
+void CopyIfEmpty(const TextBox& source, TextBox& target) {
+    if (HasText(target.Text())) return;
+    target.SetText(source.Text());
+    FitMaxLength(target);
+}
+
+int ComboValue(const ComboBox& combo) {
+    return combo.ListIndex() < 0 ? 0 : combo.ItemData(combo.ListIndex());
+}
+
+void ComboSelect(ComboBox& combo, int value) {
+    int row = 0;
+    while (row < combo.ListCount() && combo.ItemData(row) != value) ++row;
+    combo.SetListIndex(row < combo.ListCount() ? row : -1);
+}
+
+void FillCombo(const QString& sql, ComboBox& combo, bool noSelection) {
+    ClearCombo(combo);
+    Recordset rows = gDb->OpenRecordset(sql);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        combo.AddItem(NullToEmpty(rows[QStringLiteral("Namae")]),
+                      CLng(NullToZero(rows[QStringLiteral("Code")])));
+    }
+    if (noSelection) combo.SetListIndex(-1);
+}
+
+void ClearCombo(ComboBox& combo) {
+    for (int rows = combo.ListCount(); rows > 0; --rows) {
+        combo.RemoveItem(0);
+    }
+}
+
+QString BlankIfEmpty(const QString& text) {
+    return EmptyToBlank(text);
+}
+
+}  // namespace akarix

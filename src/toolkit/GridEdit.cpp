@@ -1,0 +1,106 @@
+#include "toolkit/GridEdit.h"
+
+#include <algorithm>
+#include <functional>
+#include <iterator>
+
+#include "platform/forms/Control.h"
+#include "platform/runtime/RuntimeError.h"
+#include "toolkit/FieldWalk.h"
+
+namespace akarix {
+
+FlexGrid* gGrid = nullptr;
+GridForm* gGridForm = nullptr;
+QString gGridName;
+std::int16_t gColCount = 0;
+GridColumn gCols[100];
+
+namespace {
+
+GridColumn& column(int index) {
+    if (index < 0 || index >= static_cast<int>(std::size(gCols))) throw RuntimeError(9);
+    return gCols[index];
+}
+
+int alignment(const QString& align) {
+    if (align == u"L") return AlignLeftCenter;
+    if (align == u"R") return AlignRightCenter;
+    return AlignCenterCenter;
+}
+
+/// The overlay is a convenience of the screen: a step of it that cannot be done is left out.
+void tried(const std::function<void()>& step) {
+    try {
+        step();
+    } catch (const RuntimeError&) {
+    }
+}
+
+QPoint placeOf(const QRect& cell, const QWidget& overlay) {
+    const QPoint place = gGrid->mapToGlobal(cell.topLeft());
+    return overlay.parentWidget() ? overlay.parentWidget()->mapFromGlobal(place) : place;
+}
+
+void editInBox(TextBox& box, const GridColumn& kind) {
+    const QRect cell = gGrid->CellRect();
+    box.setFont(gGrid->font());
+    box.setGeometry(QRect(placeOf(cell, box), cell.size()));
+    box.show();
+    box.raise();
+    box.SetText(gGrid->TextMatrix(gGrid->Row(), gGrid->Col()));
+    box.SetIMEMode(static_cast<ImeMode>(kind.Ime));
+    FocusSelect(box);
+}
+
+void editInCombo(ComboBox& combo) {
+    const QRect cell = gGrid->CellRect();
+    combo.move(placeOf(cell, combo));
+    combo.resize(cell.width(), combo.height());
+    combo.show();
+    combo.raise();
+    tried([] { gGridForm->SetCombo(gGridName); });
+    SetFocus(&combo);
+}
+
+}  // namespace
+
+void GridInit(const QString& name) {
+    gGridName = name;
+    std::fill(std::begin(gCols), std::end(gCols), GridColumn());
+    gColCount = 0;
+}
+
+void GridAddCol(const GridColumn& added) {
+    column(gColCount) = added;
+    ++gColCount;
+}
+
+void GridApply() {
+    gGrid->SetCols(gColCount);
+    for (int i = 0; i < gColCount; ++i) {
+        gGrid->SetTextMatrix(0, i, gCols[i].Title);
+        gGrid->SetColWidth(i, gCols[i].Width);
+        gGrid->SetColAlignment(i, alignment(gCols[i].Align));
+    }
+}
+
+void GridEdit() {
+    tried([] {
+        const GridColumn& kind = column(gGrid->Col());
+        if (!kind.Editable) return;
+        if (kind.Kind == u"T") {
+            editInBox(gGridForm->tBox(), kind);
+        } else if (ComboBox* combo = gGridForm->cbBox()) {
+            editInCombo(*combo);
+        }
+    });
+}
+
+void GridNextRow() {
+    if (gGrid->Row() + 1 == gGrid->Rows()) return;
+    gGrid->SetRow(gGrid->Row() + 1);
+    GridEdit();
+}
+
+}  // namespace akarix

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/forms/CommandButton.h"
+#include "toolkit/LookupForm.h"
+
+namespace akarix {
+
+/// Looks a code up in one master table: routes, goods, banks, and lists of their shape.
+class Help_frm : public LookupForm {
+ public:
+    Help_frm();
+    /// The mode is kept; no table's list depends on it today.
+    void Start(const QString& table, const QString& mode);
+
+ private:
+    const std::vector<ListColumn>& columns() const;
+    QString listSql() const;
+    QString searchSql() const;
+    void search();
+    bool enter(int index);
+
+    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
+    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
+    QString table_;
+    QString mode_;
+    QString sql_;
+};
+
+}  // namespace akarix
