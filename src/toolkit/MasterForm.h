@@ -1,0 +1,103 @@
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include "platform/forms/CommandButton.h"
+#include "platform/jet/Recordset.h"
+#include "toolkit/ControlMaker.h"
+#include "toolkit/EntryForm.h"
+#include "toolkit/FieldTable.h"
+
+class QGridLayout;
+class QHBoxLayout;
+class QVBoxLayout;
+
+namespace akarix {
+
+/// The statements of a master screen; %1 stands for the code in ebox(0).
+struct MasterTexts {
+    QString table;
+    QString load;    ///< the row of a code
+    QString left;    ///< the rows below it, the nearest first
+    QString right;   ///< the rows above it
+    QString remove;  ///< deletes the row
+    QString removeQuestion;
+};
+
+/// A screen that keeps one table, a row at a time, under the code in ebox(0). A cleared screen stands ready for
+/// a new row under the next free code; a code without a row keeps itself and empties the rest.
+///
+/// A screen's constructor calls addFields, adds what it has besides (whose controls are then walked between the
+/// fields and the buttons), and calls addButtons. What differs is said by overriding the small steps below.
+class MasterForm : public EntryForm {
+ public:
+    virtual void init();
+
+ protected:
+    MasterForm(const QString& name, const QString& caption, MasterTexts texts);
+
+    void addFields(const FieldTable& fields);
+    void addButtons();
+
+    ControlMaker& make() { return make_; }
+    /// Where a screen puts what it has besides its fields: below them, above the buttons; and the button row.
+    QVBoxLayout& body() { return *body_; }
+    QHBoxLayout& buttonRow() { return *buttonRow_; }
+    Label& nameLabel(const QString& name) const;
+
+    void clear();
+    /// Does what Enter does in a field.
+    void pressEnter(int index) { press_(index); }
+    QString codeText() const;
+    /// For a screen that keeps one of several tables, chosen when it is opened.
+    void setTexts(MasterTexts texts) { texts_ = std::move(texts); }
+    /// A field that must hold text: when it does not, tells the message, goes to the field, gives False.
+    bool require(int index, const QString& message);
+
+    /// What Enter asks of a field. The base loads at the code and shows the names beside codes.
+    virtual bool enter(int index);
+    /// The code a cleared screen proposes.
+    virtual QString proposedCode();
+    /// Fills what an empty screen holds from the start, after every clearing.
+    virtual void showDefaults() {}
+    /// The typed code has no row.
+    virtual void keepUnknownCode(const QString& typed);
+    /// Shows and stores what is no field of the table.
+    virtual void showExtras(Recordset&) {}
+    virtual void storeExtras(Recordset&) {}
+    /// Tells what forbids saving, and puts the focus there.
+    virtual bool maySave();
+    virtual bool mayAskToRemove() { return true; }
+    virtual bool mayRemove() { return true; }
+    virtual QString removeSql();
+
+    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
+    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
+    ControlArray<Image> F6{QStringLiteral("F6")};
+
+ private:
+    QGridLayout& pane(int number);
+    void addField(const FieldRow& field);
+    void wire();
+    void load();
+    void show(Recordset& row);
+    void showName(const FieldRow& field);
+    void walk(const QString& sql);
+    void save();
+    void remove();
+
+    MasterTexts texts_;
+    FieldTable fields_;
+    ControlMaker make_;
+    QVBoxLayout* body_;
+    QHBoxLayout* panes_;
+    QHBoxLayout* buttonRow_;
+    std::vector<QGridLayout*> grids_;
+    std::map<QString, Label*> names_;
+    CommandButton* cmdLeft_ = nullptr;
+    CommandButton* cmdRight_ = nullptr;
+    PressEnter press_;
+};
+
+}  // namespace akarix
