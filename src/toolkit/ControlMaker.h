@@ -13,9 +13,9 @@ class Form;
 class Image;
 class Label;
 
-/// Makes a form's controls under their names. Those that walk (boxes, combos, buttons) take their places in the
-/// walk in the order in which they are made. A box is as wide as the bytes it takes; 0 bytes leaves limit and
-/// width open.
+/// Makes a form's controls under their names. Those that walk (boxes, combos, buttons) take their places in
+/// the walk in the order in which they are made. A box is as wide as the bytes it takes; 0 bytes leaves limit
+/// and width open.
 class ControlMaker {
  public:
     explicit ControlMaker(Form& form) : form_(form) {}

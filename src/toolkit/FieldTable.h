@@ -10,8 +10,8 @@
 
 namespace akarix {
 
-/// How the text of a field is stored: a Text as one blank where it is empty and cut to its bytes, the others as
-/// the number in it, 0 where there is none.
+/// How the text of a field is stored: a Text as one blank where it is empty and cut to its bytes, the others
+/// as the number in it, 0 where there is none.
 enum class FieldKind { Long, Integer, Currency, Text };
 
 /// The text of a stored value on the screen.
@@ -39,10 +39,10 @@ struct FieldRow {
     FieldKind kind = FieldKind::Text;
     int bytes = 0;
     ImeMode ime = ImeMode::Off;
-    DisplayRule display = {};   ///< none: the plain text of the value
-    QString note = {};          ///< told behind the box
+    DisplayRule display = {};  ///< none: the plain text of the value
+    QString note = {};         ///< told behind the box
     std::optional<FieldLookup> lookup = {};
-    QString nameLabel = {};     ///< the label that shows the code's name, as "sRte"
+    QString nameLabel = {};  ///< the label that shows the code's name, as "sRte"
     NameRule nameOf = {};
     int pane = 0;  ///< panes stand side by side, fields below each other in their pane
 };

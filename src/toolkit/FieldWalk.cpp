@@ -31,8 +31,8 @@ void focusWalker(QWidget* control) {
     }
 }
 
-/// Takes the walk to the first visible control that `step` leads to. A number that no control holds, a label's
-/// included, sends it to 0. The bound only matters on a form whose control 0 is hidden.
+/// Takes the walk to the first visible control that `step` leads to. A number that no control holds, a
+/// label's included, sends it to 0. The bound only matters on a form whose control 0 is hidden.
 template <class Step>
 void walk(Form& form, int from, Step step) {
     int target = from;
@@ -96,7 +96,8 @@ int ComboValue(const ComboBox& combo) {
 
 void ComboSelect(ComboBox& combo, int value) {
     int row = 0;
-    while (row < combo.ListCount() && combo.ItemData(row) != value) ++row;
+    while (row < combo.ListCount() && combo.ItemData(row) != value)
+        ++row;
     combo.SetListIndex(row < combo.ListCount() ? row : -1);
 }
 

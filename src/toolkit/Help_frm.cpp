@@ -94,8 +94,8 @@ QString Help_frm::searchSql() const {
     } else if (reading.isEmpty()) {
         order = QStringLiteral(" ORDER BY Namae,Code");
     }
-    const QString select =
-        table_ == u"Hin" ? QStringLiteral("SELECT Code,Namae FROM Hin ") : QStringLiteral("SELECT Code,Namae FROM ") + table_;
+    const QString select = table_ == u"Hin" ? QStringLiteral("SELECT Code,Namae FROM Hin ")
+                                            : QStringLiteral("SELECT Code,Namae FROM ") + table_;
     return select + QStringLiteral(" WHERE Code>0") + reading + name + order;
 }
 

@@ -47,8 +47,8 @@ class LookupForm : public EntryForm {
 /// The condition of a reading or a name searched anywhere in its column; empty for a text without content.
 QString LikeCondition(const QString& column, const QString& text);
 
-/// Starts a pick list, shows it modally and gives the picked code; the empty text when it was closed without a
-/// pick. The instance is asked anew after the showing: the close box has taken the one that was shown away.
+/// Starts a pick list, shows it modally and gives the picked code; the empty text when it was closed without
+/// a pick. The instance is asked anew after the showing: the close box has taken the one that was shown away.
 template <class Dialog, class... Arguments>
 QString Pick(const Arguments&... arguments) {
     Form::Instance<Dialog>().Start(arguments...);

@@ -122,8 +122,8 @@ void MasterForm::wire() {
     press_ = wireKeys(ebox, [this](int index) { return enter(index); });
     for (const FieldRow& field : fields_) {
         if (!field.lookup) continue;
-        wireLookup(F6(field.lookup->picture), field.lookup->table, field.lookup->mode, ebox(field.index), press_,
-                   field.index);
+        wireLookup(F6(field.lookup->picture), field.lookup->table, field.lookup->mode, ebox(field.index),
+                   press_, field.index);
     }
     on(&Btn(0), &CommandButton::Click, [this] { clear(); });
     on(&Btn(1), &CommandButton::Click, [this] { remove(); });

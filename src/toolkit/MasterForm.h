@@ -25,11 +25,12 @@ struct MasterTexts {
     QString removeQuestion;
 };
 
-/// A screen that keeps one table, a row at a time, under the code in ebox(0). A cleared screen stands ready for
-/// a new row under the next free code; a code without a row keeps itself and empties the rest.
+/// A screen that keeps one table, a row at a time, under the code in ebox(0). A cleared screen stands ready
+/// for a new row under the next free code; a code without a row keeps itself and empties the rest.
 ///
-/// A screen's constructor calls addFields, adds what it has besides (whose controls are then walked between the
-/// fields and the buttons), and calls addButtons. What differs is said by overriding the small steps below.
+/// A screen's constructor calls addFields, adds what it has besides (whose controls are then walked between
+/// the fields and the buttons), and calls addButtons. What differs is said by overriding the small steps
+/// below.
 class MasterForm : public EntryForm {
  public:
     virtual void init();

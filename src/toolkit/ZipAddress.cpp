@@ -7,7 +7,8 @@
 namespace akarix {
 
 void FillAddressFromZip(const QString& zip, TextBox& addressBox) {
-    Recordset found = gDb->OpenRecordset(QStringLiteral("SELECT Addr FROM Zip7 WHERE Code=") + KeepDigits(zip));
+    Recordset found =
+        gDb->OpenRecordset(QStringLiteral("SELECT Addr FROM Zip7 WHERE Code=") + KeepDigits(zip));
     if (!found.Eof() && !HasText(addressBox.Text())) {
         addressBox.SetText(NullToEmpty(found[QStringLiteral("Addr")]));
     }
