@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
 
 class QApplication;
@@ -14,5 +15,10 @@ void ApplyStyle(QApplication& application);
 QFont ScreenFont();
 /// Width in pixels of a text box that shows so many half-width characters.
 int BoxWidth(int bytes);
+
+/// The tint of the field that has the keyboard.
+QColor FocusColour();
+/// The tint of a grid's present row.
+QColor PresentRowColour();
 
 }  // namespace akarix

@@ -1,0 +1,103 @@
+#include "platform/forms/FieldLayout.h"
+
+#include <QFontMetrics>
+
+#include "platform/forms/Icons.h"
+#include "platform/forms/Style.h"
+
+namespace akarix {
+namespace {
+
+constexpr int columnsPerBlock = 3;  // caption, fields, the room between two blocks
+constexpr int blockGap = 24;
+constexpr int lookupIconSize = 16;
+
+}  // namespace
+
+FieldRow& FieldRow::text(TextBox& box, int bytes, int shownBytes) {
+    box.SetMaxLength(bytes);
+    box.setFixedWidth(BoxWidth(shownBytes > 0 ? shownBytes : bytes));
+    JoinWalk(form_, box);
+    return widget(&box);
+}
+
+FieldRow& FieldRow::combo(ComboBox& box, int shownBytes) {
+    constexpr int arrow = 24;
+    box.setFixedWidth(BoxWidth(shownBytes) + arrow);
+    JoinWalk(form_, box);
+    return widget(&box);
+}
+
+FieldRow& FieldRow::lookup(Image& picture) {
+    picture.setPixmap(DrawIcon(Icon::Lookup, lookupIconSize, &form_));
+    picture.setCursor(Qt::PointingHandCursor);
+    picture.setToolTip(QStringLiteral("さがす"));
+    return widget(&picture);
+}
+
+FieldRow& FieldRow::name(Label& label, int bytes) {
+    label.setMinimumWidth(BoxWidth(bytes));
+    return widget(&label);
+}
+
+FieldRow& FieldRow::note(const QString& text) {
+    auto* label = new Label(text);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    return widget(label);
+}
+
+FieldRow& FieldRow::button(CommandButton& button) {
+    JoinWalk(form_, button);
+    return widget(&button);
+}
+
+FieldRow& FieldRow::widget(QWidget* widget) {
+    line_->insertWidget(line_->count() - 1, widget);  // before the stretch that ends the line
+    return *this;
+}
+
+FieldLayout::FieldLayout(Form& form) : form_(form), grid_(new QGridLayout) {
+    grid_->setHorizontalSpacing(8);
+    grid_->setVerticalSpacing(5);
+}
+
+FieldRow FieldLayout::row(const QString& caption) {
+    auto* label = new Label(caption);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(6);
+    line->addStretch();
+    grid_->addWidget(label, line_, column_);
+    grid_->addLayout(line, line_, column_ + 1);
+    ++line_;
+    return FieldRow(form_, line);
+}
+
+void FieldLayout::nextColumn() {
+    grid_->setColumnMinimumWidth(column_ + 2, blockGap);
+    column_ += columnsPerBlock;
+    line_ = 0;
+}
+
+void FieldLayout::gap() {
+    grid_->setRowMinimumHeight(line_++, QFontMetrics(form_.font()).height() / 2);
+}
+
+QHBoxLayout* ButtonBar(Form& form, ControlArray<CommandButton>& buttons, const QStringList& captions) {
+    auto* bar = new QHBoxLayout;
+    bar->setSpacing(8);
+    bar->addStretch();
+    int index = 0;
+    for (const QString& caption : captions) {
+        CommandButton& button = buttons.add(index++, new CommandButton(caption));
+        JoinWalk(form, button);
+        bar->addWidget(&button);
+    }
+    return bar;
+}
+
+void JoinWalk(Form& form, QWidget& control) {
+    if (TabIndex(&control) < 0) SetTabIndex(&control, form.takeTabIndex());
+}
+
+}  // namespace akarix

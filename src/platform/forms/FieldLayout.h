@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+#include "platform/forms/ComboBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/TextBox.h"
+
+namespace akarix {
+
+/// One line of a screen: a caption in the label column, then whatever belongs to it, left to right. A control
+/// that takes part in the walk gets the next TabIndex of the form unless it has one.
+class FieldRow {
+ public:
+    FieldRow(Form& form, QHBoxLayout* line) : form_(form), line_(line) {}
+
+    /// A text box as wide as its bytes of text; sets MaxLength too. \param shownBytes the width, where it
+    /// differs.
+    FieldRow& text(TextBox& box, int bytes, int shownBytes = 0);
+    FieldRow& combo(ComboBox& box, int shownBytes);
+    FieldRow& lookup(Image& picture);
+    /// The name beside a code, wide enough for so many bytes.
+    FieldRow& name(Label& label, int bytes);
+    FieldRow& note(const QString& text);
+    FieldRow& button(CommandButton& button);
+    FieldRow& widget(QWidget* widget);
+
+ private:
+    Form& form_;
+    QHBoxLayout* line_;
+};
+
+/// Rows of fields with their captions aligned, in one or more columns side by side.
+class FieldLayout {
+ public:
+    explicit FieldLayout(Form& form);
+
+    FieldRow row(const QString& caption);
+    /// The next rows stand in a new column, from the top.
+    void nextColumn();
+    /// Empty room before the next row, to set groups apart.
+    void gap();
+    QGridLayout* layout() const { return grid_; }
+
+ private:
+    Form& form_;
+    QGridLayout* grid_;
+    int line_ = 0;
+    int column_ = 0;
+};
+
+/// A row of buttons, made in the order of their captions with the indices 0, 1, ... and put into the walk.
+QHBoxLayout* ButtonBar(Form& form, ControlArray<CommandButton>& buttons, const QStringList& captions);
+
+/// Puts a control into the walk at the form's next place, unless it has one.
+void JoinWalk(Form& form, QWidget& control);
+
+}  // namespace akarix
