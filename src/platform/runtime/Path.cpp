@@ -2,19 +2,32 @@
 
 namespace akarix {
 
+namespace {
+
+bool hasDrive(const QString& path) { return path.size() >= 2 && path[1] == u':' && path[0].isLetter(); }
+
+}  // namespace
+
+QString DriveRoot(const QString& path) {
+    if (!hasDrive(path)) return {};
+#ifdef Q_OS_WIN
+    return path.left(2) + u'/';
+#else
+    return QStringLiteral("Drive/") + path[0].toUpper();
+#endif
+}
+
 QString LocalPath(const QString& path) {
     QString local = path;
     local.replace(u'\\', u'/');
 #ifndef Q_OS_WIN
-    const bool hasDrive = local.size() >= 2 && local[1] == u':' && local[0].isLetter();
-    if (hasDrive) {
+    if (hasDrive(local)) {
         QString below = local.mid(2);
         if (!below.startsWith(u'/')) below.prepend(u'/');
-        local = QStringLiteral("Drive/") + local[0].toUpper() + below;
+        local = DriveRoot(local) + below;
     }
 #endif
-    while (local.size() > 1 && local.endsWith(u'/') && !local.endsWith(QLatin1String(":/")))
-        local.chop(1);
+    while (local.size() > 1 && local.endsWith(u'/') && !local.endsWith(QLatin1String(":/"))) local.chop(1);
     return local;
 }
 

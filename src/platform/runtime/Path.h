@@ -9,4 +9,7 @@ namespace akarix {
 /// current directory.
 QString LocalPath(const QString& path);
 
+/// The machine's folder that stands for the drive of a path; empty for a path without a drive.
+QString DriveRoot(const QString& path);
+
 }  // namespace akarix

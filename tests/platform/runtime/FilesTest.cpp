@@ -1,0 +1,178 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "platform/runtime/Dir.h"
+#include "platform/runtime/FileCopy.h"
+#include "platform/runtime/Input.h"
+#include "platform/runtime/Kill.h"
+#include "platform/runtime/MkDir.h"
+#include "platform/runtime/Open.h"
+#include "platform/runtime/Path.h"
+#include "platform/runtime/Print.h"
+#include "platform/runtime/Raises.h"
+
+namespace akarix {
+
+namespace {
+
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+}
+
+void put(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+class Files : public testing::Test {
+ protected:
+    void SetUp() override {
+        ASSERT_TRUE(folder_.isValid());
+        QDir::setCurrent(folder_.path());
+        QDir().mkpath(QStringLiteral("Drive/A"));
+    }
+    void TearDown() override {
+        CloseAll();
+        QDir::setCurrent(before_);
+    }
+
+ private:
+    QTemporaryDir folder_;
+    QString before_ = QDir::currentPath();
+};
+
+TEST_F(Files, WritesAndReadsItems) {
+    Open(u"A:\\req.txt"_qs, OpenMode::Output, 1);
+    Print(1, u"1"_qs, false);
+    Print(1, u"ﾔﾏﾀﾞ髙"_qs);
+    Print(1, u"  d:\\bk,rest"_qs);
+    Close(1);
+    EXPECT_EQ(bytesOf(u"Drive/A/req.txt"_qs), QByteArray("1\xd4\xcf\xc0\xde\xfb\xfc\r\n  d:\\bk,rest\r\n"));
+
+    Open(u"a:req.txt"_qs, OpenMode::Append, 2);
+    Print(2, u"\"x, y\" z,last"_qs, false);
+    Close(2);
+    Open(u"A:\\req.txt"_qs, OpenMode::Input, 1);
+    EXPECT_EQ(Input(1), u"1ﾔﾏﾀﾞ髙"_qs);
+    EXPECT_EQ(Input(1), u"d:\\bk"_qs);
+    EXPECT_EQ(Input(1), u"rest"_qs);
+    EXPECT_EQ(Input(1), u"x, y"_qs);
+    EXPECT_FALSE(AtEnd(1));
+    EXPECT_EQ(Input(1), u"last"_qs);
+    EXPECT_TRUE(AtEnd(1));
+    EXPECT_EQ(raised([] { return Input(1); }), 62);
+}
+
+TEST_F(Files, LinesEndInAnyCustomAndTheEndMarkEndsTheFile) {
+    put(u"in"_qs, "a, b\r\rc\n\n  d \r\n\x1a" "e");
+    Open(u"in"_qs, OpenMode::Input, FreeFile());
+    EXPECT_EQ(FreeFile(), 2);
+    for (const char16_t* line : {u"a, b", u"", u"c", u"", u"  d "}) EXPECT_EQ(LineInput(1), QString::fromUtf16(line));
+    EXPECT_TRUE(AtEnd(1));
+    EXPECT_EQ(raised([] { return LineInput(1); }), 62);
+}
+
+TEST_F(Files, OpenRaisesTheClassicNumbers) {
+    put(u"there"_qs, "x");
+    struct Case {
+        const char16_t* path;
+        OpenMode mode;
+        int number, error;
+    };
+    const Case cases[] = {
+        {u"none", OpenMode::Input, 1, 53},         {u"Prt\\none", OpenMode::Input, 1, 76},
+        {u"Prt\\none", OpenMode::Output, 1, 76},   {u"B:\\f", OpenMode::Input, 1, 71},
+        {u"B:\\f", OpenMode::Output, 1, 71},       {u"B:\\x\\f", OpenMode::Output, 1, 71},
+        {u"A:\\x\\f", OpenMode::Output, 1, 76},    {u"A:\\", OpenMode::Output, 1, 75},
+        {u"", OpenMode::Input, 1, 75},             {u"there", OpenMode::Input, 0, 52},
+        {u"there", OpenMode::Input, 512, 52},      {u"there", OpenMode::Input, 7, 55},
+        {u".\\THERE2", OpenMode::Output, 1, 55},
+    };
+    Open(u"THERE2"_qs, OpenMode::Output, 7);
+    for (const Case& c : cases) {
+        EXPECT_EQ(raised([&] { return Open(QString::fromUtf16(c.path), c.mode, c.number), 0; }), c.error);
+    }
+    EXPECT_EQ(raised([] { return Input(7); }), 54);
+    EXPECT_EQ(raised([] { return Input(3); }), 52);
+    EXPECT_EQ(raised([] { return AtEnd(7); }), 54);
+    Open(u"there"_qs, OpenMode::Input, 1);
+    Open(u"there"_qs, OpenMode::Input, 2);
+    EXPECT_EQ(raised([] { return Print(1, u"x"_qs), 0; }), 54);
+    EXPECT_EQ(raised([] { return Print(3, u"x"_qs), 0; }), 52);
+    EXPECT_EQ(raised([] { return Close(99), 0; }), 0);
+}
+
+#ifdef Q_OS_LINUX
+TEST_F(Files, AFullDiskIsNoticedAtTheLatestAtClose) {
+    QFile::link(u"/dev/full"_qs, u"Drive/A/full"_qs);
+    Open(u"A:\\full"_qs, OpenMode::Output, 1);
+    Print(1, u"short"_qs);
+    EXPECT_EQ(raised([] { return Close(1), 0; }), 61);
+    EXPECT_EQ(FreeFile(), 1);
+    Open(u"A:\\full"_qs, OpenMode::Output, 1);
+    EXPECT_EQ(raised([] { return Print(1, QString(100000, u'x')), 0; }), 61);
+}
+#endif
+
+TEST_F(Files, DirKnowsNamesWhateverTheirCase) {
+    put(u"BKPath"_qs, "");
+    put(u"Drive/A/b[1].TXT"_qs, "");
+    put(u"Drive/A/a.dat"_qs, "");
+    QDir().mkdir(u"sub.txt"_qs);
+    EXPECT_EQ(Dir(u"bkpath"_qs), u"BKPath"_qs);
+    EXPECT_EQ(Dir(u"BKPath2"_qs), QString());
+    EXPECT_EQ(Dir(u"a:\\*.txt"_qs), u"b[1].TXT"_qs);
+    EXPECT_EQ(Dir(u"A:B[1].t?t"_qs), u"b[1].TXT"_qs);
+    EXPECT_EQ(Dir(u"A:\\"_qs), u"a.dat"_qs);
+    EXPECT_EQ(Dir(u"A:\\*.*"_qs), u"a.dat"_qs);
+    EXPECT_EQ(Dir(u"*.txt"_qs), QString());
+    EXPECT_EQ(Dir(u"A:\\none\\*"_qs), QString());
+    EXPECT_EQ(raised([] { return Dir(u"B:\\*"_qs); }), 71);
+}
+
+TEST_F(Files, FoldersAndRemoving) {
+    MkDir(u"A:\\bk\\"_qs);
+    EXPECT_TRUE(QDir(u"Drive/A/bk"_qs).exists());
+    EXPECT_EQ(raised([] { return MkDir(u"A:\\bk"_qs), 0; }), 75);
+    EXPECT_EQ(raised([] { return MkDir(u"A:\\x\\y"_qs), 0; }), 76);
+    EXPECT_EQ(raised([] { return MkDir(u"B:\\x"_qs), 0; }), 71);
+    put(u"f"_qs, "x");
+    Open(u"f"_qs, OpenMode::Input, 1);
+    EXPECT_EQ(raised([] { return Kill(u"f"_qs), 0; }), 70);
+    Close(1);
+    Kill(u"f"_qs);
+    EXPECT_EQ(raised([] { return Kill(u"f"_qs), 0; }), 53);
+}
+
+TEST_F(Files, CopyReplacesAndLeavesNothingBehind) {
+    const QByteArray big(200001, 'n');
+    put(u"Akarix.MDB"_qs, big);
+    put(u"Drive/A/Akarix1.MDB"_qs, "old");
+    FileCopy(u"Akarix.MDB"_qs, u"A:\\Akarix1.MDB"_qs);
+    EXPECT_EQ(bytesOf(u"Drive/A/Akarix1.MDB"_qs), big);
+    EXPECT_EQ(QDir(u"Drive/A"_qs).entryList(QDir::Files), QStringList{u"Akarix1.MDB"_qs});
+
+    EXPECT_EQ(raised([] { return FileCopy(u"none"_qs, u"A:\\x"_qs), 0; }), 53);
+    EXPECT_EQ(raised([] { return FileCopy(u"Akarix.MDB"_qs, u"A:\\x\\y"_qs), 0; }), 76);
+    EXPECT_EQ(raised([] { return FileCopy(u"Akarix.MDB"_qs, u"B:\\y"_qs), 0; }), 71);
+    EXPECT_EQ(raised([] { return FileCopy(u"Akarix.MDB"_qs, u".\\Akarix.MDB"_qs), 0; }), 70);
+    Open(u"A:\\held"_qs, OpenMode::Output, 1);
+    EXPECT_EQ(raised([] { return FileCopy(u"Akarix.MDB"_qs, u"A:\\held"_qs), 0; }), 70);
+    EXPECT_EQ(raised([] { return FileCopy(u"A:\\held"_qs, u"copy"_qs), 0; }), 70);
+}
+
+TEST(Path, DrivesHangBelowTheCurrentFolder) {
+    EXPECT_EQ(LocalPath(u"c:\\Backup\\x"_qs), u"Drive/C/Backup/x"_qs);
+    EXPECT_EQ(LocalPath(u"A:"_qs), u"Drive/A"_qs);
+    EXPECT_EQ(LocalPath(u"Prt\\請求書"_qs), u"Prt/請求書"_qs);
+    EXPECT_EQ(LocalPath(u"Akarix.MDB"_qs), u"Akarix.MDB"_qs);
+}
+
+}  // namespace
+
+}  // namespace akarix
