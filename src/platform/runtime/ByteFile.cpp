@@ -17,7 +17,9 @@ namespace akarix {
 
 namespace {
 
-[[noreturn]] void raiseErrno() { throw RuntimeError(fileErrorNumber(errno)); }
+[[noreturn]] void raiseErrno() {
+    throw RuntimeError(fileErrorNumber(errno));
+}
 
 std::FILE* openFile(const QString& path, ByteFile::Mode mode) {
 #ifdef Q_OS_WIN
@@ -58,7 +60,8 @@ QByteArray ByteFile::read() {
 
 QByteArray ByteFile::readAll() {
     QByteArray bytes;
-    for (QByteArray part = read(); !part.isEmpty(); part = read()) bytes += part;
+    for (QByteArray part = read(); !part.isEmpty(); part = read())
+        bytes += part;
     return bytes;
 }
 

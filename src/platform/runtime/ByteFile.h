@@ -7,8 +7,8 @@
 
 namespace akarix {
 
-/// A file of the machine as plain bytes. Every failure is a RuntimeError by errno, so that a disk that fills up is
-/// noticed wherever the machine says so: at the write, at the flush or at the close.
+/// A file of the machine as plain bytes. Every failure is a RuntimeError by errno, so that a disk that fills
+/// up is noticed wherever the machine says so: at the write, at the flush or at the close.
 class ByteFile {
  public:
     enum class Mode { Read, Write, Append };

@@ -21,7 +21,8 @@ QRegularExpression nameFilter(const QString& pattern) {
             form += QRegularExpression::escape(QString(c));
         }
     }
-    return QRegularExpression(QRegularExpression::anchoredPattern(form), QRegularExpression::CaseInsensitiveOption);
+    return QRegularExpression(QRegularExpression::anchoredPattern(form),
+                              QRegularExpression::CaseInsensitiveOption);
 }
 
 }  // namespace

@@ -13,17 +13,20 @@ namespace akarix {
 
 namespace {
 
-std::filesystem::path machinePath(const QString& local) { return local.toStdU16String(); }
+std::filesystem::path machinePath(const QString& local) {
+    return local.toStdU16String();
+}
 
 void copyBytes(const QString& from, const QString& to) {
     ByteFile source(from, ByteFile::Mode::Read);
     ByteFile target(to, ByteFile::Mode::Write);
-    for (QByteArray part = source.read(); !part.isEmpty(); part = source.read()) target.write(part);
+    for (QByteArray part = source.read(); !part.isEmpty(); part = source.read())
+        target.write(part);
     target.commit();
 }
 
-/// Writes beside the target and puts the copy in its place when it is whole: the older copy of this weekday must
-/// not be lost to a copy that breaks off.
+/// Writes beside the target and puts the copy in its place when it is whole: the older copy of this weekday
+/// must not be lost to a copy that breaks off.
 void copyBeside(const QString& from, const QString& to) {
     const QString beside = to + QStringLiteral(".new");
     std::error_code ignored;

@@ -62,7 +62,8 @@ void FileTable::close(int number) {
 }
 
 void FileTable::closeAll() {
-    while (!files_.empty()) close(files_.begin()->first);
+    while (!files_.empty())
+        close(files_.begin()->first);
 }
 
 int FileTable::lowestFree() const {
@@ -91,8 +92,9 @@ ByteFile& FileTable::forOutput(int number) {
 }
 
 bool FileTable::holds(const QString& localPath) const {
-    return std::any_of(files_.begin(), files_.end(),
-                       [location = locationOf(localPath)](const auto& entry) { return entry.second.location == location; });
+    return std::any_of(files_.begin(), files_.end(), [location = locationOf(localPath)](const auto& entry) {
+        return entry.second.location == location;
+    });
 }
 
 }  // namespace akarix

@@ -10,8 +10,8 @@
 
 namespace akarix {
 
-/// One open file number. An Input file is read whole at Open: the files are small, and a disk that is pulled out
-/// fails there, not in the middle of an action.
+/// One open file number. An Input file is read whole at Open: the files are small, and a disk that is pulled
+/// out fails there, not in the middle of an action.
 struct OpenFile {
     OpenMode mode;
     QString location;  ///< canonical, to know the file again under another spelling

@@ -9,7 +9,9 @@ namespace akarix {
 namespace {
 
 // All marks are single bytes that never are the second half of a character.
-bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
+bool isLineEnd(char c) {
+    return c == '\r' || c == '\n';
+}
 
 class Reader {
  public:
@@ -24,11 +26,13 @@ class Reader {
     template <class Stop>
     QByteArray takeUntil(Stop stop) {
         const qsizetype from = file_.at;
-        while (!atEnd() && !stop(next())) step();
+        while (!atEnd() && !stop(next()))
+            step();
         return file_.input.mid(from, file_.at - from);
     }
     void skipBlanks() {
-        while (!atEnd() && (next() == ' ' || next() == '\t')) step();
+        while (!atEnd() && (next() == ' ' || next() == '\t'))
+            step();
     }
     /// CR LF, a lone CR and a lone LF each end one line.
     void skipLineEnd() {

@@ -4,13 +4,21 @@
 
 namespace akarix {
 
-void Open(const QString& path, OpenMode mode, int number) { FileTable::instance().open(path, mode, number); }
+void Open(const QString& path, OpenMode mode, int number) {
+    FileTable::instance().open(path, mode, number);
+}
 
-void Close(int number) { FileTable::instance().close(number); }
+void Close(int number) {
+    FileTable::instance().close(number);
+}
 
-void CloseAll() { FileTable::instance().closeAll(); }
+void CloseAll() {
+    FileTable::instance().closeAll();
+}
 
-int FreeFile() { return FileTable::instance().lowestFree(); }
+int FreeFile() {
+    return FileTable::instance().lowestFree();
+}
 
 bool AtEnd(int number) {
     const OpenFile& file = FileTable::instance().forInput(number);

@@ -4,7 +4,9 @@ namespace akarix {
 
 namespace {
 
-bool hasDrive(const QString& path) { return path.size() >= 2 && path[1] == u':' && path[0].isLetter(); }
+bool hasDrive(const QString& path) {
+    return path.size() >= 2 && path[1] == u':' && path[0].isLetter();
+}
 
 }  // namespace
 
@@ -27,7 +29,8 @@ QString LocalPath(const QString& path) {
         local = DriveRoot(local) + below;
     }
 #endif
-    while (local.size() > 1 && local.endsWith(u'/') && !local.endsWith(QLatin1String(":/"))) local.chop(1);
+    while (local.size() > 1 && local.endsWith(u'/') && !local.endsWith(QLatin1String(":/")))
+        local.chop(1);
     return local;
 }
 

@@ -69,10 +69,13 @@ TEST_F(Files, WritesAndReadsItems) {
 }
 
 TEST_F(Files, LinesEndInAnyCustomAndTheEndMarkEndsTheFile) {
-    put(u"in"_qs, "a, b\r\rc\n\n  d \r\n\x1a" "e");
+    put(u"in"_qs,
+        "a, b\r\rc\n\n  d \r\n\x1a"
+        "e");
     Open(u"in"_qs, OpenMode::Input, FreeFile());
     EXPECT_EQ(FreeFile(), 2);
-    for (const char16_t* line : {u"a, b", u"", u"c", u"", u"  d "}) EXPECT_EQ(LineInput(1), QString::fromUtf16(line));
+    for (const char16_t* line : {u"a, b", u"", u"c", u"", u"  d "})
+        EXPECT_EQ(LineInput(1), QString::fromUtf16(line));
     EXPECT_TRUE(AtEnd(1));
     EXPECT_EQ(raised([] { return LineInput(1); }), 62);
 }
@@ -85,12 +88,12 @@ TEST_F(Files, OpenRaisesTheClassicNumbers) {
         int number, error;
     };
     const Case cases[] = {
-        {u"none", OpenMode::Input, 1, 53},         {u"Prt\\none", OpenMode::Input, 1, 76},
-        {u"Prt\\none", OpenMode::Output, 1, 76},   {u"B:\\f", OpenMode::Input, 1, 71},
-        {u"B:\\f", OpenMode::Output, 1, 71},       {u"B:\\x\\f", OpenMode::Output, 1, 71},
-        {u"A:\\x\\f", OpenMode::Output, 1, 76},    {u"A:\\", OpenMode::Output, 1, 75},
-        {u"", OpenMode::Input, 1, 75},             {u"there", OpenMode::Input, 0, 52},
-        {u"there", OpenMode::Input, 512, 52},      {u"there", OpenMode::Input, 7, 55},
+        {u"none", OpenMode::Input, 1, 53},       {u"Prt\\none", OpenMode::Input, 1, 76},
+        {u"Prt\\none", OpenMode::Output, 1, 76}, {u"B:\\f", OpenMode::Input, 1, 71},
+        {u"B:\\f", OpenMode::Output, 1, 71},     {u"B:\\x\\f", OpenMode::Output, 1, 71},
+        {u"A:\\x\\f", OpenMode::Output, 1, 76},  {u"A:\\", OpenMode::Output, 1, 75},
+        {u"", OpenMode::Input, 1, 75},           {u"there", OpenMode::Input, 0, 52},
+        {u"there", OpenMode::Input, 512, 52},    {u"there", OpenMode::Input, 7, 55},
         {u".\\THERE2", OpenMode::Output, 1, 55},
     };
     Open(u"THERE2"_qs, OpenMode::Output, 7);
