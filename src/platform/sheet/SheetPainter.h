@@ -14,7 +14,8 @@ struct SheetPage {
     double originX = 0, originY = 0;
 };
 
-/// Breaks a sheet into pages by its page setup; knows no device.
+/// Breaks a sheet into pages by its page setup, down before across; knows no device. An empty sheet is one
+/// page.
 std::vector<SheetPage> LayOutSheet(const Sheet& sheet);
 
 /// Paints one page. The painter's unit is the twip, its origin the paper's upper left corner.
