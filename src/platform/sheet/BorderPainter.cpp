@@ -78,8 +78,7 @@ class Lines {
     void add(const Line& line, QPointF from, QPointF to) {
         if (line.style == BorderStyle::None) return;
         QList<QLineF>& own = byPen_[line];
-        if (!own.isEmpty() && own.last().p2() == from &&
-            ((own.last().dx() == 0) == (to.x() == from.x()))) {
+        if (!own.isEmpty() && own.last().p2() == from && ((own.last().dx() == 0) == (to.x() == from.x()))) {
             own.last().setP2(to);
         } else {
             own.append(QLineF(from, to));

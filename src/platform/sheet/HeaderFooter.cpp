@@ -156,13 +156,15 @@ std::vector<PlacedLine> LinesOf(const Runs& runs) {
     return lines;
 }
 
-void PaintSection(QPainter& painter, const Runs& runs, Section section, const PageSetup& page, bool atBottom) {
+void PaintSection(QPainter& painter, const Runs& runs, Section section, const PageSetup& page,
+                  bool atBottom) {
     const std::vector<PlacedLine> lines = LinesOf(runs);
     double height = 0;
     for (const PlacedLine& line : lines) {
         height += line.em;
     }
-    double top = atBottom ? (page.paperHeight - page.footer) * TwipsPerPoint - height : page.header * TwipsPerPoint;
+    double top =
+        atBottom ? (page.paperHeight - page.footer) * TwipsPerPoint - height : page.header * TwipsPerPoint;
     const double left = page.left * TwipsPerPoint;
     const double right = (page.paperWidth - page.right) * TwipsPerPoint;
     for (const PlacedLine& line : lines) {

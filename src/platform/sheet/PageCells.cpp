@@ -14,13 +14,16 @@ PageCells::PageCells(const Sheet& sheet, const PageGrid& grid) : sheet_(sheet), 
     std::vector<const CellStyle*> columnStyles;
     for (const int column : grid.columns) {
         const auto own = sheet.columnStyles.find(column);
-        columnStyles.push_back(&sheet.styles[own == sheet.columnStyles.end() ? 0 : static_cast<size_t>(own->second)]);
+        columnStyles.push_back(
+            &sheet.styles[own == sheet.columnStyles.end() ? 0 : static_cast<size_t>(own->second)]);
     }
     for (int r = 0; r < grid.rowCount(); ++r) {
-        std::copy(columnStyles.begin(), columnStyles.end(), styles_.begin() + static_cast<std::ptrdiff_t>(grid.index(r, 0)));
+        std::copy(columnStyles.begin(), columnStyles.end(),
+                  styles_.begin() + static_cast<std::ptrdiff_t>(grid.index(r, 0)));
         const int row = grid.rows[static_cast<size_t>(r)];
         for (auto it = sheet.cells.lower_bound({row, grid.columns.front()});
-             it != sheet.cells.end() && it->first.row == row && it->first.column <= grid.columns.back(); ++it) {
+             it != sheet.cells.end() && it->first.row == row && it->first.column <= grid.columns.back();
+             ++it) {
             const auto [c, end] = grid.columnsBetween(it->first.column, it->first.column);
             if (c == end) continue;
             cells_[grid.index(r, c)] = &it->second;

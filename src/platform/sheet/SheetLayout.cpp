@@ -87,7 +87,8 @@ class Breaker {
 
  private:
     template <class Room>
-    static std::vector<Span> spans(const Lengths& lengths, int last, Room room, const std::vector<int>& breaks) {
+    static std::vector<Span> spans(const Lengths& lengths, int last, Room room,
+                                   const std::vector<int>& breaks) {
         std::vector<Span> result;
         int first = lengths.first;
         double used = 0;
@@ -112,10 +113,12 @@ class Breaker {
             return wanted <= 0 || pages <= static_cast<size_t>(wanted);
         };
         // One page across must hold the width itself: a single column wider than the paper is no break.
-        if (setup_.fitWidth == 1 && width({area_.first.column, area_.last.column}) * scale > roomWidth() + Tolerance) {
+        if (setup_.fitWidth == 1 &&
+            width({area_.first.column, area_.last.column}) * scale > roomWidth() + Tolerance) {
             return false;
         }
-        return within(columnSpans(scale).size(), setup_.fitWidth) && within(rowSpans(scale).size(), setup_.fitHeight);
+        return within(columnSpans(scale).size(), setup_.fitWidth) &&
+               within(rowSpans(scale).size(), setup_.fitHeight);
     }
 
     const PageSetup& setup_;
@@ -148,7 +151,8 @@ std::vector<SheetPage> LayOutSheet(const Sheet& sheet) {
     const std::vector<Span> rowSpans = breaker.rowSpans(scale);
     for (const Span& columns : breaker.columnSpans(scale)) {
         for (const Span& rows : rowSpans) {
-            SheetPage page{rows.first, rows.last, columns.first, columns.last, scale, sheet.page.left, sheet.page.top};
+            SheetPage page{rows.first, rows.last,       columns.first, columns.last,
+                           scale,      sheet.page.left, sheet.page.top};
             if (sheet.page.centerHorizontally) {
                 page.originX += std::max(0.0, breaker.roomWidth() - breaker.width(columns) * scale) / 2;
             }

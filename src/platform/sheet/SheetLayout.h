@@ -21,7 +21,9 @@ struct PageGrid {
 
     int rowCount() const { return static_cast<int>(rows.size()); }
     int columnCount() const { return static_cast<int>(columns.size()); }
-    size_t index(int r, int c) const { return static_cast<size_t>(r) * columns.size() + static_cast<size_t>(c); }
+    size_t index(int r, int c) const {
+        return static_cast<size_t>(r) * columns.size() + static_cast<size_t>(c);
+    }
     QRectF cell(int r, int c) const;
     /// Places of the visible rows from first to last: begin and end, as positions in rows.
     std::pair<int, int> rowsBetween(int first, int last) const;

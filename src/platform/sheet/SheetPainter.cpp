@@ -36,8 +36,10 @@ class PagePainter {
             for (int c = 0; c < grid_.columnCount(); ++c) {
                 const int merge = cells_.merge(r, c);
                 if (merge == PageCells::NoMerge) {
-                    const CellAddress here{grid_.rows[static_cast<size_t>(r)], grid_.columns[static_cast<size_t>(c)]};
-                    (this->*paintPlace)({r, c, here, grid_.cell(r, c), cells_.style(r, c), cells_.cell(r, c)});
+                    const CellAddress here{grid_.rows[static_cast<size_t>(r)],
+                                           grid_.columns[static_cast<size_t>(c)]};
+                    (this->*paintPlace)(
+                        {r, c, here, grid_.cell(r, c), cells_.style(r, c), cells_.cell(r, c)});
                 } else if (cells_.showsMerge(r, c)) {
                     const CellAddress anchor = sheet_.merges[static_cast<size_t>(merge)].first;
                     const auto held = sheet_.cells.find(anchor);

@@ -11,8 +11,9 @@ namespace akarix {
 namespace {
 
 constexpr double SidePadding = 1.8 * TwipsPerPoint;
-constexpr double NumberPadding = 0.5 * TwipsPerPoint;  // a figure may come nearer to the edge before it is too wide
-constexpr double EdgePadding = 0.5 * TwipsPerPoint;    // above and below
+constexpr double NumberPadding =
+    0.5 * TwipsPerPoint;  // a figure may come nearer to the edge before it is too wide
+constexpr double EdgePadding = 0.5 * TwipsPerPoint;  // above and below
 constexpr double IndentWidth = 9 * TwipsPerPoint;
 constexpr int Upright = 255;
 /// Figures of the substitute fonts are up to 15 % wider than those the templates were made with.
@@ -37,7 +38,8 @@ HorizontalAlign Resolved(HorizontalAlign align, bool number) {
 }
 
 bool Wraps(const CellStyle& style) {
-    return style.wrap || style.horizontal == HorizontalAlign::Justify || style.vertical == VerticalAlign::Justify;
+    return style.wrap || style.horizontal == HorizontalAlign::Justify ||
+           style.vertical == VerticalAlign::Justify;
 }
 
 double BlockTop(const QRectF& box, VerticalAlign align, double height) {
@@ -272,13 +274,15 @@ class TextSetter {
     /// vertical text: brackets and long marks are turned, points and commas moved into their corner.
     void paintUpright() {
         QStringList columns = shown_.text.split(QLatin1Char('\n'));
-        const auto longest = std::max_element(columns.begin(), columns.end(), [](const auto& a, const auto& b) {
-                                 return a.size() < b.size();
-                             })->size();
+        const auto longest =
+            std::max_element(columns.begin(), columns.end(), [](const auto& a, const auto& b) {
+                return a.size() < b.size();
+            })->size();
         const double column = font_->em() * static_cast<double>(longest);
         const double height = box_.height() - 2 * EdgePadding;
         if (style_.shrink && column > height) {
-            font_ = &FontOf(style_.font, std::floor(style_.font.size * height / column * TwipsPerPoint) / TwipsPerPoint);
+            font_ = &FontOf(style_.font,
+                            std::floor(style_.font.size * height / column * TwipsPerPoint) / TwipsPerPoint);
         }
         const double em = font_->em();
         const double width = em * static_cast<double>(columns.size());
@@ -292,7 +296,8 @@ class TextSetter {
         for (const QString& letters : columns) {
             double pitch = em;
             double y = BlockTop(box_, style_.vertical, em * static_cast<double>(letters.size()));
-            const bool spread = style_.vertical == VerticalAlign::Distributed || style_.vertical == VerticalAlign::Justify;
+            const bool spread =
+                style_.vertical == VerticalAlign::Distributed || style_.vertical == VerticalAlign::Justify;
             if (spread && letters.size() > 1) {
                 pitch = std::max(em, (height - em) / static_cast<double>(letters.size() - 1));
                 y = box_.top() + EdgePadding;
@@ -307,7 +312,8 @@ class TextSetter {
     }
 
     void paintUprightLetter(QChar letter, const QRectF& square) {
-        static const QString turned = QStringLiteral("（）「」『』［］｛｝〈〉《》【】〔〕()[]{}<>ー～－―…‥-~=＝：；｜");
+        static const QString turned =
+            QStringLiteral("（）「」『』［］｛｝〈〉《》【】〔〕()[]{}<>ー～－―…‥-~=＝：；｜");
         static const QString cornered = QStringLiteral("、。，．");
         const QString text(letter);
         const double width = font_->width(text);
@@ -358,7 +364,8 @@ QStringList WrapText(const QString& text, const SheetFont& sheetFont, double wid
     for (const QString& paragraph : text.split(QLatin1Char('\n'))) {
         QTextBoundaryFinder finder(QTextBoundaryFinder::Line, paragraph);
         QString line;
-        for (qsizetype from = 0, to = finder.toNextBoundary(); to > 0; from = to, to = finder.toNextBoundary()) {
+        for (qsizetype from = 0, to = finder.toNextBoundary(); to > 0;
+             from = to, to = finder.toNextBoundary()) {
             QString piece = paragraph.mid(from, to - from);
             // Blanks at a line's end need no room.
             if (!line.isEmpty() && font.width((line + piece).trimmed()) > width) {
