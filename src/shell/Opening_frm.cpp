@@ -1,0 +1,73 @@
+#include "shell/Opening_frm.h"
+
+#include <QPainter>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "platform/forms/Style.h"
+
+namespace akarix {
+
+namespace {
+
+constexpr QSize kPictureSize(420, 220);
+constexpr int kStandsMs = 1000;
+
+/// Drawn at the screen's own resolution, so that it is as crisp at 150 % as at 100 %.
+QPixmap splashPicture(qreal ratio) {
+    QPixmap picture(kPictureSize * ratio);
+    picture.setDevicePixelRatio(ratio);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF area(QPointF(0, 0), kPictureSize);
+    QLinearGradient ground(area.topLeft(), area.bottomLeft());
+    ground.setColorAt(0, QColor(0x1f, 0x4e, 0x79));
+    ground.setColorAt(1, QColor(0x16, 0x36, 0x55));
+    painter.fillRect(area, ground);
+
+    // A gas flame, two drops one inside the other.
+    const auto drop = [&](QPointF foot, qreal height, const QColor& color) {
+        const qreal half = height * 0.32;
+        QPainterPath path(foot - QPointF(0, height));
+        path.cubicTo(foot + QPointF(half * 0.2, -height * 0.6), foot + QPointF(half * 1.6, -height * 0.45), foot);
+        path.cubicTo(foot + QPointF(-half * 1.6, -height * 0.45), foot + QPointF(-half * 0.2, -height * 0.6),
+                     foot - QPointF(0, height));
+        painter.fillPath(path, color);
+    };
+    drop({90, 160}, 110, QColor(0x4f, 0xa3, 0xe3));
+    drop({90, 160}, 58, QColor(0xd6, 0xec, 0xfb));
+
+    QFont font = ScreenFont();
+    painter.setPen(Qt::white);
+    font.setPixelSize(44);
+    painter.setFont(font);
+    painter.drawText(QRectF(160, 62, 240, 60), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Akarix"));
+    font.setPixelSize(15);
+    painter.setFont(font);
+    painter.setPen(QColor(0xc9, 0xdd, 0xee));
+    painter.drawText(QRectF(162, 120, 240, 30), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("LPガス販売管理"));
+    return picture;
+}
+
+}  // namespace
+
+Opening_frm::Opening_frm() : Form(QStringLiteral("Opening_frm"), QStringLiteral("Akarix")) {
+    setWindowFlag(Qt::FramelessWindowHint);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    Image1_ = new Image(this);
+    Image1_->setObjectName(QStringLiteral("Image1"));
+    Image1_->setPixmap(splashPicture(devicePixelRatioF()));
+    layout->addWidget(Image1_);
+
+    auto* timer = new QTimer(this);
+    timer->setInterval(kStandsMs);
+    on(Image1_, &Image::Click, [this] { Unload(); });
+    on(timer, &QTimer::timeout, [this, timer] {
+        timer->stop();
+        Unload();
+    });
+    timer->start();
+}
+
+}  // namespace akarix

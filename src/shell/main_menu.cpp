@@ -1,0 +1,211 @@
+#include "shell/main_menu.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QPainter>
+#include <array>
+
+#include "dialogs/AskConfirm.h"
+#include "dialogs/AskText.h"
+#include "dialogs/ShowAlert.h"
+#include "output/EX.h"
+#include "platform/forms/MsgBox.h"
+#include "platform/forms/SingleInstance.h"
+#include "platform/forms/Style.h"
+#include "platform/jet/Action.h"
+#include "platform/runtime/CInt.h"
+#include "shell/Opening_frm.h"
+#include "store/Settings.h"
+#include "store/dbAccess.h"
+#include "toolkit/ResizeForm.h"
+#include "values/Dates.h"
+#include "values/NumVal.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+namespace {
+
+using Opener = void (*)();
+
+struct BoardButton {
+    int index;
+    int column;
+    const char16_t* caption;
+    Opener open = nullptr;  ///< none: the menu's own operation, or a button that is switched off
+};
+
+constexpr std::array<const char16_t*, 4> kColumns{u"日次業務", u"月次業務", u"マスター", u"その他"};
+constexpr int kChangePassword = 6;
+constexpr int kUnreachableConsignor = 10;
+
+// In the order of the walk: column by column, from the top.
+constexpr std::array<BoardButton, 19> kBoard{{
+    {0, 0, u"売上入力"},
+    {1, 0, u"検針入力"},
+    {2, 0, u"入金入力"},
+    {kUnreachableConsignor, 0, u"銀行委託者設定"},
+    {16, 1, u"請求処理"},
+    {5, 1, u"請求書印刷"},
+    {7, 1, u"請求一覧表"},
+    {8, 1, u"消費先台帳"},
+    {13, 2, u"得意先"},
+    {17, 2, u"得意先初期残"},
+    {3, 2, u"料金表"},
+    {4, 2, u"商品"},
+    {9, 2, u"リース料金"},
+    {12, 2, u"地区"},
+    {kChangePassword, 3, u"パスワード"},
+    {14, 3, u"銀行委託者設定"},
+    {15, 3, u"郵便委託者設定"},
+    {11, 3, u"バックアップ場所"},
+    {18, 3, u"その他情報"},
+}};
+
+struct StartSettings {
+    QString password;
+};
+
+std::int16_t numberOf(const Recordset& set) { return CInt(NumVal(NullToEmpty(set[QStringLiteral("contents")]))); }
+
+StartSettings readSettings() {
+    StartSettings settings;
+    Recordset functions = gDb->OpenRecordset(QStringLiteral("SELECT * FROM zSysFunc ORDER BY Code"));
+    gPrintPreview = false;
+    gInvoiceMode = 0;
+    if (!functions.Eof()) {
+        functions.FindFirst(QStringLiteral("Code=123"));
+        settings.password = NullToEmpty(functions[QStringLiteral("contents")]);
+        functions.FindFirst(QStringLiteral("Code=2"));
+        if (!functions.NoMatch()) {
+            gPrintPreview = NumVal(NullToEmpty(functions[QStringLiteral("contents")])) == 1;
+        }
+        functions.FindFirst(QStringLiteral("Code=100"));
+        if (!functions.NoMatch()) gInvoiceMode = numberOf(functions);
+    }
+    functions.Close();
+
+    Recordset options = gDb->OpenRecordset(QStringLiteral("SELECT * FROM UserOP ORDER BY Code"));
+    if (!options.Eof()) {
+        options.FindFirst(QStringLiteral("Code=1"));
+        gDateMode = options.NoMatch() ? std::int16_t{2} : numberOf(options);
+    }
+    options.Close();
+    return settings;
+}
+
+bool logIn(const QString& password) {
+    if (AskText(QStringLiteral("パスワードを入力してください。"), QString()) == password) return true;
+    ShowAlert(QStringLiteral("パスワードが異なります。"));
+    CloseDb();
+    QApplication::processEvents();
+    return false;
+}
+
+}  // namespace
+
+bool main_menu::Start() {
+    static SingleInstance guard;
+    if (guard.PrevInstance()) return false;
+    SetActionHooks(&Action::Begin, &Action::End);
+
+    bool running = false;
+    RunGuarded([&running] {
+        Form::Instance<Opening_frm>().ShowModal();
+        if (!OpenDb(&MsgBox)) return;
+        MigrateDb();
+        gTaxRate = 5;
+        if (!logIn(readSettings().password)) return;
+        Form::Instance<main_menu>().Show();
+        running = true;
+    });
+    return running;
+}
+
+main_menu::main_menu() : Form(QStringLiteral("main_menu"), QStringLiteral("Akarix")) {
+    buildBoard();
+    previousSize_ = size();
+    on(Command_, &CommandButton::Click, [this](int index) { Command_Click(index); });
+}
+
+// The board is laid out by hand, since every control is stretched with the window.
+void main_menu::buildBoard() {
+    constexpr int kMargin = 28;
+    constexpr int kColumnWidth = 172;
+    constexpr int kGap = 20;
+    constexpr int kHeadTop = 24;
+    constexpr int kHeadHeight = 34;
+    constexpr int kButtonTop = kHeadTop + kHeadHeight + 18;
+    constexpr int kButtonHeight = 46;
+    constexpr int kPitch = 60;
+    constexpr int kMostRows = 6;
+    resize(2 * kMargin + 4 * kColumnWidth + 3 * kGap, kButtonTop + kMostRows * kPitch + kMargin - 8);
+    setMinimumSize(size() / 2);
+
+    const auto left = [&](int column) { return kMargin + column * (kColumnWidth + kGap); };
+    for (int column = 0; column < static_cast<int>(kColumns.size()); ++column) {
+        auto* head = new Label(QString::fromUtf16(kColumns[static_cast<size_t>(column)]), this);
+        head->setObjectName(QStringLiteral("Label(%1)").arg(column));
+        head->setAlignment(Qt::AlignCenter);
+        head->setProperty("heading", true);
+        head->setGeometry(left(column), kHeadTop, kColumnWidth, kHeadHeight);
+    }
+    std::array<int, 4> rows{};
+    int tabIndex = 0;
+    for (const BoardButton& entry : kBoard) {
+        auto* button = new CommandButton(QString::fromUtf16(entry.caption), this);
+        Command_.add(entry.index, button);
+        int& row = rows[static_cast<size_t>(entry.column)];
+        button->setGeometry(left(entry.column), kButtonTop + row * kPitch, kColumnWidth, kButtonHeight);
+        SetTabIndex(button, tabIndex++);
+        ++row;
+    }
+    Command_(kUnreachableConsignor).setEnabled(false);
+}
+
+void main_menu::Command_Click(int index) {
+    if (index == kChangePassword) {
+        ChangePassword();
+        return;
+    }
+    for (const BoardButton& entry : kBoard) {
+        if (entry.index == index && entry.open != nullptr) entry.open();
+    }
+}
+
+void main_menu::ChangePassword() {
+    const QString contents = QStringLiteral("contents");
+    Recordset row = gDb->OpenRecordset(QStringLiteral("SELECT * FROM zSysFunc WHERE Code=123"));
+    const QString current = NullToEmpty(row[contents]);
+    row.Edit();
+    QString answer = AskText(QStringLiteral("パスワードを入力します。"), current);
+    if (answer.isEmpty()) answer = current;
+    if (AskConfirm(answer + QStringLiteral("で更新します。"), QStringLiteral("はい"), QStringLiteral("いいえ"))) {
+        row.Fields(contents) = EmptyToBlank(answer);
+        row.Update();
+    }
+    row.Close();
+}
+
+void main_menu::QueryUnload(bool& cancel) {
+    // Refusing the unload and ending the program from here is the whole exit: nobody is asked, no screen is kept.
+    cancel = true;
+    CloseDb();
+    QCoreApplication::exit(0);
+}
+
+void main_menu::MouseDown(int /*button*/, int /*shift*/, int /*x*/, int /*y*/) {}
+
+bool main_menu::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) activated_ = true;
+    return Form::event(event);
+}
+
+void main_menu::resizeEvent(QResizeEvent* event) {
+    Form::resizeEvent(event);
+    if (!activated_ || isMinimized()) return;
+    ResizeForm(*this, previousSize_);
+    previousSize_ = size();
+}
+
+}  // namespace akarix

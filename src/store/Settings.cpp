@@ -1,0 +1,8 @@
+#include "store/Settings.h"
+
+namespace akarix {
+
+Currency gTaxRate;
+std::int16_t gInvoiceMode = 0;
+
+}  // namespace akarix
