@@ -1,6 +1,7 @@
 #include "shell/Opening_frm.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -29,7 +30,8 @@ QPixmap splashPicture(qreal ratio) {
     const auto drop = [&](QPointF foot, qreal height, const QColor& color) {
         const qreal half = height * 0.32;
         QPainterPath path(foot - QPointF(0, height));
-        path.cubicTo(foot + QPointF(half * 0.2, -height * 0.6), foot + QPointF(half * 1.6, -height * 0.45), foot);
+        path.cubicTo(foot + QPointF(half * 0.2, -height * 0.6), foot + QPointF(half * 1.6, -height * 0.45),
+                     foot);
         path.cubicTo(foot + QPointF(-half * 1.6, -height * 0.45), foot + QPointF(-half * 0.2, -height * 0.6),
                      foot - QPointF(0, height));
         painter.fillPath(path, color);
@@ -45,7 +47,8 @@ QPixmap splashPicture(qreal ratio) {
     font.setPixelSize(15);
     painter.setFont(font);
     painter.setPen(QColor(0xc9, 0xdd, 0xee));
-    painter.drawText(QRectF(162, 120, 240, 30), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("LPガス販売管理"));
+    painter.drawText(QRectF(162, 120, 240, 30), Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("LPガス販売管理"));
     return picture;
 }
 

@@ -66,7 +66,9 @@ struct StartSettings {
     QString password;
 };
 
-std::int16_t numberOf(const Recordset& set) { return CInt(NumVal(NullToEmpty(set[QStringLiteral("contents")]))); }
+std::int16_t numberOf(const Recordset& set) {
+    return CInt(NumVal(NullToEmpty(set[QStringLiteral("contents")])));
+}
 
 StartSettings readSettings() {
     StartSettings settings;
@@ -180,7 +182,8 @@ void main_menu::ChangePassword() {
     row.Edit();
     QString answer = AskText(QStringLiteral("パスワードを入力します。"), current);
     if (answer.isEmpty()) answer = current;
-    if (AskConfirm(answer + QStringLiteral("で更新します。"), QStringLiteral("はい"), QStringLiteral("いいえ"))) {
+    if (AskConfirm(answer + QStringLiteral("で更新します。"), QStringLiteral("はい"),
+                   QStringLiteral("いいえ"))) {
         row.Fields(contents) = EmptyToBlank(answer);
         row.Update();
     }
@@ -188,13 +191,12 @@ void main_menu::ChangePassword() {
 }
 
 void main_menu::QueryUnload(bool& cancel) {
-    // Refusing the unload and ending the program from here is the whole exit: nobody is asked, no screen is kept.
+    // Refusing the unload and ending the program from here is the whole exit: nobody is asked, no screen is
+    // kept.
     cancel = true;
     CloseDb();
     QCoreApplication::exit(0);
 }
-
-void main_menu::MouseDown(int /*button*/, int /*shift*/, int /*x*/, int /*y*/) {}
 
 bool main_menu::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate) activated_ = true;

@@ -7,7 +7,7 @@
 namespace akarix {
 
 /// What the whole program shares of the settings rows; set once at start.
-extern Currency gTaxRate;            ///< the constant 5; slips carry their own rate
-extern std::int16_t gInvoiceMode;    ///< which invoice layout is issued: 0 drawn, 1 the template, else none
+extern Currency gTaxRate;          ///< the constant 5; slips carry their own rate
+extern std::int16_t gInvoiceMode;  ///< which invoice layout is issued: 0 drawn, 1 the template, else none
 
 }  // namespace akarix

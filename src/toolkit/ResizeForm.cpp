@@ -18,8 +18,10 @@ constexpr const char* kExactPlace = "exactPlace";
 constexpr const char* kExactFont = "exactFont";
 
 bool fontFollows(const QWidget* control) {
-    return qobject_cast<const QLineEdit*>(control) != nullptr || qobject_cast<const QComboBox*>(control) != nullptr ||
-           qobject_cast<const QPushButton*>(control) != nullptr || qobject_cast<const QGroupBox*>(control) != nullptr ||
+    return qobject_cast<const QLineEdit*>(control) != nullptr ||
+           qobject_cast<const QComboBox*>(control) != nullptr ||
+           qobject_cast<const QPushButton*>(control) != nullptr ||
+           qobject_cast<const QGroupBox*>(control) != nullptr ||
            qobject_cast<const QTableView*>(control) != nullptr;
 }
 

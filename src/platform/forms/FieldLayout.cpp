@@ -14,44 +14,44 @@ constexpr int lookupIconSize = 16;
 
 }  // namespace
 
-FieldRow& FieldRow::text(TextBox& box, int bytes, int shownBytes) {
+FieldLine& FieldLine::text(TextBox& box, int bytes, int shownBytes) {
     box.SetMaxLength(bytes);
     box.setFixedWidth(BoxWidth(shownBytes > 0 ? shownBytes : bytes));
     JoinWalk(form_, box);
     return widget(&box);
 }
 
-FieldRow& FieldRow::combo(ComboBox& box, int shownBytes) {
+FieldLine& FieldLine::combo(ComboBox& box, int shownBytes) {
     constexpr int arrow = 24;
     box.setFixedWidth(BoxWidth(shownBytes) + arrow);
     JoinWalk(form_, box);
     return widget(&box);
 }
 
-FieldRow& FieldRow::lookup(Image& picture) {
+FieldLine& FieldLine::lookup(Image& picture) {
     picture.setPixmap(DrawIcon(Icon::Lookup, lookupIconSize, &form_));
     picture.setCursor(Qt::PointingHandCursor);
     picture.setToolTip(QStringLiteral("さがす"));
     return widget(&picture);
 }
 
-FieldRow& FieldRow::name(Label& label, int bytes) {
+FieldLine& FieldLine::name(Label& label, int bytes) {
     label.setMinimumWidth(BoxWidth(bytes));
     return widget(&label);
 }
 
-FieldRow& FieldRow::note(const QString& text) {
+FieldLine& FieldLine::note(const QString& text) {
     auto* label = new Label(text);
     label->setForegroundRole(QPalette::PlaceholderText);
     return widget(label);
 }
 
-FieldRow& FieldRow::button(CommandButton& button) {
+FieldLine& FieldLine::button(CommandButton& button) {
     JoinWalk(form_, button);
     return widget(&button);
 }
 
-FieldRow& FieldRow::widget(QWidget* widget) {
+FieldLine& FieldLine::widget(QWidget* widget) {
     line_->insertWidget(line_->count() - 1, widget);  // before the stretch that ends the line
     return *this;
 }
@@ -61,7 +61,7 @@ FieldLayout::FieldLayout(Form& form) : form_(form), grid_(new QGridLayout) {
     grid_->setVerticalSpacing(5);
 }
 
-FieldRow FieldLayout::row(const QString& caption) {
+FieldLine FieldLayout::row(const QString& caption) {
     auto* label = new Label(caption);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* line = new QHBoxLayout;
@@ -70,7 +70,7 @@ FieldRow FieldLayout::row(const QString& caption) {
     grid_->addWidget(label, line_, column_);
     grid_->addLayout(line, line_, column_ + 1);
     ++line_;
-    return FieldRow(form_, line);
+    return FieldLine(form_, line);
 }
 
 void FieldLayout::nextColumn() {

@@ -13,20 +13,20 @@ namespace akarix {
 
 /// One line of a screen: a caption in the label column, then whatever belongs to it, left to right. A control
 /// that takes part in the walk gets the next TabIndex of the form unless it has one.
-class FieldRow {
+class FieldLine {
  public:
-    FieldRow(Form& form, QHBoxLayout* line) : form_(form), line_(line) {}
+    FieldLine(Form& form, QHBoxLayout* line) : form_(form), line_(line) {}
 
     /// A text box as wide as its bytes of text; sets MaxLength too. \param shownBytes the width, where it
     /// differs.
-    FieldRow& text(TextBox& box, int bytes, int shownBytes = 0);
-    FieldRow& combo(ComboBox& box, int shownBytes);
-    FieldRow& lookup(Image& picture);
+    FieldLine& text(TextBox& box, int bytes, int shownBytes = 0);
+    FieldLine& combo(ComboBox& box, int shownBytes);
+    FieldLine& lookup(Image& picture);
     /// The name beside a code, wide enough for so many bytes.
-    FieldRow& name(Label& label, int bytes);
-    FieldRow& note(const QString& text);
-    FieldRow& button(CommandButton& button);
-    FieldRow& widget(QWidget* widget);
+    FieldLine& name(Label& label, int bytes);
+    FieldLine& note(const QString& text);
+    FieldLine& button(CommandButton& button);
+    FieldLine& widget(QWidget* widget);
 
  private:
     Form& form_;
@@ -38,7 +38,7 @@ class FieldLayout {
  public:
     explicit FieldLayout(Form& form);
 
-    FieldRow row(const QString& caption);
+    FieldLine row(const QString& caption);
     /// The next rows stand in a new column, from the top.
     void nextColumn();
     /// Empty room before the next row, to set groups apart.

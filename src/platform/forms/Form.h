@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <functional>
 #include <optional>
+#include <type_traits>
 #include <utility>
 
 #include "platform/forms/Control.h"
@@ -48,7 +49,13 @@ class Form : public QWidget {
     template <class Sender, class Signal, class Handler>
     void on(Sender* sender, Signal signal, Handler handler) {
         QObject::connect(sender, signal, this, [handler = std::move(handler)](auto&&... arguments) mutable {
-            RunGuarded([&] { handler(arguments...); });
+            RunGuarded([&] {
+                if constexpr (std::is_invocable_v<Handler&, decltype(arguments)...>) {
+                    handler(arguments...);
+                } else {
+                    handler();  // a handler may leave out what the signal tells
+                }
+            });
         });
     }
     /// The same for every control of an array; the handler gets the index first.
