@@ -14,8 +14,8 @@ class main_menu : public Form {
  public:
     main_menu();
 
-    /// The whole start: second-instance test, splash, store, settings, login, board. False when the program is to end:
-    /// a second instance, a store that does not open, a wrong password.
+    /// The whole start: second-instance test, splash, store, settings, login, board. False when the program
+    /// is to end: a second instance, a store that does not open, a wrong password.
     static bool Start();
 
  protected:
