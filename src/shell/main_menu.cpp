@@ -5,15 +5,18 @@
 #include <QPainter>
 #include <array>
 
+#include "billing/Seikyu_frm.h"
 #include "dialogs/AskConfirm.h"
 #include "dialogs/AskText.h"
 #include "dialogs/ShowAlert.h"
+#include "masters/MstRte_frm.h"
 #include "output/EX.h"
 #include "platform/forms/MsgBox.h"
 #include "platform/forms/SingleInstance.h"
 #include "platform/forms/Style.h"
 #include "platform/jet/Action.h"
 #include "platform/runtime/CInt.h"
+#include "reports/RepoSeikyu_frm.h"
 #include "shell/Opening_frm.h"
 #include "store/Settings.h"
 #include "store/dbAccess.h"
@@ -45,16 +48,16 @@ constexpr std::array<BoardButton, 19> kBoard{{
     {1, 0, u"検針入力"},
     {2, 0, u"入金入力"},
     {kUnreachableConsignor, 0, u"銀行委託者設定"},
-    {16, 1, u"請求処理"},
+    {16, 1, u"請求処理", &OpenScreen<Seikyu_frm>},
     {5, 1, u"請求書印刷"},
-    {7, 1, u"請求一覧表"},
+    {7, 1, u"請求一覧表", &OpenScreen<RepoSeikyu_frm>},
     {8, 1, u"消費先台帳"},
     {13, 2, u"得意先"},
     {17, 2, u"得意先初期残"},
     {3, 2, u"料金表"},
     {4, 2, u"商品"},
     {9, 2, u"リース料金"},
-    {12, 2, u"地区"},
+    {12, 2, u"地区", &OpenScreen<MstRte_frm>},
     {kChangePassword, 3, u"パスワード"},
     {14, 3, u"銀行委託者設定"},
     {15, 3, u"郵便委託者設定"},

@@ -1,0 +1,160 @@
+#include "billing/Seikyu_frm.h"
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+#include <array>
+
+#include "billing/Tto.h"
+#include "dialogs/ShowAlert.h"
+#include "platform/forms/FieldLayout.h"
+#include "platform/runtime/CInt.h"
+#include "platform/runtime/CLng.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DatePart.h"
+#include "toolkit/DateBox.h"
+#include "toolkit/FieldWalk.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+
+namespace akarix {
+
+namespace {
+
+enum Field { kYear = 0, kMonth = 1, kCreation = 2, kBank = 5 };
+constexpr int kRun = 0;
+
+struct ActionButton {
+    int index;
+    int row;
+    int column;
+    const char16_t* caption;
+};
+
+constexpr std::array<ActionButton, 7> kActions{{
+    {kRun, 0, 0, u"請求データの作成"},
+    {1, 1, 0, u"銀行ディスクの作成"},
+    {2, 1, 1, u"郵便局ディスクの作成"},
+    {3, 2, 0, u"銀行ディスクの読込"},
+    {4, 2, 1, u"郵便局ディスクの読込"},
+    {5, 3, 0, u"銀行口座振替明細書"},
+    {6, 3, 1, u"郵便局口座振替明細書"},
+}};
+
+}  // namespace
+
+Seikyu_frm::Seikyu_frm() : EntryForm(QStringLiteral("Seikyu_frm"), QStringLiteral("請求処理")), make_(*this) {
+    layOut();
+    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
+    wireLookup(F6(0), QStringLiteral("Bnk"), {}, ebox(kBank), press, kBank);
+    on(&ebox(kMonth), &TextBox::LostFocus, [this] { showClosingDate(); });
+    on(Command_, &CommandButton::Click, [this](int index) { Command_Click(index); });
+}
+
+void Seikyu_frm::layOut() {
+    constexpr int kDateBytes = 10;
+    constexpr int kWeekdayBytes = 4;
+    const auto hidden = [this](const QString& name, const QString& caption) {
+        Label& label = make_.caption(caption);
+        label.setObjectName(name);
+        label.hide();
+        return &label;
+    };
+    lYobi1_ = &make_.name(QStringLiteral("lYobi1"), kWeekdayBytes);
+    lyobi2_ = &make_.name(QStringLiteral("lyobi2"), kWeekdayBytes);
+    lyobi2_->hide();
+    sSyukeibi_ = &make_.name(QStringLiteral("sSyukeibi"), kDateBytes);
+    saihiHead_ = hidden(QStringLiteral("Label(6)"), QStringLiteral("再振替日"));
+    saihiHint_ = hidden(QStringLiteral("Label1"), QStringLiteral("Enterで決定"));
+
+    FieldLayout fields(*this);
+    fields.row(QStringLiteral("対象"))
+        .widget(&make_.box(ebox, kYear, 4, ImeMode::Off))
+        .note(QStringLiteral("年"))
+        .widget(&make_.box(ebox, kMonth, 2, ImeMode::Off))
+        .note(QStringLiteral("月分"));
+    fields.row(QStringLiteral("集計日")).name(*sSyukeibi_, kDateBytes);
+    fields.row(QStringLiteral("作成日"))
+        .widget(&make_.box(ebox, kCreation, kDateBytes, ImeMode::Off))
+        .name(*lYobi1_, kWeekdayBytes);
+    fields.row(QStringLiteral("銀行ｺｰﾄﾞ"))
+        .widget(&make_.box(ebox, kBank, 4, ImeMode::Off))
+        .widget(&make_.lookup(F6, 0));
+    eSaihi_ = &make_.box(QStringLiteral("eSaihi"), kDateBytes, ImeMode::Off);
+    eSaihi_->hide();
+    fields.row({}).widget(saihiHead_).widget(eSaihi_).widget(lyobi2_).widget(saihiHint_);
+
+    auto* actions = new QGridLayout;
+    actions->setHorizontalSpacing(12);
+    actions->setVerticalSpacing(8);
+    constexpr int kButtonWidth = 200;
+    constexpr int kButtonHeight = 36;
+    for (const ActionButton& action : kActions) {
+        CommandButton& button = make_.button(Command_, action.index, QString::fromUtf16(action.caption));
+        button.setMinimumSize(kButtonWidth, kButtonHeight);
+        const bool alone = action.index == kRun;
+        actions->addWidget(&button, action.row, action.column, 1, alone ? 2 : 1);
+    }
+    Progress_ = &make_.caption({});
+    Progress_->setObjectName(QStringLiteral("Progress"));
+
+    auto* body = new QVBoxLayout(this);
+    body->setSpacing(12);
+    body->addLayout(fields.layout());
+    body->addLayout(actions);
+    body->addWidget(Progress_);
+}
+
+void Seikyu_frm::init() {
+    const Date today = Today();
+    ebox(kYear).SetText(NumStr(Year(today)));
+    ebox(kMonth).SetText(NumStr(Month(today)));
+    ShowDate(today, ebox(kCreation));
+    ebox(kBank).SetText({});
+    showWeekday();
+    showClosingDate();
+    FocusSelect(ebox(kYear));
+}
+
+bool Seikyu_frm::enter(int index) {
+    if (index == kCreation) {
+        // Text that is no date stays as typed; the run then tells it.
+        const Date date = ReadDate(ebox(kCreation));
+        if (IsDateSet(date)) ShowDate(date, ebox(kCreation));
+        showWeekday();
+    }
+    return true;
+}
+
+void Seikyu_frm::showWeekday() {
+    const Date date = ReadDate(ebox(kCreation));
+    lYobi1_->SetCaption(IsDateSet(date) ? YobiName(date) : QString());
+}
+
+void Seikyu_frm::showClosingDate() {
+    sSyukeibi_->SetCaption(
+        ReadClosingDate(CInt(NumVal(ebox(kYear).Text())), CInt(NumVal(ebox(kMonth).Text()))));
+}
+
+void Seikyu_frm::Command_Click(int index) {
+    if (index == kRun) runBilling();
+}
+
+void Seikyu_frm::runBilling() {
+    const Date creation = ReadDate(ebox(kCreation));
+    if (!IsDateSet(creation)) {
+        ShowAlert(QStringLiteral("作成日を正しく入れて下さい。"));
+        return;
+    }
+    // The year is left unasked: a bill made in the new year for the old one is no mistake.
+    if (Month(creation) != NumVal(ebox(kMonth).Text())) {
+        ShowAlert(QStringLiteral("月度と作成日の月が違います。"));
+        return;
+    }
+    const int nendo = CLng(KeepNumeric(ebox(kYear).Text()));
+    const int getudo = CLng(KeepNumeric(ebox(kMonth).Text()));
+    BuildMonthLedger(nendo, getudo, creation);
+    CarryForwardMonth(nendo, getudo);
+    ShowAlert(QStringLiteral("集計しました。"));
+}
+
+}  // namespace akarix

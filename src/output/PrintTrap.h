@@ -1,0 +1,11 @@
+#pragma once
+
+#include <functional>
+
+namespace akarix {
+
+/// Runs what a print button does. A cancelled printer dialog ends it in silence; any other error is told as its number
+/// directly followed by its description, and the click ends.
+void TrapPrinting(const std::function<void()>& print);
+
+}  // namespace akarix

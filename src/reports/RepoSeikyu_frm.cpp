@@ -1,0 +1,343 @@
+#include "reports/RepoSeikyu_frm.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <array>
+
+#include "billing/Sub.h"
+#include "output/PrintTrap.h"
+#include "platform/forms/FieldLayout.h"
+#include "platform/print/PrinterDialog.h"
+#include "platform/runtime/CInt.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DatePart.h"
+#include "platform/runtime/Format.h"
+#include "store/FieldValue.h"
+#include "store/Lookup.h"
+#include "store/dbAccess.h"
+#include "toolkit/FieldWalk.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+namespace {
+
+enum Field { kYear, kMonth, kFrom, kTo, kRoute };
+enum Button { kPrint, kShow, kExport };
+
+enum Column {
+    kColRte,
+    kColHaisou,
+    kColDeal,
+    kColNamae,
+    kColZenkaiGaku,
+    kColZenkaiMeter,
+    kColKonkaiMeter,
+    kColSuu,
+    kColGGaku,
+    kColUGaku,
+    kColGaku,
+    kColNGaku,
+    kColBill,
+    kColumns
+};
+
+struct Head {
+    const char16_t* title;
+    int width;
+    int alignment = AlignRightCenter;
+};
+
+constexpr std::array<Head, kColumns> kHeads{{
+    {u"ﾙｰﾄ", 600},
+    {u"順路", 800},
+    {u"ｺｰﾄﾞ", 800},
+    {u"得意先", 2400, AlignLeftCenter},
+    {u"前月残", 1200},
+    {u"前回検針値", 1200},
+    {u"今回検針値", 1200},
+    {u"使用量", 1000},
+    {u"使用料", 1200},
+    {u"物販", 1200},
+    {u"当月売上", 1200},
+    {u"入金", 1200},
+    {u"請求額", 1200},
+}};
+
+const QString kYen = QStringLiteral("#,##0");
+const QString kYenOrNothing = QStringLiteral("#,###");
+const QString kMeter = QStringLiteral("#,##0.0");
+
+constexpr int kSheetRows = 58;
+constexpr int kSheetFirstRow = 4;
+constexpr int kEraBase = 1988;  // the sheet counts its years by one era, whatever the screens do
+
+}  // namespace
+
+RepoSeikyu_frm::RepoSeikyu_frm()
+    : EntryForm(QStringLiteral("RepoSeikyu_frm"), QStringLiteral("請求一覧表")), make_(*this) {
+    layOut();
+    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
+    wireLookup(F6(0), QStringLiteral("Deal"), {}, ebox(kFrom), press, kFrom);
+    wireLookup(F6(1), QStringLiteral("Deal"), {}, ebox(kTo), press, kTo);
+    wireLookup(F6(2), QStringLiteral("Rte"), QStringLiteral("ALL"), ebox(kRoute), press, kRoute);
+    on(&Btn(kPrint), &CommandButton::Click, [this] { TrapPrinting([this] { print(); }); });
+    on(&Btn(kShow), &CommandButton::Click, [this] { show(); });
+    on(&Btn(kExport), &CommandButton::Click, [this] { exportGrid(); });
+}
+
+void RepoSeikyu_frm::layOut() {
+    constexpr int kCodeBytes = 8;
+    constexpr int kNameBytes = 30;
+    auto* body = new QVBoxLayout(this);
+    auto* head = new QHBoxLayout;
+    FieldLayout fields(*this);
+    fields.row(QStringLiteral("年月"))
+        .widget(&make_.box(ebox, kYear, 4, ImeMode::Off))
+        .note(QStringLiteral("年"))
+        .widget(&make_.box(ebox, kMonth, 2, ImeMode::Off))
+        .note(QStringLiteral("月分"));
+    sNamaeS_ = &make_.name(QStringLiteral("sNamaeS"), kNameBytes);
+    fields.row(QStringLiteral("得意先"))
+        .widget(&make_.box(ebox, kFrom, kCodeBytes, ImeMode::Off))
+        .widget(&make_.lookup(F6, 0))
+        .name(*sNamaeS_, kNameBytes);
+    sNamaeE_ = &make_.name(QStringLiteral("sNamaeE"), kNameBytes);
+    fields.row(QStringLiteral("～"))
+        .widget(&make_.box(ebox, kTo, kCodeBytes, ImeMode::Off))
+        .widget(&make_.lookup(F6, 1))
+        .name(*sNamaeE_, kNameBytes);
+    sRte_ = &make_.name(QStringLiteral("sRte"), kNameBytes);
+    fields.row(QStringLiteral("地区"))
+        .widget(&make_.box(ebox, kRoute, kCodeBytes, ImeMode::Off))
+        .widget(&make_.lookup(F6, 2))
+        .name(*sRte_, kNameBytes);
+    head->addLayout(fields.layout());
+    head->addStretch();
+
+    // Showing is what comes next after the last field, so its button leads the walk and the row.
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(&make_.button(Btn, kShow, QStringLiteral("表示")));
+    buttons->addWidget(&make_.button(Btn, kPrint, QStringLiteral("印刷")));
+    buttons->addWidget(&make_.button(Btn, kExport, QStringLiteral("Excel")));
+    buttons->addSpacing(16);
+    ChkGaku_ = new CheckBox(QStringLiteral("金額を印刷しない"), this);
+    ChkGaku_->setObjectName(QStringLiteral("ChkGaku"));
+    buttons->addWidget(ChkGaku_);
+    buttons->addStretch();
+
+    List_ = new FlexGrid(this);
+    List_->setObjectName(QStringLiteral("List"));
+    List_->SetCols(kColumns);
+    List_->SetFixedRows(1);
+    int width = 0;
+    for (int column = 0; column < kColumns; ++column) {
+        const Head& spec = kHeads[static_cast<std::size_t>(column)];
+        List_->SetColWidth(column, spec.width);
+        List_->SetColAlignment(column, spec.alignment);
+        width += Twips(spec.width);
+    }
+    constexpr int kScrollBar = 24;
+    constexpr int kGridHeight = 420;
+    List_->setMinimumSize(width + kScrollBar, kGridHeight);
+
+    body->addLayout(head);
+    body->addLayout(buttons);
+    body->addWidget(List_, 1);
+}
+
+void RepoSeikyu_frm::init() {
+    ClearControls(*this);
+    for (Label* name : {sNamaeS_, sNamaeE_, sRte_}) {
+        name->SetCaption({});
+    }
+    ChkGaku_->SetValue(0);
+    ebox(kYear).SetText(NumStr(Year(Today())));
+    ebox(kMonth).SetText(NumStr(Month(Today())));
+    writeHeads();
+    FocusSelect(ebox(kYear));
+}
+
+bool RepoSeikyu_frm::enter(int index) {
+    switch (index) {
+        case kFrom:
+            sNamaeS_->SetCaption(GetDealName(NumVal(ebox(kFrom).Text())));
+            return true;
+        case kTo:
+            sNamaeE_->SetCaption(GetDealName(NumVal(ebox(kTo).Text())));
+            return true;
+        case kRoute:
+            sRte_->SetCaption(GetName(QStringLiteral("Rte"), NumVal(ebox(kRoute).Text())));
+            SetFocus(&Btn(kShow));
+            return false;
+        default:
+            return true;
+    }
+}
+
+void RepoSeikyu_frm::writeHeads() {
+    List_->SetRows(1);
+    for (int column = 0; column < kColumns; ++column) {
+        List_->SetTextMatrix(0, column, QString::fromUtf16(kHeads[static_cast<std::size_t>(column)].title));
+    }
+}
+
+QString RepoSeikyu_frm::filter() const {
+    constexpr std::array<std::pair<int, const char16_t*>, 3> kTerms{
+        {{kFrom, u" AND Deal>="}, {kTo, u" AND Deal<="}, {kRoute, u" AND Deal.Rte="}}};
+    QString terms;
+    for (const auto& [field, term] : kTerms) {
+        const QString text = ebox(field).Text();
+        if (NumVal(text) > 0) terms += QString::fromUtf16(term) + KeepNumeric(text);
+    }
+    return terms;
+}
+
+// ---- on the screen
+
+void RepoSeikyu_frm::show() {
+    const QString year = KeepNumeric(ebox(kYear).Text());
+    const QString month = KeepNumeric(ebox(kMonth).Text());
+    writeHeads();
+    Recordset set = gDb->OpenRecordset(
+        QStringLiteral("SELECT TtoD.*, Deal.Rte,Deal.Haisou FROM TtoD "
+                       " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
+                       " WHERE Nendo =") +
+        year + QStringLiteral(" AND   Getudo=") + month + filter() +
+        QStringLiteral(" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"));
+    if (set.Eof()) return;
+    set.MoveLast();
+    const int count = CInt(set.RecordCount());
+    set.MoveFirst();
+
+    List_->SetRows(count + 2);
+    Sums sums;
+    const auto put = [this](int row, int column, const QString& text) { List_->SetTextMatrix(row, column, text); };
+    for (int row = 1; row <= count; ++row, set.MoveNext()) {
+        const std::int32_t deal = longOf(set[QStringLiteral("Deal")]);
+        const Currency zenkaiGaku = moneyOf(set[QStringLiteral("ZenkaiGaku")]);
+        const Currency gGaku = moneyOf(set[QStringLiteral("GGaku")]);
+        const Currency uGaku = moneyOf(set[QStringLiteral("UGaku")]);
+        const Currency gaku = moneyOf(set[QStringLiteral("Gaku")]);
+        const Currency nGaku = moneyOf(set[QStringLiteral("NGaku")]);
+        Currency zenkaiMeter;
+        Currency konkaiMeter;
+        Currency suu;
+        ReadMonthMeter(deal, CInt(year), CInt(month), zenkaiMeter, konkaiMeter, suu);
+        put(row, kColRte, NumStr(NullToZero(set[QStringLiteral("Rte")])));
+        put(row, kColHaisou, NumStr(NullToZero(set[QStringLiteral("Haisou")])));
+        put(row, kColDeal, NumStr(deal));
+        put(row, kColNamae, GetName(QStringLiteral("Deal"), deal));
+        put(row, kColZenkaiGaku, Format(zenkaiGaku, kYen));
+        put(row, kColZenkaiMeter, Format(zenkaiMeter, kMeter));
+        put(row, kColKonkaiMeter, Format(konkaiMeter, kMeter));
+        put(row, kColSuu, Format(suu, kMeter));
+        put(row, kColGGaku, Format(gGaku, kYenOrNothing));
+        put(row, kColUGaku, Format(uGaku, kYenOrNothing));
+        put(row, kColGaku, Format(gaku, kYenOrNothing));
+        put(row, kColNGaku, Format(nGaku, kYenOrNothing));
+        put(row, kColBill, Format(gaku + zenkaiGaku - nGaku, kYenOrNothing));
+        sums.zenkaiGaku += zenkaiGaku;
+        sums.suu += suu;
+        sums.gGaku += gGaku;
+        sums.uGaku += uGaku;
+        sums.gaku += gaku;
+        sums.nGaku += nGaku;
+    }
+    const int last = count + 1;
+    put(last, kColNamae, QStringLiteral("合計"));
+    put(last, kColZenkaiGaku, Format(sums.zenkaiGaku, kYen));
+    put(last, kColSuu, Format(sums.suu, kMeter));
+    put(last, kColGGaku, Format(sums.gGaku, kYen));
+    put(last, kColUGaku, Format(sums.uGaku, kYen));
+    put(last, kColGaku, Format(sums.gaku, kYen));
+    put(last, kColNGaku, Format(sums.nGaku, kYen));
+    put(last, kColBill, Format(sums.gaku + sums.zenkaiGaku - sums.nGaku, kYen));
+    List_->Refresh();
+}
+
+void RepoSeikyu_frm::exportGrid() {
+    const QString colon = QStringLiteral(" : ");
+    GridToExcel(QStringLiteral("請求一覧"),
+                ebox(kYear).Text() + QStringLiteral("/") + ebox(kMonth).Text() + QStringLiteral("分 ") +
+                    QStringLiteral(" ルート : ") + ebox(kRoute).Text() + colon + sRte_->Caption(),
+                ebox(kFrom).Text() + colon + sNamaeS_->Caption() + QStringLiteral(" ～ ") + ebox(kTo).Text() + colon +
+                    sNamaeE_->Caption(),
+                *List_);
+}
+
+// ---- on paper
+
+void RepoSeikyu_frm::print() {
+    ShowPrinter();
+    Recordset set = gDb->OpenRecordset(
+        QStringLiteral("SELECT TtoD.* FROM TtoD "
+                       " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
+                       " WHERE Nendo= ") +
+        KeepNumeric(ebox(kYear).Text()) + QStringLiteral(" AND   Getudo=") + KeepNumeric(ebox(kMonth).Text()) +
+        filter() + QStringLiteral(" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"));
+    if (set.Eof()) return;
+    printed_ = {};
+    ExcelOpenPaged(QStringLiteral("請求一覧表"), kSheetRows, kSheetFirstRow);
+    SetReport(this, std::move(set));
+    ExcelRunPaged();
+}
+
+void RepoSeikyu_frm::ClrDetail() { ExcelCell(QStringLiteral("B5:K61"), {}); }
+
+void RepoSeikyu_frm::PrintOutHead(int /*page*/) {
+    const int year = CInt(KeepNumeric(ebox(kYear).Text()));
+    ExcelCell(QStringLiteral("F2"), QStringLiteral("平成") + NumStr(year - kEraBase) + QStringLiteral("年") +
+                                        KeepNumeric(ebox(kMonth).Text()) + QStringLiteral("月"));
+}
+
+void RepoSeikyu_frm::PrintOutDetail(int row, Recordset& set) {
+    const std::int32_t deal = longOf(set[QStringLiteral("Deal")]);
+    Currency zenkaiMeter;
+    Currency konkaiMeter;
+    Currency suu;
+    ReadMonthMeter(deal, CInt(KeepNumeric(ebox(kYear).Text())), CInt(KeepNumeric(ebox(kMonth).Text())), zenkaiMeter,
+                   konkaiMeter, suu);
+    const auto put = [row](char16_t column, const QString& text) { ExcelCell(QChar(column) + NumStr(row), text); };
+    put(u'B', NumStr(deal));
+    put(u'C', GetName(QStringLiteral("Deal"), deal));
+    put(u'D', NumStr(zenkaiMeter));
+    put(u'E', NumStr(konkaiMeter));
+    put(u'F', NumStr(suu));
+    printed_.suu += suu;
+    if (!withAmounts()) return;
+
+    const Currency gGaku = moneyOf(set[QStringLiteral("GGaku")]);
+    const Currency uGaku = moneyOf(set[QStringLiteral("UGaku")]);
+    const Currency gaku = moneyOf(set[QStringLiteral("Gaku")]);
+    const Currency zenkaiGaku = moneyOf(set[QStringLiteral("ZenkaiGaku")]);
+    put(u'G', NumStr(gGaku));
+    put(u'H', NumStr(uGaku));
+    put(u'I', NumStr(gaku));
+    put(u'J', NumStr(zenkaiGaku));
+    put(u'K', NumStr(gaku + zenkaiGaku));
+    printed_.gGaku += gGaku;
+    printed_.uGaku += uGaku;
+    printed_.gaku += gaku;
+    printed_.zenkaiGaku += zenkaiGaku;
+}
+
+void RepoSeikyu_frm::PrintOutDetailGokei(int /*line*/, int /*firstRow*/, int /*page*/) {
+    ExcelCell(QStringLiteral("F63"), NumStr(printed_.suu));
+    if (withAmounts()) {
+        ExcelCell(QStringLiteral("G63"), NumStr(printed_.gGaku));
+        ExcelCell(QStringLiteral("H63"), NumStr(printed_.uGaku));
+        ExcelCell(QStringLiteral("I63"), NumStr(printed_.gaku));
+        ExcelCell(QStringLiteral("J63"), NumStr(printed_.zenkaiGaku));
+        ExcelCell(QStringLiteral("K63"), NumStr(printed_.gaku + printed_.zenkaiGaku));
+        return;
+    }
+    for (const char16_t column : {u'G', u'H', u'I', u'J', u'K'}) {
+        ExcelCell(QChar(column) + QStringLiteral("62"), {});
+        ExcelCell(QChar(column) + QStringLiteral("63"), {});
+    }
+}
+
+}  // namespace akarix
