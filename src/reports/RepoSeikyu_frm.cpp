@@ -201,12 +201,11 @@ void RepoSeikyu_frm::show() {
     const QString year = KeepNumeric(ebox(kYear).Text());
     const QString month = KeepNumeric(ebox(kMonth).Text());
     writeHeads();
-    Recordset set = gDb->OpenRecordset(
-        QStringLiteral("SELECT TtoD.*, Deal.Rte,Deal.Haisou FROM TtoD "
-                       " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
-                       " WHERE Nendo =") +
-        year + QStringLiteral(" AND   Getudo=") + month + filter() +
-        QStringLiteral(" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"));
+    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT TtoD.*, Deal.Rte,Deal.Haisou FROM TtoD "
+                                                      " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
+                                                      " WHERE Nendo =") +
+                                       year + QStringLiteral(" AND   Getudo=") + month + filter() +
+                                       QStringLiteral(" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"));
     if (set.Eof()) return;
     set.MoveLast();
     const int count = CInt(set.RecordCount());
@@ -214,7 +213,9 @@ void RepoSeikyu_frm::show() {
 
     List_->SetRows(count + 2);
     Sums sums;
-    const auto put = [this](int row, int column, const QString& text) { List_->SetTextMatrix(row, column, text); };
+    const auto put = [this](int row, int column, const QString& text) {
+        List_->SetTextMatrix(row, column, text);
+    };
     for (int row = 1; row <= count; ++row, set.MoveNext()) {
         const std::int32_t deal = longOf(set[QStringLiteral("Deal")]);
         const Currency zenkaiGaku = moneyOf(set[QStringLiteral("ZenkaiGaku")]);
@@ -263,8 +264,8 @@ void RepoSeikyu_frm::exportGrid() {
     GridToExcel(QStringLiteral("請求一覧"),
                 ebox(kYear).Text() + QStringLiteral("/") + ebox(kMonth).Text() + QStringLiteral("分 ") +
                     QStringLiteral(" ルート : ") + ebox(kRoute).Text() + colon + sRte_->Caption(),
-                ebox(kFrom).Text() + colon + sNamaeS_->Caption() + QStringLiteral(" ～ ") + ebox(kTo).Text() + colon +
-                    sNamaeE_->Caption(),
+                ebox(kFrom).Text() + colon + sNamaeS_->Caption() + QStringLiteral(" ～ ") + ebox(kTo).Text() +
+                    colon + sNamaeE_->Caption(),
                 *List_);
 }
 
@@ -272,12 +273,12 @@ void RepoSeikyu_frm::exportGrid() {
 
 void RepoSeikyu_frm::print() {
     ShowPrinter();
-    Recordset set = gDb->OpenRecordset(
-        QStringLiteral("SELECT TtoD.* FROM TtoD "
-                       " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
-                       " WHERE Nendo= ") +
-        KeepNumeric(ebox(kYear).Text()) + QStringLiteral(" AND   Getudo=") + KeepNumeric(ebox(kMonth).Text()) +
-        filter() + QStringLiteral(" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"));
+    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT TtoD.* FROM TtoD "
+                                                      " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
+                                                      " WHERE Nendo= ") +
+                                       KeepNumeric(ebox(kYear).Text()) + QStringLiteral(" AND   Getudo=") +
+                                       KeepNumeric(ebox(kMonth).Text()) + filter() +
+                                       QStringLiteral(" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"));
     if (set.Eof()) return;
     printed_ = {};
     ExcelOpenPaged(QStringLiteral("請求一覧表"), kSheetRows, kSheetFirstRow);
@@ -285,7 +286,9 @@ void RepoSeikyu_frm::print() {
     ExcelRunPaged();
 }
 
-void RepoSeikyu_frm::ClrDetail() { ExcelCell(QStringLiteral("B5:K61"), {}); }
+void RepoSeikyu_frm::ClrDetail() {
+    ExcelCell(QStringLiteral("B5:K61"), {});
+}
 
 void RepoSeikyu_frm::PrintOutHead(int /*page*/) {
     const int year = CInt(KeepNumeric(ebox(kYear).Text()));
@@ -298,9 +301,11 @@ void RepoSeikyu_frm::PrintOutDetail(int row, Recordset& set) {
     Currency zenkaiMeter;
     Currency konkaiMeter;
     Currency suu;
-    ReadMonthMeter(deal, CInt(KeepNumeric(ebox(kYear).Text())), CInt(KeepNumeric(ebox(kMonth).Text())), zenkaiMeter,
-                   konkaiMeter, suu);
-    const auto put = [row](char16_t column, const QString& text) { ExcelCell(QChar(column) + NumStr(row), text); };
+    ReadMonthMeter(deal, CInt(KeepNumeric(ebox(kYear).Text())), CInt(KeepNumeric(ebox(kMonth).Text())),
+                   zenkaiMeter, konkaiMeter, suu);
+    const auto put = [row](char16_t column, const QString& text) {
+        ExcelCell(QChar(column) + NumStr(row), text);
+    };
     put(u'B', NumStr(deal));
     put(u'C', GetName(QStringLiteral("Deal"), deal));
     put(u'D', NumStr(zenkaiMeter));
