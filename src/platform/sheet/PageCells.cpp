@@ -9,25 +9,15 @@ PageCells::PageCells(const Sheet& sheet, const PageGrid& grid) : sheet_(sheet), 
     cells_.resize(count);
     styles_.resize(count);
     merges_.assign(count, NoMerge);
-    if (count == 0) return;
 
-    std::vector<const CellStyle*> columnStyles;
-    for (const int column : grid.columns) {
-        const auto own = sheet.columnStyles.find(column);
-        columnStyles.push_back(
-            &sheet.styles[own == sheet.columnStyles.end() ? 0 : static_cast<size_t>(own->second)]);
-    }
     for (int r = 0; r < grid.rowCount(); ++r) {
-        std::copy(columnStyles.begin(), columnStyles.end(),
-                  styles_.begin() + static_cast<std::ptrdiff_t>(grid.index(r, 0)));
-        const int row = grid.rows[static_cast<size_t>(r)];
-        for (auto it = sheet.cells.lower_bound({row, grid.columns.front()});
-             it != sheet.cells.end() && it->first.row == row && it->first.column <= grid.columns.back();
-             ++it) {
-            const auto [c, end] = grid.columnsBetween(it->first.column, it->first.column);
-            if (c == end) continue;
-            cells_[grid.index(r, c)] = &it->second;
-            styles_[grid.index(r, c)] = &sheet.styles[static_cast<size_t>(it->second.style)];
+        for (int c = 0; c < grid.columnCount(); ++c) {
+            const CellAddress here{grid.rows[static_cast<size_t>(r)], grid.columns[static_cast<size_t>(c)]};
+            const auto held = sheet.cells.find(here);
+            const bool own = held != sheet.cells.end();
+            cells_[grid.index(r, c)] = own ? &held->second : nullptr;
+            styles_[grid.index(r, c)] =
+                own ? &sheet.styles[static_cast<size_t>(held->second.style)] : &sheet.styleAt(here);
         }
     }
     for (size_t i = 0; i < sheet.merges.size(); ++i) {

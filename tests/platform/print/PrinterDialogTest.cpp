@@ -1,0 +1,131 @@
+#include "platform/print/PrinterDialog.h"
+
+#include <QDir>
+#include <QFile>
+#include <QListWidget>
+#include <QTemporaryDir>
+
+#include "platform/forms/Label.h"
+#include "platform/forms/TextBox.h"
+#include "platform/print/AskSavePath.h"
+#include "platform/print/FileName.h"
+#include "platform/print/PreviewPages.h"
+#include "platform/print/Printer.h"
+#include "platform/runtime/RuntimeError.h"
+#include "support/ScreenTest.h"
+
+namespace akarix {
+namespace {
+
+class PrinterDialogTest : public ScreenTest {
+ protected:
+    void choosePdf() {
+        auto& printers = clerk.find<QListWidget>("Printers");
+        printers.setCurrentRow(printers.count() - 1);
+    }
+    void typePath(const QString& path) {
+        clerk.find<TextBox>("Path").SetText(path);
+        clerk.find<TextBox>("Path").setFocus();
+    }
+    bool cancelled() {
+        try {
+            ShowPrinter();
+        } catch (const RuntimeError& error) {
+            return error.number() == 32755;
+        }
+        return false;
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(PrinterDialogTest, EnterPrintsToTheTypedFile) {
+    clerk.expect("Printer_frm", [&](QWidget&) {
+        choosePdf();
+        typePath(folder.filePath("list"));
+        clerk.enter();
+    });
+    ShowPrinter();
+    EXPECT_TRUE(Printer::Current().IsPdf());
+    EXPECT_EQ(Printer::Current().PdfPath(), folder.filePath("list.pdf"));
+}
+
+TEST_F(PrinterDialogTest, LeavingIsACancel) {
+    const QString before = Printer::Current().PdfPath();
+    const std::vector<std::function<void(QWidget&)>> ways = {
+        [&](QWidget&) { clerk.press(Qt::Key_Escape); },
+        [&](QWidget&) { clerk.click("Cancel"); },
+        [&](QWidget& dialog) { clerk.closeBox(dialog); },
+    };
+    for (const auto& way : ways) {
+        clerk.expect("Printer_frm", way);
+        EXPECT_TRUE(cancelled());
+    }
+    EXPECT_EQ(Printer::Current().PdfPath(), before);
+}
+
+TEST_F(PrinterDialogTest, AFolderThatIsNotThereIsToldAndTheDialogStays) {
+    clerk.expect("Printer_frm", [&](QWidget&) {
+        choosePdf();
+        typePath(folder.filePath("gone/list.pdf"));
+        clerk.enter();
+        EXPECT_TRUE(clerk.text("Message").contains("ありません")) << clerk.text("Message").toStdString();
+        typePath(folder.filePath("list.pdf"));
+        clerk.click("Print");
+    });
+    ShowPrinter();
+    EXPECT_EQ(Printer::Current().PdfPath(), folder.filePath("list.pdf"));
+}
+
+TEST_F(PrinterDialogTest, AnExistingFileIsTakenAtTheSecondEnter) {
+    const QString path = folder.filePath("a.xlsx");
+    QFile(path).open(QIODevice::WriteOnly);
+    clerk.expect("SaveAs_frm", [&](QWidget&) {
+        typePath(path);
+        clerk.enter();
+        EXPECT_TRUE(clerk.text("Message").contains("上書き"));
+        clerk.enter();
+    });
+    EXPECT_EQ(AskSavePath("保存", "b.xlsx"), path);
+
+    clerk.expect("SaveAs_frm", [&](QWidget&) { clerk.press(Qt::Key_Escape); });
+    EXPECT_EQ(AskSavePath("保存", "b.xlsx"), QString());
+}
+
+TEST_F(PrinterDialogTest, NamesBecomeFileNames) {
+    EXPECT_EQ(SafeFileName("請求/4月: \"A\""), "請求／4月： ＂A＂");
+    QFile(folder.filePath("a.pdf")).open(QIODevice::WriteOnly);
+    QFile(folder.filePath("a (2).pdf")).open(QIODevice::WriteOnly);
+    EXPECT_EQ(FreePath(folder.filePath("a.pdf")), folder.filePath("a (3).pdf"));
+}
+
+class PreviewTest : public ScreenTest {};
+
+TEST_F(PreviewTest, DrawsOnlyWhatIsSeenAndWalksByKeys) {
+    std::set<int> drawn;
+    std::vector<PrintPage> pages;
+    for (int i = 0; i < 100; ++i) {
+        pages.push_back({QSizeF(595, 842), [i, &drawn](QPainter&) { drawn.insert(i); }});
+    }
+    clerk.expect("Preview_frm", [&](QWidget&) {
+        auto& view = clerk.find<PreviewPages>("Pages");
+        view.viewport()->grab();
+        EXPECT_LE(drawn.size(), 3u);
+        clerk.press(Qt::Key_PageDown);
+        EXPECT_EQ(view.currentPage(), 1);
+        EXPECT_EQ(clerk.text("Place"), "2 / 100 頁");
+        clerk.press(Qt::Key_End);
+        view.viewport()->grab();
+        EXPECT_EQ(view.currentPage(), 99);
+        EXPECT_TRUE(drawn.contains(99));
+        view.setZoom(150);
+        EXPECT_EQ(view.currentPage(), 99);
+        clerk.press(Qt::Key_Escape);
+    });
+    ShowPreview("一覧", pages);
+    EXPECT_FALSE(clerk.isOpen("Preview_frm"));
+    EXPECT_LE(drawn.size(), 10u);
+}
+
+}  // namespace
+}  // namespace akarix
