@@ -90,7 +90,9 @@ TEST_F(PrintSinkTest, TargetsThatCannotBeWrittenRaise482) {
 }
 
 TEST(PaperFontTest, SpellingsOfAFontGiveTheSameOne) {
-    const auto family = [](const char* name) { return FontOnPaper({QString(name), 10}).font().families().front(); };
+    const auto family = [](const char* name) {
+        return FontOnPaper({QString(name), 10}).font().families().front();
+    };
     EXPECT_EQ(family("ＭＳ Ｐゴシック"), family("MS PGothic"));
     EXPECT_EQ(family("ＭＳ 明朝"), family("MS Mincho"));
     EXPECT_EQ(family("MS ゴシック"), family("ＭＳ ゴシック"));
