@@ -4,14 +4,10 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/forms/ComboBox.h"
-#include "platform/forms/CommandButton.h"
-#include "platform/forms/Label.h"
+#include "platform/forms/FieldLayout.h"
 #include "platform/forms/MemoBox.h"
-#include "platform/forms/TextBox.h"
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/Format.h"
-#include "toolkit/ControlMaker.h"
 #include "toolkit/Evaluate.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumVal.h"
@@ -36,25 +32,28 @@ Dentaku_frm::Dentaku_frm() : Form(QStringLiteral("電卓"), QStringLiteral("メ�
     setFixedSize(Twips(3825), Twips(5715));
     move(0, 0);
 
-    ControlMaker make(*this);
-    eSiki_ = &Named(new MemoBox(this), QStringLiteral("eSiki"));
-    eAns_ = &make.box(QStringLiteral("eAns"), 0, ImeMode::Off);
+    eSiki_ = &Named(new MemoBox, QStringLiteral("eSiki"));
+    eAns_ = &Named(new TextBox, QStringLiteral("eAns"));
+    eAns_->SetIMEMode(ImeMode::Off);
     eAns_->setAlignment(Qt::AlignRight);
-    Combo1_ = &make.combo(QStringLiteral("Combo1"));
+    Combo1_ = &Named(new ComboBox, QStringLiteral("Combo1"));
     for (int decimals = 0; decimals < 4; ++decimals) {
         Combo1_->AddItem(QString::number(decimals), decimals);
     }
     Combo1_->SetListIndex(1);
-    CommandButton& clear = make.button(QStringLiteral("Command1"), QStringLiteral("クリア"));
+    CommandButton& clear = Named(new CommandButton(QStringLiteral("クリア")), QStringLiteral("Command1"));
+    for (QWidget* control : std::initializer_list<QWidget*>{eSiki_, eAns_, Combo1_, &clear}) {
+        JoinWalk(*this, *control);
+    }
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
-    layout->addWidget(new Label(QStringLiteral("式を入れてEnterを押して下さい。"), this), 0, 0, 1, 2);
+    layout->addWidget(new Label(QStringLiteral("式を入れてEnterを押して下さい。")), 0, 0, 1, 2);
     layout->addWidget(eSiki_, 1, 0, 1, 2);
-    layout->addWidget(new Label(QStringLiteral("掛け算 = *"), this), 2, 0);
-    layout->addWidget(new Label(QStringLiteral("割り算 = /"), this), 2, 1);
+    layout->addWidget(new Label(QStringLiteral("掛け算 = *")), 2, 0);
+    layout->addWidget(new Label(QStringLiteral("割り算 = /")), 2, 1);
     layout->addWidget(eAns_, 3, 0, 1, 2);
-    layout->addWidget(new Label(QStringLiteral("少数以下"), this), 4, 0);
+    layout->addWidget(new Label(QStringLiteral("少数以下")), 4, 0);
     layout->addWidget(Combo1_, 4, 1);
     layout->addWidget(&clear, 5, 1);
     layout->setRowStretch(1, 1);

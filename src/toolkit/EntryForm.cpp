@@ -5,6 +5,12 @@
 
 namespace akarix {
 
+TextBox& EntryForm::addBox(ControlArray<TextBox>& boxes, int index, ImeMode ime) {
+    TextBox& box = boxes.add(index, new TextBox);
+    box.SetIMEMode(ime);
+    return box;
+}
+
 EntryForm::PressEnter EntryForm::wireKeys(const ControlArray<TextBox>& boxes, EnterRule enter) {
     const PressEnter press = [this, boxes, enter = std::move(enter)](int index) {
         if (!enter(index)) return;

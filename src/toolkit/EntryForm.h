@@ -20,6 +20,9 @@ class EntryForm : public Form {
     /// Does what Enter does in the field of that index, wherever the focus is.
     using PressEnter = std::function<void(int index)>;
 
+    /// A new field of an array, with its input method.
+    static TextBox& addBox(ControlArray<TextBox>& boxes, int index, ImeMode ime);
+
     /// Wires the keys of an array of fields. May be called for each array of a form.
     PressEnter wireKeys(const ControlArray<TextBox>& boxes, EnterRule enter);
 

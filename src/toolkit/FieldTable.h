@@ -32,7 +32,7 @@ struct FieldLookup {
 };
 
 /// One field of a master screen.
-struct FieldRow {
+struct MasterField {
     int index = 0;  ///< of ebox
     QString label;
     QString column;  ///< empty: on the screen only
@@ -44,10 +44,10 @@ struct FieldRow {
     std::optional<FieldLookup> lookup = {};
     QString nameLabel = {};  ///< the label that shows the code's name, as "sRte"
     NameRule nameOf = {};
-    int pane = 0;  ///< panes stand side by side, fields below each other in their pane
+    bool newColumn = false;  ///< stands at the top of the next column of fields
 };
 
 /// The fields of a screen in the order of the walk.
-using FieldTable = std::vector<FieldRow>;
+using FieldTable = std::vector<MasterField>;
 
 }  // namespace akarix

@@ -1,10 +1,6 @@
 #include "toolkit/HelpDeal_frm.h"
 
-#include <QGridLayout>
-#include <QVBoxLayout>
-
 #include "store/Lookup.h"
-#include "toolkit/ControlMaker.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
@@ -24,28 +20,19 @@ constexpr int kCodeColumn = 1;
 }  // namespace
 
 HelpDeal_frm::HelpDeal_frm() : LookupForm(QStringLiteral("HelpDeal_frm")) {
-    ControlMaker make(*this);
-    auto* search = new QGridLayout;
-    search->addWidget(&make.caption(QStringLiteral("ﾌﾘｶﾞﾅ")), 0, 0);
-    search->addWidget(&make.box(ebox, 0, 30, ImeMode::KatakanaHalf), 0, 1, Qt::AlignLeft);
-    search->addWidget(&make.caption(QStringLiteral("名前")), 1, 0);
-    search->addWidget(&make.box(ebox, 1, 40, ImeMode::Hiragana), 1, 1, Qt::AlignLeft);
-    auto* route = new QHBoxLayout;
-    route->addWidget(&make.box(ebox, 2, 5, ImeMode::Off));
-    route->addWidget(&make.lookup(F6, 0));
-    sRte = &make.name(QStringLiteral("sRte"), 30);
-    route->addWidget(sRte, 1);
-    search->addWidget(&make.caption(QStringLiteral("地区")), 2, 0);
-    search->addLayout(route, 2, 1);
-    search->addWidget(&make.button(Btn, 0, QStringLiteral("さがす")), 0, 3);
-    CommandButton& clear = make.button(QStringLiteral("Command1"), QStringLiteral("クリア"));
-    search->addWidget(&clear, 1, 3);
-    search->setColumnStretch(2, 1);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->addLayout(search);
-    layout->addWidget(&make.caption(QStringLiteral("クリックで決定")));
-    layout->addWidget(&List(), 1);
+    FieldLayout search(*this);
+    search.row(QStringLiteral("ﾌﾘｶﾞﾅ")).text(addBox(ebox, 0, ImeMode::KatakanaHalf), 30);
+    search.row(QStringLiteral("名前")).text(addBox(ebox, 1, ImeMode::Hiragana), 40);
+    sRte = &Named(new Label, QStringLiteral("sRte"));
+    search.row(QStringLiteral("地区"))
+        .text(addBox(ebox, 2, ImeMode::Off), 5)
+        .lookup(F6.add(0, new Image))
+        .name(*sRte, 30);
+    QHBoxLayout* buttons = ButtonBar(*this, Btn, {QStringLiteral("さがす")});
+    CommandButton& clear = Named(new CommandButton(QStringLiteral("クリア")), QStringLiteral("Command1"));
+    JoinWalk(*this, clear);
+    buttons->addWidget(&clear);
+    layOut(&search, buttons);
     List().SetFixedRows(1);
     showColumns(kColumns);
     empty();

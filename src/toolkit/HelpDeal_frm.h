@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/forms/CommandButton.h"
 #include "toolkit/LookupForm.h"
 
 namespace akarix {

@@ -1,9 +1,5 @@
 #include "toolkit/Help_frm.h"
 
-#include <QGridLayout>
-#include <QVBoxLayout>
-
-#include "toolkit/ControlMaker.h"
 #include "toolkit/FieldWalk.h"
 
 namespace akarix {
@@ -21,20 +17,10 @@ const std::vector<ListColumn> kOthers = {{QStringLiteral("Code"), 800, {}, {}},
 }  // namespace
 
 Help_frm::Help_frm() : LookupForm(QStringLiteral("Help_frm")) {
-    ControlMaker make(*this);
-    auto* search = new QGridLayout;
-    search->addWidget(&make.caption(QStringLiteral("ﾌﾘｶﾞﾅ")), 0, 0);
-    search->addWidget(&make.box(ebox, 0, 30, ImeMode::KatakanaHalf), 0, 1);
-    search->addWidget(&make.caption(QStringLiteral("名前")), 1, 0);
-    search->addWidget(&make.box(ebox, 1, 40, ImeMode::Hiragana), 1, 1);
-    search->addWidget(&make.button(Btn, 0, QStringLiteral("さがす")), 0, 3);
-    search->addWidget(&make.button(Btn, 1, QStringLiteral("クリア")), 1, 3);
-    search->setColumnStretch(2, 1);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->addLayout(search);
-    layout->addWidget(&make.caption(QStringLiteral("クリックで決定")));
-    layout->addWidget(&List(), 1);
+    FieldLayout search(*this);
+    search.row(QStringLiteral("ﾌﾘｶﾞﾅ")).text(addBox(ebox, 0, ImeMode::KatakanaHalf), 30);
+    search.row(QStringLiteral("名前")).text(addBox(ebox, 1, ImeMode::Hiragana), 40);
+    layOut(&search, ButtonBar(*this, Btn, {QStringLiteral("さがす"), QStringLiteral("クリア")}));
     List().SetFixedRows(0);
     List().SetRows(0);
 

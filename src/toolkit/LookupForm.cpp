@@ -68,10 +68,24 @@ void LookupForm::empty() {
     List_->Refresh();
 }
 
-void LookupForm::layOutSlips(const std::vector<ListColumn>& columns) {
+void LookupForm::layOut(FieldLayout* search, QHBoxLayout* buttons) {
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new Label(QStringLiteral("クリックで決定"), this));
+    auto* hint = new QHBoxLayout;
+    hint->addWidget(new Label(QStringLiteral("クリックで決定")));
+    hint->addStretch();
+    if (search) {
+        auto* fields = new QHBoxLayout;
+        fields->addLayout(search->layout());
+        fields->addStretch();
+        layout->addLayout(fields);
+        hint->addLayout(buttons);
+    }
+    layout->addLayout(hint);
     layout->addWidget(List_, 1);
+}
+
+void LookupForm::layOutSlips(const std::vector<ListColumn>& columns) {
+    layOut(nullptr, nullptr);
     List_->SetFixedRows(1);
     showColumns(columns);
     empty();

@@ -3,6 +3,7 @@
 #include <QString>
 #include <vector>
 
+#include "platform/forms/FieldLayout.h"
 #include "platform/forms/FlexGrid.h"
 #include "toolkit/EntryForm.h"
 
@@ -35,7 +36,9 @@ class LookupForm : public EntryForm {
     /// Shows the rows of a query below the head row, if there is one. No rows leave the list as it is.
     void fill(const QString& sql, const std::vector<ListColumn>& columns);
     void empty();
-    /// The layout of a list without search fields: head row, hint, and a click that picks column 0.
+    /// Search fields and their buttons, where a list has them, above the hint and the list.
+    void layOut(FieldLayout* search, QHBoxLayout* buttons);
+    /// A list without a search: a head row, and a click that picks column 0.
     void layOutSlips(const std::vector<ListColumn>& columns);
 
  private:

@@ -1,6 +1,5 @@
 #include "toolkit/MasterForm.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -22,7 +21,7 @@ namespace {
 constexpr int kCode = 0;
 constexpr int kNameBytes = 30;
 
-Variant storedValue(const FieldRow& field, const QString& text) {
+Variant storedValue(const MasterField& field, const QString& text) {
     switch (field.kind) {
         case FieldKind::Long:
             return CLng(NumVal(text));
@@ -36,7 +35,7 @@ Variant storedValue(const FieldRow& field, const QString& text) {
     return EmptyToBlank(field.bytes > 0 ? CutBytes(text, field.bytes) : text);
 }
 
-QString shownText(const FieldRow& field, const Variant& value) {
+QString shownText(const MasterField& field, const Variant& value) {
     const Variant known = field.kind == FieldKind::Text ? Variant(NullToEmpty(value)) : NullToZero(value);
     return field.display ? field.display(known) : NullToEmpty(known);
 }
@@ -46,12 +45,13 @@ QString shownText(const FieldRow& field, const Variant& value) {
 MasterForm::MasterForm(const QString& name, const QString& caption, MasterTexts texts)
     : EntryForm(name, caption),
       texts_(std::move(texts)),
-      make_(*this),
       body_(new QVBoxLayout(this)),
-      panes_(new QHBoxLayout),
-      buttonRow_(new QHBoxLayout) {
-    body_->addLayout(panes_);
-    panes_->setSpacing(24);
+      rows_(*this),
+      buttonRow_(new QHBoxLayout),
+      cmdLeft_(&Named(new CommandButton(QStringLiteral("←")), QStringLiteral("cmdLeft"))),
+      cmdRight_(&Named(new CommandButton(QStringLiteral("→")), QStringLiteral("cmdRight"))) {
+    body_->setSpacing(16);
+    body_->addLayout(rows_.layout());
 }
 
 void MasterForm::init() {
@@ -60,55 +60,35 @@ void MasterForm::init() {
 
 // ---- layout
 
-QGridLayout& MasterForm::pane(int number) {
-    while (static_cast<int>(grids_.size()) <= number) {
-        auto* column = new QVBoxLayout;
-        grids_.push_back(new QGridLayout);
-        column->addLayout(grids_.back());
-        column->addStretch();
-        panes_->addLayout(column);
-    }
-    return *grids_[static_cast<std::size_t>(number)];
-}
-
 void MasterForm::addFields(const FieldTable& fields) {
     fields_ = fields;
-    for (const FieldRow& field : fields_) {
+    for (const MasterField& field : fields_) {
         addField(field);
     }
-    panes_->addStretch();
 }
 
-void MasterForm::addField(const FieldRow& field) {
-    auto* line = new QHBoxLayout;
-    line->addWidget(&make_.box(ebox, field.index, field.bytes, field.ime));
-    if (field.lookup) line->addWidget(&make_.lookup(F6, field.lookup->picture));
+void MasterForm::addField(const MasterField& field) {
+    if (field.newColumn) rows_.nextColumn();
+    FieldRow row = rows_.row(field.label);
+    row.text(addBox(ebox, field.index, field.ime), field.bytes);
+    if (field.lookup) row.lookup(F6.add(field.lookup->picture, new Image));
     if (!field.nameLabel.isEmpty()) {
-        Label& name = make_.name(field.nameLabel, kNameBytes);
+        Label& name = Named(new Label, field.nameLabel);
         names_[field.nameLabel] = &name;
-        line->addWidget(&name);
+        row.name(name, kNameBytes);
     }
-    if (!field.note.isEmpty()) line->addWidget(&make_.caption(field.note));
-    line->addStretch();
-    QGridLayout& grid = pane(field.pane);
-    const int row = grid.rowCount();
-    grid.addWidget(&make_.caption(field.label), row, 0);
-    grid.addLayout(line, row, 1);
+    if (!field.note.isEmpty()) row.note(field.note);
 }
 
 void MasterForm::addButtons() {
     // Save comes first in the walk: Enter in the last field and Enter again store the row.
-    CommandButton& save = make_.button(Btn, 2, QStringLiteral("保存"));
-    CommandButton& empty = make_.button(Btn, 0, QStringLiteral("画面クリア"));
-    CommandButton& erase = make_.button(Btn, 1, QStringLiteral("削除"));
-    cmdLeft_ = &make_.button(QStringLiteral("cmdLeft"), QStringLiteral("←"));
-    cmdRight_ = &make_.button(QStringLiteral("cmdRight"), QStringLiteral("→"));
-    for (CommandButton* button : {&save, &empty, &erase}) {
+    for (CommandButton* button : {&Btn.add(2, new CommandButton(QStringLiteral("保存"))),
+                                  &Btn.add(0, new CommandButton(QStringLiteral("画面クリア"))),
+                                  &Btn.add(1, new CommandButton(QStringLiteral("削除"))), cmdLeft_, cmdRight_}) {
+        if (button == cmdLeft_) buttonRow_->addStretch();
+        JoinWalk(*this, *button);
         buttonRow_->addWidget(button);
     }
-    buttonRow_->addStretch();
-    buttonRow_->addWidget(cmdLeft_);
-    buttonRow_->addWidget(cmdRight_);
     body_->addStretch();
     body_->addLayout(buttonRow_);
     wire();
@@ -120,7 +100,7 @@ Label& MasterForm::nameLabel(const QString& name) const {
 
 void MasterForm::wire() {
     press_ = wireKeys(ebox, [this](int index) { return enter(index); });
-    for (const FieldRow& field : fields_) {
+    for (const MasterField& field : fields_) {
         if (!field.lookup) continue;
         wireLookup(F6(field.lookup->picture), field.lookup->table, field.lookup->mode, ebox(field.index),
                    press_, field.index);
@@ -140,7 +120,7 @@ QString MasterForm::codeText() const {
 
 bool MasterForm::enter(int index) {
     if (index == kCode) load();
-    for (const FieldRow& field : fields_) {
+    for (const MasterField& field : fields_) {
         if (field.index == index) showName(field);
     }
     return true;
@@ -173,7 +153,7 @@ void MasterForm::load() {
 }
 
 void MasterForm::show(Recordset& row) {
-    for (const FieldRow& field : fields_) {
+    for (const MasterField& field : fields_) {
         if (field.column.isEmpty()) continue;
         ebox(field.index).SetText(shownText(field, row[field.column]));
         showName(field);
@@ -181,7 +161,7 @@ void MasterForm::show(Recordset& row) {
     showExtras(row);
 }
 
-void MasterForm::showName(const FieldRow& field) {
+void MasterForm::showName(const MasterField& field) {
     if (field.nameOf) nameLabel(field.nameLabel).SetCaption(field.nameOf(NumVal(ebox(field.index).Text())));
 }
 
@@ -216,7 +196,7 @@ void MasterForm::save() {
     } else {
         row.Edit();
     }
-    for (const FieldRow& field : fields_) {
+    for (const MasterField& field : fields_) {
         const bool isKey = field.index == kCode;
         if (field.column.isEmpty() || (isKey && !isNew)) continue;
         row.Fields(field.column) = storedValue(field, ebox(field.index).Text());

@@ -4,13 +4,11 @@
 #include <vector>
 
 #include "platform/forms/CommandButton.h"
+#include "platform/forms/FieldLayout.h"
 #include "platform/jet/Recordset.h"
-#include "toolkit/ControlMaker.h"
 #include "toolkit/EntryForm.h"
 #include "toolkit/FieldTable.h"
 
-class QGridLayout;
-class QHBoxLayout;
 class QVBoxLayout;
 
 namespace akarix {
@@ -41,8 +39,9 @@ class MasterForm : public EntryForm {
     void addFields(const FieldTable& fields);
     void addButtons();
 
-    ControlMaker& make() { return make_; }
-    /// Where a screen puts what it has besides its fields: below them, above the buttons; and the button row.
+    /// Where a screen puts what it has besides its fields: rows after theirs; anything below them; and further
+    /// buttons, when the usual ones stand.
+    FieldLayout& layoutOfFields() { return rows_; }
     QVBoxLayout& body() { return *body_; }
     QHBoxLayout& buttonRow() { return *buttonRow_; }
     Label& nameLabel(const QString& name) const;
@@ -78,26 +77,23 @@ class MasterForm : public EntryForm {
     ControlArray<Image> F6{QStringLiteral("F6")};
 
  private:
-    QGridLayout& pane(int number);
-    void addField(const FieldRow& field);
+    void addField(const MasterField& field);
     void wire();
     void load();
     void show(Recordset& row);
-    void showName(const FieldRow& field);
+    void showName(const MasterField& field);
     void walk(const QString& sql);
     void save();
     void remove();
 
     MasterTexts texts_;
     FieldTable fields_;
-    ControlMaker make_;
     QVBoxLayout* body_;
-    QHBoxLayout* panes_;
+    FieldLayout rows_;
     QHBoxLayout* buttonRow_;
-    std::vector<QGridLayout*> grids_;
     std::map<QString, Label*> names_;
-    CommandButton* cmdLeft_ = nullptr;
-    CommandButton* cmdRight_ = nullptr;
+    CommandButton* cmdLeft_;
+    CommandButton* cmdRight_;
     PressEnter press_;
 };
 
