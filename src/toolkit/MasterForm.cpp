@@ -82,9 +82,10 @@ void MasterForm::addField(const MasterField& field) {
 
 void MasterForm::addButtons() {
     // Save comes first in the walk: Enter in the last field and Enter again store the row.
-    for (CommandButton* button : {&Btn.add(2, new CommandButton(QStringLiteral("保存"))),
-                                  &Btn.add(0, new CommandButton(QStringLiteral("画面クリア"))),
-                                  &Btn.add(1, new CommandButton(QStringLiteral("削除"))), cmdLeft_, cmdRight_}) {
+    for (CommandButton* button :
+         {&Btn.add(2, new CommandButton(QStringLiteral("保存"))),
+          &Btn.add(0, new CommandButton(QStringLiteral("画面クリア"))),
+          &Btn.add(1, new CommandButton(QStringLiteral("削除"))), cmdLeft_, cmdRight_}) {
         if (button == cmdLeft_) buttonRow_->addStretch();
         JoinWalk(*this, *button);
         buttonRow_->addWidget(button);

@@ -39,8 +39,8 @@ class MasterForm : public EntryForm {
     void addFields(const FieldTable& fields);
     void addButtons();
 
-    /// Where a screen puts what it has besides its fields: rows after theirs; anything below them; and further
-    /// buttons, when the usual ones stand.
+    /// Where a screen puts what it has besides its fields: rows after theirs; anything below them; and
+    /// further buttons, when the usual ones stand.
     FieldLayout& layoutOfFields() { return rows_; }
     QVBoxLayout& body() { return *body_; }
     QHBoxLayout& buttonRow() { return *buttonRow_; }

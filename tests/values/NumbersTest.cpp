@@ -51,9 +51,9 @@ TEST(NumVal, ConversionsRaiseOnTextAsItStands) {
         int integerError, longError, currencyError;
     };
     const Case cases[] = {
-        {u""_qs, 0, 0, 0},          {u"abc"_qs, 0, 0, 0},       {u"32767"_qs, 0, 0, 0},
-        {u"70000"_qs, 6, 0, 0},     {u"12a"_qs, 13, 13, 0},     {u"1-2"_qs, 13, 13, 13},
-        {u"1,200"_qs, 0, 0, 0},     {u"9999999999"_qs, 6, 6, 0}, {u"0円"_qs, 0, 0, 0},
+        {u""_qs, 0, 0, 0},      {u"abc"_qs, 0, 0, 0},        {u"32767"_qs, 0, 0, 0},
+        {u"70000"_qs, 6, 0, 0}, {u"12a"_qs, 13, 13, 0},      {u"1-2"_qs, 13, 13, 13},
+        {u"1,200"_qs, 0, 0, 0}, {u"9999999999"_qs, 6, 6, 0}, {u"0円"_qs, 0, 0, 0},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(errorOf([&] { ToInteger(c.typed); }), c.integerError) << c.typed.toStdString();
@@ -86,7 +86,7 @@ TEST(CellAddress, ColumnsRunPastZ) {
         int row, columnOffset, rowOffset;
         const char* address;
     };
-    const Case cases[] = {{"A", 1, 0, 0, "A1"},   {"Z", 5, 1, 2, "AA7"}, {"AB", 1, 0, 0, "AB1"},
+    const Case cases[] = {{"A", 1, 0, 0, "A1"},   {"Z", 5, 1, 2, "AA7"},  {"AB", 1, 0, 0, "AB1"},
                           {"AZ", 1, 1, 0, "BA1"}, {"AA", 4, -1, 0, "Z4"}, {"Y", 1, 1, 0, "Z1"}};
     for (const Case& c : cases) {
         EXPECT_EQ(CellAddress(QString::fromLatin1(c.column), c.row, c.columnOffset, c.rowOffset),

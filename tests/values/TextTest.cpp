@@ -13,7 +13,7 @@ TEST(Text, CutsByBytesAndLosesASplitCharacter) {
     };
     const Case cases[] = {
         {u"あいう", 4, u"あい"}, {u"あいう", 5, u"あい"}, {u"あいう", 6, u"あいう"}, {u"ｱｲｳ", 2, u"ｱｲ"},
-        {u"aあb", 2, u"a"},      {u"㈱髙～", 5, u"㈱髙"},  {u"表示", 2, u"表"},       {u"abc", 0, u""},
+        {u"aあb", 2, u"a"},      {u"㈱髙～", 5, u"㈱髙"}, {u"表示", 2, u"表"},       {u"abc", 0, u""},
         {u"", 4, u""},           {u"ab𠮷", 9, u"ab?"},  // no place in the code page
     };
     for (const Case& c : cases) {
