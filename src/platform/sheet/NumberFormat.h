@@ -16,4 +16,7 @@ FormattedNumber FormatNumber(double value, const QString& code);
 /// A text through the format's text section.
 QString FormatText(const QString& text, const QString& code);
 
+/// Whether a number through this format shows as a date or a time of day.
+bool IsDateFormat(const QString& code);
+
 }  // namespace akarix

@@ -60,6 +60,9 @@ struct CellRange {
 /// "B5", "$B$5" or "B5:K61"; letters without case. Not an address: RuntimeError 1004.
 CellRange ParseRange(const QString& address);
 
+inline constexpr int lastSheetRow = 1048576;
+inline constexpr int lastSheetColumn = 16384;
+
 /// A cell holds text or a number; a number is shown through its style's number format.
 struct Cell {
     QString text;
@@ -88,18 +91,19 @@ class Sheet {
     std::vector<CellStyle> styles{CellStyle{}};  ///< style 0 is the workbook's Normal style
     std::map<CellAddress, Cell> cells;
     std::vector<CellRange> merges;
-    std::map<int, double> columnWidths;  ///< points, for columns that have their own
-    std::map<int, double> rowHeights;    ///< points, for rows that have their own
-    std::map<int, int> columnStyles;
+    std::map<int, double> columnWidths;          ///< points, for columns that have their own
+    std::map<int, double> rowHeights;            ///< points, for rows that have their own
+    std::map<int, int> columnStyles, rowStyles;  ///< for cells that are not in `cells`; a row's goes first
     double defaultColumnWidth = 54;
     double defaultRowHeight = 13.5;
     PageSetup page;
     QStringList warnings;  ///< what the reader met and cannot show (formulas, pictures, ...)
 
     /// Writes a value as typed into a spreadsheet: a text that is a plain number becomes one where the cell's
-    /// format is not "@"; an empty text blanks the block. Styles stay. Bad address: 1004.
+    /// format is not "@", a year/month/day a date where the format shows dates; an empty text blanks the
+    /// block. Styles stay; of a merged block only the upper left cell takes a value. Bad address: 1004.
     void setValue(const QString& address, const QString& text);
-    /// Merges a block, or takes apart every merge inside it.
+    /// Merges a block, which keeps its first value alone, or takes apart every merge that the block touches.
     void setMerged(const QString& address, bool merged);
 
     double columnWidth(int column) const;
@@ -108,8 +112,12 @@ class Sheet {
     /// The text a cell shows: its number through its format.
     QString shownText(CellAddress address) const;
     const CellStyle& styleAt(CellAddress address) const;
-    /// Last row and column that hold anything.
+    /// Last row and column that hold anything: a value, a fill or a border. {0, 0} when nothing does.
     CellAddress extent() const;
+
+ private:
+    int styleIndexAt(CellAddress address) const;
+    bool hiddenByMerge(CellAddress address) const;
 };
 
 }  // namespace akarix

@@ -1,0 +1,173 @@
+#include <QDate>
+#include <cmath>
+#include <tuple>
+
+#include "platform/sheet/FormatCode.h"
+
+namespace akarix {
+
+namespace {
+
+using Kind = FormatToken::Kind;
+
+constexpr qint64 msPerSecond = 1000, msPerMinute = 60'000, msPerHour = 3'600'000, msPerDay = 86'400'000;
+
+struct Day {
+    int year, month, day;
+    int weekday;  ///< 0 is Sunday
+};
+
+// Serial 1 is 1 January 1900; serial 60 is that year's 29 February, which never was but is counted.
+Day dayOf(qint64 serial) {
+    const int weekday = static_cast<int>((serial + 6) % 7);
+    if (serial == 0) return {1900, 1, 0, weekday};
+    if (serial == 60) return {1900, 2, 29, weekday};
+    const QDate date = QDate(1899, 12, serial < 60 ? 31 : 30).addDays(serial);
+    return {date.year(), date.month(), date.day(), weekday};
+}
+
+struct Era {
+    int year, month, day;
+    const char16_t* name;
+    char16_t letter;
+};
+
+const Era& eraOf(const Day& day) {
+    static constexpr Era eras[] = {{2019, 5, 1, u"令和", u'R'},
+                                   {1989, 1, 8, u"平成", u'H'},
+                                   {1926, 12, 25, u"昭和", u'S'},
+                                   {1912, 7, 30, u"大正", u'T'},
+                                   {1868, 1, 25, u"明治", u'M'}};
+    for (const Era& era : eras) {
+        if (std::tie(era.year, era.month, era.day) <= std::tie(day.year, day.month, day.day)) return era;
+    }
+    return eras[std::size(eras) - 1];
+}
+
+QString padded(qint64 number, qsizetype width) {
+    return QStringLiteral("%1").arg(number, static_cast<int>(width), 10, QLatin1Char('0'));
+}
+
+QString eraName(const Era& era, qsizetype letters) {
+    const QString name(reinterpret_cast<const QChar*>(era.name), 2);
+    return letters == 1 ? QString(QChar(era.letter)) : name.left(letters == 2 ? 1 : 2);
+}
+
+QString dayText(QStringView code, const Day& day, bool firstYearByName) {
+    static const QStringView months[] = {u"January",   u"February", u"March",    u"April",
+                                         u"May",       u"June",     u"July",     u"August",
+                                         u"September", u"October",  u"November", u"December"};
+    static const QStringView weekdays[] = {u"Sunday",   u"Monday", u"Tuesday", u"Wednesday",
+                                           u"Thursday", u"Friday", u"Saturday"};
+    const QStringView month = months[day.month - 1], weekday = weekdays[day.weekday];
+    const Era& era = eraOf(day);
+    const int eraYear = day.year - era.year + 1;
+    const qsizetype length = code.size();
+    switch (code[0].unicode()) {
+        case u'y':
+            return length <= 2 ? padded(day.year % 100, 2) : padded(day.year, 4);
+        case u'm':
+            if (length <= 2) return padded(day.month, length);
+            return (length == 3 ? month.left(3) : length == 4 ? month : month.left(1)).toString();
+        case u'd':
+            if (length <= 2) return padded(day.day, length);
+            return (length == 3 ? weekday.left(3) : weekday).toString();
+        case u'a': {
+            const QString kanji = QStringLiteral("日月火水木金土").mid(day.weekday, 1);
+            return length == 3 ? kanji : kanji + QStringLiteral("曜日");
+        }
+        case u'g':
+            return eraName(era, length);
+        case u'e':
+            return firstYearByName && eraYear == 1 ? QStringLiteral("元") : padded(eraYear, length);
+        case u'r':
+            return (length == 1 ? QString() : eraName(era, 3)) + padded(eraYear, 2);
+        default:
+            return {};
+    }
+}
+
+struct Clockwork {
+    qint64 ms;  ///< since the serial's zero
+    bool twelveHours;
+
+    qint64 hour() const { return ms % msPerDay / msPerHour; }
+    qint64 minute() const { return ms % msPerHour / msPerMinute; }
+    qint64 second() const { return ms % msPerMinute / msPerSecond; }
+    bool afternoon() const { return hour() >= 12; }
+    qint64 shownHour() const { return twelveHours ? (hour() + 11) % 12 + 1 : hour(); }
+    qint64 elapsed(QChar unit) const {
+        return ms / (unit == u'h' ? msPerHour : unit == u'm' ? msPerMinute : msPerSecond);
+    }
+};
+
+}  // namespace
+
+QString FormatSerial(double serial, const FormatSection& section) {
+    constexpr double firstBeyondYear9999 = 2958466;
+    if (!(serial >= 0 && serial < firstBeyondYear9999)) return QStringLiteral("########");
+
+    const auto& tokens = section.tokens;
+    const auto isSeconds = [](const FormatToken& token) {
+        return (token.kind == Kind::Date || token.kind == Kind::Elapsed) && token.text[0] == u's';
+    };
+    bool seconds = false, twelveHours = false;
+    int decimals = 0;
+    for (size_t i = 0; i < tokens.size(); ++i) {
+        if (tokens[i].kind == Kind::Date && tokens[i].text.contains(u'/')) twelveHours = true;
+        if (!isSeconds(tokens[i])) continue;
+        seconds = true;
+        if (i + 1 < tokens.size() && tokens[i + 1].kind == Kind::Point) {
+            for (size_t k = i + 2; k < tokens.size() && tokens[k].kind == Kind::Digit && decimals < 3; ++k)
+                ++decimals;
+        }
+    }
+
+    Clockwork clock{std::llround(serial * static_cast<double>(msPerDay)), twelveHours};
+    if (seconds) {  // the shown unit is rounded, and carries; minutes and hours are not
+        const qint64 unit = decimals == 0 ? 1000 : decimals == 1 ? 100 : decimals == 2 ? 10 : 1;
+        clock.ms = (clock.ms + unit / 2) / unit * unit;
+    }
+    const Day day = dayOf(clock.ms / msPerDay);
+
+    QString out;
+    bool behindSeconds = false;
+    int digit = 0;
+    for (const FormatToken& token : tokens) {
+        switch (token.kind) {
+            case Kind::Digit:
+                if (behindSeconds && digit < 3) out += padded(clock.ms % msPerSecond, 3)[digit++];
+                continue;
+            case Kind::Minutes:
+                out += padded(clock.minute(), token.text.size());
+                break;
+            case Kind::Elapsed:
+                out += padded(clock.elapsed(token.text[0]), token.text.size());
+                break;
+            case Kind::Date:
+                if (token.text == u"am/pm") {
+                    out += section.japaneseHalves
+                               ? (clock.afternoon() ? QStringLiteral("午後") : QStringLiteral("午前"))
+                               : (clock.afternoon() ? QStringLiteral("PM") : QStringLiteral("AM"));
+                } else if (token.text == u"a/p") {
+                    out += clock.afternoon() ? u'P' : u'A';
+                } else if (token.text[0] == u'h') {
+                    out += padded(clock.shownHour(), qMin<qsizetype>(token.text.size(), 2));
+                } else if (token.text[0] == u's') {
+                    out += padded(clock.second(), qMin<qsizetype>(token.text.size(), 2));
+                } else {
+                    out += dayText(token.text, day, section.firstYearByName);
+                }
+                break;
+            default:
+                out += token.text;
+                if (token.kind == Kind::Point) continue;
+                break;
+        }
+        behindSeconds = isSeconds(token);
+        digit = 0;
+    }
+    return out;
+}
+
+}  // namespace akarix

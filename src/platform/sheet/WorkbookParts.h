@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <optional>
+#include <pugixml.hpp>
+
+struct zip;
+
+namespace akarix {
+
+/// The parts of a workbook package: XML documents in a zip archive that point at one another through
+/// relationships. Raises 1004 where the file is missing, is no zip archive, or has grown beyond all reason.
+class WorkbookParts {
+ public:
+    explicit WorkbookParts(const QString& path);
+    ~WorkbookParts();
+    WorkbookParts(const WorkbookParts&) = delete;
+    WorkbookParts& operator=(const WorkbookParts&) = delete;
+
+    /// False when there is no such part; 1004 when it is no XML.
+    bool load(const QString& part, pugi::xml_document& document);
+
+    struct Relation {
+        QString id, type,
+            part;  ///< type is the last word of the type's address; part the full name in the archive
+    };
+    /// What a part points at; targets outside the package are left out.
+    std::vector<Relation> relations(const QString& part);
+
+    [[noreturn]] void fail(const QString& reason) const;
+
+ private:
+    std::optional<QByteArray> bytes(const QString& part);
+
+    QString path_;
+    QByteArray file_;
+    zip* archive_ = nullptr;
+    qint64 unpacked_ = 0;
+};
+
+/// Names without their prefix: which one a namespace got is the writer's whim.
+bool isNamed(const pugi::xml_node& node, const char* name);
+pugi::xml_node childNamed(const pugi::xml_node& parent, const char* name);
+pugi::xml_attribute prefixedAttribute(const pugi::xml_node& node, const char* name);
+/// An on/off attribute or element value as SpreadsheetML writes it.
+bool isOn(const pugi::xml_attribute& attribute, bool otherwise = false);
+
+}  // namespace akarix
