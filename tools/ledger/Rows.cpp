@@ -1,0 +1,30 @@
+#include "ledger/Rows.h"
+
+#include "platform/jet/Database.h"
+
+namespace akarix {
+
+namespace {
+
+std::int64_t plainNumber(const Variant& value) {
+    if (const Currency* amount = value.If<Currency>()) return amount->Scaled();
+    if (const std::int32_t* number = value.If<std::int32_t>()) return *number;
+    if (const std::int16_t* number = value.If<std::int16_t>()) return *number;
+    return 0;
+}
+
+}  // namespace
+
+std::vector<std::vector<std::int64_t>> readNumbers(Database& db, const QString& sql) {
+    Recordset set = db.OpenRecordset(sql);
+    std::vector<std::vector<std::int64_t>> rows;
+    for (; !set.Eof(); set.MoveNext()) {
+        std::vector<std::int64_t>& row = rows.emplace_back();
+        row.reserve(static_cast<std::size_t>(set.FieldCount()));
+        for (int i = 0; i < set.FieldCount(); ++i) row.push_back(plainNumber(set.Fields(i).Value()));
+    }
+    set.Close();
+    return rows;
+}
+
+}  // namespace akarix

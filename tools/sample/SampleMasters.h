@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/runtime/Currency.h"
+
+namespace akarix::sample {
+
+/// Tariff patterns of the sample dealer.
+enum Tariff { HouseTariff = 1, ApartmentTariff = 2, BusinessTariff = 3, BulkTariff = 4, PublicTariff = 5 };
+
+constexpr int taxItem = 90;
+constexpr int taxPercent = 10;
+
+struct Item {
+    int code;
+    const char16_t* kana;
+    const char16_t* name;
+    int price;  ///< yen
+};
+
+/// The goods of the sample dealer; the tax line item is the last.
+constexpr int itemCount = 12;
+const Item& itemAt(int index);
+
+struct CollectingBank {
+    int code;
+    int branches[3];
+};
+constexpr int bankCount = 3;
+constexpr int postOffice = 9900;
+const CollectingBank& bankAt(int index);
+
+/// Routes, tariffs, capacity prices, goods, consignors and the postal codes of the sample towns.
+void fillMasters();
+
+}  // namespace akarix::sample

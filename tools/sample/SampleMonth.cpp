@@ -1,0 +1,216 @@
+#include "sample/SampleMonth.h"
+
+#include "billing/Sub.h"
+#include "billing/Tto.h"
+#include "entry/GasUsage.h"
+#include "platform/runtime/DatePart.h"
+#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Fix.h"
+#include "platform/runtime/Format.h"
+#include "sample/SampleMasters.h"
+#include "store/FieldValue.h"
+#include "store/Lookup.h"
+#include "store/dbAccess.h"
+#include "values/NumVal.h"
+
+namespace akarix::sample {
+
+namespace {
+
+/// Use of each month against the average of the year, in percent.
+constexpr int season[12] = {150, 155, 135, 110, 90, 75, 60, 50, 60, 80, 105, 130};
+
+constexpr int readingDays[] = {20, 21, 22, 23, 24, 25};
+
+Variant number(int value) {
+    return std::int32_t{value};
+}
+
+Currency tenths(int value) {
+    return Currency::FromScaled(std::int64_t{value} * (Currency::kScale / 10));
+}
+
+int daysIn(int year, int month) {
+    return Day(DateSerial(year, month + 1, 0));
+}
+
+}  // namespace
+
+MonthMaker::MonthMaker(std::vector<Customer>& customers, Dice& dice)
+    : customers_(customers),
+      dice_(dice),
+      readings_(QStringLiteral("Dgd")),
+      slips_(QStringLiteral("Dud")),
+      payments_(QStringLiteral("Dny")) {}
+
+void MonthMaker::openBalances(int year, int month) {
+    RowWriter ledger(QStringLiteral("TtoD"));
+    for (const Customer& customer : customers_) {
+        if (customer.openingYen == 0) continue;
+        ledger.add({{QStringLiteral("Deal"), customer.code},
+                    {QStringLiteral("Nendo"), number(year)},
+                    {QStringLiteral("Getudo"), number(month)},
+                    {QStringLiteral("ZenkaiGaku"), Currency(customer.openingYen)},
+                    {QStringLiteral("SyokiFlg"), std::int16_t{1}}});
+        owed_[customer.code] = Currency(customer.openingYen);
+    }
+}
+
+void MonthMaker::make(int year, int month) {
+    writeReadings(year, month);
+    // The run takes slip numbers of its own.
+    nextSlip_ = NextDudNo();
+    writeSlips(year, month);
+    writePayments(year, month);
+    BuildMonthLedger(year, month, DateSerial(year, month, daysIn(year, month)));
+    CarryForwardMonth(year, month);
+    readBalances(year, month);
+}
+
+void MonthMaker::writeReadings(int year, int month) {
+    for (Customer& customer : customers_) {
+        if (customer.takesGas) writeReading(customer, year, month);
+    }
+}
+
+void MonthMaker::writeReading(Customer& customer, int year, int month) {
+    constexpr int meterEnd = 99999;
+    int use = customer.usualTenths * season[month - 1] * dice_.between(80, 120) / 10000;
+    if (dice_.permille(12)) use = 0;  // nobody at home
+    const int before = customer.meterTenths;
+    int exchangedAt = 0;
+    int after = 0;
+    // A meter near its end is exchanged, and now and then one whose time is over.
+    if (before + use > meterEnd || (before > 0 && dice_.permille(4))) {
+        exchangedAt = before + std::min(use / 2, meterEnd - before);
+        after = dice_.percent(30) ? dice_.between(1, 9) : 0;
+        customer.meterTenths = after + use - (exchangedAt - before);
+    } else {
+        customer.meterTenths = before + use;
+    }
+    const Currency usage =
+        CalcGasUsage(tenths(before), tenths(exchangedAt), tenths(after), tenths(customer.meterTenths));
+    readings_.add({{QStringLiteral("Nendo"), number(year)},
+                   {QStringLiteral("Getudo"), number(month)},
+                   {QStringLiteral("Deal"), customer.code},
+                   {QStringLiteral("ZenkaiMeter"), tenths(before)},
+                   {QStringLiteral("KoukanMeter"), tenths(exchangedAt)},
+                   {QStringLiteral("KoukanGoMeter"), tenths(after)},
+                   {QStringLiteral("KonkaiMeter"), tenths(customer.meterTenths)},
+                   {QStringLiteral("Suu"), usage},
+                   {QStringLiteral("Gaku"), charge(customer, usage)},
+                   {QStringLiteral("Hi"), number(readingDays[customer.route])}});
+}
+
+/// The charge as the reading sheet shows and stores it, asked once for each use of a tariff.
+Currency MonthMaker::charge(const Customer& customer, Currency usage) {
+    const auto [place, isNew] = charges_.try_emplace({customer.tariff, usage.Scaled()});
+    if (isNew) {
+        place->second = ToCurrency(Format(CalcGasCharge(customer.code, usage), QStringLiteral("###,##0")));
+    }
+    return place->second;
+}
+
+void MonthMaker::writeSlips(int year, int month) {
+    for (const Customer& customer : customers_) {
+        const int chance = customer.takesGas ? 11 : 60;
+        if (!dice_.percent(chance)) continue;
+        writeSlip(customer, DateSerial(year, month, dice_.between(1, daysIn(year, month))));
+    }
+}
+
+void MonthMaker::writeSlip(const Customer& customer, Date day) {
+    int nendo = 0;
+    int getudo = 0;
+    DateToGetudo(customer.code, day, nendo, getudo);
+    const std::int32_t dno = nextSlip_++;
+    int eda = 0;
+    const auto add = [&](int code, const QString& name, Currency amount, Currency count, Currency price) {
+        slips_.add({{QStringLiteral("Dno"), dno},
+                    {QStringLiteral("Eda"), number(++eda)},
+                    {QStringLiteral("Hizuke"), day},
+                    {QStringLiteral("Deal"), customer.code},
+                    {QStringLiteral("HinCode"), number(code)},
+                    {QStringLiteral("HinNamae"), name},
+                    {QStringLiteral("Suu"), count},
+                    {QStringLiteral("Tanka"), price},
+                    {QStringLiteral("Gaku"), amount},
+                    {QStringLiteral("Nendo"), number(nendo)},
+                    {QStringLiteral("Getudo"), number(getudo)},
+                    {QStringLiteral("CreateAuto"), std::int16_t{0}}});
+    };
+    const int goods = dice_.percent(75) ? 1 : dice_.between(2, 3);
+    for (int i = 0; i < goods; ++i) {
+        const Item& item = itemAt(dice_.below(itemCount - 1));  // the last is the tax line
+        const int count = item.price < 10000 ? dice_.between(1, 3) : 1;
+        const Currency amount = Currency(item.price) * Currency(count);
+        add(item.code, QString::fromUtf16(item.name), amount, Currency(count), Currency(item.price));
+        const Currency rate = Currency(taxPercent) / Currency(100);
+        add(taxItem, QStringLiteral("消費税"), Fix(amount * rate), Currency(), Currency());
+    }
+}
+
+void MonthMaker::writePayments(int year, int month) {
+    for (const Customer& customer : customers_) {
+        const auto found = owed_.find(customer.code);
+        if (found == owed_.end() || found->second <= Currency(0)) continue;
+        const Currency owed = found->second;
+        const int roll = dice_.below(100);
+        const bool byDebit = customer.bank != 0;
+        if (roll < (byDebit ? 3 : 8)) continue;  // late: pays with the next month
+        if (!byDebit && roll < 14 && owed > Currency(2000)) {
+            const Currency thousands = Fix(owed / Currency(2000));
+            writePayment(customer, year, month, thousands * Currency(1000));
+        } else {
+            writePayment(customer, year, month, owed);
+        }
+    }
+}
+
+void MonthMaker::writePayment(const Customer& customer, int year, int month, Currency amount) {
+    if (amount.IsZero()) return;
+    // Up to the closing day, so that the payment counts for this month.
+    const int lastDay = std::min(customer.closingDay, daysIn(year, month));
+    const int day = customer.bank != 0 ? 5 : dice_.between(1, lastDay);
+    const Date date = DateSerial(year, month, day);
+    int nendo = 0;
+    int getudo = 0;
+    DateToGetudo(customer.code, date, nendo, getudo);
+    const std::int32_t dno = nextPayment_++;
+    int eda = 0;
+    const auto add = [&](int paymentClass, Currency part, const QString& memo) {
+        payments_.add({{QStringLiteral("Dno"), dno},
+                       {QStringLiteral("Eda"), number(++eda)},
+                       {QStringLiteral("Hizuke"), date},
+                       {QStringLiteral("Deal"), customer.code},
+                       {QStringLiteral("Kubun"), number(paymentClass)},
+                       {QStringLiteral("Gaku"), part},
+                       {QStringLiteral("Naiyo"), memo},
+                       {QStringLiteral("Nendo"), number(nendo)},
+                       {QStringLiteral("Getudo"), number(getudo)}});
+    };
+    const Currency fee = Currency(440);
+    if (customer.paymentClass == 3 && amount > fee && dice_.percent(10)) {
+        add(3, amount - fee, QString());
+        add(4, fee, QStringLiteral("振込手数料"));
+    } else {
+        add(customer.paymentClass, amount, QString());
+    }
+}
+
+/// What each customer owes at the end of the billed month.
+void MonthMaker::readBalances(int year, int month) {
+    owed_.clear();
+    Recordset ledger = gDb->OpenRecordset(
+        QStringLiteral("SELECT Deal,ZenkaiGaku,Gaku,NGaku FROM TtoD WHERE Nendo=%1 AND Getudo=%2")
+            .arg(year)
+            .arg(month));
+    for (; !ledger.Eof(); ledger.MoveNext()) {
+        owed_[longOf(ledger[QStringLiteral("Deal")])] = moneyOf(ledger[QStringLiteral("ZenkaiGaku")]) +
+                                                        moneyOf(ledger[QStringLiteral("Gaku")]) -
+                                                        moneyOf(ledger[QStringLiteral("NGaku")]);
+    }
+    ledger.Close();
+}
+
+}  // namespace akarix::sample
