@@ -1,0 +1,205 @@
+#include "billing/Tto.h"
+
+#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/RuntimeError.h"
+#include "support/ScratchStore.h"
+
+namespace akarix {
+namespace {
+
+/// A ledger row as "Deal|ZenkaiGaku|GGaku|UGaku|Gaku|NGaku|SyokiFlg".
+QStringList ledger(int year, int month) {
+    return ScratchStore::rows(
+        QStringLiteral("SELECT Deal,ZenkaiGaku,GGaku,UGaku,Gaku,NGaku,SyokiFlg FROM TtoD WHERE Nendo=%1 AND "
+                       "Getudo=%2 ORDER BY Deal")
+            .arg(year)
+            .arg(month));
+}
+
+QStringList leaseLines() {
+    return ScratchStore::rows(QStringLiteral(
+        "SELECT Dno,Eda,Deal,HinNamae,Gaku,Hizuke FROM Dud WHERE CreateAuto=1 ORDER BY Dno,Eda"));
+}
+
+class TtoTest : public testing::Test {
+ protected:
+    void bill(int year, int month, int day = 28) {
+        BuildMonthLedger(year, month, DateSerial(year, month, day));
+        CarryForwardMonth(year, month);
+    }
+    void reading(int year, int month, int deal, const QString& charge) {
+        gDb->Execute(QStringLiteral("INSERT INTO Dgd(Nendo,Getudo,Deal,Gaku) VALUES(%1,%2,%3,%4)")
+                         .arg(year)
+                         .arg(month)
+                         .arg(deal)
+                         .arg(charge));
+    }
+    void sale(int dno, int eda, int deal, int year, int month, const QString& amount) {
+        gDb->Execute(
+            QStringLiteral("INSERT INTO Dud(Dno,Eda,Deal,Nendo,Getudo,Gaku) VALUES(%1,%2,%3,%4,%5,%6)")
+                .arg(dno)
+                .arg(eda)
+                .arg(deal)
+                .arg(year)
+                .arg(month)
+                .arg(amount));
+    }
+    void payment(int dno, int deal, int year, int month, const QString& amount) {
+        gDb->Execute(
+            QStringLiteral("INSERT INTO Dny(Dno,Eda,Deal,Nendo,Getudo,Gaku) VALUES(%1,1,%2,%3,%4,%5)")
+                .arg(dno)
+                .arg(deal)
+                .arg(year)
+                .arg(month)
+                .arg(amount));
+    }
+    void customers(const QString& codes) {
+        for (const QString& code : codes.split(u',')) {
+            gDb->Execute(QStringLiteral("INSERT INTO Deal(Code) VALUES(%1)").arg(code));
+        }
+    }
+
+    ScratchStore store;
+};
+
+TEST_F(TtoTest, AMonthIsRolledUp) {
+    customers(QStringLiteral("1,2,3"));
+    reading(2011, 3, 1, QStringLiteral("4827"));
+    reading(2011, 3, 2, QStringLiteral("1800.5"));
+    sale(1, 1, 1, 2011, 3, QStringLiteral("1990"));
+    sale(1, 2, 1, 2011, 3, QStringLiteral("99"));
+    sale(2, 1, 1, 2011, 4, QStringLiteral("5000"));  // another month
+    sale(3, 1, 9, 2011, 3, QStringLiteral("-300"));  // a customer who is not on the list
+    payment(1, 2, 2011, 3, QStringLiteral("1000"));
+    payment(2, 2, 2011, 3, QStringLiteral("800.5"));
+    bill(2011, 3);
+    EXPECT_EQ(ledger(2011, 3), (QStringList{
+                                   QStringLiteral("1|0|4827|2089|6916|0|0"),
+                                   QStringLiteral("2|0|1800.5|0|1800.5|1800.5|0"),
+                                   QStringLiteral("3|0|0|0|0|0|0"),  // quiet, and still in the ledger
+                                   QStringLiteral("9|0|0|-300|-300|0|0"),
+                               }));
+    EXPECT_TRUE(ledger(2011, 4).isEmpty());
+    EXPECT_EQ(ReadClosingDate(2011, 3), QStringLiteral("2011/03/28"));
+    EXPECT_EQ(ReadClosingDate(2011, 4), QString());
+}
+
+TEST_F(TtoTest, TheBalanceIsCarriedFromTheLatestEarlierMonth) {
+    customers(QStringLiteral("1,2,3"));
+    ScratchStore::run(QStringLiteral(
+        // Entered but never billed: Gaku is 0, gas and sales are carried all the same.
+        "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku) VALUES(1,2010,12,1000,4000,500,1500);\n"
+        "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku) VALUES(1,2010,11,77777);\n"
+        "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku) VALUES(2,2011,4,88888);\n"
+        "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,SyokiFlg) VALUES(3,2011,3,2500,1);\n"
+        "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku) VALUES(3,2011,2,66666);\n"));
+    bill(2011, 3);
+    EXPECT_EQ(ledger(2011, 3), (QStringList{
+                                   QStringLiteral("1|4000|0|0|0|0|0"),  // over a gap and a year's end
+                                   QStringLiteral("2|0|0|0|0|0|0"),     // a later row is no earlier row
+                                   QStringLiteral("3|2500|0|0|0|0|1"),  // set by hand
+                               }));
+    EXPECT_EQ(PriorBalance(3, 2011, 4), Variant(Currency(2500)));
+    EXPECT_TRUE(PriorBalance(2, 2011, 3).IsEmpty());
+}
+
+TEST_F(TtoTest, ASecondRunClearsSalesAloneOfWhatLostItsSources) {
+    customers(QStringLiteral("1,2"));
+    for (int deal = 1; deal <= 2; ++deal) {
+        reading(2011, 3, deal, QStringLiteral("3000"));
+        sale(deal, 1, deal, 2011, 3, QStringLiteral("700"));
+        payment(deal, deal, 2011, 3, QStringLiteral("1200"));
+    }
+    bill(2011, 3);
+    ScratchStore::run(QStringLiteral("DELETE FROM Dgd WHERE Deal=1;\nDELETE FROM Dud WHERE Deal=1;\n"
+                                     "DELETE FROM Dny WHERE Deal=1;\nUPDATE Dgd SET Gaku=3100;\n"));
+    sale(3, 1, 2, 2011, 3, QStringLiteral("50"));
+    bill(2011, 3, 30);
+    EXPECT_EQ(ledger(2011, 3), (QStringList{QStringLiteral("1|0|3000|0|3000|1200|0"),
+                                            QStringLiteral("2|0|3100|750|3850|1200|0")}));
+    EXPECT_EQ(ReadClosingDate(2011, 3), QStringLiteral("2011/03/30"));
+}
+
+TEST_F(TtoTest, BillingAnOldMonthAgainLeavesTheMonthsAfterIt) {
+    customers(QStringLiteral("1"));
+    reading(2011, 3, 1, QStringLiteral("3000"));
+    bill(2011, 3);
+    bill(2011, 4);
+    sale(1, 1, 1, 2011, 3, QStringLiteral("500"));
+    bill(2011, 3);
+    EXPECT_EQ(ledger(2011, 3), QStringList{QStringLiteral("1|0|3000|500|3500|0|0")});
+    EXPECT_EQ(ledger(2011, 4), QStringList{QStringLiteral("1|3000|0|0|0|0|0")});
+    bill(2011, 4);
+    EXPECT_EQ(ledger(2011, 4), QStringList{QStringLiteral("1|3500|0|0|0|0|0")});
+}
+
+TEST_F(TtoTest, LeaseSlips) {
+    ScratchStore::run(QStringLiteral("INSERT INTO Deal(Code,ACU,Keihou) VALUES(1,1,1);\n"
+                                     "INSERT INTO Deal(Code,ACU,Keihou) VALUES(2,0,1);\n"
+                                     "INSERT INTO Deal(Code,ACU,Keihou) VALUES(3,0,0);\n"
+                                     "INSERT INTO Deal(Code,ACU,Keihou) VALUES(4,1,0);\n"
+                                     "UPDATE UserOP SET contents='300' WHERE Code=2;\n"
+                                     "UPDATE UserOP SET contents='1,050円' WHERE Code=3;\n"));
+    sale(40, 1, 3, 2011, 3, QStringLiteral("10"));
+    bill(2011, 3);
+    EXPECT_EQ(leaseLines(), (QStringList{
+                                QStringLiteral("41|1|1|ACUリース代|1050|2011/03/28"),
+                                QStringLiteral("41|2|1|警報機リース代|300|2011/03/28"),
+                                QStringLiteral("42|1|2|警報機リース代|300|2011/03/28"),
+                                QStringLiteral("43|1|4|ACUリース代|1050|2011/03/28"),
+                            }));
+    EXPECT_EQ(ledger(2011, 3), (QStringList{QStringLiteral("1|0|0|1350|1350|0|0"),
+                                            QStringLiteral("2|0|0|300|300|0|0"),
+                                            QStringLiteral("3|0|0|10|10|0|0"),
+                                            QStringLiteral("4|0|0|1050|1050|0|0")}));
+
+    // Fee and flags of today under the old number; who stopped leasing keeps the slip; a line typed under a
+    // generated number goes with it.
+    ScratchStore::run(QStringLiteral("UPDATE UserOP SET contents='350' WHERE Code=2;\n"
+                                     "UPDATE Deal SET ACU=0 WHERE Code=1;\nUPDATE Deal SET ACU=0 WHERE Code=4;\n"));
+    sale(42, 9, 2, 2011, 3, QStringLiteral("9999"));
+    bill(2011, 3, 31);
+    EXPECT_EQ(leaseLines(), (QStringList{
+                                QStringLiteral("41|1|1|警報機リース代|350|2011/03/31"),
+                                QStringLiteral("42|1|2|警報機リース代|350|2011/03/31"),
+                                QStringLiteral("43|1|4|ACUリース代|1050|2011/03/28"),
+                            }));
+    EXPECT_EQ(ledger(2011, 3).value(1), QStringLiteral("2|0|0|350|350|0|0"));
+}
+
+TEST_F(TtoTest, AFeePastSixteenBitsStopsTheRunAndWhatWasDoneStays) {
+    ScratchStore::run(QStringLiteral("INSERT INTO Deal(Code,Keihou) VALUES(1,1);\n"
+                                     "UPDATE UserOP SET contents='32768' WHERE Code=2;\n"));
+    reading(2011, 3, 1, QStringLiteral("3000"));
+    try {
+        bill(2011, 3);
+        FAIL() << "no overflow";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), 6);
+    }
+    EXPECT_EQ(ledger(2011, 3), QStringList{QStringLiteral("1|0|3000|0|0|0|0")});
+}
+
+TEST_F(TtoTest, PuttingAmountsReplacesThem) {
+    PutGGaku(2011, 3, 5, Currency(100));
+    PutGGaku(2011, 3, 5, Currency::FromText(QStringLiteral("-0.5")));
+    PutUGaku(2011, 3, 5, Currency(200));
+    PutNGaku(2011, 3, 6, Currency(300));
+    PutNGaku(2011, 3, 6, Currency(350));
+    PutZenkaiGaku(6, 2011, 3, Currency(40));
+    ScratchStore::run(QStringLiteral("UPDATE TtoD SET SyokiFlg=1 WHERE Deal=6;\n"));
+    PutZenkaiGaku(6, 2011, 3, Currency(41));
+    EXPECT_EQ(ledger(2011, 3),
+              (QStringList{QStringLiteral("5|0|-0.5|200|0|0|0"), QStringLiteral("6|41|0|0|0|350|1")}));
+    Currency balance;
+    int flag = 0;
+    ReadLedgerHead(6, 2011, 3, balance, flag);
+    EXPECT_EQ(balance, Currency(41));
+    EXPECT_EQ(flag, 1);
+    ReadLedgerHead(6, 2011, 4, balance, flag);
+    EXPECT_EQ(balance, Currency(0));
+    EXPECT_EQ(flag, 0);
+}
+
+}  // namespace
+}  // namespace akarix

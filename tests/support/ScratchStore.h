@@ -1,0 +1,80 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include "platform/jet/DBEngine.h"
+#include "platform/runtime/CStr.h"
+#include "store/CreateDatabase.h"
+#include "store/dbAccess.h"
+
+namespace akarix {
+
+/// The delivered database in a folder of its own, which is the current one while the object lives. Made once
+/// for a test program and copied for each test.
+class ScratchStore {
+ public:
+    explicit ScratchStore(bool open = true) : previous_(QDir::currentPath()) {
+        static const QByteArray delivered = makeDelivered();
+        QFile file(folder_.filePath(DatabaseName()));
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        file.write(delivered);
+        file.close();
+        QDir::setCurrent(folder_.path());
+        if (open) {
+            EXPECT_TRUE(
+                OpenDb([](const QString& text, const QString&) { ADD_FAILURE() << text.toStdString(); }));
+        }
+    }
+    ~ScratchStore() {
+        CloseDb();
+        QDir::setCurrent(previous_);
+    }
+    ScratchStore(const ScratchStore&) = delete;
+    ScratchStore& operator=(const ScratchStore&) = delete;
+
+    QString path(const QString& name = DatabaseName()) const { return folder_.filePath(name); }
+
+    /// Runs statements parted by ";" and line ends.
+    static void run(const QString& statements) {
+        for (const QString& statement : statements.split(QStringLiteral(";\n"), Qt::SkipEmptyParts)) {
+            if (!statement.trimmed().isEmpty()) gDb->Execute(statement.trimmed());
+        }
+    }
+
+    /// The rows of a question, "a|b|c" each; Null is "-".
+    static QStringList rows(const QString& sql) {
+        QStringList lines;
+        Recordset set = gDb->OpenRecordset(sql);
+        for (; !set.Eof(); set.MoveNext()) {
+            QStringList cells;
+            for (int i = 0; i < set.FieldCount(); ++i) {
+                const Variant value = set.Fields(i).Value();
+                cells.append(value.IsNull() ? QStringLiteral("-") : CStr(value));
+            }
+            lines.append(cells.join(u'|'));
+        }
+        set.Close();
+        return lines;
+    }
+
+ private:
+    static QByteArray makeDelivered() {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("delivered.mdb"));
+        CreateDelivered(path);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QFile::ReadOnly));
+        return file.readAll();
+    }
+
+    QTemporaryDir folder_;
+    QString previous_;
+};
+
+}  // namespace akarix
+

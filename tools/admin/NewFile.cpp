@@ -1,0 +1,40 @@
+#include "admin/NewFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <filesystem>
+#include <system_error>
+
+#include "platform/runtime/RuntimeError.h"
+
+namespace akarix::admin {
+
+QString refusal(const QString& path, bool force) {
+    const QFileInfo file(path);
+    if (file.isDir()) return QStringLiteral("%1 はフォルダです。").arg(path);
+    if (!file.absoluteDir().exists()) return QStringLiteral("フォルダがありません: %1").arg(file.absolutePath());
+    if (file.exists() && !force) {
+        return QStringLiteral("%1 は既にあります。作り直すときは --force を付けてください。").arg(path);
+    }
+    return {};
+}
+
+void replaceFile(const QString& path, const std::function<void(const QString& working)>& make) {
+    const QString working = path + QStringLiteral(".new");
+    QFile::remove(working);
+    QFile::remove(working + QStringLiteral("-journal"));
+    try {
+        make(working);
+    } catch (...) {
+        QFile::remove(working);
+        throw;
+    }
+    // The old file's journal does not belong to the new one.
+    QFile::remove(path + QStringLiteral("-journal"));
+    std::error_code problem;
+    std::filesystem::rename(working.toStdU16String(), path.toStdU16String(), problem);
+    if (problem) throw RuntimeError(75);
+}
+
+}  // namespace akarix::admin

@@ -1,0 +1,120 @@
+#include "admin/Sample.h"
+
+#include <QCommandLineParser>
+#include <QRegularExpression>
+#include <optional>
+
+#include "admin/NewFile.h"
+#include "admin/Terminal.h"
+#include "platform/jet/DBEngine.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DatePart.h"
+#include "sample/SampleDealer.h"
+#include "store/CreateDatabase.h"
+#include "store/dbAccess.h"
+
+namespace akarix::admin {
+
+namespace {
+
+const char* const helpText =
+    "使い方: akarix-admin sample [ファイル] [--customers 件数] [--months 月数] [--until 年/月] [--force]\n\n"
+    "見本の販売店のデータベース（既定 Akarix.MDB）を作ります。得意先、検針、売上、入金、毎月の\n"
+    "請求処理まで済んだ状態になります。同じ指定なら中身はいつも同じです。\n\n"
+    "  --customers 件数   得意先の数、1 から 32000（既定 300）\n"
+    "  --months 月数      何か月分作るか、1 から 120（既定 14）\n"
+    "  --until 年/月      最後の月、例 2011/3（既定は先月）\n"
+    "  --force            既にあるファイルを作り直す（中のデータは失われます）\n";
+
+/// A number of the command line within its bounds.
+std::optional<int> readCount(const QString& text, int most) {
+    bool isNumber = false;
+    const int count = text.toInt(&isNumber);
+    return isNumber && count >= 1 && count <= most ? std::optional(count) : std::nullopt;
+}
+
+bool readMonth(const QString& text, sample::Wish& wish) {
+    static const QRegularExpression form(QStringLiteral("^([0-9]{4})/([0-9]{1,2})$"));
+    const QRegularExpressionMatch match = form.match(text);
+    wish.untilYear = match.captured(1).toInt();
+    wish.untilMonth = match.captured(2).toInt();
+    // The first year leaves room for the months before it.
+    return wish.untilYear >= 1970 && wish.untilMonth >= 1 && wish.untilMonth <= 12;
+}
+
+void untilLastMonth(sample::Wish& wish) {
+    const Date today = Today();
+    const int index = Year(today) * 12 + Month(today) - 2;
+    wish.untilYear = index / 12;
+    wish.untilMonth = index % 12 + 1;
+}
+
+std::optional<sample::Wish> readWish(const QCommandLineParser& parser) {
+    sample::Wish wish;
+    untilLastMonth(wish);
+    if (parser.isSet(QStringLiteral("until")) && !readMonth(parser.value(QStringLiteral("until")), wish)) {
+        return std::nullopt;
+    }
+    const auto customers = readCount(parser.value(QStringLiteral("customers")), sample::mostCustomers);
+    const auto months = readCount(parser.value(QStringLiteral("months")), sample::mostMonths);
+    if (!customers || !months) return std::nullopt;
+    wish.customers = *customers;
+    wish.months = *months;
+    return wish;
+}
+
+/// Opens the file as the program's own store for as long as it lives.
+class OpenStore {
+ public:
+    explicit OpenStore(const QString& path) {
+        gWs = &DBEngine::Workspaces(0);
+        gDb = gWs->OpenDatabase(path, false, false, ConnectText());
+    }
+    ~OpenStore() { CloseDb(); }
+    OpenStore(const OpenStore&) = delete;
+    OpenStore& operator=(const OpenStore&) = delete;
+};
+
+int makeSample(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.addOptions({
+        QCommandLineOption(QStringLiteral("customers"), QString(), QStringLiteral("n"), QStringLiteral("300")),
+        QCommandLineOption(QStringLiteral("months"), QString(), QStringLiteral("n"), QStringLiteral("14")),
+        QCommandLineOption(QStringLiteral("until"), QString(), QStringLiteral("month")),
+        QCommandLineOption(QStringLiteral("force")),
+    });
+    const bool understood = parser.parse(QStringList(QString()) + arguments);
+    const std::optional<sample::Wish> wish = understood ? readWish(parser) : std::nullopt;
+    if (!wish || parser.positionalArguments().size() > 1) {
+        tellError(QString::fromUtf8(helpText));
+        return WrongUse;
+    }
+    const QString path = parser.positionalArguments().value(0, DatabaseName());
+    const QString reason = refusal(path, parser.isSet(QStringLiteral("force")));
+    if (!reason.isEmpty()) {
+        tellError(reason + u'\n');
+        return Failed;
+    }
+    replaceFile(path, [&wish](const QString& working) {
+        CreateDelivered(working);
+        const OpenStore store(working);
+        ProgressLine line;
+        sample::FillSampleDealer(*wish, [&line](const QString& text) { line.show(text); });
+    });
+    tell(QStringLiteral("%1 を作りました: 得意先 %2 件、%3 か月（%4年%5月まで）\n")
+             .arg(path)
+             .arg(wish->customers)
+             .arg(wish->months)
+             .arg(wish->untilYear)
+             .arg(wish->untilMonth));
+    return Done;
+}
+
+}  // namespace
+
+Command sampleCommand() {
+    return {QStringLiteral("sample"), QStringLiteral("見本の販売店のデータベースを作る"), QString::fromUtf8(helpText),
+            makeSample};
+}
+
+}  // namespace akarix::admin

@@ -1,0 +1,37 @@
+#include "admin/Terminal.h"
+
+#include <cstdio>
+
+namespace akarix::admin {
+
+namespace {
+
+void write(std::FILE* stream, const QString& text) {
+    const QByteArray bytes = text.toLocal8Bit();
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+    std::fflush(stream);
+}
+
+constexpr qint64 patience = 1000;  // ms
+
+}  // namespace
+
+void tell(const QString& text) {
+    write(stdout, text);
+}
+
+void tellError(const QString& text) {
+    write(stderr, text);
+}
+
+ProgressLine::~ProgressLine() {
+    if (shown_) write(stderr, QStringLiteral("\n"));
+}
+
+void ProgressLine::show(const QString& text) {
+    if (!shown_ && clock_.elapsed() < patience) return;
+    shown_ = true;
+    write(stderr, QStringLiteral("\r\x1b[K") + text);
+}
+
+}  // namespace akarix::admin
