@@ -2,6 +2,7 @@
 
 #include "platform/jet/Action.h"
 #include "platform/jet/DBEngine.h"
+#include "platform/jet/Engine.h"
 #include "store/Tables.h"
 #include "store/dbAccess.h"
 
@@ -51,6 +52,15 @@ const CodeListEntry codeListEntries[] = {
     {u"DyJkn", 1, u"ﾋﾖｳｼﾞﾕﾝ", u"標準"}, {u"Col", 1, u"ｼﾛ", u"白"},        {u"Col", 2, u"ﾊｲ", u"灰"},
     {u"Shk", 1, u"ﾊｲﾀﾂ", u"配達"},      {u"Shk", 2, u"ｼﾞｻﾝ", u"持参"},
 };
+
+/// Defaults have no place in the dialect, so a table's definition goes to the engine as it is.
+void define(Database& db, const TableDef& table) {
+    auto plan = std::make_shared<Plan>();
+    plan->kind = Plan::Kind::Definition;
+    plan->definition = Plan::Definition::CreateTable;
+    plan->table = table;
+    db.engine().define({std::move(plan), {}});
+}
 
 void addSetting(Database& db, const QString& table, int code, const QString& contents) {
     db.Execute(QStringLiteral("INSERT INTO %1(Code,contents) VALUES(%2,'%3')")

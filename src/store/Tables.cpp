@@ -117,32 +117,6 @@ std::vector<TableDef> scratch() {
     };
 }
 
-QString typeText(const ColumnDef& column) {
-    switch (column.type) {
-        case FieldType::Boolean:
-            return QStringLiteral("YesNo");
-        case FieldType::Byte:
-            return QStringLiteral("Byte");
-        case FieldType::Integer:
-            return QStringLiteral("Integer");
-        case FieldType::Long:
-            return QStringLiteral("Long");
-        case FieldType::Currency:
-            return QStringLiteral("Currency");
-        case FieldType::Single:
-            return QStringLiteral("Single");
-        case FieldType::Double:
-            return QStringLiteral("Double");
-        case FieldType::Date:
-            return QStringLiteral("DateTime");
-        case FieldType::Memo:
-            return QStringLiteral("Memo");
-        case FieldType::Text:
-            break;
-    }
-    return QStringLiteral("Text(%1)").arg(column.size);
-}
-
 }  // namespace
 
 const std::vector<TableDef>& Tables() {
@@ -156,23 +130,16 @@ const std::vector<TableDef>& Tables() {
     return all;
 }
 
-QString CreateTableText(const TableDef& table) {
-    QStringList parts;
-    for (const ColumnDef& column : table.columns) {
-        QString part = QStringLiteral("[%1] %2").arg(column.name, typeText(column));
-        if (column.zeroDefault) part += QStringLiteral(" DEFAULT 0");
-        parts.append(part);
-    }
-    for (std::size_t i = 0; i < table.uniqueKeys.size(); ++i) {
-        QStringList columns;
-        for (const QString& column : table.uniqueKeys[i])
-            columns.append(u'[' + column + u']');
-        parts.append(QStringLiteral("CONSTRAINT [%1_key%2] UNIQUE (%3)")
-                         .arg(table.name)
-                         .arg(i)
-                         .arg(columns.join(QStringLiteral(", "))));
-    }
-    return QStringLiteral("CREATE TABLE [%1] (%2)").arg(table.name, parts.join(QStringLiteral(", ")));
+const QStringList& IndexStatements() {
+    static const QStringList statements{
+        QStringLiteral("CREATE INDEX DudOfDeal ON Dud(Deal,Nendo,Getudo)"),
+        QStringLiteral("CREATE INDEX DudOfMonth ON Dud(Nendo,Getudo)"),
+        QStringLiteral("CREATE INDEX DnyOfDeal ON Dny(Deal,Nendo,Getudo)"),
+        QStringLiteral("CREATE INDEX DnyOfMonth ON Dny(Nendo,Getudo)"),
+        QStringLiteral("CREATE INDEX DgdOfDeal ON Dgd(Deal,Nendo,Getudo)"),
+        QStringLiteral("CREATE INDEX TtoDOfMonth ON TtoD(Nendo,Getudo)"),
+    };
+    return statements;
 }
 
 }  // namespace akarix

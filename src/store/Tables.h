@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <vector>
 
 #include "platform/jet/Schema.h"
@@ -9,7 +10,7 @@ namespace akarix {
 /// Every table of a store as it is delivered today, scratch tables and the columns of later years included.
 const std::vector<TableDef>& Tables();
 
-/// The CREATE TABLE of a table in the store's dialect: columns, defaults and unique keys.
-QString CreateTableText(const TableDef& table);
+/// CREATE INDEX statements beside the keys: the billing run and the screens ask for a customer or a month.
+const QStringList& IndexStatements();
 
 }  // namespace akarix

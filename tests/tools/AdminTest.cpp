@@ -35,7 +35,7 @@ TEST(Admin, RefusesWhatItDoesNotUnderstand) {
         for (QString& argument : arguments) {
             argument.replace(QStringLiteral("FILE"), file).replace(QStringLiteral("FOLDER"), folder.path());
         }
-        EXPECT_EQ(Run(arguments), c.code) << c.arguments;
+        EXPECT_EQ(admin::Run(arguments), c.code) << c.arguments;
     }
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
@@ -47,11 +47,11 @@ TEST(Admin, TouchesAnExistingFileOnDemandAlone) {
     ASSERT_TRUE(file.open(QFile::WriteOnly));
     file.write("mine");
     file.close();
-    EXPECT_EQ(Run({QStringLiteral("create"), path}), Failed);
+    EXPECT_EQ(admin::Run({QStringLiteral("create"), path}), Failed);
     EXPECT_EQ(QFile(path).size(), 4);
-    EXPECT_EQ(Run({QStringLiteral("create"), path, QStringLiteral("--force")}), Done);
+    EXPECT_EQ(admin::Run({QStringLiteral("create"), path, QStringLiteral("--force")}), Done);
     EXPECT_GT(QFile(path).size(), 4096);
-    EXPECT_EQ(Run({QStringLiteral("sample"), path, QStringLiteral("--customers"), QStringLiteral("5"),
+    EXPECT_EQ(admin::Run({QStringLiteral("sample"), path, QStringLiteral("--customers"), QStringLiteral("5"),
                    QStringLiteral("--months"), QStringLiteral("1"), QStringLiteral("--force")}),
               Done);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("a.mdb")});
