@@ -25,20 +25,18 @@ TEST_F(SubTest, GasCharge) {
         const char16_t* charge;
     };
     const Case cases[] = {
-        {1, u"12.3", u"4827"},      // 1,800 + Int(6.3 x 480.5 = 3,027.15)
-        {1, u"0", u"1800"},         // the band from 0
-        {1, u"5", u"1800"},         // both bounds belong to a band
-        {1, u"6", u"1800"},
-        {1, u"20", u"8527"},        // 14 x 480.5 = 6,727
-        {1, u"5.5", u"0"},          // between two bands
-        {1, u"20.1", u"0"},         // above the last
-        {1, u"-1234.5", u"0"},      // a meter that was not read
-        {2, u"6", u"1899.5"},       // the lower of two overlapping bands; 199.9998 loses its fraction
-        {2, u"6.1", u"3010"},
-        {2, u"0.0001", u"1700.5"},  // the basic charge keeps its fraction
-        {3, u"1", u"0"},            // no tariff
-        {4, u"6", u"989"},          // -10.05 goes down to -11
-        {99, u"1", u"0"},           // no customer
+        {1, u"12.3", u"4827"},                       // 1,800 + Int(6.3 x 480.5 = 3,027.15)
+        {1, u"0", u"1800"},                          // the band from 0
+        {1, u"5", u"1800"},                          // both bounds belong to a band
+        {1, u"6", u"1800"},    {1, u"20", u"8527"},  // 14 x 480.5 = 6,727
+        {1, u"5.5", u"0"},                           // between two bands
+        {1, u"20.1", u"0"},                          // above the last
+        {1, u"-1234.5", u"0"},                       // a meter that was not read
+        {2, u"6", u"1899.5"},  // the lower of two overlapping bands; 199.9998 loses its fraction
+        {2, u"6.1", u"3010"},  {2, u"0.0001", u"1700.5"},  // the basic charge keeps its fraction
+        {3, u"1", u"0"},                                   // no tariff
+        {4, u"6", u"989"},                                 // -10.05 goes down to -11
+        {99, u"1", u"0"},                                  // no customer
     };
     for (const Case& c : cases) {
         EXPECT_EQ(CalcGasCharge(c.deal, Currency::FromText(QString::fromUtf16(c.usage))).ToText(),
@@ -48,10 +46,11 @@ TEST_F(SubTest, GasCharge) {
 }
 
 TEST_F(SubTest, EarlierMeter) {
-    ScratchStore::run(QStringLiteral("INSERT INTO Dgd(Nendo,Getudo,Deal,KonkaiMeter) VALUES(2010,12,1,900.5);\n"
-                                     "INSERT INTO Dgd(Nendo,Getudo,Deal,KonkaiMeter) VALUES(2010,3,1,700);\n"
-                                     "INSERT INTO Dgd(Nendo,Getudo,Deal,KonkaiMeter) VALUES(2011,2,2,0);\n"
-                                     "INSERT INTO Dgd(Nendo,Getudo,Deal,KonkaiMeter) VALUES(2011,1,2,55);\n"));
+    ScratchStore::run(
+        QStringLiteral("INSERT INTO Dgd(Nendo,Getudo,Deal,KonkaiMeter) VALUES(2010,12,1,900.5);\n"
+                       "INSERT INTO Dgd(Nendo,Getudo,Deal,KonkaiMeter) VALUES(2010,3,1,700);\n"
+                       "INSERT INTO Dgd(Nendo,Getudo,Deal,KonkaiMeter) VALUES(2011,2,2,0);\n"
+                       "INSERT INTO Dgd(Nendo,Getudo,Deal,KonkaiMeter) VALUES(2011,1,2,55);\n"));
     EXPECT_EQ(PrevKonkaiMeter(2011, 4, 1).ToText(), QStringLiteral("900.5")) << "months are passed over";
     EXPECT_EQ(PrevKonkaiMeter(2010, 12, 1).ToText(), QStringLiteral("700"));
     EXPECT_EQ(PrevKonkaiMeter(2010, 3, 1), Currency(0));
@@ -67,7 +66,8 @@ TEST_F(SubTest, MeterOfAMonthAndInvoiceFlag) {
     Currency now(9);
     Currency use(9);
     ReadMonthMeter(1, 2011, 3, before, now, use);
-    EXPECT_EQ(before.ToText() + u'|' + now.ToText() + u'|' + use.ToText(), QStringLiteral("900.5|912.8|12.3"));
+    EXPECT_EQ(before.ToText() + u'|' + now.ToText() + u'|' + use.ToText(),
+              QStringLiteral("900.5|912.8|12.3"));
     ReadMonthMeter(1, 2011, 4, before, now, use);
     EXPECT_EQ(before + now + use, Currency(0));
     EXPECT_TRUE(IsNoInvoice(1));

@@ -88,7 +88,8 @@ TEST_F(TtoTest, TheBalanceIsCarriedFromTheLatestEarlierMonth) {
     customers(QStringLiteral("1,2,3"));
     ScratchStore::run(QStringLiteral(
         // Entered but never billed: Gaku is 0, gas and sales are carried all the same.
-        "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku) VALUES(1,2010,12,1000,4000,500,1500);\n"
+        "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku) "
+        "VALUES(1,2010,12,1000,4000,500,1500);\n"
         "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku) VALUES(1,2010,11,77777);\n"
         "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku) VALUES(2,2011,4,88888);\n"
         "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,SyokiFlg) VALUES(3,2011,3,2500,1);\n"
@@ -111,8 +112,9 @@ TEST_F(TtoTest, ASecondRunClearsSalesAloneOfWhatLostItsSources) {
         payment(deal, deal, 2011, 3, QStringLiteral("1200"));
     }
     bill(2011, 3);
-    ScratchStore::run(QStringLiteral("DELETE FROM Dgd WHERE Deal=1;\nDELETE FROM Dud WHERE Deal=1;\n"
-                                     "DELETE FROM Dny WHERE Deal=1;\nUPDATE Dgd SET Gaku=3100;\n"));
+    ScratchStore::run(
+        QStringLiteral("DELETE FROM Dgd WHERE Deal=1;\nDELETE FROM Dud WHERE Deal=1;\n"
+                       "DELETE FROM Dny WHERE Deal=1;\nUPDATE Dgd SET Gaku=3100;\n"));
     sale(3, 1, 2, 2011, 3, QStringLiteral("50"));
     bill(2011, 3, 30);
     EXPECT_EQ(ledger(2011, 3), (QStringList{QStringLiteral("1|0|3000|0|3000|1200|0"),
@@ -134,12 +136,13 @@ TEST_F(TtoTest, BillingAnOldMonthAgainLeavesTheMonthsAfterIt) {
 }
 
 TEST_F(TtoTest, LeaseSlips) {
-    ScratchStore::run(QStringLiteral("INSERT INTO Deal(Code,ACU,Keihou) VALUES(1,1,1);\n"
-                                     "INSERT INTO Deal(Code,ACU,Keihou) VALUES(2,0,1);\n"
-                                     "INSERT INTO Deal(Code,ACU,Keihou) VALUES(3,0,0);\n"
-                                     "INSERT INTO Deal(Code,ACU,Keihou) VALUES(4,1,0);\n"
-                                     "UPDATE UserOP SET contents='300' WHERE Code=2;\n"
-                                     "UPDATE UserOP SET contents='1,050円' WHERE Code=3;\n"));
+    ScratchStore::run(
+        QStringLiteral("INSERT INTO Deal(Code,ACU,Keihou) VALUES(1,1,1);\n"
+                       "INSERT INTO Deal(Code,ACU,Keihou) VALUES(2,0,1);\n"
+                       "INSERT INTO Deal(Code,ACU,Keihou) VALUES(3,0,0);\n"
+                       "INSERT INTO Deal(Code,ACU,Keihou) VALUES(4,1,0);\n"
+                       "UPDATE UserOP SET contents='300' WHERE Code=2;\n"
+                       "UPDATE UserOP SET contents='1,050円' WHERE Code=3;\n"));
     sale(40, 1, 3, 2011, 3, QStringLiteral("10"));
     bill(2011, 3);
     EXPECT_EQ(leaseLines(), (QStringList{
@@ -148,15 +151,15 @@ TEST_F(TtoTest, LeaseSlips) {
                                 QStringLiteral("42|1|2|警報機リース代|300|2011/03/28"),
                                 QStringLiteral("43|1|4|ACUリース代|1050|2011/03/28"),
                             }));
-    EXPECT_EQ(ledger(2011, 3), (QStringList{QStringLiteral("1|0|0|1350|1350|0|0"),
-                                            QStringLiteral("2|0|0|300|300|0|0"),
-                                            QStringLiteral("3|0|0|10|10|0|0"),
-                                            QStringLiteral("4|0|0|1050|1050|0|0")}));
+    EXPECT_EQ(ledger(2011, 3),
+              (QStringList{QStringLiteral("1|0|0|1350|1350|0|0"), QStringLiteral("2|0|0|300|300|0|0"),
+                           QStringLiteral("3|0|0|10|10|0|0"), QStringLiteral("4|0|0|1050|1050|0|0")}));
 
     // Fee and flags of today under the old number; who stopped leasing keeps the slip; a line typed under a
     // generated number goes with it.
-    ScratchStore::run(QStringLiteral("UPDATE UserOP SET contents='350' WHERE Code=2;\n"
-                                     "UPDATE Deal SET ACU=0 WHERE Code=1;\nUPDATE Deal SET ACU=0 WHERE Code=4;\n"));
+    ScratchStore::run(
+        QStringLiteral("UPDATE UserOP SET contents='350' WHERE Code=2;\n"
+                       "UPDATE Deal SET ACU=0 WHERE Code=1;\nUPDATE Deal SET ACU=0 WHERE Code=4;\n"));
     sale(42, 9, 2, 2011, 3, QStringLiteral("9999"));
     bill(2011, 3, 31);
     EXPECT_EQ(leaseLines(), (QStringList{
@@ -168,8 +171,9 @@ TEST_F(TtoTest, LeaseSlips) {
 }
 
 TEST_F(TtoTest, AFeePastSixteenBitsStopsTheRunAndWhatWasDoneStays) {
-    ScratchStore::run(QStringLiteral("INSERT INTO Deal(Code,Keihou) VALUES(1,1);\n"
-                                     "UPDATE UserOP SET contents='32768' WHERE Code=2;\n"));
+    ScratchStore::run(
+        QStringLiteral("INSERT INTO Deal(Code,Keihou) VALUES(1,1);\n"
+                       "UPDATE UserOP SET contents='32768' WHERE Code=2;\n"));
     reading(2011, 3, 1, QStringLiteral("3000"));
     try {
         bill(2011, 3);

@@ -42,14 +42,17 @@ TEST_F(DatabaseTest, TheDeliveredFileHasEveryTableAndItsSettings) {
 
 TEST_F(DatabaseTest, AmountsThatAreNotGivenAreZero) {
     const ScratchStore store;
-    ScratchStore::run(QStringLiteral("INSERT INTO TtoD(Deal,Nendo,Getudo) VALUES(1,2011,3);\n"
-                                     "INSERT INTO Dgd(Nendo,Getudo,Deal) VALUES(2011,3,1);\n"
-                                     "INSERT INTO Dud(Dno,Eda) VALUES(1,1);\n"
-                                     "INSERT INTO Dny(Dno) VALUES(1);\n"));
-    EXPECT_EQ(ScratchStore::rows(QStringLiteral("SELECT ZenkaiGaku+GGaku+UGaku+Gaku-NGaku,NFlg,SyokiFlg FROM TtoD")),
+    ScratchStore::run(
+        QStringLiteral("INSERT INTO TtoD(Deal,Nendo,Getudo) VALUES(1,2011,3);\n"
+                       "INSERT INTO Dgd(Nendo,Getudo,Deal) VALUES(2011,3,1);\n"
+                       "INSERT INTO Dud(Dno,Eda) VALUES(1,1);\n"
+                       "INSERT INTO Dny(Dno) VALUES(1);\n"));
+    EXPECT_EQ(ScratchStore::rows(
+                  QStringLiteral("SELECT ZenkaiGaku+GGaku+UGaku+Gaku-NGaku,NFlg,SyokiFlg FROM TtoD")),
               QStringList{QStringLiteral("0|0|0")});
-    EXPECT_EQ(ScratchStore::rows(QStringLiteral("SELECT ZenkaiMeter+KoukanMeter+KoukanGoMeter+KonkaiMeter+Suu+Gaku,Rte "
-                                                "FROM Dgd")),
+    EXPECT_EQ(ScratchStore::rows(
+                  QStringLiteral("SELECT ZenkaiMeter+KoukanMeter+KoukanGoMeter+KonkaiMeter+Suu+Gaku,Rte "
+                                 "FROM Dgd")),
               QStringList{QStringLiteral("0|0")});
     EXPECT_EQ(ScratchStore::rows(QStringLiteral("SELECT Suu+Tanka+Gaku,CreateAuto FROM Dud")),
               QStringList{QStringLiteral("0|0")});
@@ -88,12 +91,13 @@ TEST_F(DatabaseTest, KeysDropTheSecondRow) {
 
 TEST_F(DatabaseTest, MigrationBringsAnOlderFileUpToDateAndCanBeRunAgain) {
     const ScratchStore store;
-    ScratchStore::run(QStringLiteral("DROP TABLE TempZan;\nDROP TABLE Rte;\nDROP TABLE Bnk;\nDROP TABLE GasKeisan;\n"
-                                     "CREATE TABLE Rte(Code Integer, Kana Text(20), Namae Text(30));\n"
-                                     "CREATE TABLE Bnk(Code Integer, BkName Text(15));\n"
-                                     "CREATE TABLE GasKeisan(Ptn Integer, St Integer, Ed Integer, Kihon Integer, "
-                                     "Tanka Integer);\n"
-                                     "INSERT INTO GasKeisan(Ptn,St,Ed,Kihon,Tanka) VALUES(1,0,5,1800,480);\n"));
+    ScratchStore::run(
+        QStringLiteral("DROP TABLE TempZan;\nDROP TABLE Rte;\nDROP TABLE Bnk;\nDROP TABLE GasKeisan;\n"
+                       "CREATE TABLE Rte(Code Integer, Kana Text(20), Namae Text(30));\n"
+                       "CREATE TABLE Bnk(Code Integer, BkName Text(15));\n"
+                       "CREATE TABLE GasKeisan(Ptn Integer, St Integer, Ed Integer, Kihon Integer, "
+                       "Tanka Integer);\n"
+                       "INSERT INTO GasKeisan(Ptn,St,Ed,Kihon,Tanka) VALUES(1,0,5,1800,480);\n"));
     for (int start = 0; start < 2; ++start) {
         MigrateDb();
         ScratchStore::run(QStringLiteral("UPDATE GasKeisan SET Tanka=480.5;\n"));
@@ -110,7 +114,8 @@ TEST_F(DatabaseTest, AMissingFileIsToldAndNothingIsMade) {
     QFile::remove(store.path());
     EXPECT_FALSE(OpenDb(noteFailure));
     ASSERT_EQ(failures.size(), 1);
-    EXPECT_TRUE(failures[0].startsWith(QStringLiteral("エラー|エラー番号  3024"))) << failures[0].toStdString();
+    EXPECT_TRUE(failures[0].startsWith(QStringLiteral("エラー|エラー番号  3024")))
+        << failures[0].toStdString();
     EXPECT_TRUE(failures[0].contains(QStringLiteral(" でエラーが発生しました。 \r")));
     EXPECT_FALSE(QFile::exists(store.path()));
 }
@@ -121,7 +126,8 @@ TEST_F(DatabaseTest, AWrongPasswordIsToldAndNotRepaired) {
     DBEngine::Workspaces(0).CreateDatabase(DatabaseName(), QStringLiteral("MS Access;PWD=other"))->Close();
     EXPECT_FALSE(OpenDb(noteFailure));
     ASSERT_EQ(failures.size(), 1);
-    EXPECT_TRUE(failures[0].startsWith(QStringLiteral("エラー|エラー番号  3031"))) << failures[0].toStdString();
+    EXPECT_TRUE(failures[0].startsWith(QStringLiteral("エラー|エラー番号  3031")))
+        << failures[0].toStdString();
 }
 
 TEST_F(DatabaseTest, ADamagedFileIsRepairedWithoutAWord) {

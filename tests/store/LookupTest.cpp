@@ -29,12 +29,12 @@ TEST_F(LookupTest, AMissingRowGivesItsDefault) {
 }
 
 TEST_F(LookupTest, ReadsWhatIsThere) {
-    ScratchStore::run(QStringLiteral(
-        "INSERT INTO Rte(Code,Namae,Kensin) VALUES(3,'川西 ',22);\n"
-        "INSERT INTO Rte(Code,Namae) VALUES(4,' ');\n"
-        "INSERT INTO Deal(Code,Namae,NoSeikyu) VALUES(12,'佐藤　一郎',1);\n"
-        "INSERT INTO Hin(Code,Namae,Tanka) VALUES(1,'ホース',580.5);\n"
-        "INSERT INTO Zip7(Code,Addr) VALUES(9999901,'緑川市本町');\n"));
+    ScratchStore::run(
+        QStringLiteral("INSERT INTO Rte(Code,Namae,Kensin) VALUES(3,'川西 ',22);\n"
+                       "INSERT INTO Rte(Code,Namae) VALUES(4,' ');\n"
+                       "INSERT INTO Deal(Code,Namae,NoSeikyu) VALUES(12,'佐藤　一郎',1);\n"
+                       "INSERT INTO Hin(Code,Namae,Tanka) VALUES(1,'ホース',580.5);\n"
+                       "INSERT INTO Zip7(Code,Addr) VALUES(9999901,'緑川市本町');\n"));
     EXPECT_EQ(GetName(QStringLiteral("Rte"), QStringLiteral("3")), QStringLiteral("川西"));
     EXPECT_EQ(GetName(QStringLiteral("Rte"), std::int32_t{4}), QString()) << "a name of one blank is empty";
     EXPECT_EQ(GetDealName(std::int32_t{12}), QStringLiteral("佐藤　一郎"));
@@ -42,7 +42,8 @@ TEST_F(LookupTest, ReadsWhatIsThere) {
     EXPECT_EQ(GetKensinDay(std::int32_t{3}), Variant(std::int16_t{22}));
     EXPECT_EQ(GetKensinDay(std::int32_t{4}), Variant(std::int16_t{0})) << "Null reads as 0";
     EXPECT_EQ(AddressOfZip(QStringLiteral("999-9901")), QStringLiteral("緑川市本町"));
-    EXPECT_EQ(GetContents(QStringLiteral("SELECT Contents FROM zSysFunc WHERE Code=1")), QStringLiteral("31"));
+    EXPECT_EQ(GetContents(QStringLiteral("SELECT Contents FROM zSysFunc WHERE Code=1")),
+              QStringLiteral("31"));
     QString name;
     int flag = 0;
     GetNameAndNoSeikyu(QStringLiteral("Deal"), std::int32_t{12}, name, flag);
@@ -53,9 +54,10 @@ TEST_F(LookupTest, ReadsWhatIsThere) {
 TEST_F(LookupTest, NextNumbers) {
     EXPECT_EQ(NextCode(QStringLiteral("Hin")), 1);
     EXPECT_EQ(NextHaisou(), 10);
-    ScratchStore::run(QStringLiteral("INSERT INTO Deal(Code,Haisou) VALUES(40,55);\n"
-                                     "INSERT INTO Rte(Code) VALUES(32767);\n"
-                                     "INSERT INTO Hin(Code) VALUES(2147483647);\n"));
+    ScratchStore::run(
+        QStringLiteral("INSERT INTO Deal(Code,Haisou) VALUES(40,55);\n"
+                       "INSERT INTO Rte(Code) VALUES(32767);\n"
+                       "INSERT INTO Hin(Code) VALUES(2147483647);\n"));
     EXPECT_EQ(NextCode(QStringLiteral("Deal")), 41);
     EXPECT_EQ(NextHaisou(), 65);
     EXPECT_EQ(NextCode(QStringLiteral("Rte")), 32768);
@@ -63,20 +65,19 @@ TEST_F(LookupTest, NextNumbers) {
 }
 
 TEST_F(LookupTest, DayOfAnEarlierReading) {
-    ScratchStore::run(QStringLiteral("INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2011,3,1,25);\n"
-                                     "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2011,2,2,30);\n"
-                                     "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2010,12,3,24);\n"));
+    ScratchStore::run(
+        QStringLiteral("INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2011,3,1,25);\n"
+                       "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2011,2,2,30);\n"
+                       "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2010,12,3,24);\n"));
     struct Case {
         int year, month;
         std::int32_t deal;
         const char16_t* day;
     };
     const Case cases[] = {
-        {2011, 4, 1, u"2011/3/25"},
-        {2011, 3, 1, u""},  // its first reading is this month's
-        {2011, 4, 2, u""},  // there is no 30th of February
-        {2011, 1, 3, u"2010/12/24"},
-        {2011, 1, 9, u""},
+        {2011, 4, 1, u"2011/3/25"},  {2011, 3, 1, u""},  // its first reading is this month's
+        {2011, 4, 2, u""},                               // there is no 30th of February
+        {2011, 1, 3, u"2010/12/24"}, {2011, 1, 9, u""},
     };
     for (const Case& c : cases) {
         QString text = QStringLiteral("before");
@@ -86,20 +87,21 @@ TEST_F(LookupTest, DayOfAnEarlierReading) {
 }
 
 TEST_F(LookupTest, BillingMonthOfADate) {
-    ScratchStore::run(QStringLiteral("INSERT INTO Deal(Code,Sime) VALUES(31,31);\n"
-                                     "INSERT INTO Deal(Code,Sime) VALUES(30,30);\n"
-                                     "INSERT INTO Deal(Code,Sime) VALUES(20,20);\n"
-                                     "INSERT INTO Deal(Code,Sime) VALUES(100,0);\n"
-                                     "INSERT INTO Deal(Code) VALUES(101);\n"));
+    ScratchStore::run(
+        QStringLiteral("INSERT INTO Deal(Code,Sime) VALUES(31,31);\n"
+                       "INSERT INTO Deal(Code,Sime) VALUES(30,30);\n"
+                       "INSERT INTO Deal(Code,Sime) VALUES(20,20);\n"
+                       "INSERT INTO Deal(Code,Sime) VALUES(100,0);\n"
+                       "INSERT INTO Deal(Code) VALUES(101);\n"));
     struct Case {
         std::int32_t deal;
         int year, month, day;
         int nendo, getudo;
     };
     const Case cases[] = {
-        {31, 2011, 3, 31, 2011, 3},  {30, 2011, 3, 31, 2011, 4},   {20, 2011, 3, 20, 2011, 3},
-        {20, 2011, 3, 21, 2011, 4},  {20, 2010, 12, 31, 2011, 1},  {999, 2011, 12, 31, 2011, 12},
-        {100, 2011, 5, 1, 2011, 6},  {101, 2011, 12, 1, 2012, 1},
+        {31, 2011, 3, 31, 2011, 3}, {30, 2011, 3, 31, 2011, 4},  {20, 2011, 3, 20, 2011, 3},
+        {20, 2011, 3, 21, 2011, 4}, {20, 2010, 12, 31, 2011, 1}, {999, 2011, 12, 31, 2011, 12},
+        {100, 2011, 5, 1, 2011, 6}, {101, 2011, 12, 1, 2012, 1},
     };
     for (const Case& c : cases) {
         int nendo = 0;
@@ -111,10 +113,11 @@ TEST_F(LookupTest, BillingMonthOfADate) {
 }
 
 TEST_F(LookupTest, Consignors) {
-    ScratchStore::run(QStringLiteral(
-        "INSERT INTO Bnk(Code,ItakuCode,Itakusya,fName,BkName,Stn,StnName,Syurui,KozaNo) "
-        "VALUES(152,'0000152301 ','ﾐﾄﾞﾘ','FURI.TXT','ｷﾞﾝｺｳ',1,'ﾎﾝﾃﾝ','1','1023344');\n"
-        "INSERT INTO Bnk(Code,BkName,Stn,Saifurikae,Keiyaku,Jimusyo) VALUES(9900,'ﾕｳｾｲ',990,'15','02','緑');\n"));
+    ScratchStore::run(
+        QStringLiteral("INSERT INTO Bnk(Code,ItakuCode,Itakusya,fName,BkName,Stn,StnName,Syurui,KozaNo) "
+                       "VALUES(152,'0000152301 ','ﾐﾄﾞﾘ','FURI.TXT','ｷﾞﾝｺｳ',1,'ﾎﾝﾃﾝ','1','1023344');\n"
+                       "INSERT INTO Bnk(Code,BkName,Stn,Saifurikae,Keiyaku,Jimusyo) "
+                       "VALUES(9900,'ﾕｳｾｲ',990,'15','02','緑');\n"));
     Consignor consignor;
     consignor.Saifurikae = QStringLiteral("kept");
     LoadBankConsignor(152, consignor);

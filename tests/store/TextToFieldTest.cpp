@@ -32,7 +32,8 @@ TEST(TextToField, ByKind) {
     for (const Case& c : cases) {
         Variant value = QStringLiteral("before");
         TextToField(value, c.type, c.size, QString::fromUtf16(c.text));
-        EXPECT_EQ(value, c.value) << static_cast<int>(c.type) << " " << QString::fromUtf16(c.text).toStdString();
+        EXPECT_EQ(value, c.value) << static_cast<int>(c.type) << " "
+                                  << QString::fromUtf16(c.text).toStdString();
     }
     Variant value;
     EXPECT_THROW(TextToField(value, FieldType::Integer, 2, QStringLiteral("40000")), RuntimeError);

@@ -77,4 +77,3 @@ class ScratchStore {
 };
 
 }  // namespace akarix
-

@@ -52,7 +52,7 @@ TEST(Admin, TouchesAnExistingFileOnDemandAlone) {
     EXPECT_EQ(admin::Run({QStringLiteral("create"), path, QStringLiteral("--force")}), Done);
     EXPECT_GT(QFile(path).size(), 4096);
     EXPECT_EQ(admin::Run({QStringLiteral("sample"), path, QStringLiteral("--customers"), QStringLiteral("5"),
-                   QStringLiteral("--months"), QStringLiteral("1"), QStringLiteral("--force")}),
+                          QStringLiteral("--months"), QStringLiteral("1"), QStringLiteral("--force")}),
               Done);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("a.mdb")});
 }

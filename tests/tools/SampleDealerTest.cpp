@@ -39,10 +39,12 @@ TEST(SampleDealer, TheSameWishGivesTheSameRows) {
 TEST(SampleDealer, TheSecondOpinionAgreesAndSeesOneYen) {
     const ScratchStore store;
     fill(120, 4);
-    EXPECT_EQ(ScratchStore::rows(QStringLiteral("SELECT COUNT(*) AS n FROM TtoD")).value(0), QStringLiteral("480"));
+    EXPECT_EQ(ScratchStore::rows(QStringLiteral("SELECT COUNT(*) AS n FROM TtoD")).value(0),
+              QStringLiteral("480"));
     for (int month : {12, 1, 2, 3}) {
         const int year = month == 12 ? 2010 : 2011;
-        for (const auto& differences : {CheckLedgerMonth(*gDb, year, month), CheckCharges(*gDb, year, month)}) {
+        for (const auto& differences :
+             {CheckLedgerMonth(*gDb, year, month), CheckCharges(*gDb, year, month)}) {
             EXPECT_TRUE(differences.empty()) << describe(differences.front()).toStdString();
         }
     }
@@ -69,26 +71,29 @@ TEST(SampleDealer, TheSecondOpinionAgreesAndSeesOneYen) {
     }
     gDb->Execute(QStringLiteral("UPDATE Dgd SET Gaku=Gaku+1 WHERE Deal=7 AND Nendo=2011 AND Getudo=3"));
     ASSERT_EQ(CheckCharges(*gDb, 2011, 3).size(), 1u);
-    EXPECT_EQ(CheckCharges(*gDb, 2011, 3).front().found - CheckCharges(*gDb, 2011, 3).front().expected, 10000);
+    EXPECT_EQ(CheckCharges(*gDb, 2011, 3).front().found - CheckCharges(*gDb, 2011, 3).front().expected,
+              10000);
 }
 
 TEST(SampleDealer, HasWhatADealerHas) {
     const ScratchStore store;
     fill(300, 3);
     // Each question must find something, or the screens would have nothing to show.
-    for (const char16_t* question : {
-             u"SELECT * FROM Deal WHERE Bnk=9900 AND Stn>10000", u"SELECT * FROM Deal WHERE Bnk<>9900 AND Bnk<>0",
-             u"SELECT * FROM Deal WHERE DiscGaku>0", u"SELECT * FROM Deal WHERE ACU=1",
-             u"SELECT * FROM Deal WHERE NoSeikyu=1", u"SELECT * FROM Deal WHERE Sime=10",
-             u"SELECT * FROM Dgd WHERE KoukanMeter>0", u"SELECT * FROM Dgd WHERE Suu=0",
-             u"SELECT * FROM Dud WHERE HinCode=90", u"SELECT * FROM Dud WHERE CreateAuto=1",
-             u"SELECT * FROM Dny WHERE Kubun=2", u"SELECT * FROM Dny WHERE Eda=2",
-             u"SELECT * FROM TtoD WHERE SyokiFlg=1", u"SELECT * FROM TtoD WHERE ZenkaiGaku-NGaku>0",
-             u"SELECT * FROM Dud WHERE Nendo*100+Getudo=201104"}) {
+    for (const char16_t* question :
+         {u"SELECT * FROM Deal WHERE Bnk=9900 AND Stn>10000",
+          u"SELECT * FROM Deal WHERE Bnk<>9900 AND Bnk<>0", u"SELECT * FROM Deal WHERE DiscGaku>0",
+          u"SELECT * FROM Deal WHERE ACU=1", u"SELECT * FROM Deal WHERE NoSeikyu=1",
+          u"SELECT * FROM Deal WHERE Sime=10", u"SELECT * FROM Dgd WHERE KoukanMeter>0",
+          u"SELECT * FROM Dgd WHERE Suu=0", u"SELECT * FROM Dud WHERE HinCode=90",
+          u"SELECT * FROM Dud WHERE CreateAuto=1", u"SELECT * FROM Dny WHERE Kubun=2",
+          u"SELECT * FROM Dny WHERE Eda=2", u"SELECT * FROM TtoD WHERE SyokiFlg=1",
+          u"SELECT * FROM TtoD WHERE ZenkaiGaku-NGaku>0",
+          u"SELECT * FROM Dud WHERE Nendo*100+Getudo=201104"}) {
         EXPECT_FALSE(ScratchStore::rows(QString::fromUtf16(question)).isEmpty())
             << QString::fromUtf16(question).toStdString();
     }
-    EXPECT_TRUE(ScratchStore::rows(QStringLiteral("SELECT * FROM Dgd WHERE Suu<0 OR (Suu>0 AND Gaku=0)")).isEmpty());
+    EXPECT_TRUE(
+        ScratchStore::rows(QStringLiteral("SELECT * FROM Dgd WHERE Suu<0 OR (Suu>0 AND Gaku=0)")).isEmpty());
 }
 
 }  // namespace

@@ -16,8 +16,9 @@ QString overview() {
     for (const Command& command : Commands()) {
         text += QStringLiteral("  %1 %2\n").arg(command.name.leftJustified(8), command.summary);
     }
-    return text + QStringLiteral("\nコマンドの説明: akarix-admin コマンド --help\n"
-                                 "終了コード: 0 正常、1 失敗、2 使い方の誤り\n");
+    return text + QStringLiteral(
+                      "\nコマンドの説明: akarix-admin コマンド --help\n"
+                      "終了コード: 0 正常、1 失敗、2 使い方の誤り\n");
 }
 
 const Command* findCommand(const QString& name) {

@@ -37,7 +37,8 @@ int create(const QStringList& arguments) {
 }  // namespace
 
 Command createCommand() {
-    return {QStringLiteral("create"), QStringLiteral("空のデータベースを作る"), QString::fromUtf8(helpText), create};
+    return {QStringLiteral("create"), QStringLiteral("空のデータベースを作る"), QString::fromUtf8(helpText),
+            create};
 }
 
 }  // namespace akarix::admin

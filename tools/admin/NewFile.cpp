@@ -13,7 +13,8 @@ namespace akarix::admin {
 QString refusal(const QString& path, bool force) {
     const QFileInfo file(path);
     if (file.isDir()) return QStringLiteral("%1 はフォルダです。").arg(path);
-    if (!file.absoluteDir().exists()) return QStringLiteral("フォルダがありません: %1").arg(file.absolutePath());
+    if (!file.absoluteDir().exists())
+        return QStringLiteral("フォルダがありません: %1").arg(file.absolutePath());
     if (file.exists() && !force) {
         return QStringLiteral("%1 は既にあります。作り直すときは --force を付けてください。").arg(path);
     }

@@ -78,7 +78,8 @@ class OpenStore {
 int makeSample(const QStringList& arguments) {
     QCommandLineParser parser;
     parser.addOptions({
-        QCommandLineOption(QStringLiteral("customers"), QString(), QStringLiteral("n"), QStringLiteral("300")),
+        QCommandLineOption(QStringLiteral("customers"), QString(), QStringLiteral("n"),
+                           QStringLiteral("300")),
         QCommandLineOption(QStringLiteral("months"), QString(), QStringLiteral("n"), QStringLiteral("14")),
         QCommandLineOption(QStringLiteral("until"), QString(), QStringLiteral("month")),
         QCommandLineOption(QStringLiteral("force")),
@@ -113,8 +114,8 @@ int makeSample(const QStringList& arguments) {
 }  // namespace
 
 Command sampleCommand() {
-    return {QStringLiteral("sample"), QStringLiteral("見本の販売店のデータベースを作る"), QString::fromUtf8(helpText),
-            makeSample};
+    return {QStringLiteral("sample"), QStringLiteral("見本の販売店のデータベースを作る"),
+            QString::fromUtf8(helpText), makeSample};
 }
 
 }  // namespace akarix::admin

@@ -51,8 +51,8 @@ std::int64_t chargeFor(const std::vector<Band>& bands, std::int64_t use) {
 
 std::vector<Difference> CheckCharges(Database& db, int nendo, int getudo) {
     std::map<std::int64_t, std::vector<Band>> tariff;
-    for (const auto& row : readNumbers(
-             db, QStringLiteral("SELECT Ptn,St,Ed,Kihon,Tanka FROM GasKeisan ORDER BY Ptn,St,Ed"))) {
+    for (const auto& row :
+         readNumbers(db, QStringLiteral("SELECT Ptn,St,Ed,Kihon,Tanka FROM GasKeisan ORDER BY Ptn,St,Ed"))) {
         tariff[row[0]].push_back({row[1], row[2], row[3], row[4]});
     }
     std::map<std::int64_t, std::int64_t> patterns;
@@ -61,15 +61,14 @@ std::vector<Difference> CheckCharges(Database& db, int nendo, int getudo) {
     }
 
     std::vector<Difference> differences;
-    for (const auto& row :
-         readNumbers(db, QStringLiteral("SELECT Deal,ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,Suu,Gaku "
-                                        "FROM Dgd WHERE Nendo=%1 AND Getudo=%2 ORDER BY Deal")
-                             .arg(nendo)
-                             .arg(getudo))) {
+    for (const auto& row : readNumbers(
+             db, QStringLiteral("SELECT Deal,ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,Suu,Gaku "
+                                "FROM Dgd WHERE Nendo=%1 AND Getudo=%2 ORDER BY Deal")
+                     .arg(nendo)
+                     .arg(getudo))) {
         const bool neverRead = row[4] == 0 && row[5] == 0 && row[6] == 0;
         if (neverRead) continue;
-        const std::int64_t use =
-            row[2] != 0 ? row[2] - row[1] + row[4] - row[3] : row[4] - row[1];
+        const std::int64_t use = row[2] != 0 ? row[2] - row[1] + row[4] - row[3] : row[4] - row[1];
         const auto pattern = patterns.find(row[0]);
         const std::int64_t charge = pattern == patterns.end() ? 0 : chargeFor(tariff[pattern->second], use);
         const auto note = [&](const QString& column, std::int64_t expected, std::int64_t found) {

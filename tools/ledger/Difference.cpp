@@ -9,7 +9,8 @@ QString amountText(std::int64_t scaled) {
     QString text = QString::number(size / 10000);
     if (size % 10000 != 0) {
         text += u'.' + QStringLiteral("%1").arg(size % 10000, 4, 10, QLatin1Char('0'));
-        while (text.endsWith(u'0')) text.chop(1);
+        while (text.endsWith(u'0'))
+            text.chop(1);
     }
     return scaled < 0 ? u'-' + text : text;
 }

@@ -27,8 +27,8 @@ QString monthCondition(int nendo, int getudo) {
 /// Adds up the amounts of a source table by customer.
 Amounts sumsOf(Database& db, const QString& table, int nendo, int getudo) {
     Amounts sums;
-    for (const auto& row :
-         readNumbers(db, QStringLiteral("SELECT Deal,Gaku FROM %1").arg(table) + monthCondition(nendo, getudo))) {
+    for (const auto& row : readNumbers(
+             db, QStringLiteral("SELECT Deal,Gaku FROM %1").arg(table) + monthCondition(nendo, getudo))) {
         sums[static_cast<std::int32_t>(row[0])] += row[1];
     }
     return sums;
@@ -52,16 +52,18 @@ Amounts balancesBefore(Database& db, int nendo, int getudo) {
     };
     std::map<std::int32_t, Latest> latest;
     for (const auto& row : readNumbers(
-             db, QStringLiteral("SELECT Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku FROM TtoD WHERE Nendo<%1 "
-                                "OR (Nendo=%1 AND Getudo<%2)")
-                     .arg(nendo)
-                     .arg(getudo))) {
+             db,
+             QStringLiteral("SELECT Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku FROM TtoD WHERE Nendo<%1 "
+                            "OR (Nendo=%1 AND Getudo<%2)")
+                 .arg(nendo)
+                 .arg(getudo))) {
         Latest& kept = latest[static_cast<std::int32_t>(row[0])];
         const std::int64_t month = row[1] * 12 + row[2];
         if (month > kept.month) kept = {month, row[3] + row[4] + row[5] - row[6]};
     }
     Amounts balances;
-    for (const auto& [deal, row] : latest) balances[deal] = row.balance;
+    for (const auto& [deal, row] : latest)
+        balances[deal] = row.balance;
     return balances;
 }
 
@@ -86,9 +88,11 @@ std::vector<Difference> CheckLedgerMonth(Database& db, int nendo, int getudo) {
     // Documents of a customer who is no longer known still have their row, only no balance is carried.
     std::set<std::int32_t> due = known;
     for (const Amounts* source : {&gas, &sales, &payments}) {
-        for (const auto& [deal, amount] : *source) due.insert(deal);
+        for (const auto& [deal, amount] : *source)
+            due.insert(deal);
     }
-    for (const auto& [deal, row] : ledger) due.insert(deal);
+    for (const auto& [deal, row] : ledger)
+        due.insert(deal);
 
     std::vector<Difference> differences;
     for (const std::int32_t deal : due) {

@@ -21,7 +21,8 @@ std::vector<std::vector<std::int64_t>> readNumbers(Database& db, const QString& 
     for (; !set.Eof(); set.MoveNext()) {
         std::vector<std::int64_t>& row = rows.emplace_back();
         row.reserve(static_cast<std::size_t>(set.FieldCount()));
-        for (int i = 0; i < set.FieldCount(); ++i) row.push_back(plainNumber(set.Fields(i).Value()));
+        for (int i = 0; i < set.FieldCount(); ++i)
+            row.push_back(plainNumber(set.Fields(i).Value()));
     }
     set.Close();
     return rows;

@@ -12,7 +12,15 @@ struct ReadName {
     QString kana;
 };
 
-enum class Premises { House = 7, Apartment = 6, Restaurant = 4, Hall = 3, Hospital = 2, School = 1, Other = 5 };
+enum class Premises {
+    House = 7,
+    Apartment = 6,
+    Restaurant = 4,
+    Hall = 3,
+    Hospital = 2,
+    School = 1,
+    Other = 5
+};
 
 struct Town {
     const char16_t* name;

@@ -5,7 +5,8 @@
 
 namespace akarix::sample {
 
-RowWriter::RowWriter(const QString& table) : set_(gDb->OpenRecordset(QStringLiteral("SELECT * FROM ") + table)) {}
+RowWriter::RowWriter(const QString& table)
+    : set_(gDb->OpenRecordset(QStringLiteral("SELECT * FROM ") + table)) {}
 
 void RowWriter::add(std::initializer_list<std::pair<QString, Variant>> values) {
     set_.AddNew();

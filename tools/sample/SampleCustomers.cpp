@@ -18,9 +18,12 @@ struct Kind {
 
 // Houses are what is left of a thousand.
 const Kind kinds[] = {
-    {120, Premises::Apartment, ApartmentTariff, 25, 90},   {50, Premises::Restaurant, BusinessTariff, 250, 1400},
-    {10, Premises::Hospital, BusinessTariff, 150, 500},    {15, Premises::Hall, PublicTariff, 5, 60},
-    {5, Premises::School, PublicTariff, 200, 900},         {25, Premises::Other, BulkTariff, 100, 600},
+    {120, Premises::Apartment, ApartmentTariff, 25, 90},
+    {50, Premises::Restaurant, BusinessTariff, 250, 1400},
+    {10, Premises::Hospital, BusinessTariff, 150, 500},
+    {15, Premises::Hall, PublicTariff, 5, 60},
+    {5, Premises::School, PublicTariff, 200, 900},
+    {25, Premises::Other, BulkTariff, 100, 600},
     {1000, Premises::House, HouseTariff, 45, 220},
 };
 
@@ -110,8 +113,9 @@ std::vector<Customer> fillCustomers(int count, Dice& dice) {
         customer.paymentClass = account.bank != 0 ? 2 : (dice.percent(65) ? 1 : 3);
         const bool fixedDebit = account.bank != 0 && dice.percent(3);
         const bool business = kind.premises != Premises::House && kind.premises != Premises::Apartment;
-        const QString room =
-            kind.premises == Premises::Apartment ? QStringLiteral("%1号室").arg(dice.between(101, 306)) : QString();
+        const QString room = kind.premises == Premises::Apartment
+                                 ? QStringLiteral("%1号室").arg(dice.between(101, 306))
+                                 : QString();
 
         table.add({{QStringLiteral("Code"), code},
                    {QStringLiteral("Rte"), number(customer.route + 1)},

@@ -14,7 +14,7 @@ struct Route {
 };
 
 const Route routes[routeCount] = {
-    {u"ﾎﾝﾁﾖｳ", u"本町地区", 20}, {u"ｴｷﾏｴ", u"駅前地区", 21},     {u"ｶﾜﾆｼ", u"川西地区", 22},
+    {u"ﾎﾝﾁﾖｳ", u"本町地区", 20}, {u"ｴｷﾏｴ", u"駅前地区", 21},   {u"ｶﾜﾆｼ", u"川西地区", 22},
     {u"ﾔﾏﾃ", u"山手地区", 23},   {u"ﾊﾏﾄﾞｵﾘ", u"浜通地区", 24}, {u"ｼﾝﾃﾞﾝ", u"新田地区", 25},
 };
 
@@ -24,7 +24,7 @@ constexpr int bounds[bandCount + 1] = {0, 5, 10, 20, 30, 999};
 
 struct TariffRow {
     Tariff pattern;
-    int basic;                  ///< yen
+    int basic;                   ///< yen
     int tenthsOfYen[bandCount];  ///< price of a cubic metre in each band
 };
 
@@ -37,18 +37,12 @@ const TariffRow tariffs[] = {
 };
 
 const Item items[itemCount] = {
-    {1, u"ﾎﾞﾝﾍﾞ20", u"LPガス 20kgボンベ", 8800},
-    {2, u"ﾎﾞﾝﾍﾞ50", u"LPガス 50kgボンベ", 19800},
-    {3, u"ﾎﾞﾝﾍﾞ8", u"LPガス 8kgボンベ", 4200},
-    {10, u"ｶﾞｽｺﾝﾛ", u"ガスコンロ 2口", 29800},
-    {11, u"ｷﾕｳﾄｳｷ", u"ガス給湯器 16号", 138000},
-    {12, u"ｶﾞｽﾌｱﾝﾋｰﾀ", u"ガスファンヒーター", 42800},
-    {20, u"ｶﾞｽﾎｰｽ", u"ガスホース 9.5mm 1m", 580},
-    {21, u"ﾁﾖｳｾｲｷ", u"調整器", 6800},
-    {22, u"ｹｲﾎｳｷ", u"ガス警報器", 7480},
-    {30, u"ｼﾕﾂﾁﾖｳ", u"出張修理代", 4500},
-    {31, u"ﾊｲｶﾝｺｳｼﾞ", u"配管工事", 18000},
-    {taxItem, u"ｼﾖｳﾋｾﾞｲ", u"消費税", 0},
+    {1, u"ﾎﾞﾝﾍﾞ20", u"LPガス 20kgボンベ", 8800},  {2, u"ﾎﾞﾝﾍﾞ50", u"LPガス 50kgボンベ", 19800},
+    {3, u"ﾎﾞﾝﾍﾞ8", u"LPガス 8kgボンベ", 4200},    {10, u"ｶﾞｽｺﾝﾛ", u"ガスコンロ 2口", 29800},
+    {11, u"ｷﾕｳﾄｳｷ", u"ガス給湯器 16号", 138000},  {12, u"ｶﾞｽﾌｱﾝﾋｰﾀ", u"ガスファンヒーター", 42800},
+    {20, u"ｶﾞｽﾎｰｽ", u"ガスホース 9.5mm 1m", 580}, {21, u"ﾁﾖｳｾｲｷ", u"調整器", 6800},
+    {22, u"ｹｲﾎｳｷ", u"ガス警報器", 7480},          {30, u"ｼﾕﾂﾁﾖｳ", u"出張修理代", 4500},
+    {31, u"ﾊｲｶﾝｺｳｼﾞ", u"配管工事", 18000},        {taxItem, u"ｼﾖｳﾋｾﾞｲ", u"消費税", 0},
 };
 
 const CollectingBank banks[bankCount] = {
@@ -118,7 +112,8 @@ void fillCapacityPrices() {
                    {QStringLiteral("Tanka"), Currency(price)},
                    {QStringLiteral("Kubun"), number(kind)}});
     };
-    for (int capacity = 1; capacity <= 100; ++capacity) add(1, 1, Currency(capacity), 2200 + capacity * 440);
+    for (int capacity = 1; capacity <= 100; ++capacity)
+        add(1, 1, Currency(capacity), 2200 + capacity * 440);
     for (int tenths = 1; tenths <= 300; ++tenths) {
         add(2, 2, Currency(tenths) / Currency(10), 1700 + tenths * 56);
     }
