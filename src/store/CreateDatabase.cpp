@@ -100,8 +100,12 @@ void CreateDelivered(const QString& path) {
     Database* db = DBEngine::Workspaces(0).CreateDatabase(path, ConnectText());
     {
         const Action all;
-        for (const TableDef& table : Tables())
-            db->Execute(CreateTableText(table));
+        for (const TableDef& table : Tables()) {
+            define(*db, table);
+        }
+        for (const QString& statement : IndexStatements()) {
+            db->Execute(statement);
+        }
         fillSettings(*db);
         fillCodes(*db);
     }
