@@ -17,7 +17,7 @@ constexpr double EdgePadding = 0.5 * TwipsPerPoint;  // above and below
 constexpr double IndentWidth = 9 * TwipsPerPoint;
 constexpr int Upright = 255;
 /// Figures of the substitute fonts are up to 15 % wider than those the templates were made with.
-constexpr double NarrowestFigures = 0.86;
+constexpr double NarrowestLetters = 0.86;
 
 PaperFont& FontOf(const SheetFont& font, double size) {
     return FontOnPaper({font.name, size, font.bold, font.italic, font.underline, font.strikeout});
@@ -147,8 +147,8 @@ class TextSetter {
         if (width > 0) line = line.repeated(std::max(1, static_cast<int>(room() / width)));
     }
 
-    /// Makes a line too wide fit where it must: a smaller font when the cell shrinks, narrower or hidden
-    /// figures for a number. Gives the factor to draw its width by.
+    /// Makes a line too wide fit where it must: a smaller font when the cell shrinks, narrower letters where a
+    /// substitute font alone is the reason, marks for a number. Gives the factor to draw its width by.
     double fitLine(QString& line) {
         const double width = font_->width(line);
         if (style_.shrink && width > room()) {
@@ -156,11 +156,13 @@ class TextSetter {
             font_ = &FontOf(style_.font, std::floor(smaller * TwipsPerPoint) / TwipsPerPoint);
             return 1;
         }
-        const double figures = box_.width() - 2 * NumberPadding - indent();
-        if (!shown_.number || width <= figures) return 1;
-        if (font_->substituted() && width * NarrowestFigures <= figures) return figures / width;
+        const double edges = shown_.number ? box_.width() : shown_.spillRight - shown_.spillLeft;
+        const double most = edges - 2 * NumberPadding - indent();
+        if (width <= most) return 1;
+        if (font_->substituted() && width * NarrowestLetters <= most) return most / width;
+        if (!shown_.number) return 1;
         const double mark = font_->width(QStringLiteral("#"));
-        line = QString(std::max(1, static_cast<int>(figures / mark)), QLatin1Char('#'));
+        line = QString(std::max(1, static_cast<int>(most / mark)), QLatin1Char('#'));
         return 1;
     }
 
@@ -179,7 +181,7 @@ class TextSetter {
                 paintSpread(line, baseline);
                 return;
             default:
-                x = box_.left() + (shown_.number ? padding : SidePadding) + indent();
+                x = box_.left() + (squeeze < 1 || shown_.number ? padding : SidePadding) + indent();
         }
         drawAt({x, baseline}, line, squeeze);
     }
