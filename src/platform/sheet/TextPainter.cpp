@@ -147,8 +147,8 @@ class TextSetter {
         if (width > 0) line = line.repeated(std::max(1, static_cast<int>(room() / width)));
     }
 
-    /// Makes a line too wide fit where it must: a smaller font when the cell shrinks, narrower letters where a
-    /// substitute font alone is the reason, marks for a number. Gives the factor to draw its width by.
+    /// Makes a line too wide fit where it must: a smaller font when the cell shrinks, narrower letters where
+    /// a substitute font alone is the reason, marks for a number. Gives the factor to draw its width by.
     double fitLine(QString& line) {
         const double width = font_->width(line);
         if (style_.shrink && width > room()) {
