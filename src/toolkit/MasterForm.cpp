@@ -69,7 +69,7 @@ void MasterForm::addFields(const FieldTable& fields) {
 
 void MasterForm::addField(const MasterField& field) {
     if (field.newColumn) rows_.nextColumn();
-    FieldRow row = rows_.row(field.label);
+    FieldLine row = rows_.row(field.label);
     row.text(addBox(ebox, field.index, field.ime), field.bytes);
     if (field.lookup) row.lookup(F6.add(field.lookup->picture, new Image));
     if (!field.nameLabel.isEmpty()) {
