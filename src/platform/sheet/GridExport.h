@@ -14,9 +14,10 @@ struct GridSource {
     std::function<QString(int row, int column)> text;
 };
 
-/// Writes a grid as an .xlsx workbook; see output/EX for what stands where. Columns of a width of 10 twips or
-/// less are left out; a column that is right-aligned arrives as numbers, the others as text. False when the
-/// file cannot be written.
+/// Writes a grid as an .xlsx workbook: the created line behind the grid's last column in row 1, the title in
+/// the middle of row 2, the subtitle in row 4, the grid from row 6. Columns of a width of 10 twips or less
+/// are left out; a column that is right-aligned arrives as numbers, the others as text. False when the file
+/// cannot be written; a file that stood there before is then unchanged.
 bool WriteGridWorkbook(const QString& path, const QString& title, const QString& subtitle,
                        const QString& created, const GridSource& grid);
 

@@ -1,0 +1,69 @@
+#include "TemplateBook.h"
+
+namespace akarix {
+
+TemplateBook::TemplateBook(const QString& path)
+    : writer_(path), sheet_(workbook_add_worksheet(writer_.book(), "Sheet1")) {
+    worksheet_gridlines(sheet_, LXW_HIDE_ALL_GRIDLINES);
+}
+
+lxw_format* TemplateBook::look(const Look& look) {
+    lxw_format* format = writer_.newFormat();
+    format_set_font_size(format, look.size);
+    if (look.bold) format_set_bold(format);
+    format_set_align(format, static_cast<uint8_t>(look.align));
+    format_set_align(format, LXW_ALIGN_VERTICAL_CENTER);
+    format_set_num_format(format, look.numberFormat);
+    if (look.shrink) format_set_shrink(format);
+    if (look.fill) format_set_bg_color(format, look.fill);
+    if (look.framed) {
+        // Hair lines between the rows of a table, so that the eye finds the columns first.
+        format_set_left(format, LXW_BORDER_THIN);
+        format_set_right(format, LXW_BORDER_THIN);
+        format_set_top(format, look.fill ? LXW_BORDER_THIN : LXW_BORDER_HAIR);
+        format_set_bottom(format, look.fill || look.lastLine ? LXW_BORDER_THIN : LXW_BORDER_HAIR);
+    }
+    return format;
+}
+
+void TemplateBook::columns(const std::vector<int>& pixels) {
+    for (size_t i = 0; i < pixels.size(); ++i) {
+        const auto column = static_cast<uint16_t>(i);
+        WorkbookWriter::setColumnWidth(sheet_, column, column, pixels[i]);
+    }
+}
+
+void TemplateBook::rows(int first, int last, double points) {
+    for (int row = first; row <= last; ++row) {
+        worksheet_set_row(sheet_, static_cast<lxw_row_t>(row - 1), points, nullptr);
+    }
+}
+
+void TemplateBook::text(const char* address, const QString& text, lxw_format* format) {
+    worksheet_write_string(sheet_, lxw_name_to_row(address), lxw_name_to_col(address),
+                           text.toUtf8().constData(), format);
+}
+
+void TemplateBook::blank(int row, int column, lxw_format* format) {
+    worksheet_write_blank(sheet_, static_cast<lxw_row_t>(row - 1), static_cast<lxw_col_t>(column - 1),
+                          format);
+}
+
+void TemplateBook::merged(const char* range, const QString& text, lxw_format* format) {
+    worksheet_merge_range(sheet_, lxw_name_to_row(range), lxw_name_to_col(range), lxw_name_to_row_2(range),
+                          lxw_name_to_col_2(range), text.toUtf8().constData(), format);
+}
+
+void TemplateBook::page(const char* area, double topInches, double bottomInches) {
+    constexpr uint8_t a4 = 9;
+    constexpr double sideInches = 0.35;
+    worksheet_set_paper(sheet_, a4);
+    worksheet_set_portrait(sheet_);
+    worksheet_set_margins(sheet_, sideInches, sideInches, topInches, bottomInches);
+    worksheet_center_horizontally(sheet_);
+    worksheet_fit_to_pages(sheet_, 1, 1);
+    worksheet_print_area(sheet_, lxw_name_to_row(area), lxw_name_to_col(area), lxw_name_to_row_2(area),
+                         lxw_name_to_col_2(area));
+}
+
+}  // namespace akarix

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <xlsxwriter.h>
+
+#include <QString>
+#include <vector>
+
+#include "platform/sheet/WorkbookWriter.h"
+
+namespace akarix {
+
+/// A template in the making: one sheet "Sheet1" on upright A4, printed on one page. Rows and columns are
+/// named as in addresses ("B5"). Whatever the program writes into has a format, so that a dealer who restyles
+/// the file sees where things go.
+class TemplateBook {
+ public:
+    explicit TemplateBook(const QString& path);
+
+    struct Look {
+        double size = 9;
+        bool bold = false;
+        lxw_format_alignments align = LXW_ALIGN_LEFT;
+        const char* numberFormat = "General";
+        bool shrink = false;
+        bool framed = false;
+        uint32_t fill = 0;      ///< 0 is none
+        bool lastLine = false;  ///< framed, and closes the table below
+    };
+    lxw_format* look(const Look& look);
+
+    lxw_worksheet* sheet() const { return sheet_; }
+    void columns(const std::vector<int>& pixels);
+    void rows(int first, int last, double points);
+    void text(const char* address, const QString& text, lxw_format* format);
+    void blank(int row, int column, lxw_format* format);
+    void merged(const char* range, const QString& text, lxw_format* format);
+    /// \param area the block that is printed
+    void page(const char* area, double topInches, double bottomInches);
+    bool save() { return writer_.save(); }
+
+ private:
+    WorkbookWriter writer_;
+    lxw_worksheet* sheet_;
+};
+
+/// The dealer's own name and address, a placeholder until the dealer has typed it.
+struct DealerBlock {
+    static QString name() { return QStringLiteral("株式会社 サンプルガス"); }
+    static QString contact() { return QStringLiteral("TEL 000-000-0000  FAX 000-000-0000"); }
+};
+
+bool WriteBillingListTemplate(const QString& path);
+bool WriteCustomerListTemplate(const QString& path);
+
+}  // namespace akarix
