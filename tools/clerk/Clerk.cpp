@@ -242,9 +242,7 @@ void Clerk::settle() const {
 
 void Clerk::clearDesk() {
     expected_.clear();
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (qobject_cast<Form*>(widget) != nullptr) delete widget;
-    }
+    Form::DropInstances();
     settle();
 }
 

@@ -97,7 +97,7 @@ class Clerk : public QObject {
     void picture(QWidget& window, const QString& path) const;
     /// Lets the pending events happen.
     void settle() const;
-    /// Drops every form, open or hidden: a fresh desk.
+    /// Drops every screen, open or hidden: a fresh desk.
     void clearDesk();
 
  protected:

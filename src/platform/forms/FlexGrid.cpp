@@ -180,8 +180,9 @@ void FlexGrid::SetRows(int rows) {
     model_->setRows(rows);
     settling_ = false;
     if (model_->fixed() == 1) horizontalHeader()->setVisible(rows > 0);
+    const int before = row_;
     row_ = std::clamp(row_, std::min(model_->fixed(), std::max(0, rows - 1)), std::max(0, rows - 1));
-    showPresentCell();
+    if (row_ != before || !currentIndex().isValid()) showPresentCell();
 }
 
 int FlexGrid::Cols() const {

@@ -26,6 +26,11 @@ int classicButton(Qt::MouseButton button) {
     }
 }
 
+QList<QPointer<Form>>& instances() {
+    static QList<QPointer<Form>> all;
+    return all;
+}
+
 bool hasGrowingChild(const QWidget* form) {
     const auto areas = form->findChildren<QAbstractScrollArea*>();
     return std::any_of(areas.begin(), areas.end(), [](const QAbstractScrollArea* area) {
@@ -96,6 +101,17 @@ int Form::takeTabIndex() {
 
 void Form::SetResizable(bool resizable) {
     resizable_ = resizable;
+}
+
+void Form::DropInstances() {
+    for (const QPointer<Form>& form : std::exchange(instances(), {}))
+        delete form.data();
+}
+
+Form* Form::adopt(Form* instance) {
+    instances().removeIf([](const QPointer<Form>& form) { return form.isNull(); });
+    instances().append(instance);
+    return instance;
 }
 
 void Form::QueryUnload(bool& /*cancel*/) {}

@@ -74,10 +74,12 @@ class Form : public QWidget {
     static F& Instance() {
         static QPointer<QWidget> instance;
         if (instance.isNull() || static_cast<Form*>(instance.data())->unloaded_) {
-            instance = new F;
+            instance = adopt(new F);
         }
         return *static_cast<F*>(instance.data());
     }
+    /// Takes every such instance away at once, shown or hidden, without asking it.
+    static void DropInstances();
 
  protected:
     /// Before the form goes away. Setting cancel keeps it; closing the window asks here too.
@@ -90,6 +92,7 @@ class Form : public QWidget {
     void mousePressEvent(QMouseEvent* event) override;
 
  private:
+    static Form* adopt(Form* instance);
     void present(QWidget* owner);
     void arrange();
     void place(QWidget* owner);

@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QFontMetrics>
+#include <QLibraryInfo>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleOption>
+#include <QTranslator>
 
 namespace akarix {
 namespace {
@@ -75,8 +77,8 @@ class ScreenStyle : public QProxyStyle {
             case PE_FrameLineEdit:
                 return;
             case PE_FrameFocusRect:
-                // Buttons show the focus by their border.
-                if (widget != nullptr && widget->inherits("QPushButton")) return;
+                // Buttons and choices show the focus by their border.
+                if (widget != nullptr && widget->inherits("QAbstractButton")) return;
                 break;
             default:
                 break;
@@ -86,7 +88,10 @@ class ScreenStyle : public QProxyStyle {
 
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
-        if (element == CE_PushButtonBevel) {
+        if ((element == CE_RadioButton || element == CE_CheckBox) && option->state.testFlag(State_HasFocus)) {
+            drawBox(painter, option->rect, focusTint, accent, 1);
+            QProxyStyle::drawControl(element, option, painter, widget);
+        } else if (element == CE_PushButtonBevel) {
             drawButton(option, painter);
         } else if (element == CE_HeaderSection) {
             painter->fillRect(option->rect, head);
@@ -121,6 +126,10 @@ class ScreenStyle : public QProxyStyle {
         QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
         const int line = option != nullptr ? option->fontMetrics.height() : 0;
         switch (type) {
+            case CT_RadioButton:
+            case CT_CheckBox:
+                result += QSize(8, 4);
+                break;
             case CT_LineEdit:
             case CT_ComboBox:
                 result.setHeight(line + 2 * fieldPadding + 2);
@@ -183,7 +192,12 @@ void ApplyStyle(QApplication& application) {
     QApplication::setStyle(new ScreenStyle);
     QApplication::setPalette(screenPalette());
     QApplication::setFont(ScreenFont());
-    application.setEffectEnabled(Qt::UI_AnimateCombo, false);
+    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+    // The words of Qt's own menus and dialogs.
+    auto* words = new QTranslator(&application);
+    if (words->load(QStringLiteral("qtbase_ja"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(words);
+    }
 }
 
 QFont ScreenFont() {
@@ -196,8 +210,9 @@ QFont ScreenFont() {
 }
 
 int BoxWidth(int bytes) {
-    // The text, a cursor's width, and what the line edit and its frame keep free on both sides.
-    return QFontMetrics(QApplication::font()).horizontalAdvance(QString(bytes, u'0')) + 2 + 2 * 5;
+    constexpr int cursor = 2;
+    constexpr int side = 8;  // the frame, the line edit's own margin and TextBox's
+    return QFontMetrics(QApplication::font()).horizontalAdvance(QString(bytes, u'0')) + cursor + 2 * side;
 }
 
 QColor FocusColour() {

@@ -24,6 +24,7 @@ QString toHalfKatakana(const QString& text) {
 
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
     RegisterControl(this);
+    setTextMargins(2, 0, 2, 0);
     connect(this, &QLineEdit::textEdited, this, [this] {
         if (imeMode_ == ImeMode::KatakanaHalf && !composing_) narrowKana();
     });

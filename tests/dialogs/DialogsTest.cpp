@@ -1,0 +1,122 @@
+#include "dialogs/AskConfirm.h"
+#include "dialogs/AskText.h"
+#include "dialogs/ShowAlert.h"
+#include "platform/forms/TextBox.h"
+#include "support/ScreenTest.h"
+
+namespace akarix {
+namespace {
+
+class Dialogs : public ScreenTest {};
+
+TEST_F(Dialogs, AlertShowsItsLinesAndGoesAtEnter) {
+    clerk.expect("Alert_frm", [&](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Nagomi Systems");
+        EXPECT_EQ(clerk.focusedName(), u"Btn");
+        clerk.enter();
+    });
+    ShowAlert(QStringLiteral("一行目\n二行目 <b>"));
+    EXPECT_EQ(clerk.lastSaid(), u"一行目\n二行目 <b>");
+    EXPECT_FALSE(clerk.isOpen("Alert_frm"));
+}
+
+struct ChoiceCase {
+    const char* keys;  // v ^ arrows, e Enter, x the close box
+    bool confirm;
+    bool confirmRev;
+};
+
+class Choices : public ScreenTest, public testing::WithParamInterface<ChoiceCase> {
+ protected:
+    void play(const char* keys, QWidget& dialog) {
+        for (; *keys != '\0'; ++keys) {
+            EXPECT_TRUE(dialog.isVisible()) << "gone before " << keys;
+            switch (*keys) {
+                case 'v':
+                    clerk.down();
+                    break;
+                case '^':
+                    clerk.up();
+                    break;
+                case 'e':
+                    clerk.enter();
+                    break;
+                default:
+                    clerk.closeBox(dialog);
+                    break;
+            }
+        }
+        EXPECT_FALSE(dialog.isVisible());
+    }
+};
+
+TEST_P(Choices, AnswerByKeysAndCloseBox) {
+    const auto answer = [this](QWidget& dialog) { play(GetParam().keys, dialog); };
+    clerk.expect("Confirm_frm", answer);
+    EXPECT_EQ(
+        AskConfirm(QStringLiteral("a&bで更新します。"), QStringLiteral("はい"), QStringLiteral("いいえ")),
+        GetParam().confirm);
+    EXPECT_EQ(clerk.lastSaid(), u"a&bで更新します。");
+    clerk.expect("gyakuConfirm_frm", answer);
+    EXPECT_EQ(AskConfirmRev(QStringLiteral("この対象年月のデータを削除しますか？"), QStringLiteral("いいえ"),
+                            QStringLiteral("削除")),
+              GetParam().confirmRev);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Keys, Choices,
+    testing::Values(ChoiceCase{"ee", true, true},      // the first Enter only moves the focus
+                    ChoiceCase{"vee", false, false},   //
+                    ChoiceCase{"v^ee", true, true},    //
+                    ChoiceCase{"x", false, true},      //
+                    ChoiceCase{"vx", false, true},     //
+                    ChoiceCase{"vex", false, true}));  // the button has the focus, unpressed
+
+TEST_F(Dialogs, ConfirmOpensOnTheFirstAnswerEachTime) {
+    clerk.answerConfirm(false);
+    EXPECT_FALSE(AskConfirm("?", "1", "2"));
+    clerk.answerConfirm(true);
+    EXPECT_TRUE(AskConfirm("?", "1", "2"));
+}
+
+struct TextCase {
+    const char* preset;
+    const char* typed;
+    const char* answer;
+};
+
+TEST_F(Dialogs, AskTextTakesWhatStandsInTheBox) {
+    const TextCase cases[] = {{"", "", ""},
+                              {"old", "", "old"},
+                              {"old", "n", "n"},
+                              {"", "ひらがな", "ひらがな"},
+                              {"old", " x ", " x "}};
+    for (const TextCase& c : cases) {
+        clerk.expect("Request_frm", [&](QWidget&) {
+            clerk.type(QString::fromUtf8(c.typed));
+            clerk.enter();
+        });
+        EXPECT_EQ(AskText(QStringLiteral("パスワードを入力してください。"), QString::fromUtf8(c.preset)),
+                  QString::fromUtf8(c.answer));
+        EXPECT_EQ(clerk.lastSaid(), u"パスワードを入力してください。");
+    }
+}
+
+TEST_F(Dialogs, AskTextKeys) {
+    clerk.expect("Request_frm", [&](QWidget& dialog) {
+        clerk.shiftTab();
+        clerk.press(Qt::Key_Escape);
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(clerk.focusedName(), u"ebox");
+        EXPECT_EQ(clerk.find<TextBox>("ebox").SelLength(), 3);
+        clerk.tab();
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(AskText("?", "abc"), u"abc");
+
+    clerk.expect("Request_frm", [&](QWidget& dialog) { clerk.closeBox(dialog); });
+    EXPECT_EQ(AskText("?", "abc"), u"");
+}
+
+}  // namespace
+}  // namespace akarix

@@ -1,0 +1,272 @@
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "platform/forms/Choice.h"
+#include "platform/forms/ComboBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/MemoBox.h"
+#include "platform/forms/TextBox.h"
+#include "platform/runtime/RuntimeError.h"
+#include "support/ScreenTest.h"
+
+namespace akarix {
+namespace {
+
+/// A form with two text boxes around whatever control is under test.
+class Controls : public ScreenTest {
+ protected:
+    template <class T>
+    T& show(T* control) {
+        for (QWidget* widget :
+             {static_cast<QWidget*>(&first), static_cast<QWidget*>(control), static_cast<QWidget*>(&last)}) {
+            SetTabIndex(widget, form.takeTabIndex());
+            line->addWidget(widget);
+        }
+        form.Show();
+        SetFocus(control);
+        clerk.settle();
+        return *control;
+    }
+
+    void listen(TextBox& box) {
+        form.on(&box, &TextBox::KeyDown, [this](KeyEvent& event) {
+            seen << QStringLiteral("%1/%2").arg(event.KeyCode).arg(event.Shift);
+            if (event.KeyCode == 'X') event.KeyCode = 0;
+        });
+    }
+    void input(QWidget& box, const QString& preedit, const QString& commit) {
+        QInputMethodEvent event(preedit, {});
+        if (!commit.isEmpty()) event.setCommitString(commit);
+        QApplication::sendEvent(&box, &event);
+    }
+
+    Form form{"Test_frm", ""};
+    QVBoxLayout* line = new QVBoxLayout(&form);
+    TextBox& first = Named(new TextBox, "first");
+    TextBox& last = Named(new TextBox, "last");
+    QStringList seen;
+};
+
+TEST_F(Controls, KeysReachKeyDownUnderTheirClassicCodes) {
+    TextBox& box = show(new TextBox);
+    listen(box);
+    const struct {
+        int key;
+        Qt::KeyboardModifiers modifiers;
+        const char* seen;
+    } keys[] = {
+        {Qt::Key_Return, {}, "13/0"},
+        {Qt::Key_Enter, Qt::KeypadModifier, "13/0"},
+        {Qt::Key_Tab, {}, "9/0"},
+        {Qt::Key_Backtab, Qt::ShiftModifier, "9/1"},
+        {Qt::Key_Up, {}, "38/0"},
+        {Qt::Key_Down, Qt::ControlModifier, "40/2"},
+        {Qt::Key_F1, {}, "112/0"},
+        {Qt::Key_F12, Qt::AltModifier, "123/4"},
+        {Qt::Key_A, Qt::ShiftModifier, "65/1"},
+        {Qt::Key_5, {}, "53/0"},
+        {Qt::Key_Escape, {}, "27/0"},
+    };
+    for (const auto& k : keys) {
+        seen.clear();
+        clerk.press(k.key, k.modifiers);
+        EXPECT_EQ(seen, QStringList(k.seen));
+        EXPECT_EQ(clerk.focused(), &box);
+    }
+}
+
+TEST_F(Controls, ASwallowedKeyTypesNothing) {
+    TextBox& box = show(new TextBox);
+    listen(box);
+    clerk.type("axb");
+    EXPECT_EQ(box.Text(), u"ab");
+}
+
+TEST_F(Controls, WithoutAListenerTabWalksNatively) {
+    show(new TextBox);
+    clerk.tab();
+    EXPECT_EQ(clerk.focusedName(), u"last");
+    clerk.shiftTab();
+    clerk.shiftTab();
+    EXPECT_EQ(clerk.focusedName(), u"first");
+}
+
+TEST_F(Controls, TheEnterOfACompositionIsNotAnEnter) {
+    TextBox& box = show(new TextBox);
+    listen(box);
+    input(box, QStringLiteral("かな"), {});
+    clerk.enter();
+    clerk.down();
+    EXPECT_TRUE(seen.isEmpty());
+    input(box, {}, QStringLiteral("仮名"));
+    clerk.enter();  // the one that committed, handed on by the input method
+    EXPECT_TRUE(seen.isEmpty());
+    clerk.enter();
+    EXPECT_EQ(seen, QStringList("13/0"));
+    EXPECT_EQ(box.Text(), u"仮名");
+
+    input(box, {}, QStringLiteral("a"));  // committed without composing: no Enter belongs to it
+    clerk.enter();
+    EXPECT_EQ(seen.size(), 2);
+}
+
+TEST_F(Controls, ReadingFieldsHoldHalfWidthKatakana) {
+    TextBox& box = show(new TextBox);
+    box.SetIMEMode(ImeMode::KatakanaHalf);
+    const struct {
+        const char* committed;
+        const char* text;
+    } cases[] = {{"ガス", "ｶﾞｽ"}, {"やまだ", "ﾔﾏﾀﾞ"}, {"ＡＢ１", "AB1"}, {"山", "山"}, {"ｱ", "ｱ"}};
+    for (const auto& c : cases) {
+        box.SetText({});
+        input(box, QString::fromUtf8(c.committed), {});
+        EXPECT_EQ(box.Text(), u"");  // nothing is touched while composing
+        input(box, {}, QString::fromUtf8(c.committed));
+        EXPECT_EQ(box.Text(), QString::fromUtf8(c.text));
+    }
+    box.SetText(QStringLiteral("ｱガ"));  // the program's own text stays
+    EXPECT_EQ(box.Text(), QStringLiteral("ｱガ"));
+    box.SetText(QStringLiteral("ｱｲ"));
+    box.SetSelStart(1);
+    box.insert(QStringLiteral("ガ"));  // as a paste does
+    EXPECT_EQ(box.Text(), QStringLiteral("ｱｶﾞｲ"));
+    EXPECT_EQ(box.SelStart(), 3);
+}
+
+TEST_F(Controls, InputMethodIsOffForNumbers) {
+    TextBox& box = show(new TextBox);
+    box.SetIMEMode(ImeMode::Off);
+    EXPECT_THROW(clerk.type(QStringLiteral("あ")), std::runtime_error);
+    box.SetIMEMode(ImeMode::NoControl);
+    clerk.type(QStringLiteral("あ"));
+    EXPECT_EQ(box.Text(), u"あ");
+}
+
+TEST_F(Controls, FocusEventsFollowTheFieldsNotTheWindows) {
+    TextBox& box = show(new TextBox);
+    form.on(&box, &TextBox::GotFocus, [this] { seen << "got"; });
+    form.on(&box, &TextBox::LostFocus, [this] { seen << "lost"; });
+    clerk.tab();
+    clerk.shiftTab();
+    EXPECT_EQ(seen.join(u' '), u"lost got");
+    Form other("Other", "");
+    other.Show();
+    clerk.settle();
+    clerk.bringToFront("Test_frm");
+    EXPECT_EQ(seen.size(), 2);
+}
+
+TEST_F(Controls, SelectionAsInTheClassicControl) {
+    TextBox& box = show(new TextBox);
+    box.SetText("12345");
+    box.SetSelStart(1);
+    EXPECT_EQ(box.SelLength(), 0);
+    box.SetSelLength(3);
+    EXPECT_EQ(box.selectedText(), u"234");
+    EXPECT_EQ(box.SelStart(), 1);
+    clerk.type("9");
+    EXPECT_EQ(box.Text(), u"195");
+}
+
+TEST_F(Controls, ButtonsClickByEnterAndSpaceAndWalkByArrows) {
+    auto& button = show(new CommandButton("b"));
+    int clicks = 0;
+    form.on(&button, &CommandButton::Click, [&] { ++clicks; });
+    clerk.enter();
+    clerk.press(Qt::Key_Enter, Qt::KeypadModifier);
+    clerk.press(Qt::Key_Space);
+    EXPECT_EQ(clicks, 3);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
+    QApplication::sendEvent(&button, &held);
+    EXPECT_EQ(clicks, 3);
+    clerk.up();
+    EXPECT_EQ(clerk.focusedName(), u"first");
+    SetFocus(&button);
+    clerk.press(Qt::Key_Right);
+    EXPECT_EQ(clerk.focusedName(), u"last");
+}
+
+TEST_F(Controls, ComboKeepsItsSelectionWhileItsRowsChange) {
+    auto& combo = show(new ComboBox);
+    form.on(&combo, &ComboBox::Click, [&] { seen << QString::number(combo.ListIndex()); });
+    for (int i = 0; i < 4; ++i)
+        combo.AddItem(QString::number(i), i * 10);
+    EXPECT_EQ(combo.ListIndex(), -1);
+    combo.SetListIndex(2);
+    combo.RemoveItem(0);
+    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_EQ(combo.ItemData(1), 20);
+    combo.RemoveItem(1);
+    EXPECT_EQ(combo.ListIndex(), -1);
+    combo.SetListIndex(0);
+    clerk.down();
+    combo.SetListIndex(-1);
+    EXPECT_EQ(seen.join(u' '), u"2 0 1");
+    EXPECT_THROW(combo.ItemData(-1), RuntimeError);
+    EXPECT_THROW(combo.SetListIndex(2), RuntimeError);
+}
+
+TEST_F(Controls, ComboGivesEnterAndTabToItsListener) {
+    auto& combo = show(new ComboBox);
+    form.on(&combo, &ComboBox::KeyDown, [&](KeyEvent& event) { seen << QString::number(event.KeyCode); });
+    clerk.enter();
+    clerk.tab();
+    EXPECT_EQ(seen.join(u' '), u"13 9");
+    EXPECT_EQ(clerk.focused(), &combo);
+}
+
+TEST_F(Controls, EnterLeavesAnOptionForTheNextControl) {
+    auto* frame = new Frame(QStringLiteral("枠"));
+    auto* inside = new QVBoxLayout(frame);
+    auto* one = new OptionButton("1");
+    auto* two = new OptionButton("2");
+    inside->addWidget(one);
+    inside->addWidget(two);
+    show(frame);
+    form.on(two, &OptionButton::Click, [this] { seen << "two"; });
+    one->SetValue(true);
+    SetFocus(one);
+    clerk.down();
+    EXPECT_TRUE(two->Value());
+    EXPECT_EQ(seen, QStringList("two"));
+    clerk.enter();
+    EXPECT_EQ(clerk.focusedName(), u"last");
+    EXPECT_TRUE(two->Value());
+}
+
+TEST_F(Controls, APictureClicksWhereItIsLetGo) {
+    auto& picture = show(new Image);
+    picture.resize(20, 20);
+    form.on(&picture, &Image::MouseDown, [&] {
+        picture.SetBorderStyle(1);
+        seen << "down";
+    });
+    form.on(&picture, &Image::MouseUp, [&] { seen << "up"; });
+    form.on(&picture, &Image::Click, [&] { seen << "click"; });
+    clerk.click(picture);
+    EXPECT_EQ(seen.join(u' '), u"down up click");
+    QTest::mousePress(&picture, Qt::LeftButton);
+    QTest::mouseRelease(&picture, Qt::LeftButton, {}, QPoint(-5, -5));
+    EXPECT_EQ(seen.join(u' '), u"down up click down up");
+}
+
+TEST_F(Controls, MemoSwallowsEnterOnlyWhereTheHandlerSaysSo) {
+    auto& memo = show(new MemoBox);
+    bool swallow = false;
+    form.on(&memo, &MemoBox::KeyDown, [&](KeyEvent& event) {
+        if (swallow && event.KeyCode == key::Return) event.KeyCode = 0;
+    });
+    clerk.type("1");
+    clerk.enter();
+    clerk.type("2");
+    swallow = true;
+    clerk.enter();
+    EXPECT_EQ(memo.Text(), u"1\r\n2");
+}
+
+}  // namespace
+}  // namespace akarix

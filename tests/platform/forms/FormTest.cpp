@@ -1,0 +1,275 @@
+#include "platform/forms/Form.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/FieldLayout.h"
+#include "platform/forms/MsgBox.h"
+#include "platform/forms/TextBox.h"
+#include "platform/runtime/RuntimeError.h"
+#include "support/ScreenTest.h"
+
+namespace akarix {
+namespace {
+
+/// Three fields and a button; what the handlers do is up to the test.
+class Sample_frm : public Form {
+    Q_OBJECT
+
+ public:
+    Sample_frm() : Form("Sample_frm", QStringLiteral("見本")) {
+        auto* whole = new QVBoxLayout(this);
+        FieldLayout fields(*this);
+        whole->addLayout(fields.layout());
+        for (int i = 0; i < 3; ++i)
+            fields.row(QStringLiteral("欄")).text(ebox.add(i, new TextBox), 10);
+        whole->addLayout(ButtonBar(*this, Btn, {QStringLiteral("保存")}));
+        ++built;
+    }
+
+    using Form::on;
+    std::function<void(bool&)> askBeforeClosing;
+    std::function<void(int, int)> pressed;
+    static inline int built = 0;
+
+    ControlArray<TextBox> ebox{"ebox"};
+    ControlArray<CommandButton> Btn{"Btn"};
+
+ protected:
+    void QueryUnload(bool& cancel) override {
+        if (askBeforeClosing) askBeforeClosing(cancel);
+    }
+    void MouseDown(int button, int shift, int /*x*/, int /*y*/) override {
+        if (pressed) pressed(button, shift);
+    }
+};
+
+class Other_frm : public Form {
+    Q_OBJECT
+
+ public:
+    Other_frm() : Form("Other_frm", QStringLiteral("別")) {
+        auto* whole = new QVBoxLayout(this);
+        whole->addWidget(&Named(new CommandButton("OK"), "Btn"));
+    }
+};
+
+class Forms : public ScreenTest {
+ protected:
+    Sample_frm& sample() {
+        auto& form = Form::Instance<Sample_frm>();
+        form.Show();
+        clerk.settle();
+        return form;
+    }
+};
+
+TEST_F(Forms, OneInstanceUntilUnloadedThenAFreshOne) {
+    Sample_frm& form = sample();
+    form.ebox(0).SetText("kept");
+    form.Hide();
+    EXPECT_EQ(&sample(), &form);
+    EXPECT_EQ(form.ebox(0).Text(), u"kept");
+    const int before = Sample_frm::built;
+    form.Unload();
+    EXPECT_NE(&Form::Instance<Sample_frm>(), &form);
+    EXPECT_EQ(Sample_frm::built, before + 1);
+    EXPECT_EQ(form.ebox(0).Text(), u"kept");  // still there for the handler that unloaded it
+}
+
+TEST_F(Forms, AnUnloadedFormOutlivesTheDialogsOfItsAction) {
+    auto& form = Form::Instance<Sample_frm>();
+    QPointer<Form> watched = &form;
+    clerk.expect("Sample_frm", [&](QWidget& dialog) { clerk.closeBox(dialog); });
+    clerk.answerMsgBox();
+    RunGuarded([&] {
+        form.ShowModal();
+        MsgBox("between", "t");
+        EXPECT_FALSE(watched.isNull());
+    });
+    clerk.settle();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(watched.isNull());
+}
+
+TEST_F(Forms, CloseBoxAsksAndEscapeDoesNotClose) {
+    Sample_frm& form = sample();
+    bool refuse = true;
+    int asked = 0;
+    form.askBeforeClosing = [&](bool& cancel) {
+        ++asked;
+        cancel = refuse;
+    };
+    clerk.press(Qt::Key_Escape);
+    EXPECT_EQ(asked, 0);
+    clerk.closeBox(form);
+    EXPECT_TRUE(form.isVisible());
+    refuse = false;
+    clerk.closeBox(form);
+    EXPECT_FALSE(clerk.isOpen("Sample_frm"));
+    EXPECT_EQ(asked, 2);
+}
+
+TEST_F(Forms, ModalFormsNestAndEachWaitsForItsOwn) {
+    Sample_frm& form = sample();
+    QStringList order;
+    form.on(&form.Btn(0), &CommandButton::Click, [&] {
+        auto& outer = Form::Instance<Other_frm>();
+        outer.ShowModal();
+        order << "outer done";
+    });
+    clerk.expect("Other_frm", [&](QWidget& outer) {
+        clerk.expect("MsgBox", [&](QWidget&) {
+            order << "inner stands";
+            clerk.enter();
+        });
+        MsgBox("inner", "t");
+        order << "inner done";
+        EXPECT_TRUE(outer.isVisible());
+        clerk.closeBox(outer);
+    });
+    clerk.click("Btn(0)");
+    EXPECT_EQ(order, QStringList({"inner stands", "inner done", "outer done"}));
+    EXPECT_EQ(clerk.window(), &form);
+}
+
+TEST_F(Forms, AnEscapingErrorIsShownAndTheFormGoesOn) {
+    Sample_frm& form = sample();
+    int clicks = 0;
+    form.on(form.Btn, &CommandButton::Click, [&](int index) {
+        if (++clicks == 1) throw RuntimeError(6);
+        if (clicks == 2) throw std::runtime_error("lost");
+        EXPECT_EQ(index, 0);
+    });
+    clerk.expect("MsgBox", [&](QWidget& box) {
+        EXPECT_EQ(box.windowTitle(), u"Akarix");
+        clerk.enter();
+    });
+    clerk.click("Btn(0)");
+    EXPECT_EQ(clerk.lastSaid(), QStringLiteral("実行時エラー '6':\n\n") + ErrorText(6));
+    clerk.answerMsgBox();
+    clerk.click("Btn(0)");
+    EXPECT_TRUE(clerk.lastSaid().startsWith(QStringLiteral("実行時エラー '51':")));
+    clerk.click("Btn(0)");
+    EXPECT_EQ(clicks, 3);
+}
+
+TEST_F(Forms, ActionHooksWrapEveryHandlerAndMayFailThemselves) {
+    QStringList log;
+    bool failEnd = false;
+    SetActionHooks([&] { log << "begin"; },
+                   [&] {
+                       log << "end";
+                       if (std::exchange(failEnd, false)) throw RuntimeError(61);
+                   });
+    EXPECT_TRUE(RunGuarded([&] { RunGuarded([&] { log << "inner"; }); }));
+    EXPECT_EQ(log.join(u' '), u"begin begin inner end end");
+
+    log.clear();
+    clerk.expect("MsgBox", [&](QWidget&) {
+        log << "shown";
+        clerk.enter();
+    });
+    EXPECT_FALSE(RunGuarded([] { throw RuntimeError(3022); }));
+    EXPECT_EQ(log.join(u' '), u"begin end shown");
+
+    failEnd = true;
+    clerk.answerMsgBox();
+    EXPECT_FALSE(RunGuarded([] {}));
+    EXPECT_TRUE(clerk.lastSaid().contains("'61'"));
+    SetActionHooks({}, {});
+}
+
+TEST_F(Forms, FatalErrorsEndTheProcessAfterTheBox) {
+    int ended = 0;
+    {
+        const FatalErrors fatal([&] { ++ended; });
+        clerk.answerMsgBox();
+        EXPECT_FALSE(RunGuarded([] { throw RuntimeError(3024); }));
+        EXPECT_EQ(ended, 1);
+    }
+    clerk.answerMsgBox();
+    RunGuarded([] { throw RuntimeError(3024); });
+    EXPECT_EQ(ended, 1);
+}
+
+TEST_F(Forms, MouseDownTellsButtonAndShiftOnTheFormAlone) {
+    Sample_frm& form = sample();
+    QStringList presses;
+    form.pressed = [&](int button, int shift) { presses << QStringLiteral("%1/%2").arg(button).arg(shift); };
+    const QPoint bare(2, 2);
+    QTest::mouseClick(&form, Qt::RightButton, Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier,
+                      bare);
+    QTest::mouseClick(&form, Qt::MiddleButton, Qt::AltModifier, bare);
+    QTest::mouseClick(&form, Qt::LeftButton, {}, bare);
+    clerk.click(form.Btn(0), Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+    form.Btn(0).setEnabled(false);
+    clerk.click(form.Btn(0));
+    EXPECT_EQ(presses.join(u' '), u"2/7 4/4 1/0");
+}
+
+TEST_F(Forms, ControlsComeInTheOrderOfTheirMakingAndTheWalkByTabIndex) {
+    Form form("Order_frm", "");
+    auto* right = new TextBox;
+    auto* left = new TextBox;
+    SetTabIndex(right, 1);
+    SetTabIndex(left, 0);
+    auto* line = new QHBoxLayout(&form);
+    line->addWidget(left);
+    line->addWidget(right);
+    EXPECT_EQ(form.Controls(), QList<QWidget*>({right, left}));
+    form.Show();
+    clerk.settle();
+    EXPECT_EQ(clerk.focused(), left);
+    clerk.tab();
+    EXPECT_EQ(clerk.focused(), right);
+}
+
+TEST_F(Forms, FieldsAndButtonsJoinTheWalkInTheirOrder) {
+    QStringList walk;
+    for (const QWidget* control : sample().Controls()) {
+        if (TabIndex(control) >= 0)
+            walk << QStringLiteral("%1 %2").arg(TabIndex(control)).arg(control->objectName());
+    }
+    EXPECT_EQ(walk, QStringList({"0 ebox(0)", "1 ebox(1)", "2 ebox(2)", "3 Btn(0)"}));
+}
+
+TEST_F(Forms, SetFocusRefusesWhatCannotTakeIt) {
+    Sample_frm& form = sample();
+    const auto number = [](QWidget* control) {
+        try {
+            SetFocus(control);
+            return 0;
+        } catch (const RuntimeError& error) {
+            return error.number();
+        }
+    };
+    form.ebox(1).setVisible(false);
+    form.ebox(2).setEnabled(false);
+    EXPECT_EQ(number(&form.ebox(0)), 0);
+    EXPECT_EQ(number(&form.ebox(1)), 5);
+    EXPECT_EQ(number(&form.ebox(2)), 5);
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)");
+    form.Hide();
+    EXPECT_EQ(number(&form.Btn(0)), 0);  // waits for the showing
+    form.Show();
+    EXPECT_EQ(clerk.focusedName(), u"Btn(0)");
+}
+
+TEST(ClerkAlone, DialogsNobodyExpectedAreReportedAndClosed) {
+    Clerk clerk;
+    MsgBox("surprise", "t");
+    clerk.expect("MsgBox", [](QWidget&) { throw std::runtime_error("lost"); });
+    MsgBox("another", "t");
+    clerk.expect("Alert_frm");
+    MsgBox("third", "t");
+    EXPECT_EQ(clerk.complaints().join(u'|'),
+              u"unexpected dialog: surprise|answering \"another\": lost|unexpected dialog: third");
+    EXPECT_EQ(clerk.said(), QStringList({"surprise", "another", "third"}));
+}
+
+}  // namespace
+}  // namespace akarix
+
+#include "FormTest.moc"
