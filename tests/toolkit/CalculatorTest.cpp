@@ -1,0 +1,83 @@
+#include "platform/forms/ComboBox.h"
+#include "platform/forms/MemoBox.h"
+#include "support/ScreenTest.h"
+#include "toolkit/Dentaku_frm.h"
+#include "toolkit/Evaluate.h"
+
+namespace akarix {
+namespace {
+
+TEST(Evaluate, GivesTheLastLineOrNothing) {
+    const struct {
+        const char* memo;
+        int scaled;
+    } cases[] = {
+        {"1/3", 3333},
+        {"2/3", 6667},
+        {"2+3*4", 140000},
+        {"(2+3)*4", 200000},
+        {"-(1.5-4)", 25000},
+        {"1000*1.05", 10500000},
+        {"0.1+0.2", 3000},
+        {"", 0},
+        {"2+", 0},
+        {"1/0", 0},
+        {"0/0", 0},
+        {"1,200*2", 0},
+        {"abc*2", 0},
+        {"10^30", 0},
+        {"999999999999999*10", 0},
+        {"1+1\r\n2+2", 40000},
+        {"1+1\r\n2+2\r\n", 0},
+        {"  1+1\r\n  3*3  ", 90000},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(Evaluate(QString::fromUtf8(c.memo)), Currency::FromScaled(c.scaled)) << c.memo;
+    }
+}
+
+class Calculator : public ScreenTest {
+ protected:
+    Calculator() { OpenScreen<Dentaku_frm>(); }
+    QString answerTo(const QString& expression) {
+        clerk.find<MemoBox>(u"eSiki"_qs).SetText(expression);
+        clerk.click(u"eSiki"_qs);
+        clerk.enter();
+        return clerk.text(u"eAns"_qs);
+    }
+    void choose(int row) { clerk.find<ComboBox>(u"Combo1"_qs).SetListIndex(row); }
+};
+
+TEST_F(Calculator, AnswersOnEnter) {
+    clerk.fill(u"1000*1.05"_qs);
+    EXPECT_EQ(clerk.text(u"eAns"_qs), u"1,050.0"_qs);
+    EXPECT_EQ(clerk.text(u"eSiki"_qs), u"1000*1.05"_qs) << "Enter begins no line";
+    EXPECT_EQ(answerTo(u"2+"_qs), u"0.0"_qs);
+    EXPECT_EQ(answerTo(u"1500"_qs), u"0.0"_qs) << "a bare number is not echoed";
+    EXPECT_EQ(answerTo(u"-1500"_qs), u"-1,500.0"_qs);
+}
+
+TEST_F(Calculator, DecimalsAreTakenFromTheShownText) {
+    choose(2);
+    EXPECT_EQ(answerTo(u"1/3"_qs), u"0.33"_qs);
+    choose(3);
+    EXPECT_EQ(clerk.text(u"eAns"_qs), u"0.330"_qs);
+    EXPECT_EQ(answerTo(u"1234567.891*1"_qs), u"1,234,567.891"_qs);
+    choose(0);
+    choose(3);
+    EXPECT_EQ(clerk.text(u"eAns"_qs), u"1,234,568.000"_qs);
+}
+
+TEST_F(Calculator, ClearsButKeepsTheDecimals) {
+    choose(2);
+    answerTo(u"1+1"_qs);
+    clerk.click(u"Command1"_qs);
+    EXPECT_EQ(clerk.text(u"eSiki"_qs), QString());
+    EXPECT_EQ(clerk.text(u"eAns"_qs), QString());
+    EXPECT_EQ(clerk.text(u"Combo1"_qs), u"2"_qs);
+    choose(1);
+    EXPECT_EQ(clerk.text(u"eAns"_qs), QString()) << "no answer is made up";
+}
+
+}  // namespace
+}  // namespace akarix

@@ -1,0 +1,161 @@
+#include "toolkit/FieldWalk.h"
+
+#include <QVBoxLayout>
+
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Label.h"
+#include "support/ScreenTest.h"
+#include "toolkit/EntryForm.h"
+
+namespace akarix {
+namespace {
+
+/// Four fields, a combo and a button, numbered by hand so that a test can break the numbering.
+class Desk : public EntryForm {
+ public:
+    Desk() : EntryForm(u"Desk"_qs, u"机"_qs) {
+        auto* layout = new QVBoxLayout(this);
+        for (int i = 0; i < 4; ++i) {
+            layout->addWidget(&addBox(ebox, i, ImeMode::NoControl));
+            SetTabIndex(&ebox(i), i);
+        }
+        layout->addWidget(&combo);
+        combo.setObjectName(u"Combo1"_qs);
+        SetTabIndex(&combo, 4);
+        layout->addWidget(&Btn.add(0, new CommandButton(u"保存"_qs)));
+        SetTabIndex(&Btn(0), 5);
+        layout->addWidget(&label);
+        SetTabIndex(&label, 6);
+        press = wireKeys(ebox, [this](int index) {
+            entered += index;
+            return mayGoOn;
+        });
+    }
+
+    ControlArray<TextBox> ebox{u"ebox"_qs};
+    ControlArray<CommandButton> Btn{u"Btn"_qs};
+    ComboBox& combo = *new ComboBox;
+    Label& label = *new Label;
+    QList<int> entered;
+    bool mayGoOn = true;
+    std::function<void(int)> press;
+};
+
+class FieldWalk : public ScreenTest {
+ protected:
+    FieldWalk() { desk.Show(); }
+    QString after(void (*step)(Form&, int), int from) {
+        step(desk, from);
+        return clerk.focusedName();
+    }
+    Desk& desk = *new Desk;
+};
+
+TEST_F(FieldWalk, GoesRoundInTabOrder) {
+    const QStringList forward = {u"ebox(1)"_qs, u"ebox(2)"_qs, u"ebox(3)"_qs,
+                                 u"Combo1"_qs,  u"Btn(0)"_qs,  u"ebox(0)"_qs};
+    const QStringList back = {u"ebox(0)"_qs, u"ebox(0)"_qs, u"ebox(1)"_qs,
+                              u"ebox(2)"_qs, u"ebox(3)"_qs, u"Combo1"_qs};
+    for (int from = 0; from < 6; ++from) {
+        EXPECT_EQ(after(NextField, from), forward[from]) << from;
+        EXPECT_EQ(after(PrevField, from), back[from]) << from;
+    }
+    EXPECT_EQ(after(NextField, 40), u"ebox(0)"_qs);
+}
+
+TEST_F(FieldWalk, PassesOverInvisibleControls) {
+    desk.ebox(1).hide();
+    desk.ebox(2).hide();
+    EXPECT_EQ(after(NextField, 0), u"ebox(3)"_qs);
+    EXPECT_EQ(after(PrevField, 3), u"ebox(0)"_qs);
+    desk.Btn(0).hide();
+    EXPECT_EQ(after(NextField, 4), u"ebox(0)"_qs);
+}
+
+TEST_F(FieldWalk, AGapLeadsToTheFirstField) {
+    SetTabIndex(&desk.ebox(3), 30);  // nobody holds 3 now, and the label holds 6
+    EXPECT_EQ(after(NextField, 2), u"ebox(0)"_qs);
+    EXPECT_EQ(after(PrevField, 4), u"ebox(0)"_qs);
+    EXPECT_EQ(after(NextField, 5), u"ebox(0)"_qs);
+}
+
+TEST_F(FieldWalk, AFormWithoutAVisibleFirstFieldDoesNotHang) {
+    desk.ebox(0).hide();
+    SetFocus(&desk.ebox(1));
+    EXPECT_EQ(after(PrevField, 1), u"ebox(1)"_qs);
+}
+
+TEST_F(FieldWalk, KeysWalkAndTypingReplaces) {
+    desk.ebox(1).SetText(u"old"_qs);
+    FocusSelect(desk.ebox(0));
+    clerk.fill(u"a"_qs);
+    clerk.type(u"new"_qs);
+    EXPECT_EQ(desk.ebox(1).Text(), u"new"_qs);
+    clerk.tab();
+    EXPECT_EQ(clerk.focusedName(), u"ebox(2)"_qs);
+    clerk.shiftTab();
+    clerk.up();
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_qs);
+    clerk.shiftTab();
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_qs);
+    clerk.down();
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_qs);
+    EXPECT_EQ(desk.entered, (QList<int>{0, 1})) << "only Enter and Tab ask the field";
+
+    desk.mayGoOn = false;
+    clerk.enter();
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_qs);
+}
+
+TEST_F(FieldWalk, LeavingAFieldCutsItsText) {
+    for (int i = 0; i < 4; ++i) {
+        desk.ebox(i).SetMaxLength(4);
+        desk.ebox(i).SetText(u"あいう"_qs);
+    }
+    FocusSelect(desk.ebox(0));
+    clerk.enter();
+    clerk.up();
+    EXPECT_EQ(desk.ebox(0).Text(), u"あい"_qs);
+    EXPECT_EQ(desk.ebox(1).Text(), u"あい"_qs);
+    clerk.click(desk.ebox(2));
+    clerk.click(desk.ebox(3));
+    EXPECT_EQ(desk.ebox(2).Text(), u"あい"_qs);
+    EXPECT_EQ(desk.ebox(3).Text(), u"あいう"_qs) << "still being typed in";
+}
+
+TEST_F(FieldWalk, MapsTab) {
+    const struct {
+        int key, shift, mapped;
+    } cases[] = {{9, 0, 13}, {9, 1, 38}, {9, 2, 13}, {9, 3, 13}, {13, 1, 13}, {38, 0, 38}, {40, 1, 40}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(MapEditKey(c.key, c.shift), c.mapped) << c.key << ' ' << c.shift;
+    }
+}
+
+TEST_F(FieldWalk, ClearsAndCopies) {
+    desk.ebox(0).SetText(u"東京ガス商会"_qs);
+    desk.ebox(1).SetText(u" "_qs);
+    desk.ebox(1).SetMaxLength(6);
+    CopyIfEmpty(desk.ebox(0), desk.ebox(1));
+    EXPECT_EQ(desk.ebox(1).Text(), u"東京ガ"_qs);
+    CopyIfEmpty(desk.ebox(2), desk.ebox(1));
+    EXPECT_EQ(desk.ebox(1).Text(), u"東京ガ"_qs);
+
+    desk.combo.AddItem(u"集金"_qs, 1);
+    desk.combo.AddItem(u"振込"_qs, 2);
+    ComboSelect(desk.combo, 2);
+    EXPECT_EQ(ComboValue(desk.combo), 2);
+    ComboSelect(desk.combo, 9);
+    EXPECT_EQ(ComboValue(desk.combo), 0);
+    ComboSelect(desk.combo, 1);
+    desk.label.SetCaption(u"名"_qs);
+    ClearControls(desk);
+    EXPECT_EQ(desk.ebox(0).Text(), QString());
+    EXPECT_EQ(desk.combo.ListIndex(), -1);
+    EXPECT_EQ(desk.label.Caption(), u"名"_qs);
+    ClearCombo(desk.combo);
+    EXPECT_EQ(desk.combo.ListCount(), 0);
+}
+
+}  // namespace
+}  // namespace akarix

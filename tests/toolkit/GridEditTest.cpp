@@ -1,0 +1,121 @@
+#include "toolkit/GridEdit.h"
+
+#include "platform/forms/Form.h"
+#include "platform/runtime/RuntimeError.h"
+#include "support/ScreenTest.h"
+
+namespace akarix {
+namespace {
+
+class Sheet : public Form, public GridForm {
+ public:
+    Sheet() : Form(u"Sheet"_qs, u"検針"_qs) {
+        resize(600, 300);
+        list.setGeometry(20, 30, 500, 200);
+        box.hide();
+        combo.hide();
+    }
+    TextBox& tBox() override { return box; }
+    ComboBox* cbBox() override { return &combo; }
+    void SetCombo(const QString& gridName) override {
+        asked = gridName;
+        throw RuntimeError(5);
+    }
+
+    FlexGrid& list = *new FlexGrid(this);
+    TextBox& box = *new TextBox(this);
+    ComboBox& combo = *new ComboBox(this);
+    QString asked;
+};
+
+class GridEditing : public ScreenTest {
+ protected:
+    GridEditing() {
+        gGrid = &sheet.list;
+        gGridForm = &sheet;
+        GridInit(u"List"_qs);
+        GridAddCol({u"ｺｰﾄﾞ"_qs, u"####"_qs, 1000, u"R"_qs, false, u"T"_qs, 2});
+        GridAddCol({u"得意先"_qs, u"S"_qs, 2000, u"L"_qs, true, u"T"_qs, 4});
+        GridAddCol({u"区分"_qs, u"S"_qs, 1500, u"C"_qs, true, u"C"_qs, 2});
+        sheet.list.SetRows(3);
+        GridApply();
+        sheet.list.SetTextMatrix(1, 1, u"山田"_qs);
+        sheet.Show();
+        clerk.settle();
+    }
+    ~GridEditing() override {
+        gGrid = nullptr;
+        gGridForm = nullptr;
+    }
+    void goTo(int row, int col) {
+        sheet.list.SetRow(row);
+        sheet.list.SetCol(col);
+    }
+
+    Sheet& sheet = *new Sheet;
+};
+
+TEST_F(GridEditing, AppliesTheColumnTable) {
+    EXPECT_EQ(sheet.list.Cols(), 3);
+    EXPECT_EQ(sheet.list.TextMatrix(0, 1), u"得意先"_qs);
+    EXPECT_EQ(sheet.list.ColWidth(2), 1500);
+    EXPECT_EQ(sheet.list.ColAlignment(0), 7);
+    EXPECT_EQ(sheet.list.ColAlignment(1), 1);
+    EXPECT_EQ(sheet.list.ColAlignment(2), 4);
+}
+
+TEST_F(GridEditing, LaysTheBoxOverTheCell) {
+    QFont large = sheet.list.font();
+    large.setPixelSize(20);
+    sheet.list.setFont(large);
+    goTo(1, 1);
+    GridEdit();
+    EXPECT_EQ(clerk.focused(), &sheet.box);
+    EXPECT_EQ(sheet.box.Text(), u"山田"_qs);
+    EXPECT_EQ(sheet.box.selectedText(), u"山田"_qs);
+    EXPECT_EQ(sheet.box.IMEMode(), ImeMode::Hiragana);
+    EXPECT_EQ(sheet.box.font().pixelSize(), 20);
+    const QRect cell = sheet.list.CellRect();
+    EXPECT_EQ(sheet.box.geometry(), cell.translated(sheet.list.pos()));
+}
+
+TEST_F(GridEditing, LeavesWhatCannotBeEdited) {
+    goTo(1, 0);
+    GridEdit();
+    EXPECT_TRUE(sheet.box.isHidden());
+    EXPECT_TRUE(sheet.combo.isHidden());
+}
+
+TEST_F(GridEditing, LaysTheComboOverOtherKindsWhateverFillingItRaises) {
+    goTo(2, 2);
+    GridEdit();
+    EXPECT_EQ(sheet.asked, u"List"_qs);
+    EXPECT_EQ(clerk.focused(), &sheet.combo);
+    EXPECT_EQ(sheet.combo.width(), sheet.list.CellRect().width());
+}
+
+TEST_F(GridEditing, StepsDownUntilTheLastRow) {
+    goTo(1, 1);
+    GridNextRow();
+    EXPECT_EQ(sheet.list.Row(), 2);
+    EXPECT_TRUE(sheet.box.isVisible());
+    sheet.box.hide();
+    GridNextRow();
+    EXPECT_EQ(sheet.list.Row(), 2);
+    EXPECT_TRUE(sheet.box.isHidden());
+}
+
+TEST_F(GridEditing, HoldsAHundredColumns) {
+    GridInit(u"List"_qs);
+    for (int i = 0; i < 100; ++i) {
+        GridAddCol({});
+    }
+    EXPECT_THROW(GridAddCol({}), RuntimeError);
+    EXPECT_EQ(gColCount, 100);
+    GridInit(u"Other"_qs);
+    EXPECT_EQ(gColCount, 0);
+    EXPECT_TRUE(gCols[0].Editable);
+}
+
+}  // namespace
+}  // namespace akarix

@@ -1,0 +1,198 @@
+#include "toolkit/Lookups.h"
+
+#include <QHBoxLayout>
+
+#include "platform/forms/FlexGrid.h"
+#include "store/dbAccess.h"
+#include "support/ScratchStore.h"
+#include "support/ScreenTest.h"
+#include "toolkit/EntryForm.h"
+#include "toolkit/ZipAddress.h"
+
+namespace akarix {
+namespace {
+
+/// A screen with one code field and its lookup.
+class Caller : public EntryForm {
+ public:
+    explicit Caller(const QString& table) : EntryForm(u"Caller"_qs, u"伝票"_qs) {
+        auto* layout = new QHBoxLayout(this);
+        for (int i = 0; i < 2; ++i) {
+            layout->addWidget(&addBox(ebox, i, ImeMode::Off));
+            SetTabIndex(&ebox(i), i);
+        }
+        layout->addWidget(&F6.add(0, new Image));
+        wireLookup(F6(0), table, u"ALL"_qs, ebox(0), wireKeys(ebox,
+                                                              [this](int index) {
+                                                                  entered += index;
+                                                                  return true;
+                                                              }),
+                   0);
+    }
+    ControlArray<TextBox> ebox{u"ebox"_qs};
+    ControlArray<Image> F6{u"F6"_qs};
+    QList<int> entered;
+};
+
+class Lookups : public ScreenTest {
+ protected:
+    Lookups() {
+        insert(u"Rte(Code,Kana,Namae)"_qs, {u"1,'ｷﾀ','北町'"_qs, u"2,'ﾐﾅﾐ','南町'"_qs, u"3,'ｱｵﾊﾞ','青葉'"_qs,
+                                            u"0,'ｱ','なし'"_qs});
+        insert(u"Deal(Code,Rte,Haisou,Kana,Namae,TEL)"_qs,
+               {u"11,1,20,'ﾔﾏﾀﾞ','山田','03-1'"_qs, u"12,1,10,'ｻﾄｳ','佐藤','03-2'"_qs,
+                u"13,2,30,'ﾔﾏｼﾀ','山下',' '"_qs});
+    }
+    static void insert(const QString& table, const QStringList& rows) {
+        for (const QString& row : rows) {
+            gDb->Execute(u"INSERT INTO "_qs + table + u" VALUES("_qs + row + u")"_qs);
+        }
+    }
+
+    /// A column of the list from its first row below the head.
+    static QStringList column(const FlexGrid& list, int col) {
+        QStringList texts;
+        for (int row = list.FixedRows(); row < list.Rows(); ++row) {
+            texts += list.TextMatrix(row, col);
+        }
+        return texts;
+    }
+    FlexGrid& list() { return clerk.find<FlexGrid>(u"List"_qs); }
+    /// What `look` sees in the dialog, which it leaves open for the close box.
+    void inDialog(const QString& name, std::function<void()> look) {
+        clerk.expect(name, [this, look = std::move(look)](QWidget& dialog) {
+            look();
+            if (dialog.isVisible()) clerk.closeBox(dialog);
+        });
+    }
+
+    ScratchStore store;
+};
+
+TEST_F(Lookups, APickIsATypedCodeAndEnter) {
+    auto& caller = *new Caller(u"Rte"_qs);
+    caller.Show();
+    clerk.expect(u"Help_frm"_qs, [this](QWidget&) {
+        EXPECT_EQ(column(list(), 1), (QStringList{u"なし"_qs, u"青葉"_qs, u"北町"_qs, u"南町"_qs}));
+        clerk.clickCell(list(), 2, 1);
+    });
+    clerk.click(u"F6(0)"_qs);
+    EXPECT_EQ(caller.ebox(0).Text(), u"1"_qs);
+    EXPECT_EQ(caller.entered, QList<int>{0});
+    EXPECT_EQ(clerk.focusedName(), u"ebox(1)"_qs);
+
+    inDialog(u"Help_frm"_qs, [] {});
+    clerk.click(u"F6(0)"_qs);
+    EXPECT_EQ(caller.ebox(0).Text(), u"1"_qs) << "the close box leaves the field";
+    EXPECT_EQ(caller.entered, QList<int>{0});
+}
+
+TEST_F(Lookups, SearchesByReadingAndName) {
+    inDialog(u"Help_frm"_qs, [this] {
+        clerk.fill(u""_qs);
+        EXPECT_EQ(clerk.focusedName(), u"ebox(1)"_qs);
+        clerk.enter();
+        EXPECT_EQ(clerk.focusedName(), u"Btn(0)"_qs);
+        clerk.enter();
+        EXPECT_EQ(column(list(), 0), (QStringList{u"1"_qs, u"2"_qs, u"3"_qs})) << "by code, without code 0";
+        clerk.find<TextBox>(u"ebox(0)"_qs).SetText(u"ﾐ"_qs);
+        clerk.click(u"Btn(0)"_qs);
+        EXPECT_EQ(column(list(), 1), QStringList{u"南町"_qs}) << "anywhere in the word";
+        clerk.find<TextBox>(u"ebox(0)"_qs).SetText({});
+        clerk.find<TextBox>(u"ebox(1)"_qs).SetText(u"町"_qs);
+        clerk.click(u"Btn(0)"_qs);
+        EXPECT_EQ(list().Rows(), 2);
+        clerk.find<TextBox>(u"ebox(1)"_qs).SetText(u"無い"_qs);
+        clerk.click(u"Btn(0)"_qs);
+        EXPECT_EQ(list().Rows(), 2) << "nothing found leaves the list";
+        clerk.click(u"Btn(1)"_qs);
+        EXPECT_EQ(list().Rows(), 0);
+        EXPECT_EQ(clerk.text(u"ebox(1)"_qs), QString());
+    });
+    EXPECT_EQ(PickCode(u"Rte"_qs, u"ALL"_qs), QString());
+}
+
+TEST_F(Lookups, BanksAreListedButNotSearched) {
+    insert(u"Bnk(Code,Stn,BkName)"_qs, {u"5,7,'ｷﾞﾝｺｳ'"_qs});
+    inDialog(u"Help_frm"_qs, [this] {
+        EXPECT_EQ(column(list(), 0), QStringList{u"0005"_qs});
+        EXPECT_EQ(column(list(), 1), QStringList{u"007"_qs});
+        clerk.answerMsgBox();
+        clerk.click(u"Btn(0)"_qs);
+        EXPECT_TRUE(clerk.lastSaid().startsWith(u"実行時エラー"_qs));
+    });
+    PickCode(u"Bnk"_qs, {});
+}
+
+TEST_F(Lookups, CustomersAreFoundByRouteInTheirRound) {
+    clerk.expect(u"HelpDeal_frm"_qs, [this](QWidget&) {
+        EXPECT_EQ(list().Rows(), 1) << "nothing is read before a search";
+        EXPECT_EQ(list().TextMatrix(0, 1), u"ｺｰﾄﾞ"_qs);
+        clerk.clickCell(list(), 0, 1);
+        clerk.enter();
+        clerk.enter();
+        clerk.fill(u"1"_qs);
+        EXPECT_EQ(clerk.text(u"sRte"_qs), u"北町"_qs);
+        EXPECT_EQ(clerk.focusedName(), u"Btn(0)"_qs);
+        clerk.enter();
+        EXPECT_EQ(column(list(), 2), (QStringList{u"佐藤"_qs, u"山田"_qs}));
+        clerk.clickCell(list(), 0, 1);
+        EXPECT_TRUE(clerk.isOpen(u"HelpDeal_frm"_qs)) << "the head picks nothing";
+        clerk.clickCell(list(), 2, 3);
+    });
+    EXPECT_EQ(PickCode(u"Deal"_qs, {}), u"11"_qs);
+
+    inDialog(u"HelpDeal_frm"_qs, [this] {
+        EXPECT_EQ(list().Rows(), 1) << "a second use starts anew";
+        EXPECT_EQ(clerk.text(u"sRte"_qs), QString());
+        clerk.expect(u"Help_frm"_qs, [this](QWidget&) { clerk.clickCell(list(), 3, 0); });
+        clerk.click(u"F6(0)"_qs);
+        EXPECT_EQ(clerk.text(u"ebox(2)"_qs), u"2"_qs);
+        clerk.enter();
+        EXPECT_EQ(column(list(), 1), QStringList{u"13"_qs});
+    });
+    EXPECT_EQ(PickCode(u"Deal"_qs, {}), QString());
+}
+
+TEST_F(Lookups, SlipsAreListedNewestFirst) {
+    insert(u"Dud(Dno,Eda,Hizuke,Deal,HinNamae,Gaku)"_qs,
+           {u"1,1,#2011/03/05#,11,'ボンベ',1200"_qs, u"1,2,#2011/03/05#,11,'ホース',300"_qs,
+            u"2,1,#2011/03/06#,12,'コンロ',19800"_qs});
+    clerk.expect(u"HelpSlip_frm"_qs, [this](QWidget&) {
+        EXPECT_EQ(column(list(), 0), (QStringList{u"2"_qs, u"1"_qs}));
+        EXPECT_EQ(column(list(), 2), (QStringList{u"佐藤"_qs, u"山田"_qs}));
+        EXPECT_EQ(column(list(), 3), (QStringList{u"コンロ"_qs, u"ボンベ"_qs}));
+        EXPECT_EQ(column(list(), 4), (QStringList{u"19,800"_qs, u"1,500"_qs}));
+        clerk.clickCell(list(), 2, 0);
+    });
+    EXPECT_EQ(PickSlip(), u"1"_qs);
+}
+
+TEST_F(Lookups, PaymentsOfOneCustomer) {
+    insert(u"Dny(Dno,Eda,Hizuke,Deal,Gaku)"_qs,
+           {u"5,1,#2011/03/05#,11,1200"_qs, u"6,1,#2011/04/05#,11,2300"_qs, u"7,1,#2011/04/06#,12,1"_qs});
+    clerk.expect(u"HelpN_frm"_qs, [this](QWidget&) {
+        EXPECT_EQ(column(list(), 0), (QStringList{u"6"_qs, u"5"_qs}));
+        EXPECT_EQ(column(list(), 1), (QStringList{u"2011/04/05"_qs, u"2011/03/05"_qs}));
+        EXPECT_EQ(column(list(), 2), (QStringList{u"2,300"_qs, u"1,200"_qs}));
+        clerk.clickCell(list(), 1, 0);
+    });
+    EXPECT_EQ(PickPayment(11), u"6"_qs);
+    inDialog(u"HelpN_frm"_qs, [this] { EXPECT_EQ(list().Rows(), 1); });
+    EXPECT_EQ(PickPayment(99), QString());
+}
+
+TEST_F(Lookups, ZipFillsAnEmptyAddressOnly) {
+    insert(u"Zip7(Code,Addr)"_qs, {u"1000001,'東京都千代田区千代田'"_qs});
+    TextBox address;
+    FillAddressFromZip(u"999-9999"_qs, address);
+    EXPECT_EQ(address.Text(), QString());
+    FillAddressFromZip(u"100-0001"_qs, address);
+    EXPECT_EQ(address.Text(), u"東京都千代田区千代田"_qs);
+    address.SetText(u"大阪"_qs);
+    FillAddressFromZip(u"100-0001"_qs, address);
+    EXPECT_EQ(address.Text(), u"大阪"_qs);
+}
+
+}  // namespace
+}  // namespace akarix
