@@ -50,8 +50,11 @@ Dentaku_frm::Dentaku_frm() : Form(QStringLiteral("電卓"), QStringLiteral("メ�
     layout->setContentsMargins(8, 8, 8, 8);
     layout->addWidget(new Label(QStringLiteral("式を入れてEnterを押して下さい。")), 0, 0, 1, 2);
     layout->addWidget(eSiki_, 1, 0, 1, 2);
-    layout->addWidget(new Label(QStringLiteral("掛け算 = *")), 2, 0);
-    layout->addWidget(new Label(QStringLiteral("割り算 = /")), 2, 1);
+    auto* hints = new QHBoxLayout;
+    hints->addWidget(new Label(QStringLiteral("掛け算 = *")));
+    hints->addStretch();
+    hints->addWidget(new Label(QStringLiteral("割り算 = /")));
+    layout->addLayout(hints, 2, 0, 1, 2);
     layout->addWidget(eAns_, 3, 0, 1, 2);
     layout->addWidget(new Label(QStringLiteral("少数以下")), 4, 0);
     layout->addWidget(Combo1_, 4, 1);

@@ -10,11 +10,12 @@ namespace akarix {
 
 namespace {
 
-const std::vector<ListColumn> kColumns = {{QStringLiteral("Haisou"), 800, {}, QStringLiteral("順路")},
-                                          {QStringLiteral("Code"), 800, {}, QStringLiteral("ｺｰﾄﾞ")},
-                                          {QStringLiteral("namae"), 3600, {}, QStringLiteral("得意先")},
-                                          {QStringLiteral("kana"), 2600, {}, QStringLiteral("ﾌﾘｶﾞﾅ")},
-                                          {QStringLiteral("Tel"), 1600, {}, QStringLiteral("TEL")}};
+const std::vector<ListColumn> kColumns = {
+    {QStringLiteral("Haisou"), 800, {}, QStringLiteral("順路"), AlignRightCenter},
+    {QStringLiteral("Code"), 800, {}, QStringLiteral("ｺｰﾄﾞ"), AlignRightCenter},
+    {QStringLiteral("namae"), 3600, {}, QStringLiteral("得意先")},
+    {QStringLiteral("kana"), 2600, {}, QStringLiteral("ﾌﾘｶﾞﾅ")},
+    {QStringLiteral("Tel"), 1600, {}, QStringLiteral("TEL")}};
 constexpr int kCodeColumn = 1;
 
 }  // namespace

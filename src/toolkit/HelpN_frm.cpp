@@ -7,9 +7,9 @@ namespace akarix {
 namespace {
 
 const std::vector<ListColumn> kColumns = {
-    {QStringLiteral("Dno"), 1000, {}, QStringLiteral("No.")},
+    {QStringLiteral("Dno"), 1000, {}, QStringLiteral("No."), AlignRightCenter},
     {QStringLiteral("Hizuke"), 1600, {}, QStringLiteral("日付")},
-    {QStringLiteral("Gaku"), 1600, QStringLiteral("#,###"), QStringLiteral("金額")}};
+    {QStringLiteral("Gaku"), 1600, QStringLiteral("#,###"), QStringLiteral("金額"), AlignRightCenter}};
 
 }  // namespace
 

@@ -5,11 +5,11 @@ namespace akarix {
 namespace {
 
 const std::vector<ListColumn> kColumns = {
-    {QStringLiteral("Dno"), 1000, {}, QStringLiteral("No.")},
+    {QStringLiteral("Dno"), 1000, {}, QStringLiteral("No."), AlignRightCenter},
     {QStringLiteral("fHizuke"), 1600, {}, QStringLiteral("日付")},
     {QStringLiteral("fNamae"), 3200, {}, QStringLiteral("得意先")},
     {QStringLiteral("fHinNamae"), 3600, {}, QStringLiteral("品名(1行目)")},
-    {QStringLiteral("Gaku"), 1600, QStringLiteral("###,###"), QStringLiteral("金額")}};
+    {QStringLiteral("Gaku"), 1600, QStringLiteral("###,###"), QStringLiteral("金額"), AlignRightCenter}};
 
 }  // namespace
 

@@ -6,12 +6,13 @@ namespace akarix {
 
 namespace {
 
-const std::vector<ListColumn> kGoods = {{QStringLiteral("Code"), 800, {}, {}},
+const std::vector<ListColumn> kGoods = {{QStringLiteral("Code"), 800, {}, {}, AlignRightCenter},
                                         {QStringLiteral("Namae"), 4000, {}, {}}};
-const std::vector<ListColumn> kBanks = {{QStringLiteral("Code"), 800, QStringLiteral("0000"), {}},
-                                        {QStringLiteral("Stn"), 800, QStringLiteral("000"), {}},
-                                        {QStringLiteral("BkName"), 2000, {}, {}}};
-const std::vector<ListColumn> kOthers = {{QStringLiteral("Code"), 800, {}, {}},
+const std::vector<ListColumn> kBanks = {
+    {QStringLiteral("Code"), 800, QStringLiteral("0000"), {}, AlignRightCenter},
+    {QStringLiteral("Stn"), 800, QStringLiteral("000"), {}, AlignRightCenter},
+    {QStringLiteral("BkName"), 2000, {}, {}}};
+const std::vector<ListColumn> kOthers = {{QStringLiteral("Code"), 800, {}, {}, AlignRightCenter},
                                          {QStringLiteral("Namae"), 7000, {}, {}}};
 
 }  // namespace

@@ -41,6 +41,7 @@ void LookupForm::showColumns(const std::vector<ListColumn>& columns) {
     for (int col = 0; col < List_->Cols(); ++col) {
         const ListColumn& column = columns[static_cast<std::size_t>(col)];
         List_->SetColWidth(col, column.width);
+        List_->SetColAlignment(col, column.alignment);
         if (List_->FixedRows() > 0) List_->SetTextMatrix(0, col, column.title);
         width += Twips(column.width);
     }

@@ -15,6 +15,7 @@ struct ListColumn {
     int width = 0;
     QString format;
     QString title;
+    GridAlignment alignment = AlignLeftCenter;
 };
 
 /// What the pick lists share: a grid named List in which one click picks a row and closes the dialog. They

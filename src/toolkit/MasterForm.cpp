@@ -50,6 +50,9 @@ MasterForm::MasterForm(const QString& name, const QString& caption, MasterTexts 
       buttonRow_(new QHBoxLayout),
       cmdLeft_(&Named(new CommandButton(QStringLiteral("←")), QStringLiteral("cmdLeft"))),
       cmdRight_(&Named(new CommandButton(QStringLiteral("→")), QStringLiteral("cmdRight"))) {
+    constexpr int kWalkerWidth = 48;
+    cmdLeft_->setFixedWidth(kWalkerWidth);
+    cmdRight_->setFixedWidth(kWalkerWidth);
     body_->setSpacing(16);
     body_->addLayout(rows_.layout());
 }
