@@ -22,11 +22,12 @@ class Caller : public EntryForm {
             SetTabIndex(&ebox(i), i);
         }
         layout->addWidget(&F6.add(0, new Image));
-        wireLookup(F6(0), table, u"ALL"_qs, ebox(0), wireKeys(ebox,
-                                                              [this](int index) {
-                                                                  entered += index;
-                                                                  return true;
-                                                              }),
+        wireLookup(F6(0), table, u"ALL"_qs, ebox(0),
+                   wireKeys(ebox,
+                            [this](int index) {
+                                entered += index;
+                                return true;
+                            }),
                    0);
     }
     ControlArray<TextBox> ebox{u"ebox"_qs};
@@ -37,8 +38,8 @@ class Caller : public EntryForm {
 class Lookups : public ScreenTest {
  protected:
     Lookups() {
-        insert(u"Rte(Code,Kana,Namae)"_qs, {u"1,'ｷﾀ','北町'"_qs, u"2,'ﾐﾅﾐ','南町'"_qs, u"3,'ｱｵﾊﾞ','青葉'"_qs,
-                                            u"0,'ｱ','なし'"_qs});
+        insert(u"Rte(Code,Kana,Namae)"_qs,
+               {u"1,'ｷﾀ','北町'"_qs, u"2,'ﾐﾅﾐ','南町'"_qs, u"3,'ｱｵﾊﾞ','青葉'"_qs, u"0,'ｱ','なし'"_qs});
         insert(u"Deal(Code,Rte,Haisou,Kana,Namae,TEL)"_qs,
                {u"11,1,20,'ﾔﾏﾀﾞ','山田','03-1'"_qs, u"12,1,10,'ｻﾄｳ','佐藤','03-2'"_qs,
                 u"13,2,30,'ﾔﾏｼﾀ','山下',' '"_qs});
