@@ -4,7 +4,7 @@
 
 namespace akarix {
 
-/// True for a date and for text that CDate would accept; a number is no date.
+/// True for a date and for text that reads as one; a number is no date, nor is its text.
 bool IsDate(const Variant& value);
 
 }  // namespace akarix

@@ -1,20 +1,11 @@
 #include "platform/runtime/NumberText.h"
 
 #include "platform/runtime/RadixText.h"
+#include "platform/runtime/StrConv.h"
 
 namespace akarix {
 
 namespace {
-
-QString narrowed(const QString& text) {
-    QString result = text;
-    for (QChar& c : result) {
-        if (c >= u'！' && c <= u'～') c = QChar(c.unicode() - 0xFEE0);
-        if (c == u'¥' || c == u'￥') c = u'\\';
-        if (c == u'　') c = u' ';
-    }
-    return result.trimmed();
-}
 
 /// Takes signs, parentheses and the currency sign off both ends; each may stand once.
 class Trimmings {
@@ -93,7 +84,7 @@ std::optional<QString> withoutThousands(const QString& text) {
 }  // namespace
 
 std::optional<Decimal> readNumberText(const QString& text) {
-    const QString s = narrowed(text);
+    const QString s = StrConv(text, NarrowChars).trimmed();
     if (s.startsWith(u'&')) {
         const auto radix = readRadixText(s);
         if (!radix || radix->length != s.size()) return std::nullopt;

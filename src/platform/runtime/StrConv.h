@@ -15,7 +15,9 @@ enum StrConvFlag {
     Hiragana = 32,
 };
 
-/// Contradicting flags raise 5.
+/// Contradicting flags raise 5. Kana and their voiced marks join in full width and part in half width; "\"
+/// stays when widening, "￥" becomes "\" when narrowing; hiragana stay full-width unless Katakana is asked
+/// for too.
 QString StrConv(const QString& text, int conversion);
 
 }  // namespace akarix

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include "platform/runtime/CDate.h"
+#include "platform/runtime/CStr.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/DateSerial.h"
+#include "platform/runtime/IsDate.h"
 #include "platform/runtime/Raises.h"
 
 namespace akarix {
@@ -63,6 +66,73 @@ TEST(Clock, CanBeReplacedAndGivenBack) {
     SetClock(Date());
     EXPECT_GT(Now().Serial(), 45000);
     EXPECT_EQ(Hour(Today()), 0);
+}
+
+TEST(DateText, ReadsWhatAClerkMayWrite) {
+    SetClock(DateSerial(2026, 11, 22));
+    struct Case {
+        const char *text, *date;
+    };
+    const Case cases[] = {
+        {"2011/3/25", "2011/03/25"},
+        {"11/3/25", "2011/03/25"},
+        {"29/1/1", "2029/01/01"},
+        {"30/1/1", "1930/01/01"},
+        {"3/25", "2026/03/25"},
+        {"25/3", "2026/03/25"},
+        {"3/2011", "2011/03/01"},
+        {"2011/3", "2011/03/01"},
+        {"25/3/2011", "2011/03/25"},
+        {"3/25/2011", "2011/03/25"},
+        {"2011-3-25", "2011/03/25"},
+        {"2011 3 25", "2011/03/25"},
+        {"２０１１／３／２５", "2011/03/25"},
+        {"2011年3月25日", "2011/03/25"},
+        {"3月25日", "2026/03/25"},
+        {"2011年3月", "2011/03/01"},
+        {"平成23年3月25日", "2011/03/25"},
+        {"令和元年5月1日", "2019/05/01"},
+        {"H23/3/25", "2011/03/25"},
+        {"s64.1.7", "1989/01/07"},
+        {"昭64-1-7", "1989/01/07"},
+        {"March 25, 2011", "2011/03/25"},
+        {"25-Mar-2011", "2011/03/25"},
+        {"29-Feb-01", "2029/02/01"},
+        {"2012/2/29", "2012/02/29"},
+        {"12:34", "12:34:00"},
+        {"1.5", "1:05:00"},
+        {"午後1:23", "13:23:00"},
+        {"1:23 PM", "13:23:00"},
+        {"12 am", "0:00:00"},
+        {"13時5分9秒", "13:05:09"},
+        {"2011/3/25 12:34:56", "2011/03/25 12:34:56"},
+        {"12:34 2011/3/25", "2011/03/25 12:34:00"},
+        {"平成23年3月25日 午後1時", "2011/03/25 13:00:00"},
+        {"2011年3月25日13時5分", "2011/03/25 13:05:00"},
+    };
+    for (const Case& c : cases) {
+        EXPECT_TRUE(IsDate(c.text)) << c.text;
+        EXPECT_EQ(CStr(CDate(c.text)).toStdString(), c.date) << c.text;
+    }
+    for (const char* text : {"", "abc", "2011/2/30", "2011/2/29", "2011/13/1", "2011.3.25", "20110325",
+                             "25:00", "12:60", "3", "3月", "平成0年1月1日", "13:00 am", "2011/3/25 x",
+                             "2011/3/25 25:00", "Foo 3", "/3/25", "2011/3/", "99999/1/1"}) {
+        EXPECT_FALSE(IsDate(text)) << text;
+    }
+    SetClock(Date());
+}
+
+TEST(DateText, NumbersAreSerialsButNoDates) {
+    EXPECT_FALSE(IsDate(40627));
+    EXPECT_TRUE(IsDate(Date()));
+    EXPECT_FALSE(IsDate(NullValue{}));
+    EXPECT_EQ(CDate(40627), Date(40627));
+    EXPECT_EQ(CDate("40627.5"), Date(40627.5));
+    EXPECT_EQ(CDate(Variant()), Date());
+    EXPECT_EQ(raised([] { return CDate("20110325"); }), 13);
+    EXPECT_EQ(raised([] { return CDate("abc"); }), 13);
+    EXPECT_EQ(raised([] { return CDate(1e7); }), 6);
+    EXPECT_EQ(raised([] { return CDate(NullValue{}); }), 94);
 }
 
 }  // namespace

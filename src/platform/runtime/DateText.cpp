@@ -1,0 +1,148 @@
+#include "platform/runtime/DateText.h"
+
+#include <QRegularExpression>
+
+#include "platform/runtime/Calendar.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DatePart.h"
+#include "platform/runtime/Era.h"
+#include "platform/runtime/StrConv.h"
+
+namespace akarix {
+
+namespace {
+
+using Day = std::optional<std::int64_t>;
+
+Day makeDay(int year, int month, int day) {
+    const int full = fullYear(year);
+    if (full < 100 || full > 9999 || month < 1 || month > 12) return std::nullopt;
+    if (day < 1 || day > daysInMonth(full, month)) return std::nullopt;
+    return dayNumber(full, month, day);
+}
+
+Day firstOf(std::initializer_list<Day> candidates) {
+    for (const Day& day : candidates) {
+        if (day) return day;
+    }
+    return std::nullopt;
+}
+
+/// The number of an English month name or its first three letters, else 0.
+int monthOfName(const QString& name) {
+    static const QStringList names{
+        QStringLiteral("january"), QStringLiteral("february"), QStringLiteral("march"),
+        QStringLiteral("april"),   QStringLiteral("may"),      QStringLiteral("june"),
+        QStringLiteral("july"),    QStringLiteral("august"),   QStringLiteral("september"),
+        QStringLiteral("october"), QStringLiteral("november"), QStringLiteral("december")};
+    const QString lower = name.toLower();
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (lower == names[i] || lower == names[i].left(3)) return static_cast<int>(i) + 1;
+    }
+    return 0;
+}
+
+QRegularExpression wholeOf(const QString& form) {
+    return QRegularExpression(QRegularExpression::anchoredPattern(form),
+                              QRegularExpression::CaseInsensitiveOption);
+}
+
+int numberOr(const QRegularExpressionMatch& m, const QString& group, int otherwise) {
+    const QString text = m.captured(group);
+    return text.isEmpty() ? otherwise : text.toInt();
+}
+
+Day readEraDay(const QString& text) {
+    static const QRegularExpression form = wholeOf(QStringLiteral(
+        R"((?<era>明治|大正|昭和|平成|令和|[明大昭平令MTSHR])\s*(?<y>\d{1,2}|元)\s*)"
+        R"((?:年\s*(?<m>\d{1,2})月(?:\s*(?<d>\d{1,2})日)?|(?<sep>[/.-])(?<m2>\d{1,2})\k<sep>(?<d2>\d{1,2})))"));
+    const auto m = form.match(text);
+    if (!m.hasMatch()) return std::nullopt;
+    const int eraYear = m.captured(u"y") == u'元' ? 1 : m.captured(u"y").toInt();
+    if (eraYear == 0) return std::nullopt;
+    const int month = numberOr(m, QStringLiteral("m"), numberOr(m, QStringLiteral("m2"), 0));
+    const int day = numberOr(m, QStringLiteral("d"), numberOr(m, QStringLiteral("d2"), 1));
+    return makeDay(eraOfName(m.captured(u"era"))->firstYear + eraYear - 1, month, day);
+}
+
+Day readKanjiDay(const QString& text) {
+    static const QRegularExpression form =
+        wholeOf(QStringLiteral(R"((?:(?<y>\d{1,4})年\s*)?(?<m>\d{1,2})月(?:\s*(?<d>\d{1,2})日)?)"));
+    const auto m = form.match(text);
+    if (!m.hasMatch() || (m.captured(u"y").isEmpty() && m.captured(u"d").isEmpty())) return std::nullopt;
+    return makeDay(numberOr(m, QStringLiteral("y"), Year(Today())), numberOr(m, QStringLiteral("m"), 0),
+                   numberOr(m, QStringLiteral("d"), 1));
+}
+
+/// Two or three parts, the first or the second of which may be the name of a month.
+Day readPartedDay(const QString& text) {
+    static const QRegularExpression form = wholeOf(QStringLiteral(
+        R"((\d{1,4}|[a-z]{3,9})(?:\s*[/,-]\s*|\s+)(\d{1,4}|[a-z]{3,9})(?:(?:\s*[/,-]\s*|\s+)(\d{1,4}))?)"));
+    const auto match = form.match(text);
+    if (!match.hasMatch()) return std::nullopt;
+    const bool named1 = match.captured(1)[0].isLetter();
+    const bool named2 = match.captured(2)[0].isLetter();
+    const bool three = !match.captured(3).isEmpty();
+    const int a = named1 ? monthOfName(match.captured(1)) : match.captured(1).toInt();
+    const int b = named2 ? monthOfName(match.captured(2)) : match.captured(2).toInt();
+    const int c = match.captured(3).toInt();
+    const int thisYear = Year(Today());
+    if (named1 && named2) return std::nullopt;
+    if (named1 && three) return firstOf({makeDay(c, a, b), makeDay(b, a, c)});
+    if (named2 && three) return firstOf({makeDay(c, b, a), makeDay(a, b, c)});
+    if (named1) return firstOf({makeDay(thisYear, a, b), makeDay(b, a, 1)});
+    if (named2) return firstOf({makeDay(thisYear, b, a), makeDay(a, b, 1)});
+    if (three) return firstOf({makeDay(a, b, c), makeDay(c, a, b), makeDay(c, b, a)});
+    return firstOf({makeDay(thisYear, a, b), makeDay(thisYear, b, a), makeDay(a, b, 1), makeDay(b, a, 1)});
+}
+
+Day readDay(const QString& text) {
+    return firstOf({readEraDay(text), readKanjiDay(text), readPartedDay(text)});
+}
+
+/// Seconds since midnight.
+std::optional<int> readTime(const QString& text) {
+    static const QRegularExpression form = wholeOf(QStringLiteral(
+        R"((?<before>午前|午後|[ap]m?)?\s*)"
+        R"((?:(?<h>\d{1,2})(?:\s*[:.]\s*(?<n>\d{1,2})(?:\s*[:.]\s*(?<s>\d{1,2}))?)?|)"
+        R"((?<kanji>(?<h2>\d{1,2})時(?:\s*(?<n2>\d{1,2})分(?:\s*(?<s2>\d{1,2})秒)?)?))\s*(?<behind>午前|午後|[ap]m?)?)"));
+    const auto m = form.match(text);
+    if (!m.hasMatch()) return std::nullopt;
+    const QString before = m.captured(u"before");
+    const QString behind = m.captured(u"behind");
+    if (!before.isEmpty() && !behind.isEmpty()) return std::nullopt;
+    const QString half = (before + behind).toLower();
+    const bool bareNumber = m.captured(u"n").isEmpty() && m.captured(u"kanji").isEmpty();
+    if (half.isEmpty() && bareNumber) return std::nullopt;
+    int hour = numberOr(m, QStringLiteral("h"), numberOr(m, QStringLiteral("h2"), 0));
+    const int minute = numberOr(m, QStringLiteral("n"), numberOr(m, QStringLiteral("n2"), 0));
+    const int second = numberOr(m, QStringLiteral("s"), numberOr(m, QStringLiteral("s2"), 0));
+    const bool morning = half.startsWith(u'a') || half == QStringLiteral("午前");
+    if (hour > 23 || minute > 59 || second > 59 || (morning && hour > 12)) return std::nullopt;
+    if (morning && hour == 12) hour = 0;
+    if (!half.isEmpty() && !morning && hour < 12) hour += 12;
+    return (hour * 60 + minute) * 60 + second;
+}
+
+}  // namespace
+
+std::optional<Date> readDateText(const QString& text) {
+    const QString s = StrConv(text, NarrowChars).trimmed();
+    if (const auto time = readTime(s)) return Moment{0, *time}.date();
+    if (const auto day = readDay(s)) return Moment{*day, 0}.date();
+    // A date and a time, or a time and a date, parted by a blank; the kanji need none.
+    for (qsizetype at = 1; at < s.size(); ++at) {
+        const bool parted = s[at].isSpace() || s[at - 1] == u'日';
+        if (!parted) continue;
+        const QString first = s.left(at).trimmed();
+        const QString second = s.mid(at).trimmed();
+        for (const auto& [dayText, timeText] : {std::pair(first, second), std::pair(second, first)}) {
+            const auto time = readTime(timeText);
+            if (!time) continue;
+            if (const auto day = readDay(dayText)) return Moment{*day, *time}.date();
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace akarix

@@ -1,0 +1,105 @@
+#include "platform/runtime/Format.h"
+
+#include <array>
+#include <optional>
+
+#include "platform/runtime/CDate.h"
+#include "platform/runtime/CStr.h"
+#include "platform/runtime/DateFormat.h"
+#include "platform/runtime/FormatMask.h"
+#include "platform/runtime/IsDate.h"
+#include "platform/runtime/IsNumeric.h"
+#include "platform/runtime/NumberFormat.h"
+#include "platform/runtime/NumberOf.h"
+#include "platform/runtime/TextFormat.h"
+
+namespace akarix {
+
+namespace {
+
+struct NamedFormat {
+    const char* name;
+    const char16_t* mask;
+};
+
+// As a Japanese system sets them.
+constexpr std::array kNumberFormats{
+    NamedFormat{"Currency", uR"(\\#,##0)"},
+    NamedFormat{"Fixed", u"0.00"},
+    NamedFormat{"Standard", u"#,##0.00"},
+    NamedFormat{"Percent", u"0.00%"},
+    NamedFormat{"Scientific", u"0.00E+00"},
+    NamedFormat{"Yes/No", uR"("Yes";"Yes";"No")"},
+    NamedFormat{"True/False", uR"("True";"True";"False")"},
+    NamedFormat{"On/Off", uR"("On";"On";"Off")"},
+};
+
+constexpr std::array kDateFormats{
+    NamedFormat{"General Date", u"c"},       NamedFormat{"Long Date", u"dddddd"},
+    NamedFormat{"Medium Date", u"yy-mm-dd"}, NamedFormat{"Short Date", u"ddddd"},
+    NamedFormat{"Long Time", u"ttttt"},      NamedFormat{"Medium Time", u"hh:nn ampm"},
+    NamedFormat{"Short Time", u"hh:nn"},
+};
+
+template <class Table>
+QString namedMask(const Table& table, const QString& name) {
+    for (const NamedFormat& format : table) {
+        if (name.compare(QLatin1StringView(format.name), Qt::CaseInsensitive) == 0)
+            return QString::fromUtf16(format.mask);
+    }
+    return {};
+}
+
+bool isMissing(const Variant& value) {
+    return value.IsNull() || value.IsEmpty();
+}
+
+QString underNumberMask(const Variant& value, const QString& mask) {
+    if (isMissing(value)) {
+        const QString forNull = maskSections(mask).value(3);
+        return forNull.isEmpty() ? QString() : formatNumber({}, forNull);
+    }
+    if (value.IsText() && !IsNumeric(value)) return value.As<QString>();
+    return formatNumber(shownNumberOf(value), mask);
+}
+
+QString underDateMask(const Variant& value, const QString& mask) {
+    if (isMissing(value)) return {};
+    if (value.IsText() && !IsDate(value) && !IsNumeric(value)) return value.As<QString>();
+    return formatDate(CDate(value), maskSections(mask).first());
+}
+
+QString generalNumber(const Variant& value) {
+    if (isMissing(value)) return {};
+    if (value.IsText() && !IsNumeric(value)) return value.As<QString>();
+    const Decimal number = shownNumberOf(value);
+    return value.Type() == VarType::Currency ? number.plainText()
+                                             : number.generalText(significantDigits(value.Type()));
+}
+
+}  // namespace
+
+QString Format(const Variant& value) {
+    return isMissing(value) ? QString() : CStr(value);
+}
+
+QString Format(const Variant& value, const QString& mask) {
+    if (mask.isEmpty()) return Format(value);
+    if (mask.compare(u"General Number", Qt::CaseInsensitive) == 0) return generalNumber(value);
+    if (const QString named = namedMask(kNumberFormats, mask); !named.isEmpty())
+        return underNumberMask(value, named);
+    if (const QString named = namedMask(kDateFormats, mask); !named.isEmpty())
+        return underDateMask(value, named);
+    switch (maskKind(mask)) {
+        case MaskKind::Number:
+            return underNumberMask(value, mask);
+        case MaskKind::Date:
+            return underDateMask(value, mask);
+        case MaskKind::Text:
+            break;
+    }
+    if (value.IsNull() && maskSections(mask).size() < 2) return {};
+    return formatText(isMissing(value) ? QString() : CStr(value), mask);
+}
+
+}  // namespace akarix

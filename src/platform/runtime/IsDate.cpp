@@ -1,0 +1,12 @@
+#include "platform/runtime/IsDate.h"
+
+#include "platform/runtime/DateText.h"
+
+namespace akarix {
+
+bool IsDate(const Variant& value) {
+    if (const QString* text = value.If<QString>()) return readDateText(*text).has_value();
+    return value.Type() == VarType::Date;
+}
+
+}  // namespace akarix

@@ -1,0 +1,138 @@
+#include "platform/runtime/StrConv.h"
+
+#include <algorithm>
+
+#include "platform/runtime/RuntimeError.h"
+
+namespace akarix {
+
+namespace {
+
+// Half-width katakana from U+FF61 on, and the same signs in full width.
+const QString kWideKana = QStringLiteral(
+    "。「」、・ヲァィゥェォャュョッーアイウエオカキクケコサシスセソタチツテトナニヌネノハヒフヘホマミムメモヤ"
+    "ユヨ"
+    "ラリルレロワン゛゜");
+constexpr char16_t kFirstHalfKana = 0xFF61;
+constexpr char16_t kVoiced = 0xFF9E;
+constexpr char16_t kHalfVoiced = 0xFF9F;
+
+// Each pair is a kana and what a mark behind it makes of it.
+const QString kVoicedPairs =
+    QStringLiteral("カガキギクグケゲコゴサザシジスズセゼソゾタダチヂツヅテデトドハバヒビフブヘベホボウヴ");
+const QString kHalfVoicedPairs = QStringLiteral("ハパヒピフプヘペホポ");
+
+QChar partner(const QString& pairs, QChar c, bool toMarked) {
+    for (qsizetype i = 0; i + 1 < pairs.size(); i += 2) {
+        if (pairs[toMarked ? i : i + 1] == c) return pairs[toMarked ? i + 1 : i];
+    }
+    return {};
+}
+
+bool isHalfKana(QChar c) {
+    return c >= QChar(kFirstHalfKana) && c <= QChar(kHalfVoiced);
+}
+
+QString toWide(const QString& text) {
+    QString wide;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (isHalfKana(c)) {
+            const QChar plain = kWideKana[c.unicode() - kFirstHalfKana];
+            const QChar mark = i + 1 < text.size() ? text[i + 1] : QChar();
+            const QChar joined = mark == QChar(kVoiced)       ? partner(kVoicedPairs, plain, true)
+                                 : mark == QChar(kHalfVoiced) ? partner(kHalfVoicedPairs, plain, true)
+                                                              : QChar();
+            wide += joined.isNull() ? plain : joined;
+            if (!joined.isNull()) ++i;
+        } else if (c == u' ') {
+            wide += u'　';
+        } else if (c == u'\\') {
+            wide += c;  // in the code page it is the yen sign as well as the backslash, and belongs to
+                        // neither alone
+        } else if (c > u' ' && c <= u'~') {
+            wide += QChar(c.unicode() + 0xFEE0);
+        } else {
+            wide += c;
+        }
+    }
+    return wide;
+}
+
+QString toNarrow(const QString& text) {
+    QString narrow;
+    for (QChar c : text) {
+        QChar mark;
+        if (const QChar plain = partner(kVoicedPairs, c, false); !plain.isNull()) {
+            c = plain;
+            mark = QChar(kVoiced);
+        } else if (const QChar plainHalf = partner(kHalfVoicedPairs, c, false); !plainHalf.isNull()) {
+            c = plainHalf;
+            mark = QChar(kHalfVoiced);
+        }
+        if (const qsizetype kana = kWideKana.indexOf(c); kana >= 0) {
+            narrow += QChar(static_cast<char16_t>(kFirstHalfKana + kana));
+            if (!mark.isNull()) narrow += mark;
+        } else if (c == u'　') {
+            narrow += u' ';
+        } else if (c == u'￥' || c == u'¥') {
+            narrow += u'\\';
+        } else if (c == u'’' || c == u'‘') {
+            narrow += u'\'';
+        } else if (c == u'”' || c == u'“') {
+            narrow += u'"';
+        } else if (c == u'−') {
+            narrow += u'-';
+        } else if (c >= u'！' && c <= u'～') {
+            narrow += QChar(c.unicode() - 0xFEE0);
+        } else {
+            narrow += c;
+        }
+    }
+    return narrow;
+}
+
+constexpr char16_t kKanaShift = 0x60;  // between the hiragana and the katakana block
+
+QString toKatakana(QString text) {
+    for (QChar& c : text) {
+        if ((c >= u'ぁ' && c <= u'ゔ') || c == u'ゝ' || c == u'ゞ') c = QChar(c.unicode() + kKanaShift);
+    }
+    return text;
+}
+
+QString toHiragana(QString text) {
+    // ヴ, ヵ and ヶ stay: their hiragana have no place in the code page.
+    for (QChar& c : text) {
+        if ((c >= u'ァ' && c <= u'ン') || c == u'ヽ' || c == u'ヾ') c = QChar(c.unicode() - kKanaShift);
+    }
+    return text;
+}
+
+QString toCase(QString text, int letterCase) {
+    bool wordBegins = true;
+    for (QChar& c : text) {
+        const bool upper = letterCase == UpperCase || (letterCase == ProperCase && wordBegins);
+        wordBegins = c == u'\0' || (c >= u'\t' && c <= u'\r') || c == u' ' || c == u'　';
+        c = upper ? c.toUpper() : c.toLower();
+    }
+    return text;
+}
+
+}  // namespace
+
+QString StrConv(const QString& text, int conversion) {
+    constexpr int kKnown = ProperCase | WideChars | NarrowChars | Katakana | Hiragana;
+    const bool contradicts = ((conversion & WideChars) && (conversion & NarrowChars)) ||
+                             ((conversion & Katakana) && (conversion & Hiragana));
+    if (contradicts || (conversion & ~kKnown)) throw RuntimeError(5);
+    QString result = text;
+    if (const int letterCase = conversion & ProperCase) result = toCase(result, letterCase);
+    if (conversion & WideChars) result = toWide(result);
+    if (conversion & Katakana) result = toKatakana(result);
+    if (conversion & Hiragana) result = toHiragana(result);
+    if (conversion & NarrowChars) result = toNarrow(result);
+    return result;
+}
+
+}  // namespace akarix

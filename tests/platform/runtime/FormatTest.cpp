@@ -1,0 +1,42 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include "platform/runtime/CDate.h"
+#include "platform/runtime/Format.h"
+
+namespace akarix {
+
+namespace {
+
+/// "12.5" is a Double; "c:", "d:" and "t:" stand before a Currency, a date and a text.
+Variant valueOf(const QString& text) {
+    if (text == u"null"_qs) return NullValue{};
+    if (text == u"empty"_qs) return {};
+    if (text == u"true"_qs) return true;
+    if (text.startsWith(u"c:"_qs)) return Currency::FromText(text.mid(2));
+    if (text.startsWith(u"d:"_qs)) return CDate(text.mid(2));
+    if (text.startsWith(u"t:"_qs)) return text.mid(2);
+    return text.toDouble();
+}
+
+TEST(Format, FollowsTheTable) {
+    QFile file(QStringLiteral(AKARIX_TEST_DATA "/formats.txt"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    int cases = 0;
+    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)) {
+        if (line.startsWith(u"# "_qs)) continue;
+        const QStringList parts = line.split(u'\t');
+        ASSERT_GE(parts.size(), 3) << line.toStdString();
+        QString expected = parts[2];
+        expected.replace(u'␣', u' ');
+        EXPECT_EQ(Format(valueOf(parts[0]), parts[1]).toStdString(), expected.toStdString())
+            << line.toStdString();
+        ++cases;
+    }
+    EXPECT_GT(cases, 150);
+}
+
+}  // namespace
+
+}  // namespace akarix
