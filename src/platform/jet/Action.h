@@ -8,13 +8,18 @@ namespace akarix {
 class Action {
  public:
     Action() { Begin(); }
-    ~Action() { End(); }
+    /// Raises when the writes could not be committed, unless an error is on its way already.
+    ~Action() noexcept(false);
     Action(const Action&) = delete;
     Action& operator=(const Action&) = delete;
 
     static void Begin();
     static void End();
     static bool UnderWay();
+
+ private:
+    int errorsBefore_ = ErrorsOnTheirWay();
+    static int ErrorsOnTheirWay();
 };
 
 }  // namespace akarix

@@ -26,6 +26,7 @@ struct ColumnDef {
     FieldType type = FieldType::Text;
     int size = 0;              ///< Text: the most characters it holds; 0 otherwise
     bool zeroDefault = false;  ///< a row inserted without the column gets 0
+    bool required = false;     ///< NOT NULL
 };
 
 struct TableDef {

@@ -13,13 +13,16 @@ class Workspace {
  public:
     /// \param connect "MS Access;PWD=" and the password.
     /// Raises 3024 (no file), 3031 (wrong password), 3343 (damaged or no file of the store).
-    /// The database lives until Close or until the workspace is closed.
+    /// The object stays with the workspace; once closed it raises 3420 at every use.
     Database* OpenDatabase(const QString& name, bool exclusive, bool readOnly, const QString& connect);
     /// Makes an empty file; raises 3204 when it exists.
     Database* CreateDatabase(const QString& name, const QString& connect);
+    /// Closes what is open in it; it can be used again.
     void Close();
 
  private:
+    Database* keep(const QString& name, std::unique_ptr<Engine> engine);
+
     std::vector<std::unique_ptr<Database>> databases_;
 };
 

@@ -1,0 +1,198 @@
+#include "platform/jet/CipherEngine.h"
+
+#include <QSaveFile>
+
+#include "platform/jet/CatalogueReader.h"
+#include "platform/jet/Definitions.h"
+#include "platform/jet/Identifier.h"
+#include "platform/jet/RawFile.h"
+#include "platform/jet/SchemaCopy.h"
+#include "platform/jet/StoreError.h"
+
+namespace akarix {
+namespace {
+
+void BindAll(sqlite3_stmt* statement, const StoreRow& values) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        Bind(statement, static_cast<int>(i) + 1, values[i]);
+    }
+}
+
+QByteArray InsertText(const TableDef& table, const std::vector<QString>& columns) {
+    QByteArray text = "INSERT INTO " + Quoted(table.name);
+    if (columns.empty()) {
+        return text + " DEFAULT VALUES";
+    }
+    QByteArray names;
+    QByteArray places;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const char* comma = i == 0 ? "" : ",";
+        names += comma + Quoted(columns[i]);
+        places += comma + ("?" + QByteArray::number(static_cast<int>(i) + 1));
+    }
+    return text + '(' + names + ") VALUES(" + places + ')';
+}
+
+QByteArray UpdateText(const TableDef& table, const std::vector<QString>& columns) {
+    QByteArray text = "UPDATE " + Quoted(table.name) + " SET ";
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        text += (i == 0 ? "" : ",") + Quoted(columns[i]) + "=?" + QByteArray::number(static_cast<int>(i) + 1);
+    }
+    return text + " WHERE rowid=?" + QByteArray::number(static_cast<int>(columns.size()) + 1);
+}
+
+// Holds the file against writers, not against readers, while it lives.
+class SharedLock {
+ public:
+    explicit SharedLock(sqlite3* connection) : connection_(connection) {
+        Run(connection, "BEGIN");
+        Run(connection, "SELECT count(*) FROM sqlite_master");
+    }
+    ~SharedLock() { sqlite3_exec(connection_, "COMMIT", nullptr, nullptr, nullptr); }
+    SharedLock(const SharedLock&) = delete;
+    SharedLock& operator=(const SharedLock&) = delete;
+
+ private:
+    sqlite3* connection_;
+};
+
+}  // namespace
+
+CipherEngine::CipherEngine(Connection connection)
+    : connection_(std::move(connection)),
+      catalogue_(ReadCatalogue(connection_.get())),
+      statements_(std::make_unique<StatementCache>(connection_.get())),
+      group_(std::make_unique<WriteGroup>(connection_.get())) {}
+
+CipherEngine::~CipherEngine() {
+    try {
+        close();
+    } catch (...) {
+        // Nobody is left to be told; what is uncommitted is rolled back.
+    }
+}
+
+sqlite3* CipherEngine::connection() const {
+    if (!connection_) {
+        throw StoreError(3420);
+    }
+    return connection_.get();
+}
+
+std::vector<StoreRow> CipherEngine::rows(const BoundStatement& statement) {
+    sqlite3* open = connection();
+    sqlite3_stmt* query = statements_->of(statement.plan);
+    const ResetAtEnd reset(query);
+    BindAll(query, statement.arguments);
+    const int width = sqlite3_column_count(query);
+    std::vector<StoreRow> all;
+    while (Step(open, query)) {
+        StoreRow& row = all.emplace_back();
+        row.reserve(static_cast<std::size_t>(width));
+        for (int i = 0; i < width; ++i) {
+            row.push_back(ColumnValue(query, i));
+        }
+    }
+    return all;
+}
+
+void CipherEngine::write(sqlite3_stmt* statement, const StoreRow& values) {
+    group_->begin();
+    try {
+        BindAll(statement, values);
+        Run(connection_.get(), statement);
+    } catch (...) {
+        group_->failed();
+        throw;
+    }
+}
+
+std::int64_t CipherEngine::change(const BoundStatement& statement) {
+    sqlite3* open = connection();
+    write(statements_->of(statement.plan), statement.arguments);
+    const int changed = sqlite3_changes(open);
+    group_->end();
+    return changed;
+}
+
+void CipherEngine::define(const BoundStatement& statement) {
+    sqlite3* open = connection();
+    group_->commit();
+    statements_->clear();
+    group_->begin();
+    try {
+        Define(open, catalogue_, *statement.plan);
+        RefreshSchemaCopy(open);
+        group_->commit();
+    } catch (...) {
+        group_->rollback();
+        throw;
+    }
+    catalogue_ = ReadCatalogue(open);
+}
+
+std::int64_t CipherEngine::insertRow(const TableDef& table, const std::vector<QString>& columns,
+                                     const StoreRow& values) {
+    sqlite3* open = connection();
+    write(statements_->of(InsertText(table, columns)), values);
+    const std::int64_t row = sqlite3_last_insert_rowid(open);
+    group_->end();
+    return row;
+}
+
+void CipherEngine::updateRow(const TableDef& table, std::int64_t row, const std::vector<QString>& columns,
+                             const StoreRow& values) {
+    sqlite3* open = connection();
+    if (columns.empty()) {
+        return;
+    }
+    StoreRow arguments = values;
+    arguments.emplace_back(row);
+    write(statements_->of(UpdateText(table, columns)), arguments);
+    const int changed = sqlite3_changes(open);
+    group_->end();
+    if (changed == 0) {
+        throw StoreError(3167);
+    }
+}
+
+void CipherEngine::flush() {
+    connection();
+    group_->commit();
+}
+
+void CipherEngine::copyTo(const QString& path) {
+    sqlite3* open = connection();
+    group_->commit();
+    QSaveFile target(path);
+    if (!target.open(QIODevice::WriteOnly)) {
+        throw RuntimeError(76);
+    }
+    const SharedLock lock(open);
+    const RawFile source(open);
+    for (int number = 1; number <= source.pageCount(); ++number) {
+        const QByteArray page = source.page(number);
+        if (page.isEmpty()) {
+            throw StoreError(3043);
+        }
+        if (target.write(page) != page.size()) {
+            throw RuntimeError(61);
+        }
+    }
+    if (!target.commit()) {
+        throw RuntimeError(61);
+    }
+}
+
+void CipherEngine::close() {
+    if (!connection_) {
+        return;
+    }
+    // The file is let go of even when the last commit fails.
+    const Connection closing = std::move(connection_);
+    const std::unique_ptr<StatementCache> statements = std::move(statements_);
+    const std::unique_ptr<WriteGroup> group = std::move(group_);
+    group->commit();
+}
+
+}  // namespace akarix

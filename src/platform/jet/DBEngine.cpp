@@ -1,0 +1,23 @@
+#include "platform/jet/DBEngine.h"
+
+#include "platform/jet/LastPassword.h"
+#include "platform/jet/Repair.h"
+#include "platform/jet/StoreError.h"
+#include "platform/runtime/Path.h"
+
+namespace akarix {
+
+Workspace& DBEngine::Workspaces(int index) {
+    static Workspace standard;
+    if (index != 0) {
+        throw StoreError(3265, QString(), QStringLiteral("DAO.DbEngine"));
+    }
+    return standard;
+}
+
+void DBEngine::RepairDatabase(const QString& name) {
+    const QString path = LocalPath(name);
+    RepairStoreFile(path, LastPassword(path));
+}
+
+}  // namespace akarix

@@ -1,0 +1,45 @@
+#include "platform/jet/Database.h"
+
+#include "platform/jet/DatabaseImpl.h"
+#include "platform/jet/RecordsetImpl.h"
+#include "platform/jet/StoreError.h"
+
+namespace akarix {
+
+Database::Database(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
+
+Database::~Database() = default;
+
+void Database::Execute(const QString& sql) {
+    Session& session = *impl_->session;
+    const BoundStatement statement = session.translate(sql);
+    impl_->affected = 0;
+    switch (statement.plan->kind) {
+        case Plan::Kind::Rows:
+            throw StoreError(3065, QString(), QStringLiteral("DAO.Database"));
+        case Plan::Kind::Change:
+            impl_->affected = session.engine().change(statement);
+            return;
+        case Plan::Kind::Definition:
+            session.define(statement);
+            return;
+    }
+}
+
+Recordset Database::OpenRecordset(const QString& sql) {
+    BoundStatement statement = impl_->session->translate(sql);
+    if (statement.plan->kind != Plan::Kind::Rows) {
+        throw StoreError(3219, QString(), QStringLiteral("DAO.Database"));
+    }
+    return Recordset(std::make_unique<Recordset::Impl>(impl_->session, std::move(statement)));
+}
+
+std::int64_t Database::RecordsAffected() const { return impl_->affected; }
+
+void Database::Close() { impl_->session->close(); }
+
+const QString& Database::Name() const { return impl_->name; }
+
+Engine& Database::engine() { return impl_->session->engine(); }
+
+}  // namespace akarix

@@ -1,0 +1,35 @@
+#include "platform/jet/Schema.h"
+
+namespace akarix {
+
+int TableDef::indexOf(const QString& column) const {
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (columns[i].name.compare(column, Qt::CaseInsensitive) == 0) {
+            return static_cast<int>(i);
+        }
+    }
+    return -1;
+}
+
+const TableDef* Catalogue::find(const QString& table) const {
+    const auto found = tables_.find(table.toCaseFolded());
+    return found == tables_.end() ? nullptr : &found->second;
+}
+
+void Catalogue::put(TableDef table) {
+    const QString key = table.name.toCaseFolded();
+    tables_.insert_or_assign(key, std::move(table));
+}
+
+void Catalogue::remove(const QString& table) { tables_.erase(table.toCaseFolded()); }
+
+std::vector<const TableDef*> Catalogue::tables() const {
+    std::vector<const TableDef*> all;
+    all.reserve(tables_.size());
+    for (const auto& [name, table] : tables_) {
+        all.push_back(&table);
+    }
+    return all;
+}
+
+}  // namespace akarix

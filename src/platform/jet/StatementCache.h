@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+#include "platform/jet/Plan.h"
+#include "platform/jet/Sqlite.h"
+
+namespace akarix {
+
+/// The engine's prepared statements, by plan and by text; the least used of them is given up when there are
+/// too many.
+class StatementCache {
+ public:
+    explicit StatementCache(sqlite3* connection) : connection_(connection) {}
+
+    sqlite3_stmt* of(const std::shared_ptr<const Plan>& plan);
+    sqlite3_stmt* of(const QByteArray& text);
+    void clear();
+
+ private:
+    struct Entry {
+        std::shared_ptr<const Plan> plan;  ///< kept, so that its address stays its own
+        Statement statement;
+        std::uint64_t used = 0;
+    };
+
+    void makeRoom();
+
+    sqlite3* connection_;
+    std::unordered_map<const Plan*, Entry> byPlan_;
+    std::unordered_map<std::string, Statement> byText_;
+    std::uint64_t uses_ = 0;
+};
+
+}  // namespace akarix
