@@ -18,9 +18,13 @@ std::vector<ActionListener*>& Listeners() {
 
 }  // namespace
 
-ActionListener::ActionListener() { Listeners().push_back(this); }
+ActionListener::ActionListener() {
+    Listeners().push_back(this);
+}
 
-ActionListener::~ActionListener() { std::erase(Listeners(), this); }
+ActionListener::~ActionListener() {
+    std::erase(Listeners(), this);
+}
 
 Action::~Action() noexcept(false) {
     try {
@@ -32,9 +36,13 @@ Action::~Action() noexcept(false) {
     }
 }
 
-int Action::ErrorsOnTheirWay() { return std::uncaught_exceptions(); }
+int Action::ErrorsOnTheirWay() {
+    return std::uncaught_exceptions();
+}
 
-void Action::Begin() { ++depth; }
+void Action::Begin() {
+    ++depth;
+}
 
 void Action::End() {
     if (depth == 0 || --depth > 0) {
@@ -56,6 +64,8 @@ void Action::End() {
     }
 }
 
-bool Action::UnderWay() { return depth > 0; }
+bool Action::UnderWay() {
+    return depth > 0;
+}
 
 }  // namespace akarix

@@ -195,7 +195,8 @@ std::vector<ChildPage> BtreePage::children() const {
         const auto page = static_cast<int>(BigEndian(data_, offset, 4));
         all.push_back({page, kind_ == Kind::InnerTable ? Varint(data_, at) : 0});
     }
-    all.push_back({static_cast<int>(BigEndian(data_, header_ + 8, 4)), std::numeric_limits<std::int64_t>::max()});
+    all.push_back(
+        {static_cast<int>(BigEndian(data_, header_ + 8, 4)), std::numeric_limits<std::int64_t>::max()});
     return all;
 }
 

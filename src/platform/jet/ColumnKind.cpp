@@ -49,7 +49,9 @@ const KindForm& FormOf(FieldType type) {
     return kForms[8];
 }
 
-QByteArray Number(double value) { return QByteArray::number(value, 'g', 17); }
+QByteArray Number(double value) {
+    return QByteArray::number(value, 'g', 17);
+}
 
 // Written so that Null passes, a number typed as text passes when it is one, and nothing else does: the
 // engine tests before it converts.
@@ -101,8 +103,7 @@ std::optional<ColumnDef> ColumnOfDeclaredType(const QString& declared) {
             ColumnDef column;
             column.type = form.type;
             if (form.type == FieldType::Text) {
-                column.size =
-                    bracket < 0 ? kDefaultTextWidth : declared.mid(bracket + 1).chopped(1).toInt();
+                column.size = bracket < 0 ? kDefaultTextWidth : declared.mid(bracket + 1).chopped(1).toInt();
             }
             return column;
         }
@@ -110,7 +111,9 @@ std::optional<ColumnDef> ColumnOfDeclaredType(const QString& declared) {
     return std::nullopt;
 }
 
-int TextWidth(const ColumnDef& column) { return column.size > 0 ? column.size : kDefaultTextWidth; }
+int TextWidth(const ColumnDef& column) {
+    return column.size > 0 ? column.size : kDefaultTextWidth;
+}
 
 int KindSize(FieldType type, int textWidth) {
     return type == FieldType::Text ? textWidth : FormOf(type).bytes;

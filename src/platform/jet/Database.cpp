@@ -34,12 +34,20 @@ Recordset Database::OpenRecordset(const QString& sql) {
     return Recordset(std::make_unique<Recordset::Impl>(impl_->session, std::move(statement)));
 }
 
-std::int64_t Database::RecordsAffected() const { return impl_->affected; }
+std::int64_t Database::RecordsAffected() const {
+    return impl_->affected;
+}
 
-void Database::Close() { impl_->session->close(); }
+void Database::Close() {
+    impl_->session->close();
+}
 
-const QString& Database::Name() const { return impl_->name; }
+const QString& Database::Name() const {
+    return impl_->name;
+}
 
-Engine& Database::engine() { return impl_->session->engine(); }
+Engine& Database::engine() {
+    return impl_->session->engine();
+}
 
 }  // namespace akarix

@@ -48,9 +48,10 @@ void AddColumn(sqlite3* connection, const TableDef& table, const ColumnDef& colu
 
 // The texts of the indexes that stand beside the table and go with it when it is dropped.
 std::vector<QByteArray> IndexTexts(sqlite3* connection, const QString& table) {
-    const Statement query = Prepare(connection,
-                                    "SELECT sql FROM sqlite_master WHERE type='index' AND sql IS NOT NULL AND "
-                                    "tbl_name=?1");
+    const Statement query =
+        Prepare(connection,
+                "SELECT sql FROM sqlite_master WHERE type='index' AND sql IS NOT NULL AND "
+                "tbl_name=?1");
     Bind(query.get(), 1, table);
     std::vector<QByteArray> texts;
     while (Step(connection, query.get())) {
@@ -121,9 +122,9 @@ void AlterColumn(sqlite3* connection, const TableDef& table, ColumnDef column) {
 
 void DropColumn(sqlite3* connection, const TableDef& table, const QString& name) {
     const int index = ExistingColumn(table, name);
-    const bool isKey = std::any_of(table.uniqueKeys.begin(), table.uniqueKeys.end(), [&](const QStringList& key) {
-        return key.contains(name, Qt::CaseInsensitive);
-    });
+    const bool isKey =
+        std::any_of(table.uniqueKeys.begin(), table.uniqueKeys.end(),
+                    [&](const QStringList& key) { return key.contains(name, Qt::CaseInsensitive); });
     if (isKey || table.columns.size() == 1) {
         throw StoreError(3280, name);
     }
@@ -140,7 +141,9 @@ void CreateIndex(sqlite3* connection, const TableDef& table, const IndexDef& ind
                         " ON " + Quoted(table.name) + '(' + QuotedList(index.columns) + ')');
 }
 
-void DropIndex(sqlite3* connection, const QString& name) { Run(connection, "DROP INDEX " + Quoted(name)); }
+void DropIndex(sqlite3* connection, const QString& name) {
+    Run(connection, "DROP INDEX " + Quoted(name));
+}
 
 }  // namespace
 

@@ -11,12 +11,18 @@ QHash<QString, QString>& Passwords() {
     return passwords;
 }
 
-QString Key(const QString& path) { return QFileInfo(path).absoluteFilePath(); }
+QString Key(const QString& path) {
+    return QFileInfo(path).absoluteFilePath();
+}
 
 }  // namespace
 
-void RememberPassword(const QString& path, const QString& password) { Passwords().insert(Key(path), password); }
+void RememberPassword(const QString& path, const QString& password) {
+    Passwords().insert(Key(path), password);
+}
 
-QString LastPassword(const QString& path) { return Passwords().value(Key(path)); }
+QString LastPassword(const QString& path) {
+    return Passwords().value(Key(path));
+}
 
 }  // namespace akarix

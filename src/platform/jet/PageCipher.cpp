@@ -14,7 +14,9 @@ constexpr int kVectorBytes = 16;
 constexpr int kMacBytes = 20;
 constexpr int kDataEnd = kPageSize - kPageTail;
 
-int DataStart(int number) { return number == 1 ? static_cast<int>(FileMark().size()) : 0; }
+int DataStart(int number) {
+    return number == 1 ? static_cast<int>(FileMark().size()) : 0;
+}
 
 const unsigned char* Bytes(const QByteArray& data, int from = 0) {
     return reinterpret_cast<const unsigned char*>(data.constData()) + from;
@@ -35,7 +37,8 @@ bool PageCipher::authentic(const QByteArray& page, int number) const {
     unsigned int length = 0;
     HMAC(EVP_sha1(), key_.authentication.constData(), static_cast<int>(key_.authentication.size()),
          Bytes(covered), static_cast<std::size_t>(covered.size()), mac.data(), &length);
-    return length == kMacBytes && CRYPTO_memcmp(mac.data(), Bytes(page, kDataEnd + kVectorBytes), kMacBytes) == 0;
+    return length == kMacBytes &&
+           CRYPTO_memcmp(mac.data(), Bytes(page, kDataEnd + kVectorBytes), kMacBytes) == 0;
 }
 
 std::optional<QByteArray> PageCipher::open(const QByteArray& page, int number) const {
@@ -45,7 +48,7 @@ std::optional<QByteArray> PageCipher::open(const QByteArray& page, int number) c
     const int start = DataStart(number);
     QByteArray data(kDataEnd, '\0');
     const std::unique_ptr<EVP_CIPHER_CTX, decltype(&EVP_CIPHER_CTX_free)> context(EVP_CIPHER_CTX_new(),
-                                                                                &EVP_CIPHER_CTX_free);
+                                                                                  &EVP_CIPHER_CTX_free);
     int length = 0;
     if (!context ||
         EVP_DecryptInit_ex(context.get(), EVP_aes_256_cbc(), nullptr, Bytes(key_.encryption),

@@ -25,7 +25,8 @@ sqlite3_file* FileOf(sqlite3* connection) {
 
 Connection OpenWithoutKey(const QString& path) {
     sqlite3* connection = nullptr;
-    const int result = sqlite3_open_v2(path.toUtf8().constData(), &connection, SQLITE_OPEN_READWRITE, nullptr);
+    const int result =
+        sqlite3_open_v2(path.toUtf8().constData(), &connection, SQLITE_OPEN_READWRITE, nullptr);
     Connection owned(connection);
     if (result != SQLITE_OK) {
         throw StoreError(3051, path);
@@ -60,7 +61,9 @@ qint64 RawFile::size() const {
     return file_->pMethods->xFileSize(file_, &bytes) == SQLITE_OK ? bytes : 0;
 }
 
-int RawFile::pageCount() const { return static_cast<int>((size() + kPageSize - 1) / kPageSize); }
+int RawFile::pageCount() const {
+    return static_cast<int>((size() + kPageSize - 1) / kPageSize);
+}
 
 QByteArray RawFile::page(int number) const {
     const qint64 offset = qint64{number - 1} * kPageSize;

@@ -16,7 +16,9 @@ namespace {
     throw StoreError(number, detail, QStringLiteral("DAO.Recordset"));
 }
 
-std::int64_t RowNumber(const StoreRow& row) { return std::get<std::int64_t>(row.back()); }
+std::int64_t RowNumber(const StoreRow& row) {
+    return std::get<std::int64_t>(row.back());
+}
 
 }  // namespace
 
@@ -167,7 +169,9 @@ Recordset::Recordset(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {
     }
 }
 
-Recordset::Recordset(Recordset&& other) noexcept { *this = std::move(other); }
+Recordset::Recordset(Recordset&& other) noexcept {
+    *this = std::move(other);
+}
 
 Recordset& Recordset::operator=(Recordset&& other) noexcept {
     impl_ = std::move(other.impl_);
@@ -307,17 +311,25 @@ void Recordset::Close() {
     impl_->rows.clear();
 }
 
-const QString& Field::Name() const { return owner_->impl_->statement.plan->columns[static_cast<std::size_t>(index_)].name; }
+const QString& Field::Name() const {
+    return owner_->impl_->statement.plan->columns[static_cast<std::size_t>(index_)].name;
+}
 
-FieldType Field::Type() const { return owner_->impl_->statement.plan->columns[static_cast<std::size_t>(index_)].type; }
+FieldType Field::Type() const {
+    return owner_->impl_->statement.plan->columns[static_cast<std::size_t>(index_)].type;
+}
 
 int Field::Size() const {
     const ResultColumn& column = owner_->impl_->statement.plan->columns[static_cast<std::size_t>(index_)];
     return KindSize(column.type, column.size);
 }
 
-Variant Field::Value() const { return owner_->impl_->value(index_); }
+Variant Field::Value() const {
+    return owner_->impl_->value(index_);
+}
 
-void Field::SetValue(const Variant& value) { owner_->impl_->setValue(index_, value); }
+void Field::SetValue(const Variant& value) {
+    owner_->impl_->setValue(index_, value);
+}
 
 }  // namespace akarix

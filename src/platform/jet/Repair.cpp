@@ -14,9 +14,13 @@
 namespace akarix {
 namespace {
 
-std::filesystem::path NativePath(const QString& path) { return std::filesystem::path(path.toStdU16String()); }
+std::filesystem::path NativePath(const QString& path) {
+    return std::filesystem::path(path.toStdU16String());
+}
 
-QString JournalOf(const QString& path) { return path + QStringLiteral("-journal"); }
+QString JournalOf(const QString& path) {
+    return path + QStringLiteral("-journal");
+}
 
 void Discard(const QString& path) {
     QFile::remove(path);

@@ -66,7 +66,9 @@ bool SameNumberOfValues(const TableDef& table, const std::vector<StoredRow>& row
 
 }  // namespace
 
-Salvage::Salvage(const PageImage& image) : image_(image) { readSchema(); }
+Salvage::Salvage(const PageImage& image) : image_(image) {
+    readSchema();
+}
 
 void Salvage::readSchema() {
     for (int number = 1; number <= image_.pageCount(); ++number) {
@@ -86,7 +88,8 @@ void Salvage::readSchema() {
             visited_.insert(number);
         }
     }
-    std::erase_if(objects_, [](const auto& entry) { return entry.first.startsWith(QLatin1String(kSchemaCopyTable)); });
+    std::erase_if(objects_,
+                  [](const auto& entry) { return entry.first.startsWith(QLatin1String(kSchemaCopyTable)); });
 }
 
 std::map<QString, std::vector<StoredRow>> Salvage::rows(const Catalogue& catalogue) {

@@ -21,7 +21,9 @@ void Catalogue::put(TableDef table) {
     tables_.insert_or_assign(key, std::move(table));
 }
 
-void Catalogue::remove(const QString& table) { tables_.erase(table.toCaseFolded()); }
+void Catalogue::remove(const QString& table) {
+    tables_.erase(table.toCaseFolded());
+}
 
 std::vector<const TableDef*> Catalogue::tables() const {
     std::vector<const TableDef*> all;

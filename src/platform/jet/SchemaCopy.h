@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <sqlcipher/sqlite3.h>
+#include <QString>
 
 namespace akarix {
 

@@ -27,7 +27,9 @@ QByteArray Derive(const QByteArray& secret, const QByteArray& salt, int rounds) 
 
 }  // namespace
 
-QByteArray FileMark() { return QByteArrayLiteral("Akarix store v1\n"); }
+QByteArray FileMark() {
+    return QByteArrayLiteral("Akarix store v1\n");
+}
 
 StoreKey KeyOfPassword(const QString& password) {
     static QHash<QString, StoreKey> derived;

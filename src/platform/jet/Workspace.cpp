@@ -31,12 +31,14 @@ const QString& Source() {
 
 }  // namespace
 
-Database* Workspace::OpenDatabase(const QString& name, bool exclusive, bool readOnly, const QString& connect) {
+Database* Workspace::OpenDatabase(const QString& name, bool exclusive, bool readOnly,
+                                  const QString& connect) {
     const QString path = LocalPath(name);
     const QString password = PasswordOf(connect);
     RememberPassword(path, password);
     try {
-        return keep(name, std::make_unique<CipherEngine>(OpenStoreFile(path, password, {exclusive, readOnly})));
+        return keep(name,
+                    std::make_unique<CipherEngine>(OpenStoreFile(path, password, {exclusive, readOnly})));
     } catch (const RuntimeError& error) {
         throw RuntimeError(error.number(), error.description(), Source());
     }
