@@ -18,9 +18,9 @@ struct Column {
 };
 
 constexpr Column columns[] = {{u"ｺｰﾄﾞ", u"", 48, LXW_ALIGN_RIGHT, "0"},
-                              {u"得意先", u"", 148, LXW_ALIGN_LEFT, "@"},
-                              {u"前回検針値", u"", 64, LXW_ALIGN_RIGHT, quantity},
-                              {u"今回検針値", u"", 64, LXW_ALIGN_RIGHT, quantity},
+                              {u"得意先", u"", 152, LXW_ALIGN_LEFT, "@"},
+                              {u"前回検針値", u"", 62, LXW_ALIGN_RIGHT, quantity},
+                              {u"今回検針値", u"", 62, LXW_ALIGN_RIGHT, quantity},
                               {u"使用量", u"使用量計", 58, LXW_ALIGN_RIGHT, quantity},
                               {u"使用料", u"使用料計", 66, LXW_ALIGN_RIGHT, amount},
                               {u"物販", u"物販計", 66, LXW_ALIGN_RIGHT, amount},
@@ -37,8 +37,8 @@ bool WriteBillingListTemplate(const QString& path) {
     for (const Column& column : columns)
         widths.push_back(column.pixels);
     book.columns(widths);
-    book.rows(1, 1, 15);
-    book.rows(2, 2, 24);
+    book.rows(1, 1, 18);
+    book.rows(2, 2, 18);
     book.rows(3, 3, 6);
     book.rows(headRow, headRow, 17.25);
     book.rows(firstDetail, lastDetail, 11.75);

@@ -16,7 +16,7 @@ struct Column {
 
 // Postal codes, telephones and account numbers are text: they keep their zeros.
 constexpr Column columns[] = {{u"ｺｰﾄﾞ", 48, LXW_ALIGN_RIGHT, "0"}, {u"ﾌﾘｶﾞﾅ", 112, LXW_ALIGN_LEFT, "@"},
-                              {u"名前", 138, LXW_ALIGN_LEFT, "@"}, {u"〒", 56, LXW_ALIGN_CENTER, "@"},
+                              {u"名前", 138, LXW_ALIGN_LEFT, "@"}, {u"〒", 58, LXW_ALIGN_CENTER, "@"},
                               {u"住所", 214, LXW_ALIGN_LEFT, "@"}, {u"電話", 84, LXW_ALIGN_CENTER, "@"},
                               {u"FAX", 84, LXW_ALIGN_CENTER, "@"}};
 
@@ -31,7 +31,7 @@ bool WriteCustomerListTemplate(const QString& path) {
     book.rows(1, 1, 24);
     book.rows(2, 2, 6);
     book.rows(headRow, headRow, 16.5);
-    book.rows(firstDetail, lastDetail, 12);
+    book.rows(firstDetail, lastDetail, 12.25);
 
     book.merged("A1:C1", QStringLiteral("取 引 先 一 覧"), book.look({.size = 18, .bold = true}));
     book.merged("E1:G1", DealerBlock::name(),

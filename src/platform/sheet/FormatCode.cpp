@@ -201,39 +201,29 @@ class Parser {
         }
     }
 
-    // A comma between digits groups the thousands, one behind the last integer digit divides by a thousand.
+    // A comma between integer digits groups the thousands; one behind the digits divides by a thousand.
     static void takeCommas(FormatSection& section) {
-        auto& tokens = section.tokens;
-        size_t firstDigit = tokens.size(), lastDigit = tokens.size();
-        for (size_t i = 0; i < tokens.size() && tokens[i].kind != Kind::Point; ++i) {
-            if (tokens[i].kind != Kind::Digit) continue;
-            if (firstDigit == tokens.size()) firstDigit = i;
-            lastDigit = i;
-        }
-        if (firstDigit == tokens.size()) return;
         std::vector<FormatToken> kept;
-        for (size_t i = 0; i < tokens.size(); ++i) {
-            const bool comma = tokens[i].kind == Kind::Literal && tokens[i].text == u",";
-            if (comma && i > firstDigit && i < lastDigit) {
-                section.grouping = true;
-            } else if (comma && i > lastDigit &&
-                       i == lastDigit + 1 + static_cast<size_t>(scalingCommas(tokens, lastDigit, i))) {
-                section.shift -= 3;
-            } else {
-                kept.push_back(tokens[i]);
+        bool point = false, afterDigit = false;
+        int pending = 0;
+        for (const FormatToken& token : section.tokens) {
+            const bool digit = token.kind == Kind::Digit;
+            if (token.kind == Kind::Literal && token.text == u"," && afterDigit) {
+                ++pending;
+                continue;
             }
+            if (pending > 0 && digit && !point) {
+                section.grouping = true;
+            } else {
+                section.shift -= 3 * pending;
+            }
+            pending = 0;
+            point = point || token.kind == Kind::Point;
+            afterDigit = digit;
+            kept.push_back(token);
         }
-        tokens = std::move(kept);
-    }
-
-    // How many commas stand between a digit and a place, without anything else between them.
-    static int scalingCommas(const std::vector<FormatToken>& tokens, size_t digit, size_t place) {
-        int commas = 0;
-        for (size_t i = digit + 1; i < place; ++i) {
-            if (tokens[i].kind != Kind::Literal || tokens[i].text != u",") return -1;
-            ++commas;
-        }
-        return commas;
+        section.shift -= 3 * pending;
+        section.tokens = std::move(kept);
     }
 
     QStringView code_;

@@ -1,0 +1,105 @@
+#include "platform/sheet/GridExport.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "platform/sheet/SheetReader.h"
+
+namespace akarix {
+namespace {
+
+constexpr int left = 1, centered = 4, right = 7;
+
+class GridExport : public testing::Test {
+ protected:
+    bool write(const std::vector<QStringList>& rows, const std::vector<int>& widths,
+               const std::vector<int>& alignments) {
+        const GridSource source{static_cast<int>(rows.size()), widths, alignments,
+                                [&rows](int r, int c) { return rows[static_cast<size_t>(r)][c]; }};
+        return WriteGridWorkbook(path_, QStringLiteral("請求一覧"), QStringLiteral("2011/3分"),
+                                 QStringLiteral("作成日 : 2011/03/25"), source);
+    }
+    Sheet read() const { return ReadSheet(path_, QStringLiteral("Sheet1")); }
+
+    QTemporaryDir folder_;
+    QString path_ = folder_.filePath(QStringLiteral("一覧.xlsx"));
+};
+
+TEST_F(GridExport, WhatStandsWhere) {
+    ASSERT_TRUE(write(
+        {{QStringLiteral("ｺｰﾄﾞ"), QStringLiteral("id"), QStringLiteral("得意先"), QStringLiteral("請求額")},
+         {QStringLiteral("00012"), QStringLiteral("9"), QStringLiteral("ガス & <器具>"),
+          QStringLiteral("1,234")},
+         {QStringLiteral("00013"), QStringLiteral("9"), QString(), QStringLiteral("未")}},
+        {900, 10, 2400, 1200}, {centered, right, left, right}));
+    const Sheet sheet = read();
+    struct {
+        CellAddress at;
+        const char* text;
+    } const table[] = {{{1, 4}, "作成日 : 2011/03/25"},
+                       {{2, 1}, "請求一覧"},
+                       {{4, 1}, "2011/3分"},
+                       {{6, 1}, "ｺｰﾄﾞ"},
+                       {{6, 2}, "得意先"},
+                       {{6, 3}, "請求額"},
+                       {{7, 1}, "00012"},
+                       {{7, 2}, "ガス & <器具>"},
+                       {{7, 3}, "1,234"},
+                       {{8, 2}, ""},
+                       {{8, 3}, "未"}};
+    for (const auto& row : table)
+        EXPECT_EQ(sheet.shownText(row.at).toStdString(), row.text);
+    EXPECT_EQ(sheet.extent(), (CellAddress{8, 4}));
+    EXPECT_EQ(sheet.styleAt({2, 1}).font.size, 18);
+    EXPECT_EQ(sheet.styleAt({7, 1}).numberFormat, QStringLiteral("@"));
+    EXPECT_EQ(sheet.styleAt({7, 1}).horizontal, HorizontalAlign::Center);
+    EXPECT_EQ(sheet.cells.at({7, 3}).number, 1234);
+    for (const CellAddress at : {CellAddress{6, 1}, {8, 2}, {8, 3}}) {
+        EXPECT_EQ(sheet.styleAt(at).right.style, BorderStyle::Thin);
+    }
+    EXPECT_EQ(sheet.columnWidth(2), 120);
+    EXPECT_EQ(sheet.page.titleFirstRow, 6);
+    EXPECT_EQ(sheet.page.fitHeight, 0);
+    EXPECT_TRUE(sheet.warnings.isEmpty());
+}
+
+TEST_F(GridExport, RightAlignedNumbersLookAsOnTheScreen) {
+    const char* const numbers[] = {"0",       "-1,234,567", "1234567", "12.50",
+                                   "1,234.5", "007",        "-3",      "99999999999"};
+    const char* const texts[] = {"", "12%", "2011/03/25", "3-1", "12345678901234567890"};
+    std::vector<QStringList> rows{{QStringLiteral("数")}};
+    for (const char* text : numbers)
+        rows.push_back({QString::fromLatin1(text)});
+    for (const char* text : texts)
+        rows.push_back({QString::fromLatin1(text)});
+    ASSERT_TRUE(write(rows, {1500}, {right}));
+    const Sheet sheet = read();
+    for (size_t i = 1; i < rows.size(); ++i) {
+        const CellAddress at{static_cast<int>(i) + 6, 1};
+        EXPECT_EQ(sheet.shownText(at), rows[i][0]);
+        EXPECT_EQ(sheet.cells.at(at).number.has_value(), i <= std::size(numbers)) << rows[i][0].toStdString();
+    }
+    EXPECT_EQ(sheet.shownText({2, 1}), QString());  // one column: no middle, no title
+    EXPECT_EQ(sheet.shownText({4, 1}), QStringLiteral("2011/3分"));
+}
+
+TEST_F(GridExport, WhatCannotBeWrittenLeavesNothing) {
+    const QString file = path_;
+    path_ = folder_.filePath(QStringLiteral("無い/一覧.xlsx"));
+    EXPECT_FALSE(write({{QStringLiteral("a")}}, {900}, {left}));
+    path_ = folder_.filePath(QStringLiteral("ここ"));
+    ASSERT_TRUE(QDir().mkpath(path_ + QStringLiteral("/x")));
+    EXPECT_FALSE(write({{QStringLiteral("a")}}, {900}, {left}));
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList());
+    path_ = file;
+    EXPECT_TRUE(write({{QStringLiteral("a")}}, {900}, {left}));
+    EXPECT_TRUE(write({{QStringLiteral("b")}}, {900}, {left}));
+    EXPECT_EQ(read().shownText({6, 1}), QStringLiteral("b"));
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{QStringLiteral("一覧.xlsx")});
+}
+
+}  // namespace
+}  // namespace akarix

@@ -1,0 +1,89 @@
+#include "platform/sheet/Sheet.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/runtime/RuntimeError.h"
+
+namespace akarix {
+namespace {
+
+TEST(Sheet, Addresses) {
+    EXPECT_EQ(ParseRange(QStringLiteral("b5")), (CellRange{{5, 2}, {5, 2}}));
+    EXPECT_EQ(ParseRange(QStringLiteral("$K$61:B5")), (CellRange{{5, 2}, {61, 11}}));
+    EXPECT_EQ(ParseRange(QStringLiteral("XFD1048576")).first, (CellAddress{1048576, 16384}));
+    for (const char* bad :
+         {"", "5", "B", "B0", "B-1", "5B", "A1:", ":A1", "XFE1", "A1048577", "A99999999999", "A1:B2:C3"}) {
+        EXPECT_THROW(ParseRange(QString::fromLatin1(bad)), RuntimeError) << bad;
+    }
+}
+
+TEST(Sheet, TypedValues) {
+    Sheet sheet;
+    CellStyle money, text, date;
+    money.numberFormat = QStringLiteral("#,##0");
+    text.numberFormat = QStringLiteral("@");
+    date.numberFormat = QStringLiteral("ggge\"年\"m\"月\"d\"日\"");
+    sheet.styles = {CellStyle(), money, text, date};
+    for (int column = 2; column <= 4; ++column)
+        sheet.columnStyles[column] = column - 1;
+
+    struct {
+        const char *typed, *general, *money, *text, *date;
+    } const table[] = {
+        {"1234.50", "1234.5", "1,235", "1234.50", "明治36年5月18日"},
+        {"1,234", "1234", "1,234", "1,234", "明治36年5月18日"},
+        {"  -12 ", "-12", "-12", "  -12 ", "########"},
+        {"00012", "12", "12", "00012", "明治33年1月12日"},
+        {"12,34", "12,34", "12,34", "12,34", "12,34"},
+        {"1,234,5", "1,234,5", "1,234,5", "1,234,5", "1,234,5"},
+        {"-", "-", "-", "-", "-"},
+        {"1E5", "1E5", "1E5", "1E5", "1E5"},
+        {"03-1234-5678", "03-1234-5678", "03-1234-5678", "03-1234-5678", "03-1234-5678"},
+        {"2011/03/25", "2011/03/25", "2011/03/25", "2011/03/25", "平成23年3月25日"},
+        {"2011/02/30", "2011/02/30", "2011/02/30", "2011/02/30", "2011/02/30"},
+        {"=A1", "=A1", "=A1", "=A1", "=A1"},
+    };
+    for (const auto& row : table) {
+        sheet.setValue(QStringLiteral("A1:D1"), QString::fromUtf8(row.typed));
+        EXPECT_EQ(sheet.shownText({1, 1}).toStdString(), row.general) << row.typed;
+        EXPECT_EQ(sheet.shownText({1, 2}).toStdString(), row.money) << row.typed;
+        EXPECT_EQ(sheet.shownText({1, 3}).toStdString(), row.text) << row.typed;
+        EXPECT_EQ(sheet.shownText({1, 4}).toStdString(), row.date) << row.typed;
+    }
+}
+
+TEST(Sheet, BlankingABlockKeepsStylesAndNeighbours) {
+    Sheet sheet;
+    sheet.styles.resize(2);
+    sheet.styles[1].top.style = BorderStyle::Thin;
+    sheet.cells[{5, 2}].style = 1;
+    sheet.setValue(QStringLiteral("A4:L62"), QStringLiteral("x"));
+    sheet.setValue(QStringLiteral("B5:K61"), QString());
+    EXPECT_EQ(sheet.shownText({5, 2}), QString());
+    EXPECT_EQ(sheet.styleAt({5, 2}).top.style, BorderStyle::Thin);
+    for (const CellAddress at : {CellAddress{4, 2}, {62, 2}, {30, 1}, {30, 12}})
+        EXPECT_EQ(sheet.shownText(at), QStringLiteral("x"));
+    sheet.setValue(QStringLiteral("A1:XFD1048576"), QString());
+    EXPECT_EQ(sheet.extent(), (CellAddress{5, 2}));
+    EXPECT_THROW(sheet.setValue(QStringLiteral("A1:XFD1048576"), QStringLiteral("x")), RuntimeError);
+}
+
+TEST(Sheet, MergesKeepTheFirstValue) {
+    Sheet sheet;
+    sheet.setValue(QStringLiteral("C2"), QStringLiteral("二"));
+    sheet.setValue(QStringLiteral("B3"), QStringLiteral("三"));
+    sheet.setMerged(QStringLiteral("B2:C3"), true);
+    EXPECT_EQ(sheet.shownText({2, 2}), QStringLiteral("二"));
+    EXPECT_EQ(sheet.shownText({2, 3}) + sheet.shownText({3, 2}), QString());
+
+    sheet.setValue(QStringLiteral("B2:C3"), QStringLiteral("新"));
+    sheet.setMerged(QStringLiteral("C3:D5"), true);
+    EXPECT_EQ(sheet.merges, (std::vector<CellRange>{{{2, 2}, {5, 4}}}));
+    sheet.setMerged(QStringLiteral("A1:B2"), false);
+    EXPECT_TRUE(sheet.merges.empty());
+    EXPECT_EQ(sheet.shownText({2, 2}), QStringLiteral("新"));
+    EXPECT_EQ(sheet.shownText({3, 3}), QString());
+}
+
+}  // namespace
+}  // namespace akarix
