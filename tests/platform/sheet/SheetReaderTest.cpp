@@ -124,7 +124,8 @@ TEST_F(SheetReader, StylesMergesAndPage) {
     const CellStyle& style = sheet.styleAt({2, 2});
     EXPECT_EQ(style.font.name, QStringLiteral("ＭＳ 明朝"));
     EXPECT_EQ(style.font.size, 18);
-    EXPECT_TRUE(style.font.bold && style.font.underline && !style.font.italic && !style.wrap && !style.shrink);
+    EXPECT_TRUE(style.font.bold && style.font.underline && !style.font.italic && !style.wrap &&
+                !style.shrink);
     EXPECT_EQ(style.font.color, QColor(0x12, 0x34, 0x56));
     EXPECT_EQ(style.fill, QColor(0xFF, 0xEE, 0xDD));
     EXPECT_EQ(style.left.style, BorderStyle::Thin);
