@@ -45,6 +45,13 @@ void drawQuestion(QPainter& painter) {
     painter.drawEllipse(QPointF(8, 12.3), 1.1, 1.1);
 }
 
+void drawStop(QPainter& painter) {
+    drawDisc(painter, QColor(0xb3, 0x2d, 0x2d));
+    painter.setPen(QPen(Qt::white, 1.8, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QPointF(5.2, 5.2), QPointF(10.8, 10.8));
+    painter.drawLine(QPointF(10.8, 5.2), QPointF(5.2, 10.8));
+}
+
 void drawKeyboard(QPainter& painter) {
     painter.setPen(QPen(blue, 1));
     painter.setBrush(QColor(0xe8, 0xf3, 0xfa));
@@ -77,6 +84,9 @@ QPixmap DrawIcon(Icon icon, int size, const QWidget* target) {
             break;
         case Icon::Question:
             drawQuestion(painter);
+            break;
+        case Icon::Stop:
+            drawStop(painter);
             break;
         case Icon::Keyboard:
             drawKeyboard(painter);

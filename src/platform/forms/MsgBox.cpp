@@ -3,16 +3,18 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "platform/forms/Icons.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
 namespace {
 
-void showBox(const QString& text, const QString& title, QMessageBox::Icon icon) {
-    QMessageBox box(icon, title, text, QMessageBox::Ok, QApplication::activeWindow());
+void showBox(const QString& text, const QString& title, bool failure) {
+    QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok, QApplication::activeWindow());
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::ApplicationModal);
+    if (failure) box.setIconPixmap(DrawIcon(Icon::Stop, 36, &box));
     box.exec();
 }
 
@@ -22,12 +24,12 @@ void MsgBox(const QString& text, const QString& title) {
     // Texts come with the carriage returns of the classic line end, which a label would print as boxes.
     QString shown = text;
     shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-    showBox(shown, title, QMessageBox::NoIcon);
+    showBox(shown, title, false);
 }
 
 void ShowRuntimeError(const RuntimeError& error) {
     showBox(QStringLiteral("実行時エラー '%1':\n\n").arg(error.number()) + error.description(),
-            QStringLiteral("Akarix"), QMessageBox::Critical);
+            QStringLiteral("Akarix"), true);
 }
 
 }  // namespace akarix

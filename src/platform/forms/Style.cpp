@@ -88,9 +88,12 @@ class ScreenStyle : public QProxyStyle {
 
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
-        if ((element == CE_RadioButton || element == CE_CheckBox) && option->state.testFlag(State_HasFocus)) {
-            drawBox(painter, option->rect, focusTint, accent, 1);
-            QProxyStyle::drawControl(element, option, painter, widget);
+        const auto* choice = qstyleoption_cast<const QStyleOptionButton*>(option);
+        if ((element == CE_RadioButton || element == CE_CheckBox) && choice != nullptr) {
+            if (choice->state.testFlag(State_HasFocus)) drawBox(painter, choice->rect, focusTint, accent, 1);
+            QStyleOptionButton inside(*choice);
+            inside.rect.adjust(5, 0, -3, 0);
+            QProxyStyle::drawControl(element, &inside, painter, widget);
         } else if (element == CE_PushButtonBevel) {
             drawButton(option, painter);
         } else if (element == CE_HeaderSection) {
