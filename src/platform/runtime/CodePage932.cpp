@@ -1,6 +1,7 @@
 #include "platform/runtime/CodePage932.h"
 
 #include <unicode/ucnv.h>
+#include <unicode/ucnv_cb.h>
 
 #include <limits>
 #include <memory>
@@ -15,6 +16,15 @@ struct CloseConverter {
     void operator()(UConverter* converter) const { ucnv_close(converter); }
 };
 
+/// A byte that stands for nothing is shown as the dot a Japanese system shows.
+void U_CALLCONV writeDot(const void*, UConverterToUnicodeArgs* args, const char*, int32_t,
+                         UConverterCallbackReason reason, UErrorCode* status) {
+    if (reason > UCNV_IRREGULAR) return;
+    constexpr UChar kDot = u'・';
+    *status = U_ZERO_ERROR;
+    ucnv_cbToUWriteUChars(args, &kDot, 1, 0, status);
+}
+
 // A converter carries state and must not be shared between threads; opening one is slow.
 UConverter* converter() {
     static thread_local const std::unique_ptr<UConverter, CloseConverter> kept = [] {
@@ -22,6 +32,9 @@ UConverter* converter() {
         std::unique_ptr<UConverter, CloseConverter> opened(ucnv_open("ibm-943_P15A-2003", &status));
         if (U_FAILURE(status)) throw RuntimeError(48);
         ucnv_setSubstChars(opened.get(), "?", 1, &status);
+        ucnv_setToUCallBack(opened.get(), writeDot, nullptr, nullptr, nullptr, &status);
+        // ¥, 〜 and − from keyboards of other systems become the code page's own signs.
+        ucnv_setFallback(opened.get(), true);
         return opened;
     }();
     return kept.get();

@@ -46,7 +46,7 @@ void copyBeside(const QString& from, const QString& to) {
 }  // namespace
 
 void FileCopy(const QString& from, const QString& to) {
-    requireDrive(from);
+    requireFolder(from);
     requireFolder(to);
     const QString source = LocalPath(from);
     const QString target = LocalPath(to);

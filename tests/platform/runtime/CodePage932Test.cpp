@@ -29,6 +29,10 @@ TEST(CodePage932, KnowsTheWindowsCharacters) {
     }
 }
 
+TEST(CodePage932, TakesTheSignsOfOtherKeyboards) {
+    EXPECT_EQ(ToCodePage932(QStringLiteral("¥〜−—‖")).toHex(), "5c8160817c815c8161");
+}
+
 TEST(CodePage932, DropsAHalfCharacterAtTheEnd) {
     const QByteArray bytes = ToCodePage932(QStringLiteral("aソ表"));
     EXPECT_EQ(FromCodePage932(bytes.left(2)), QStringLiteral("a"));
@@ -39,6 +43,9 @@ TEST(CodePage932, DropsAHalfCharacterAtTheEnd) {
 TEST(CodePage932, PutsAQuestionMarkForWhatHasNoPlace) {
     EXPECT_EQ(ToCodePage932(QStringLiteral("a😀b")), "a?b");
     EXPECT_EQ(ToCodePage932(QStringLiteral("ไ한")), "??");
+    EXPECT_EQ(FromCodePage932(QByteArray("a\x80\xff"
+                                         "b")),
+              QStringLiteral("a・・b"));
     EXPECT_TRUE(ToCodePage932(QString()).isEmpty());
     EXPECT_TRUE(FromCodePage932(QByteArray()).isEmpty());
 }
