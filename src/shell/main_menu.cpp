@@ -9,6 +9,7 @@
 #include "dialogs/AskConfirm.h"
 #include "dialogs/AskText.h"
 #include "dialogs/ShowAlert.h"
+#include "masters/MstDeal_frm.h"
 #include "masters/MstRte_frm.h"
 #include "output/EX.h"
 #include "platform/forms/MsgBox.h"
@@ -52,7 +53,7 @@ constexpr std::array<BoardButton, 19> kBoard{{
     {5, 1, u"請求書印刷"},
     {7, 1, u"請求一覧表", &OpenScreen<RepoSeikyu_frm>},
     {8, 1, u"消費先台帳"},
-    {13, 2, u"得意先"},
+    {13, 2, u"得意先", &OpenScreen<MstDeal_frm>},
     {17, 2, u"得意先初期残"},
     {3, 2, u"料金表"},
     {4, 2, u"商品"},

@@ -76,9 +76,7 @@ void MasterForm::addField(const MasterField& field) {
     row.text(addBox(ebox, field.index, field.ime), field.bytes);
     if (field.lookup) row.lookup(F6.add(field.lookup->picture, new Image));
     if (!field.nameLabel.isEmpty()) {
-        Label& name = Named(new Label, field.nameLabel);
-        names_[field.nameLabel] = &name;
-        row.name(name, kNameBytes);
+        row.name(addName(field.nameLabel), kNameBytes);
     }
     if (!field.note.isEmpty()) row.note(field.note);
 }
@@ -96,6 +94,12 @@ void MasterForm::addButtons() {
     body_->addStretch();
     body_->addLayout(buttonRow_);
     wire();
+}
+
+Label& MasterForm::addName(const QString& name) {
+    Label& label = Named(new Label(QString(), this), name);
+    names_[name] = &label;
+    return label;
 }
 
 Label& MasterForm::nameLabel(const QString& name) const {

@@ -45,6 +45,8 @@ class MasterForm : public EntryForm {
     QVBoxLayout& body() { return *body_; }
     QHBoxLayout& buttonRow() { return *buttonRow_; }
     Label& nameLabel(const QString& name) const;
+    /// A name label beside a field the screen adds itself; emptied with the others.
+    Label& addName(const QString& name);
 
     void clear();
     /// Does what Enter does in a field.

@@ -1,0 +1,334 @@
+#include "masters/MstDeal_frm.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <array>
+
+#include "dialogs/ShowAlert.h"
+#include "output/PrintTrap.h"
+#include "platform/forms/FieldLayout.h"
+#include "platform/print/PrinterDialog.h"
+#include "platform/runtime/CInt.h"
+#include "platform/runtime/Format.h"
+#include "store/FieldValue.h"
+#include "store/Lookup.h"
+#include "store/dbAccess.h"
+#include "toolkit/FieldWalk.h"
+#include "toolkit/ZipAddress.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+namespace {
+
+enum Field {
+    kCode = 0,
+    kNamae = 2,
+    kRyaku = 3,
+    kYubin = 4,
+    kAddr1 = 5,
+    kSime = 9,
+    kHaisou = 14,
+    kFrom = 20,
+    kTo = 21,
+    kRoute = 22,
+    kDiscGaku = 23
+};
+enum { kClear, kRemove, kSave, kPrint };
+
+constexpr int kSheetRows = 59;  // 58 customers a page: the driver turns the page when it reaches this line
+constexpr int kSheetFirstRow = 3;
+
+MasterTexts texts() {
+    return {
+        .table = QStringLiteral("Deal"),
+        .load = QStringLiteral("SELECT * FROM Deal  WHERE Code=%1"),
+        .left = QStringLiteral("SELECT * FROM Deal WHERE Code<%1 ORDER BY Code DESC"),
+        .right = QStringLiteral("SELECT * FROM Deal WHERE Code>%1 ORDER BY Code"),
+        .remove = QStringLiteral("DELETE FROM Deal  WHERE Code=%1"),
+        .removeQuestion = QStringLiteral("この取引先を削除します。"),
+    };
+}
+
+QString dealName(const Variant& code) { return GetDealName(code); }
+
+QString routeName(const Variant& code) { return GetName(QStringLiteral("Rte"), code); }
+
+// Branch codes are shown with three digits; what is longer is a post office's code and stands as it is.
+QString branchText(const Variant& value) {
+    const QString text = NullToEmpty(value);
+    constexpr int kShort = 2;
+    return text.isEmpty() || text.size() > kShort ? text : Format(text, QStringLiteral("000"));
+}
+
+FieldRow text(int index, const char16_t* label, const char16_t* column, int bytes, ImeMode ime) {
+    return {.index = index,
+            .label = QString::fromUtf16(label),
+            .column = QString::fromUtf16(column),
+            .bytes = bytes,
+            .ime = ime};
+}
+
+FieldRow number(int index, const char16_t* label, const char16_t* column, FieldKind kind, int bytes,
+                const char16_t* note = u"") {
+    return {.index = index,
+            .label = QString::fromUtf16(label),
+            .column = QString::fromUtf16(column),
+            .kind = kind,
+            .bytes = bytes,
+            .note = QString::fromUtf16(note),
+            .pane = 1};
+}
+
+FieldTable fields() {
+    const QString all = QStringLiteral("ALL");
+    FieldRow code = number(kCode, u"コード", u"Code", FieldKind::Long, 8);
+    code.pane = 0;
+    code.lookup = FieldLookup{0, QStringLiteral("Deal"), {}};
+    FieldRow route = number(kRoute, u"地区", u"Rte", FieldKind::Integer, 5);
+    route.pane = 0;
+    route.lookup = FieldLookup{3, QStringLiteral("Rte"), all};
+    route.nameLabel = QStringLiteral("sRte");
+    route.nameOf = routeName;
+    FieldRow bank = number(16, u"銀行", u"Bnk", FieldKind::Integer, 4);
+    bank.display = MaskedUnlessZero(QStringLiteral("0000"));
+    FieldRow branch =
+        number(17, u"支店", u"Stn", FieldKind::Integer, 5, u"郵便局は2文字目から3文字");
+    branch.display = branchText;
+    FieldRow kind = number(18, u"種類", u"Kind", FieldKind::Integer, 1, u"1:普通 2：当座");
+    kind.display = Masked(QStringLiteral("#"));
+    FieldRow account = text(19, u"口座番号", u"Koza", 10, ImeMode::Off);
+    account.pane = 1;
+    FieldRow fixedDebit = number(kDiscGaku, u"毎月引落額", u"DiscGaku", FieldKind::Currency, 10);
+    fixedDebit.display = MaskedUnlessZero({});
+    return {
+        code,
+        route,
+        text(1, u"ﾌﾘｶﾞﾅ", u"Kana", 30, ImeMode::KatakanaHalf),
+        text(kNamae, u"名前", u"Namae", 40, ImeMode::Hiragana),
+        text(kRyaku, u"略称", u"Ryaku", 20, ImeMode::Hiragana),
+        text(kYubin, u"〒", u"Yubin", 8, ImeMode::Off),
+        text(kAddr1, u"住所", u"Addr1", 50, ImeMode::Hiragana),
+        text(6, u"住所", u"Addr2", 50, ImeMode::Hiragana),
+        text(7, u"電話", u"TEL", 15, ImeMode::Off),
+        text(8, u"ファックス", u"Fax", 15, ImeMode::Off),
+        number(kSime, u"締日", u"Sime", FieldKind::Integer, 2, u"末締めは 31 "),
+        number(10, u"支払方法", u"SH", FieldKind::Integer, 1, u"1:集金  2:振込"),
+        number(11, u"地図", u"Map", FieldKind::Integer, 5),
+        number(12, u"施設販売", u"Sisetu", FieldKind::Integer, 1,
+               u"0:不明 1:学校等 2:病院等\n3:公会堂等 4:料飲店等 5:その他\n6:共同住宅 7:一般住宅"),
+        number(13, u"締切", u"Simekiri", FieldKind::Integer, 5),
+        number(kHaisou, u"順路", u"Haisou", FieldKind::Long, 8),
+        number(15, u"単価ﾊﾟﾀｰﾝ", u"TankaPtn", FieldKind::Integer, 5),
+        bank,
+        branch,
+        kind,
+        account,
+        fixedDebit,
+    };
+}
+
+}  // namespace
+
+MstDeal_frm::MstDeal_frm()
+    : MasterForm(QStringLiteral("MstDeal_frm"), QStringLiteral("取引先"), texts()),
+      defaultSime_(CInt(NumVal(GetContents(QStringLiteral("SELECT Contents FROM zSysFunc WHERE Code=1"))))) {
+    addFields(fields());
+    addLeases();
+    addListFields();
+    addButtons();
+    orderWalk();
+    on(&ebox(kHaisou), &TextBox::GotFocus, [this] { proposeHaisou(); });
+    on(&Btn(kPrint), &CommandButton::Click, [this] { TrapPrinting([this] { print(); }); });
+}
+
+// ---- layout
+
+void MstDeal_frm::addLeases() {
+    auto* line = new QHBoxLayout;
+    const auto tick = [this, line](const char16_t* name, const char16_t* caption) {
+        auto* box = new CheckBox(QString::fromUtf16(caption), this);
+        box->setObjectName(QString::fromUtf16(name));
+        line->addWidget(box);
+        return box;
+    };
+    ChkACU_ = tick(u"ChkACU", u"ACUリース");
+    ChkKeihou_ = tick(u"ChkKeihou", u"警報機リース");
+    ChkNoSeikyu_ = tick(u"ChkNoSeikyu", u"請求書を発行しない");
+    line->addStretch();
+    BtnDiscGaku_ = &make().button(QStringLiteral("BtnDiscGaku"), QStringLiteral("毎月引落額"));
+    line->addWidget(BtnDiscGaku_);
+    body().addLayout(line);
+}
+
+void MstDeal_frm::addListFields() {
+    constexpr int kCodeBytes = 8;
+    constexpr int kNameBytes = 24;
+    auto* group = new QGroupBox(QStringLiteral("取引先一覧"), this);
+    auto* inside = new QHBoxLayout(group);
+    const auto bound = [&](int field, int picture, const char16_t* caption, const char16_t* nameLabel) {
+        inside->addWidget(&make().caption(QString::fromUtf16(caption)));
+        inside->addWidget(&make().box(ebox, field, kCodeBytes, ImeMode::Off));
+        inside->addWidget(&make().lookup(F6, picture));
+        inside->addWidget(&addName(QString::fromUtf16(nameLabel), kNameBytes));
+    };
+    bound(kFrom, 1, u"コード自", u"sNamaeS");
+    bound(kTo, 2, u"コード至", u"sNamaeE");
+    inside->addWidget(&make().caption(QStringLiteral("銀行コード")));
+    TextBox& bank = make().box(QStringLiteral("eSearchBnk"), 4, ImeMode::Off);
+    searchBank_.add(0, &bank);
+    inside->addWidget(&bank);
+    inside->addWidget(&make().lookup(F6, 4));
+    inside->addWidget(&make().button(Btn, kPrint, QStringLiteral("印刷")));
+    inside->addStretch();
+    body().addWidget(group);
+
+    wireKeys(searchBank_, [](int) { return true; });
+    const auto press = [this](int field) { pressEnter(field); };
+    wireLookup(F6(1), QStringLiteral("Deal"), {}, ebox(kFrom), press, kFrom);
+    wireLookup(F6(2), QStringLiteral("Deal"), {}, ebox(kTo), press, kTo);
+    wireLookup(F6(4), QStringLiteral("Bnk"), {}, bank, [](int) {}, 0);
+}
+
+// The row's own fields lead to Save; the fields of the list and the ticks are walked behind it.
+void MstDeal_frm::orderWalk() {
+    std::vector<QWidget*> walk;
+    for (const FieldRow& field : fields()) {
+        walk.push_back(&ebox(field.index));
+    }
+    for (const int button : {kSave, kClear, kRemove}) {
+        walk.push_back(&Btn(button));
+    }
+    for (const QString& name : {QStringLiteral("cmdLeft"), QStringLiteral("cmdRight")}) {
+        walk.push_back(findChild<CommandButton*>(name));
+    }
+    walk.insert(walk.end(),
+                {BtnDiscGaku_, &ebox(kFrom), &ebox(kTo), &searchBank_(0), &Btn(kPrint), ChkACU_, ChkKeihou_, ChkNoSeikyu_});
+    for (std::size_t place = 0; place < walk.size(); ++place) {
+        SetTabIndex(walk[place], static_cast<int>(place));
+    }
+}
+
+// ---- the row
+
+void MstDeal_frm::showDefaults() {
+    for (CheckBox* tick : {ChkACU_, ChkKeihou_, ChkNoSeikyu_}) {
+        tick->SetValue(0);
+    }
+    if (defaultSime_ != 0) ebox(kSime).SetText(NumStr(defaultSime_));
+}
+
+bool MstDeal_frm::enter(int index) {
+    switch (index) {
+        case kRyaku:
+            CopyIfEmpty(ebox(kNamae), ebox(kRyaku));
+            break;
+        case kYubin:
+            FillAddressFromZip(ebox(kYubin).Text(), ebox(kAddr1));
+            break;
+        case kFrom:
+            nameLabel(QStringLiteral("sNamaeS")).SetCaption(dealName(NumVal(ebox(kFrom).Text())));
+            break;
+        case kTo:
+            nameLabel(QStringLiteral("sNamaeE")).SetCaption(dealName(NumVal(ebox(kTo).Text())));
+            break;
+        default:
+            break;
+    }
+    return MasterForm::enter(index);
+}
+
+void MstDeal_frm::showExtras(Recordset& row) {
+    ChkACU_->SetValue(integerOf(row[QStringLiteral("ACU")]));
+    ChkKeihou_->SetValue(integerOf(row[QStringLiteral("Keihou")]));
+    ChkNoSeikyu_->SetValue(integerOf(row[QStringLiteral("NoSeikyu")]));
+}
+
+void MstDeal_frm::storeExtras(Recordset& row) {
+    row.Fields(QStringLiteral("ACU")) = ChkACU_->Value();
+    row.Fields(QStringLiteral("Keihou")) = ChkKeihou_->Value();
+    row.Fields(QStringLiteral("NoSeikyu")) = ChkNoSeikyu_->Value();
+}
+
+// The highest place of all routes, not of this one: a new customer goes to the end of whatever route he joins.
+void MstDeal_frm::proposeHaisou() {
+    TextBox& box = ebox(kHaisou);
+    if (NumVal(box.Text()) != 0.0) return;
+    box.SetText(NumStr(NextHaisou()));
+    FocusSelect(box);
+}
+
+bool MstDeal_frm::mayAskToRemove() { return NumVal(ebox(kCode).Text()) != 0.0; }
+
+bool MstDeal_frm::mayRemove() {
+    struct Dependent {
+        const char16_t* sql;
+        const char16_t* message;
+    };
+    constexpr std::array<Dependent, 3> kDependents{{
+        {u"SELECT * FROM Dud WHERE Deal=", u"売上データが有ります。"},
+        {u"SELECT * FROM Dgd WHERE Deal=", u"検針データが有ります。"},
+        {u"SELECT * FROM Dny WHERE Deal=", u"入金データが有ります。"},
+    }};
+    for (const Dependent& dependent : kDependents) {
+        if (gDb->OpenRecordset(QString::fromUtf16(dependent.sql) + codeText()).Eof()) continue;
+        ShowAlert(QString::fromUtf16(dependent.message));
+        return false;
+    }
+    return true;
+}
+
+// ---- the list
+
+QString MstDeal_frm::bankFilter() const { return NumStr(NumVal(searchBank_(0).Text())); }
+
+void MstDeal_frm::print() {
+    ShowPrinter();
+    // One box gives both bounds: a code lists that customer alone. The second box only shows its name.
+    const QString code = NumStr(NumVal(ebox(kFrom).Text()));
+    listsBank_ = NumVal(searchBank_(0).Text()) >= 1;
+    QString sql = QStringLiteral(
+        "SELECT * FROM Deal "
+        " WHERE Code>0");
+    if (listsBank_) sql += QStringLiteral(" AND Bnk=") + bankFilter();
+    if (code != QStringLiteral("0")) {
+        sql += QStringLiteral(" AND Code>=") + code + QStringLiteral(" AND Code<=") + code;
+    }
+    sql += QStringLiteral(" ORDER BY Rte,Haisou,Code");
+    Recordset set = gDb->OpenRecordset(sql);
+    if (set.Eof()) return;
+    ExcelOpenPaged(QStringLiteral("取引先一覧"), kSheetRows, kSheetFirstRow);
+    SetReport(this, std::move(set));
+    ExcelRunPaged();
+}
+
+void MstDeal_frm::ClrDetail() { ExcelCell(QStringLiteral("A4:G61"), {}); }
+
+void MstDeal_frm::PrintOutHead(int /*page*/) {
+    if (!listsBank_) return;
+    ExcelCell(QStringLiteral("F3"), QStringLiteral("銀行-支店"));
+    ExcelCell(QStringLiteral("G3"), QStringLiteral("口座番号"));
+}
+
+void MstDeal_frm::PrintOutDetail(int row, Recordset& set) {
+    const auto read = [&set](const char16_t* column) { return NullToEmpty(set[QString::fromUtf16(column)]); };
+    const auto put = [row](char16_t column, const QString& value) { ExcelCell(QChar(column) + NumStr(row), value); };
+    put(u'A', read(u"Code"));
+    put(u'B', read(u"Kana"));
+    put(u'C', read(u"Namae"));
+    put(u'D', read(u"Yubin"));
+    put(u'E', read(u"Addr1") + read(u"Addr2"));
+    if (!listsBank_) {
+        put(u'F', read(u"TEL"));
+        put(u'G', read(u"Fax"));
+        return;
+    }
+    put(u'F', Format(integerOf(set[QStringLiteral("Bnk")]), QStringLiteral("0000")) + QStringLiteral("-") +
+                  Format(integerOf(set[QStringLiteral("Stn")]), QStringLiteral("000")));
+    put(u'G', Format(read(u"Koza"), QStringLiteral("0000000")));
+}
+
+}  // namespace akarix
