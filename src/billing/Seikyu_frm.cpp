@@ -42,7 +42,7 @@ constexpr std::array<ActionButton, 7> kActions{{
 
 }  // namespace
 
-Seikyu_frm::Seikyu_frm() : EntryForm(QStringLiteral("Seikyu_frm"), QStringLiteral("請求処理")), make_(*this) {
+Seikyu_frm::Seikyu_frm() : EntryForm(QStringLiteral("Seikyu_frm"), QStringLiteral("請求処理")) {
     layOut();
     const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
     wireLookup(F6(0), QStringLiteral("Bnk"), {}, ebox(kBank), press, kBank);
@@ -53,35 +53,37 @@ Seikyu_frm::Seikyu_frm() : EntryForm(QStringLiteral("Seikyu_frm"), QStringLitera
 void Seikyu_frm::layOut() {
     constexpr int kDateBytes = 10;
     constexpr int kWeekdayBytes = 4;
-    const auto hidden = [this](const QString& name, const QString& caption) {
-        Label& label = make_.caption(caption);
-        label.setObjectName(name);
-        label.hide();
-        return &label;
+    const auto label = [this](const char16_t* name, const char16_t* caption = u"") {
+        return &Named(new Label(QString::fromUtf16(caption), this), QString::fromUtf16(name));
     };
-    lYobi1_ = &make_.name(QStringLiteral("lYobi1"), kWeekdayBytes);
-    lyobi2_ = &make_.name(QStringLiteral("lyobi2"), kWeekdayBytes);
-    lyobi2_->hide();
-    sSyukeibi_ = &make_.name(QStringLiteral("sSyukeibi"), kDateBytes);
-    saihiHead_ = hidden(QStringLiteral("Label(6)"), QStringLiteral("再振替日"));
-    saihiHint_ = hidden(QStringLiteral("Label1"), QStringLiteral("Enterで決定"));
+    lYobi1_ = label(u"lYobi1");
+    lyobi2_ = label(u"lyobi2");
+    sSyukeibi_ = label(u"sSyukeibi");
+    saihiHead_ = label(u"Label(6)", u"再振替日");
+    saihiHint_ = label(u"Label1", u"Enterで決定");
 
     FieldLayout fields(*this);
     fields.row(QStringLiteral("対象"))
-        .widget(&make_.box(ebox, kYear, 4, ImeMode::Off))
+        .text(addBox(ebox, kYear, ImeMode::Off), 4)
         .note(QStringLiteral("年"))
-        .widget(&make_.box(ebox, kMonth, 2, ImeMode::Off))
+        .text(addBox(ebox, kMonth, ImeMode::Off), 2)
         .note(QStringLiteral("月分"));
     fields.row(QStringLiteral("集計日")).name(*sSyukeibi_, kDateBytes);
     fields.row(QStringLiteral("作成日"))
-        .widget(&make_.box(ebox, kCreation, kDateBytes, ImeMode::Off))
+        .text(addBox(ebox, kCreation, ImeMode::Off), kDateBytes)
         .name(*lYobi1_, kWeekdayBytes);
     fields.row(QStringLiteral("銀行ｺｰﾄﾞ"))
-        .widget(&make_.box(ebox, kBank, 4, ImeMode::Off))
-        .widget(&make_.lookup(F6, 0));
-    eSaihi_ = &make_.box(QStringLiteral("eSaihi"), kDateBytes, ImeMode::Off);
-    eSaihi_->hide();
-    fields.row({}).widget(saihiHead_).widget(eSaihi_).widget(lyobi2_).widget(saihiHint_);
+        .text(addBox(ebox, kBank, ImeMode::Off), 4)
+        .lookup(F6.add(0, new Image));
+    eSaihi_ = &Named(new TextBox, QStringLiteral("eSaihi"));
+    fields.row({})
+        .widget(saihiHead_)
+        .text(*eSaihi_, kDateBytes)
+        .name(*lyobi2_, kWeekdayBytes)
+        .widget(saihiHint_);
+    for (QWidget* later : std::initializer_list<QWidget*>{saihiHead_, eSaihi_, lyobi2_, saihiHint_}) {
+        later->hide();
+    }
 
     auto* actions = new QGridLayout;
     actions->setHorizontalSpacing(12);
@@ -89,13 +91,13 @@ void Seikyu_frm::layOut() {
     constexpr int kButtonWidth = 200;
     constexpr int kButtonHeight = 36;
     for (const ActionButton& action : kActions) {
-        CommandButton& button = make_.button(Command_, action.index, QString::fromUtf16(action.caption));
+        CommandButton& button = Command_.add(action.index, new CommandButton(QString::fromUtf16(action.caption)));
+        JoinWalk(*this, button);
         button.setMinimumSize(kButtonWidth, kButtonHeight);
         const bool alone = action.index == kRun;
         actions->addWidget(&button, action.row, action.column, 1, alone ? 2 : 1);
     }
-    Progress_ = &make_.caption({});
-    Progress_->setObjectName(QStringLiteral("Progress"));
+    Progress_ = label(u"Progress");
 
     auto* body = new QVBoxLayout(this);
     body->setSpacing(12);

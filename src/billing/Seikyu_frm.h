@@ -2,7 +2,6 @@
 
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Label.h"
-#include "toolkit/ControlMaker.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
@@ -26,7 +25,6 @@ class Seikyu_frm : public EntryForm {
     ControlArray<TextBox> ebox{QStringLiteral("ebox")};
     ControlArray<CommandButton> Command_{QStringLiteral("Command")};
     ControlArray<Image> F6{QStringLiteral("F6")};
-    ControlMaker make_;
     TextBox* eSaihi_ = nullptr;
     Label* lYobi1_ = nullptr;
     Label* lyobi2_ = nullptr;

@@ -64,7 +64,7 @@ QString branchText(const Variant& value) {
     return text.isEmpty() || text.size() > kShort ? text : Format(text, QStringLiteral("000"));
 }
 
-FieldRow text(int index, const char16_t* label, const char16_t* column, int bytes, ImeMode ime) {
+MasterField text(int index, const char16_t* label, const char16_t* column, int bytes, ImeMode ime) {
     return {.index = index,
             .label = QString::fromUtf16(label),
             .column = QString::fromUtf16(column),
@@ -72,37 +72,35 @@ FieldRow text(int index, const char16_t* label, const char16_t* column, int byte
             .ime = ime};
 }
 
-FieldRow number(int index, const char16_t* label, const char16_t* column, FieldKind kind, int bytes,
+MasterField number(int index, const char16_t* label, const char16_t* column, FieldKind kind, int bytes,
                 const char16_t* note = u"") {
     return {.index = index,
             .label = QString::fromUtf16(label),
             .column = QString::fromUtf16(column),
             .kind = kind,
             .bytes = bytes,
-            .note = QString::fromUtf16(note),
-            .pane = 1};
+            .note = QString::fromUtf16(note)};
 }
 
 FieldTable fields() {
     const QString all = QStringLiteral("ALL");
-    FieldRow code = number(kCode, u"コード", u"Code", FieldKind::Long, 8);
-    code.pane = 0;
+    MasterField code = number(kCode, u"コード", u"Code", FieldKind::Long, 8);
     code.lookup = FieldLookup{0, QStringLiteral("Deal"), {}};
-    FieldRow route = number(kRoute, u"地区", u"Rte", FieldKind::Integer, 5);
-    route.pane = 0;
+    MasterField route = number(kRoute, u"地区", u"Rte", FieldKind::Integer, 5);
     route.lookup = FieldLookup{3, QStringLiteral("Rte"), all};
     route.nameLabel = QStringLiteral("sRte");
     route.nameOf = routeName;
-    FieldRow bank = number(16, u"銀行", u"Bnk", FieldKind::Integer, 4);
+    MasterField sime = number(kSime, u"締日", u"Sime", FieldKind::Integer, 2, u"末締めは 31 ");
+    sime.newColumn = true;
+    MasterField bank = number(16, u"銀行", u"Bnk", FieldKind::Integer, 4);
     bank.display = MaskedUnlessZero(QStringLiteral("0000"));
-    FieldRow branch =
+    MasterField branch =
         number(17, u"支店", u"Stn", FieldKind::Integer, 5, u"郵便局は2文字目から3文字");
     branch.display = branchText;
-    FieldRow kind = number(18, u"種類", u"Kind", FieldKind::Integer, 1, u"1:普通 2：当座");
+    MasterField kind = number(18, u"種類", u"Kind", FieldKind::Integer, 1, u"1:普通 2：当座");
     kind.display = Masked(QStringLiteral("#"));
-    FieldRow account = text(19, u"口座番号", u"Koza", 10, ImeMode::Off);
-    account.pane = 1;
-    FieldRow fixedDebit = number(kDiscGaku, u"毎月引落額", u"DiscGaku", FieldKind::Currency, 10);
+    MasterField account = text(19, u"口座番号", u"Koza", 10, ImeMode::Off);
+    MasterField fixedDebit = number(kDiscGaku, u"毎月引落額", u"DiscGaku", FieldKind::Currency, 10);
     fixedDebit.display = MaskedUnlessZero({});
     return {
         code,
@@ -115,7 +113,7 @@ FieldTable fields() {
         text(6, u"住所", u"Addr2", 50, ImeMode::Hiragana),
         text(7, u"電話", u"TEL", 15, ImeMode::Off),
         text(8, u"ファックス", u"Fax", 15, ImeMode::Off),
-        number(kSime, u"締日", u"Sime", FieldKind::Integer, 2, u"末締めは 31 "),
+        sime,
         number(10, u"支払方法", u"SH", FieldKind::Integer, 1, u"1:集金  2:振込"),
         number(11, u"地図", u"Map", FieldKind::Integer, 5),
         number(12, u"施設販売", u"Sisetu", FieldKind::Integer, 1,
@@ -150,8 +148,7 @@ MstDeal_frm::MstDeal_frm()
 void MstDeal_frm::addLeases() {
     auto* line = new QHBoxLayout;
     const auto tick = [this, line](const char16_t* name, const char16_t* caption) {
-        auto* box = new CheckBox(QString::fromUtf16(caption), this);
-        box->setObjectName(QString::fromUtf16(name));
+        auto* box = &Named(new CheckBox(QString::fromUtf16(caption), this), QString::fromUtf16(name));
         line->addWidget(box);
         return box;
     };
@@ -159,7 +156,7 @@ void MstDeal_frm::addLeases() {
     ChkKeihou_ = tick(u"ChkKeihou", u"警報機リース");
     ChkNoSeikyu_ = tick(u"ChkNoSeikyu", u"請求書を発行しない");
     line->addStretch();
-    BtnDiscGaku_ = &make().button(QStringLiteral("BtnDiscGaku"), QStringLiteral("毎月引落額"));
+    BtnDiscGaku_ = &Named(new CommandButton(QStringLiteral("毎月引落額"), this), QStringLiteral("BtnDiscGaku"));
     line->addWidget(BtnDiscGaku_);
     body().addLayout(line);
 }
@@ -168,22 +165,21 @@ void MstDeal_frm::addListFields() {
     constexpr int kCodeBytes = 8;
     constexpr int kNameBytes = 24;
     auto* group = new QGroupBox(QStringLiteral("取引先一覧"), this);
-    auto* inside = new QHBoxLayout(group);
+    FieldLayout rows(*this);
     const auto bound = [&](int field, int picture, const char16_t* caption, const char16_t* nameLabel) {
-        inside->addWidget(&make().caption(QString::fromUtf16(caption)));
-        inside->addWidget(&make().box(ebox, field, kCodeBytes, ImeMode::Off));
-        inside->addWidget(&make().lookup(F6, picture));
-        inside->addWidget(&addName(QString::fromUtf16(nameLabel), kNameBytes));
+        rows.row(QString::fromUtf16(caption))
+            .text(addBox(ebox, field, ImeMode::Off), kCodeBytes)
+            .lookup(F6.add(picture, new Image))
+            .name(addName(QString::fromUtf16(nameLabel)), kNameBytes);
     };
     bound(kFrom, 1, u"コード自", u"sNamaeS");
     bound(kTo, 2, u"コード至", u"sNamaeE");
-    inside->addWidget(&make().caption(QStringLiteral("銀行コード")));
-    TextBox& bank = make().box(QStringLiteral("eSearchBnk"), 4, ImeMode::Off);
+    rows.nextColumn();
+    TextBox& bank = Named(new TextBox, QStringLiteral("eSearchBnk"));
     searchBank_.add(0, &bank);
-    inside->addWidget(&bank);
-    inside->addWidget(&make().lookup(F6, 4));
-    inside->addWidget(&make().button(Btn, kPrint, QStringLiteral("印刷")));
-    inside->addStretch();
+    rows.row(QStringLiteral("銀行コード")).text(bank, 4).lookup(F6.add(4, new Image));
+    rows.row({}).button(Btn.add(kPrint, new CommandButton(QStringLiteral("印刷"))));
+    group->setLayout(rows.layout());
     body().addWidget(group);
 
     wireKeys(searchBank_, [](int) { return true; });
@@ -196,7 +192,7 @@ void MstDeal_frm::addListFields() {
 // The row's own fields lead to Save; the fields of the list and the ticks are walked behind it.
 void MstDeal_frm::orderWalk() {
     std::vector<QWidget*> walk;
-    for (const FieldRow& field : fields()) {
+    for (const MasterField& field : fields()) {
         walk.push_back(&ebox(field.index));
     }
     for (const int button : {kSave, kClear, kRemove}) {

@@ -39,7 +39,7 @@ class MstDeal_frm : public MasterForm, public ReportForm {
     CheckBox* ChkKeihou_ = nullptr;
     CheckBox* ChkNoSeikyu_ = nullptr;
     CommandButton* BtnDiscGaku_ = nullptr;
-    ControlArray<TextBox> searchBank_;  ///< eSearchBnk, an array of one for the keys
+    ControlArray<TextBox> searchBank_;  ///< eSearchBnk alone, for the keys
     int defaultSime_ = 0;
     bool listsBank_ = false;  ///< the list under way is one bank's
 };

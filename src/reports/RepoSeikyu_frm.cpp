@@ -77,7 +77,7 @@ constexpr int kEraBase = 1988;  // the sheet counts its years by one era, whatev
 }  // namespace
 
 RepoSeikyu_frm::RepoSeikyu_frm()
-    : EntryForm(QStringLiteral("RepoSeikyu_frm"), QStringLiteral("請求一覧表")), make_(*this) {
+    : EntryForm(QStringLiteral("RepoSeikyu_frm"), QStringLiteral("請求一覧表")) {
     layOut();
     const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
     wireLookup(F6(0), QStringLiteral("Deal"), {}, ebox(kFrom), press, kFrom);
@@ -92,39 +92,35 @@ void RepoSeikyu_frm::layOut() {
     constexpr int kCodeBytes = 8;
     constexpr int kNameBytes = 30;
     auto* body = new QVBoxLayout(this);
-    auto* head = new QHBoxLayout;
     FieldLayout fields(*this);
     fields.row(QStringLiteral("年月"))
-        .widget(&make_.box(ebox, kYear, 4, ImeMode::Off))
+        .text(addBox(ebox, kYear, ImeMode::Off), 4)
         .note(QStringLiteral("年"))
-        .widget(&make_.box(ebox, kMonth, 2, ImeMode::Off))
+        .text(addBox(ebox, kMonth, ImeMode::Off), 2)
         .note(QStringLiteral("月分"));
-    sNamaeS_ = &make_.name(QStringLiteral("sNamaeS"), kNameBytes);
-    fields.row(QStringLiteral("得意先"))
-        .widget(&make_.box(ebox, kFrom, kCodeBytes, ImeMode::Off))
-        .widget(&make_.lookup(F6, 0))
-        .name(*sNamaeS_, kNameBytes);
-    sNamaeE_ = &make_.name(QStringLiteral("sNamaeE"), kNameBytes);
-    fields.row(QStringLiteral("～"))
-        .widget(&make_.box(ebox, kTo, kCodeBytes, ImeMode::Off))
-        .widget(&make_.lookup(F6, 1))
-        .name(*sNamaeE_, kNameBytes);
-    sRte_ = &make_.name(QStringLiteral("sRte"), kNameBytes);
-    fields.row(QStringLiteral("地区"))
-        .widget(&make_.box(ebox, kRoute, kCodeBytes, ImeMode::Off))
-        .widget(&make_.lookup(F6, 2))
-        .name(*sRte_, kNameBytes);
-    head->addLayout(fields.layout());
-    head->addStretch();
+    const auto coded = [&](const char16_t* caption, int field, int picture, const char16_t* name) {
+        auto* label = &Named(new Label({}, this), QString::fromUtf16(name));
+        fields.row(QString::fromUtf16(caption))
+            .text(addBox(ebox, field, ImeMode::Off), kCodeBytes)
+            .lookup(F6.add(picture, new Image))
+            .name(*label, kNameBytes);
+        return label;
+    };
+    sNamaeS_ = coded(u"得意先", kFrom, 0, u"sNamaeS");
+    sNamaeE_ = coded(u"～", kTo, 1, u"sNamaeE");
+    sRte_ = coded(u"地区", kRoute, 2, u"sRte");
 
     // Showing is what comes next after the last field, so its button leads the walk and the row.
     auto* buttons = new QHBoxLayout;
-    buttons->addWidget(&make_.button(Btn, kShow, QStringLiteral("表示")));
-    buttons->addWidget(&make_.button(Btn, kPrint, QStringLiteral("印刷")));
-    buttons->addWidget(&make_.button(Btn, kExport, QStringLiteral("Excel")));
+    constexpr std::array<std::pair<Button, const char16_t*>, 3> kButtons{
+        {{kShow, u"表示"}, {kPrint, u"印刷"}, {kExport, u"Excel"}}};
+    for (const auto& [index, caption] : kButtons) {
+        CommandButton& button = Btn.add(index, new CommandButton(QString::fromUtf16(caption)));
+        JoinWalk(*this, button);
+        buttons->addWidget(&button);
+    }
     buttons->addSpacing(16);
-    ChkGaku_ = new CheckBox(QStringLiteral("金額を印刷しない"), this);
-    ChkGaku_->setObjectName(QStringLiteral("ChkGaku"));
+    ChkGaku_ = &Named(new CheckBox(QStringLiteral("金額を印刷しない"), this), QStringLiteral("ChkGaku"));
     buttons->addWidget(ChkGaku_);
     buttons->addStretch();
 
@@ -143,7 +139,7 @@ void RepoSeikyu_frm::layOut() {
     constexpr int kGridHeight = 420;
     List_->setMinimumSize(width + kScrollBar, kGridHeight);
 
-    body->addLayout(head);
+    body->addLayout(fields.layout());
     body->addLayout(buttons);
     body->addWidget(List_, 1);
 }

@@ -5,7 +5,6 @@
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/Label.h"
-#include "toolkit/ControlMaker.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
@@ -42,7 +41,6 @@ class RepoSeikyu_frm : public EntryForm, public ReportForm {
     ControlArray<TextBox> ebox{QStringLiteral("ebox")};
     ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
     ControlArray<Image> F6{QStringLiteral("F6")};
-    ControlMaker make_;
     Label* sNamaeS_ = nullptr;
     Label* sNamaeE_ = nullptr;
     Label* sRte_ = nullptr;
