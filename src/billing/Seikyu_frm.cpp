@@ -91,7 +91,8 @@ void Seikyu_frm::layOut() {
     constexpr int kButtonWidth = 200;
     constexpr int kButtonHeight = 36;
     for (const ActionButton& action : kActions) {
-        CommandButton& button = Command_.add(action.index, new CommandButton(QString::fromUtf16(action.caption)));
+        CommandButton& button =
+            Command_.add(action.index, new CommandButton(QString::fromUtf16(action.caption)));
         JoinWalk(*this, button);
         button.setMinimumSize(kButtonWidth, kButtonHeight);
         const bool alone = action.index == kRun;

@@ -53,9 +53,13 @@ MasterTexts texts() {
     };
 }
 
-QString dealName(const Variant& code) { return GetDealName(code); }
+QString dealName(const Variant& code) {
+    return GetDealName(code);
+}
 
-QString routeName(const Variant& code) { return GetName(QStringLiteral("Rte"), code); }
+QString routeName(const Variant& code) {
+    return GetName(QStringLiteral("Rte"), code);
+}
 
 // Branch codes are shown with three digits; what is longer is a post office's code and stands as it is.
 QString branchText(const Variant& value) {
@@ -73,7 +77,7 @@ MasterField text(int index, const char16_t* label, const char16_t* column, int b
 }
 
 MasterField number(int index, const char16_t* label, const char16_t* column, FieldKind kind, int bytes,
-                const char16_t* note = u"") {
+                   const char16_t* note = u"") {
     return {.index = index,
             .label = QString::fromUtf16(label),
             .column = QString::fromUtf16(column),
@@ -94,8 +98,7 @@ FieldTable fields() {
     sime.newColumn = true;
     MasterField bank = number(16, u"銀行", u"Bnk", FieldKind::Integer, 4);
     bank.display = MaskedUnlessZero(QStringLiteral("0000"));
-    MasterField branch =
-        number(17, u"支店", u"Stn", FieldKind::Integer, 5, u"郵便局は2文字目から3文字");
+    MasterField branch = number(17, u"支店", u"Stn", FieldKind::Integer, 5, u"郵便局は2文字目から3文字");
     branch.display = branchText;
     MasterField kind = number(18, u"種類", u"Kind", FieldKind::Integer, 1, u"1:普通 2：当座");
     kind.display = Masked(QStringLiteral("#"));
@@ -156,7 +159,8 @@ void MstDeal_frm::addLeases() {
     ChkKeihou_ = tick(u"ChkKeihou", u"警報機リース");
     ChkNoSeikyu_ = tick(u"ChkNoSeikyu", u"請求書を発行しない");
     line->addStretch();
-    BtnDiscGaku_ = &Named(new CommandButton(QStringLiteral("毎月引落額"), this), QStringLiteral("BtnDiscGaku"));
+    BtnDiscGaku_ =
+        &Named(new CommandButton(QStringLiteral("毎月引落額"), this), QStringLiteral("BtnDiscGaku"));
     line->addWidget(BtnDiscGaku_);
     body().addLayout(line);
 }
@@ -186,7 +190,8 @@ void MstDeal_frm::addListFields() {
     const auto press = [this](int field) { pressEnter(field); };
     wireLookup(F6(1), QStringLiteral("Deal"), {}, ebox(kFrom), press, kFrom);
     wireLookup(F6(2), QStringLiteral("Deal"), {}, ebox(kTo), press, kTo);
-    wireLookup(F6(4), QStringLiteral("Bnk"), {}, bank, [](int) {}, 0);
+    wireLookup(
+        F6(4), QStringLiteral("Bnk"), {}, bank, [](int) {}, 0);
 }
 
 // The row's own fields lead to Save; the fields of the list and the ticks are walked behind it.
@@ -201,8 +206,8 @@ void MstDeal_frm::orderWalk() {
     for (const QString& name : {QStringLiteral("cmdLeft"), QStringLiteral("cmdRight")}) {
         walk.push_back(findChild<CommandButton*>(name));
     }
-    walk.insert(walk.end(),
-                {BtnDiscGaku_, &ebox(kFrom), &ebox(kTo), &searchBank_(0), &Btn(kPrint), ChkACU_, ChkKeihou_, ChkNoSeikyu_});
+    walk.insert(walk.end(), {BtnDiscGaku_, &ebox(kFrom), &ebox(kTo), &searchBank_(0), &Btn(kPrint), ChkACU_,
+                             ChkKeihou_, ChkNoSeikyu_});
     for (std::size_t place = 0; place < walk.size(); ++place) {
         SetTabIndex(walk[place], static_cast<int>(place));
     }
@@ -249,7 +254,8 @@ void MstDeal_frm::storeExtras(Recordset& row) {
     row.Fields(QStringLiteral("NoSeikyu")) = ChkNoSeikyu_->Value();
 }
 
-// The highest place of all routes, not of this one: a new customer goes to the end of whatever route he joins.
+// The highest place of all routes, not of this one: a new customer goes to the end of whatever route he
+// joins.
 void MstDeal_frm::proposeHaisou() {
     TextBox& box = ebox(kHaisou);
     if (NumVal(box.Text()) != 0.0) return;
@@ -257,7 +263,9 @@ void MstDeal_frm::proposeHaisou() {
     FocusSelect(box);
 }
 
-bool MstDeal_frm::mayAskToRemove() { return NumVal(ebox(kCode).Text()) != 0.0; }
+bool MstDeal_frm::mayAskToRemove() {
+    return NumVal(ebox(kCode).Text()) != 0.0;
+}
 
 bool MstDeal_frm::mayRemove() {
     struct Dependent {
@@ -279,7 +287,9 @@ bool MstDeal_frm::mayRemove() {
 
 // ---- the list
 
-QString MstDeal_frm::bankFilter() const { return NumStr(NumVal(searchBank_(0).Text())); }
+QString MstDeal_frm::bankFilter() const {
+    return NumStr(NumVal(searchBank_(0).Text()));
+}
 
 void MstDeal_frm::print() {
     ShowPrinter();
@@ -301,7 +311,9 @@ void MstDeal_frm::print() {
     ExcelRunPaged();
 }
 
-void MstDeal_frm::ClrDetail() { ExcelCell(QStringLiteral("A4:G61"), {}); }
+void MstDeal_frm::ClrDetail() {
+    ExcelCell(QStringLiteral("A4:G61"), {});
+}
 
 void MstDeal_frm::PrintOutHead(int /*page*/) {
     if (!listsBank_) return;
@@ -311,7 +323,9 @@ void MstDeal_frm::PrintOutHead(int /*page*/) {
 
 void MstDeal_frm::PrintOutDetail(int row, Recordset& set) {
     const auto read = [&set](const char16_t* column) { return NullToEmpty(set[QString::fromUtf16(column)]); };
-    const auto put = [row](char16_t column, const QString& value) { ExcelCell(QChar(column) + NumStr(row), value); };
+    const auto put = [row](char16_t column, const QString& value) {
+        ExcelCell(QChar(column) + NumStr(row), value);
+    };
     put(u'A', read(u"Code"));
     put(u'B', read(u"Kana"));
     put(u'C', read(u"Namae"));

@@ -76,8 +76,7 @@ constexpr int kEraBase = 1988;  // the sheet counts its years by one era, whatev
 
 }  // namespace
 
-RepoSeikyu_frm::RepoSeikyu_frm()
-    : EntryForm(QStringLiteral("RepoSeikyu_frm"), QStringLiteral("請求一覧表")) {
+RepoSeikyu_frm::RepoSeikyu_frm() : EntryForm(QStringLiteral("RepoSeikyu_frm"), QStringLiteral("請求一覧表")) {
     layOut();
     const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
     wireLookup(F6(0), QStringLiteral("Deal"), {}, ebox(kFrom), press, kFrom);
