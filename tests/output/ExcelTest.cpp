@@ -1,0 +1,238 @@
+#include <xlsxwriter.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "output/EX.h"
+#include "platform/jet/DBEngine.h"
+#include "platform/jet/Database.h"
+#include "platform/jet/Workspace.h"
+#include "platform/print/PdfText.h"
+#include "platform/print/PreviewPages.h"
+#include "platform/print/Printer.h"
+#include "platform/runtime/RuntimeError.h"
+#include "support/ScreenTest.h"
+
+namespace akarix {
+namespace {
+
+constexpr int Rows = 5;
+constexpr int FirstRow = 2;
+
+/// Writes down how it is called, and the page and the record into the sheet.
+class Report : public ReportForm {
+ public:
+    void ClrDetail() override {
+        calls += "clear";
+        ExcelCell("A3:B9", "");
+    }
+    void PrintOutHead(int page) override {
+        calls += QString("head %1").arg(page);
+        ExcelCell("A1", QString("頁%1").arg(page));
+    }
+    void PrintOutDetail(int row, Recordset& set) override {
+        calls += QString("row %1").arg(row);
+        ExcelCell(QString("A%1").arg(row), QString("行%1").arg(++records_));
+        if (records_ == failAt) throw RuntimeError(13);
+        (void)set;
+    }
+    void PrintOutDetailGokei(int line, int firstRow, int page) override {
+        calls += QString("total %1 %2 %3").arg(line).arg(firstRow).arg(page);
+        ExcelCell("B9", "合計");
+    }
+
+    QStringList calls;
+    int failAt = 0;
+
+ private:
+    int records_ = 0;
+};
+
+class ExcelTest : public ScreenTest {
+ protected:
+    void SetUp() override {
+        before_ = QDir::currentPath();
+        QDir::setCurrent(folder.path());
+        QDir(folder.path()).mkdir("Prt");
+        writeTemplate("台帳", "雛形");
+        Printer::Current().UsePdf(folder.filePath("out.pdf"));
+        gPrintPreview = false;
+    }
+    void TearDown() override {
+        ExcelClose();
+        gPrintPreview = false;
+        QDir::setCurrent(before_);
+        ScreenTest::TearDown();
+    }
+
+    void writeTemplate(const QString& name, const QString& text) {
+        lxw_workbook* book = workbook_new(QString("Prt/%1.xlsx").arg(name).toUtf8().constData());
+        lxw_worksheet* sheet = workbook_add_worksheet(book, "Sheet1");
+        worksheet_write_string(sheet, 0, 3, text.toUtf8().constData(), nullptr);
+        ASSERT_EQ(workbook_close(book), LXW_NO_ERROR);
+    }
+    QStringList printed(const QString& name = "out.pdf") const {
+        const QString path = folder.filePath(name);
+        return QFile::exists(path) ? PdfPages(path) : QStringList();
+    }
+    void printPage(const QString& text) {
+        ExcelCell("A1", text);
+        ExcelPrintPage();
+    }
+    static int errorOf(const std::function<void()>& action, QString* text = nullptr) {
+        try {
+            action();
+        } catch (const RuntimeError& error) {
+            if (text) *text = error.description();
+            return error.number();
+        }
+        return 0;
+    }
+
+    QTemporaryDir folder;
+
+ private:
+    QString before_;
+};
+
+TEST_F(ExcelTest, PagesOfOneOpeningStandInOneFileWithTheValuesOfTheirTime) {
+    ExcelOpen("台帳");
+    printPage("一");
+    printPage("二");
+    ExcelClose();
+    EXPECT_EQ(printed(), QStringList({"一雛形", "二雛形"}));
+
+    ExcelOpen("台帳");  // fresh from the template, into a file of its own
+    ExcelPrintPage();
+    ExcelClose();
+    EXPECT_EQ(printed("out (2).pdf"), QStringList({"雛形"}));
+}
+
+TEST_F(ExcelTest, AChangedTemplateIsReadAgain) {
+    ExcelOpen("台帳");
+    ExcelClose();
+    writeTemplate("台帳", "新しい雛形");
+    ExcelOpen("台帳");
+    ExcelPrintPage();
+    ExcelClose();
+    EXPECT_EQ(printed(), QStringList({"新しい雛形"}));
+}
+
+TEST_F(ExcelTest, ErrorsNameWhatIsWrong) {
+    QString text;
+    EXPECT_EQ(errorOf([] { ExcelOpen("無い"); }, &text), 1004);
+    EXPECT_EQ(text, "テンプレート 'Prt/無い.xlsx' が見つかりません。");
+    EXPECT_EQ(errorOf([] { ExcelCell("A1", "x"); }), 91);
+
+    ExcelOpen("台帳");
+    EXPECT_EQ(errorOf([] { ExcelCell("no address", "x"); }), 1004);
+    Printer::Current().UsePdf(folder.filePath("gone/out.pdf"));
+    EXPECT_EQ(errorOf([] { ExcelPrintPage(); }, &text), 482);
+    EXPECT_TRUE(text.contains("gone"));
+}
+
+TEST_F(ExcelTest, PagesPrintedBeforeAnErrorStayPrinted) {
+    ExcelOpen("台帳");
+    printPage("前");
+    clerk.settle();  // the run has died, the program waits for its clerk
+    EXPECT_EQ(printed(), QStringList({"前雛形"}));
+
+    ExcelOpen("台帳");
+    printPage("後");
+    ExcelClose();
+    EXPECT_EQ(printed("out (2).pdf"), QStringList({"後雛形"}));
+}
+
+TEST_F(ExcelTest, PreviewShowsEachPageAndNeverPrints) {
+    gPrintPreview = true;
+    for (int page = 0; page < 2; ++page) {
+        clerk.expect("Preview_frm", [&](QWidget&) {
+            EXPECT_EQ(clerk.find<PreviewPages>("Pages").pageCount(), 1);
+            clerk.press(Qt::Key_Escape);
+        });
+    }
+    ExcelOpen("台帳");
+    printPage("一");
+    EXPECT_EQ(clerk.expectedDialogs(), 1);
+    printPage("二");
+    ExcelClose();
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList());
+}
+
+class PagedTest : public ExcelTest {
+ protected:
+    void SetUp() override {
+        ExcelTest::SetUp();
+        database_ = DBEngine::Workspaces(0).CreateDatabase(folder.filePath("a.MDB"), "MS Access;PWD=x");
+        database_->Execute("CREATE TABLE Test (N Integer)");
+    }
+    void TearDown() override {
+        ExcelTest::TearDown();
+        database_->Close();
+    }
+    void run(Report& report, int records) {
+        database_->Execute("DELETE FROM Test");
+        for (int n = 1; n <= records; ++n) {
+            database_->Execute(QString("INSERT INTO Test (N) VALUES (%1)").arg(n));
+        }
+        ExcelOpenPaged("台帳", Rows, FirstRow);
+        SetReport(&report, database_->OpenRecordset("SELECT * FROM Test ORDER BY N"));
+        ExcelRunPaged();
+    }
+
+ private:
+    Database* database_ = nullptr;
+};
+
+TEST_F(PagedTest, PagesAndTheTotalsPlace) {
+    struct Case {
+        int records;
+        QString total;
+        QStringList pages;
+    };
+    const Case cases[] = {
+        {1, "total 2 2 1", {"頁1雛形行1合計"}},
+        {3, "total 4 2 1", {"頁1雛形行1行2行3合計"}},
+        {4, "total 1 2 2", {"頁1雛形行1行2行3行4"}},  // the total alone is not worth a page
+        {5, "total 2 2 2", {"頁1雛形行1行2行3行4", "頁2雛形行5合計"}},
+        {8, "total 1 2 3", {"頁1雛形行1行2行3行4", "頁2雛形行5行6行7行8"}},
+        {9, "total 2 2 3", {"頁1雛形行1行2行3行4", "頁2雛形行5行6行7行8", "頁3雛形行9合計"}},
+    };
+    for (const Case& c : cases) {
+        Printer::Current().UsePdf(folder.filePath("out.pdf"));
+        Report report;
+        run(report, c.records);
+        EXPECT_EQ(report.calls.last(), c.total) << c.records;
+        EXPECT_EQ(printed(), c.pages) << c.records;
+    }
+}
+
+TEST_F(PagedTest, OrderOfHeadAndClearing) {
+    Report turned;
+    run(turned, 5);
+    EXPECT_EQ(turned.calls, QStringList({"clear", "head 1", "row 3", "row 4", "row 5", "row 6", "clear",
+                                         "head 2", "row 3", "total 2 2 2"}));
+    Report full;
+    run(full, 4);
+    EXPECT_EQ(full.calls, QStringList({"clear", "head 1", "row 3", "row 4", "row 5", "row 6", "head 2",
+                                       "clear", "total 1 2 2"}));
+}
+
+TEST_F(PagedTest, AnEmptySetFails) {
+    Report report;
+    EXPECT_EQ(errorOf([&] { run(report, 0); }), 3021);
+    EXPECT_EQ(report.calls, QStringList());
+}
+
+TEST_F(PagedTest, TheNextReportStartsAfreshAfterAnError) {
+    Report broken;
+    broken.failAt = 2;
+    EXPECT_EQ(errorOf([&] { run(broken, 3); }), 13);
+    Report sound;
+    run(sound, 1);
+    EXPECT_EQ(printed(), QStringList({"頁1雛形行1合計"}));
+}
+
+}  // namespace
+}  // namespace akarix
