@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/jet/BoundQuery.h"
+
+namespace akarix {
+
+struct BoundInsert {
+    const TableDef* table;
+    std::vector<int> columns;
+    std::vector<BoundPtr> values;
+    std::shared_ptr<const BoundQuery> query;  ///< none: `values`
+};
+
+struct BoundAssignment {
+    int column;
+    BoundPtr value;
+};
+
+struct BoundUpdate {
+    BoundRows rows;
+    const BoundTable* target;
+    std::vector<BoundAssignment> assignments;
+};
+
+struct BoundDelete {
+    BoundRows rows;
+    const BoundTable* target;
+};
+
+}  // namespace akarix

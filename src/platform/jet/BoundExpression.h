@@ -1,0 +1,162 @@
+#pragma once
+
+#include <memory>
+#include <variant>
+#include <vector>
+
+#include "platform/jet/Kind.h"
+#include "platform/jet/ParsedExpression.h"
+
+namespace akarix {
+
+// The tree with every name resolved and every operand brought to the kind its operator works in.
+
+struct BoundExpression;
+struct BoundQuery;
+struct BoundTable;
+struct SqlFunction;
+using BoundPtr = std::shared_ptr<const BoundExpression>;
+
+struct BoundColumn {
+    const BoundTable* table;
+    int column;
+};
+
+struct BoundLiteral {
+    Literal literal;
+    int lifted = -1;
+    bool negated = false;
+    LiteralUse use = LiteralUse::Natural;
+};
+
+struct BoundNull {};
+
+/// A Boolean literal; -1 or 0 as a value.
+struct BoundBoolean {
+    bool value;
+};
+
+struct BoundNegation {
+    BoundPtr operand;
+};
+
+/// The operators that the engine has itself; Join puts two texts together.
+enum class NativeOp { Add, Subtract, Multiply, Join };
+
+struct BoundArithmetic {
+    NativeOp op;
+    BoundPtr left;
+    BoundPtr right;
+};
+
+/// A change of the stored form that the engine can do itself.
+enum class Conversion {
+    WholeToCurrency,
+    RealToScaled,  ///< for comparisons with Currency: keeps the fraction past four decimals
+    WholeToReal,
+    CurrencyToReal,
+    WholeToText,
+    NumberToBoolean,
+};
+
+struct BoundConversion {
+    Conversion conversion;
+    BoundPtr operand;
+};
+
+struct BoundCall {
+    const SqlFunction* function;
+    std::vector<BoundPtr> arguments;
+};
+
+struct BoundNot {
+    BoundPtr operand;
+};
+
+struct BoundLogic {
+    LogicOp op;
+    BoundPtr left;
+    BoundPtr right;
+};
+
+struct BoundComparison {
+    CompareOp op;
+    BoundPtr left;
+    BoundPtr right;
+};
+
+struct BoundIsNull {
+    BoundPtr operand;
+    bool negated;
+};
+
+struct BoundLike {
+    BoundPtr operand;
+    BoundPtr pattern;
+    bool negated;
+};
+
+struct BoundBetween {
+    BoundPtr operand;
+    BoundPtr low;
+    BoundPtr high;
+    bool negated;
+};
+
+struct BoundInList {
+    BoundPtr operand;
+    std::vector<BoundPtr> items;
+    bool negated;
+};
+
+struct BoundInQuery {
+    BoundPtr operand;
+    std::shared_ptr<const BoundQuery> query;
+    bool negated;
+};
+
+struct BoundExists {
+    std::shared_ptr<const BoundQuery> query;
+};
+
+struct BoundScalarQuery {
+    std::shared_ptr<const BoundQuery> query;
+};
+
+struct BoundChoice {
+    BoundPtr condition;
+    BoundPtr then;
+    BoundPtr otherwise;
+};
+
+enum class AggregateOp { Count, Sum, Average, Min, Max, First, Last };
+
+struct BoundAggregate {
+    AggregateOp op;
+    BoundPtr operand;  ///< none: Count(*)
+};
+
+using BoundNode =
+    std::variant<BoundColumn, BoundLiteral, BoundNull, BoundBoolean, BoundNegation, BoundArithmetic, BoundConversion,
+                 BoundCall, BoundNot, BoundLogic, BoundComparison, BoundIsNull, BoundLike, BoundBetween, BoundInList,
+                 BoundInQuery, BoundExists, BoundScalarQuery, BoundChoice, BoundAggregate>;
+
+struct BoundExpression {
+    BoundNode node;
+    Kind kind;
+    FieldType type;  ///< the column type a result of it has
+    int size = 0;
+    QString text;            ///< as the statement has it, for messages
+    qsizetype position = 0;  ///< in the statement
+};
+
+/// \param from gives the text and the place.
+BoundPtr makeBound(BoundNode node, Kind kind, const BoundExpression* from = nullptr);
+/// A whole number that no text contains, such as an argument left out.
+BoundPtr makeWhole(std::int64_t value);
+
+/// The expressions right below one, subqueries not looked into.
+std::vector<BoundPtr> operandsOf(const BoundExpression& expression);
+bool sameExpression(const BoundExpression& a, const BoundExpression& b);
+
+}  // namespace akarix

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/jet/Schema.h"
+
+namespace akarix {
+
+/// The kinds an expression of the dialect can have. What a kind is stored as: Plan.h, StoreValue.
+enum class Kind { Null, Boolean, Integer, Currency, Double, Date, Text };
+
+Kind kindOf(FieldType type);
+/// The column type in which a value of a kind is delivered when no stored column stands behind it.
+FieldType typeOf(Kind kind);
+inline bool isNumber(Kind kind) {
+    return kind == Kind::Boolean || kind == Kind::Integer || kind == Kind::Currency || kind == Kind::Double;
+}
+
+}  // namespace akarix

@@ -1,0 +1,101 @@
+#include "platform/jet/LikePattern.h"
+
+#include "platform/runtime/RuntimeError.h"
+
+namespace akarix {
+namespace {
+
+char16_t folded(QChar c) {
+    return c.toCaseFolded().unicode();
+}
+
+/// One element of a pattern other than "*": how long it is and whether it takes a character.
+struct Element {
+    qsizetype length;
+    bool matches;
+};
+
+bool listHolds(QStringView list, QChar c) {
+    const char16_t wanted = folded(c);
+    for (qsizetype i = 0; i < list.size(); ++i) {
+        const char16_t low = folded(list[i]);
+        if (i + 2 < list.size() && list[i + 1] == u'-') {
+            const char16_t high = folded(list[i + 2]);
+            if (low <= wanted && wanted <= high) return true;
+            i += 2;
+        } else if (low == wanted) {
+            return true;
+        }
+    }
+    return false;
+}
+
+Element elementAt(QStringView pattern, QChar c) {
+    switch (pattern.front().unicode()) {
+        case u'?': return {1, true};
+        case u'#': return {1, c >= u'0' && c <= u'9'};
+        case u'[': {
+            // A bracket right behind the opening one (or behind its "!") ends an empty list.
+            const qsizetype end = pattern.indexOf(u']');
+            if (end < 0) throw RuntimeError(93);
+            QStringView list = pattern.sliced(1, end - 1);
+            const bool others = list.size() > 1 && list.startsWith(u'!');
+            if (others) list = list.sliced(1);
+            return {end + 1, listHolds(list, c) != others};
+        }
+        default: return {1, folded(pattern.front()) == folded(c)};
+    }
+}
+
+void checkLists(QStringView pattern) {
+    for (qsizetype open = pattern.indexOf(u'['); open >= 0;) {
+        const qsizetype close = pattern.indexOf(u']', open);
+        if (close < 0) throw RuntimeError(93);
+        open = pattern.indexOf(u'[', close);
+    }
+}
+
+}  // namespace
+
+bool likeMatches(QStringView pattern, QStringView text) {
+    checkLists(pattern);
+    // The place to go back to is that of the last "*" alone, which keeps the time to length times length.
+    qsizetype p = 0;
+    qsizetype t = 0;
+    qsizetype star = -1;
+    qsizetype retry = 0;
+    while (t < text.size()) {
+        if (p < pattern.size() && pattern[p] == u'*') {
+            star = ++p;
+            retry = t;
+            continue;
+        }
+        if (pattern.sliced(p).startsWith(u"[]")) {
+            p += 2;  // an empty list stands for no character
+            continue;
+        }
+        if (p < pattern.size()) {
+            const Element element = elementAt(pattern.sliced(p), text[t]);
+            if (element.matches) {
+                p += element.length;
+                ++t;
+                continue;
+            }
+        }
+        if (star < 0) return false;
+        p = star;
+        t = ++retry;
+    }
+    while (p < pattern.size()) {
+        if (pattern[p] == u'*') {
+            ++p;
+        } else if (pattern.sliced(p).startsWith(u"[]")) {
+            p += 2;
+        } else {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace akarix

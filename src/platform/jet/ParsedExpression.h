@@ -1,0 +1,126 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+#include <variant>
+#include <vector>
+
+#include "platform/jet/Literal.h"
+
+namespace akarix {
+
+// The tree as the text gives it: names are only names, numbers have no column they belong to.
+
+struct ParsedExpression;
+struct ParsedQuery;
+using ParsedPtr = std::unique_ptr<ParsedExpression>;
+
+struct ParsedName {
+    QString table;  ///< empty when the name stands alone
+    QString column;
+};
+
+struct ParsedLiteral {
+    Literal literal;
+    int lifted = -1;
+    bool negated = false;
+};
+
+struct ParsedNull {};
+
+struct ParsedBoolean {
+    bool value = false;
+};
+
+struct ParsedNegation {
+    ParsedPtr operand;
+};
+
+struct ParsedNot {
+    ParsedPtr operand;
+};
+
+enum class ArithmeticOp { Add, Subtract, Multiply, Divide, IntegerDivide, Modulo, Power, Concat };
+
+struct ParsedArithmetic {
+    ArithmeticOp op;
+    ParsedPtr left;
+    ParsedPtr right;
+};
+
+enum class CompareOp { Equal, NotEqual, Less, LessEqual, Greater, GreaterEqual };
+
+struct ParsedComparison {
+    CompareOp op;
+    ParsedPtr left;
+    ParsedPtr right;
+};
+
+enum class LogicOp { And, Or, Xor };
+
+struct ParsedLogic {
+    LogicOp op;
+    ParsedPtr left;
+    ParsedPtr right;
+};
+
+struct ParsedIsNull {
+    ParsedPtr operand;
+    bool negated = false;
+};
+
+struct ParsedLike {
+    ParsedPtr operand;
+    ParsedPtr pattern;
+    bool negated = false;
+};
+
+struct ParsedBetween {
+    ParsedPtr operand;
+    ParsedPtr low;
+    ParsedPtr high;
+    bool negated = false;
+};
+
+struct ParsedInList {
+    ParsedPtr operand;
+    std::vector<ParsedPtr> items;
+    bool negated = false;
+};
+
+struct ParsedInQuery {
+    ParsedPtr operand;
+    std::unique_ptr<ParsedQuery> query;
+    bool negated = false;
+};
+
+struct ParsedExists {
+    std::unique_ptr<ParsedQuery> query;
+};
+
+struct ParsedScalarQuery {
+    std::unique_ptr<ParsedQuery> query;
+};
+
+struct ParsedCall {
+    QString name;
+    std::vector<ParsedPtr> arguments;
+    bool star = false;  ///< Count(*)
+};
+
+using ParsedNode = std::variant<ParsedName, ParsedLiteral, ParsedNull, ParsedBoolean, ParsedNegation, ParsedNot,
+                                ParsedArithmetic, ParsedComparison, ParsedLogic, ParsedIsNull, ParsedLike,
+                                ParsedBetween, ParsedInList, ParsedInQuery, ParsedExists, ParsedScalarQuery,
+                                ParsedCall>;
+
+struct ParsedExpression {
+    ParsedExpression(ParsedNode content, qsizetype place);
+    ~ParsedExpression();
+
+    ParsedNode node;
+    qsizetype position;
+    QStringView text;  ///< the piece of the statement it was read from
+    int depth = 1;     ///< levels of the tree below and with it
+};
+
+}  // namespace akarix

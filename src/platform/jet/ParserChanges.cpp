@@ -1,0 +1,89 @@
+#include "platform/jet/Parser.h"
+
+namespace akarix {
+namespace {
+
+/// SELECT without FROM gives one row of values, the same as VALUES.
+bool isValuesOnly(const ParsedQuery& query) {
+    if (query.members.size() != 1 || !query.order.empty()) return false;
+    const ParsedSelect& select = query.members.front();
+    if (!select.sources.empty() || select.where || !select.groups.empty() || select.having || select.top) return false;
+    for (const ParsedItem& item : select.items) {
+        if (!item.expression) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+ParsedStatement Parser::insert() {
+    in_.take();
+    in_.expect(Keyword::Into, u"INTO");
+    ParsedInsert read;
+    read.table = in_.takeName();
+    if (in_.accept(u"(")) {
+        do {
+            read.columns.push_back(columnName());
+        } while (in_.accept(u","));
+        in_.expect(u")");
+    }
+    if (in_.accept(Keyword::Values)) {
+        in_.expect(u"(");
+        read.values = expressions();
+        in_.expect(u")");
+        return read;
+    }
+    if (!in_.at(Keyword::Select) && !in_.at(u"(")) in_.fail(QStringLiteral("VALUES か SELECT がありません。"));
+    read.query = query();
+    if (isValuesOnly(*read.query)) {
+        for (ParsedItem& item : read.query->members.front().items) read.values.push_back(std::move(item.expression));
+        read.query.reset();
+    }
+    return read;
+}
+
+ParsedStatement Parser::update() {
+    in_.take();
+    ParsedUpdate read;
+    read.sources = sources();
+    in_.expect(Keyword::Set, u"SET");
+    do {
+        ParsedAssignment assignment;
+        assignment.position = in_.position();
+        assignment.column = columnName();
+        in_.expect(u"=");
+        assignment.value = expression();
+        read.assignments.push_back(std::move(assignment));
+    } while (in_.accept(u","));
+    if (in_.accept(Keyword::Where)) read.where = expression();
+    return read;
+}
+
+ParsedStatement Parser::deletion() {
+    in_.take();
+    in_.accept(Keyword::DistinctRow);
+    ParsedDelete read;
+    if (in_.accept(u"*")) {
+        if (in_.accept(u".")) in_.expect(u"*");
+    } else if (!in_.at(Keyword::From)) {
+        read.target = in_.takeName();
+        in_.expect(u".");
+        if (!in_.accept(u"*")) in_.takeName();  // a column stands for its row
+    }
+    in_.expect(Keyword::From, u"FROM");
+    read.sources = sources();
+    if (in_.accept(Keyword::Where)) read.where = expression();
+    return read;
+}
+
+ParsedName Parser::columnName() {
+    ParsedName read;
+    read.column = in_.takeName();
+    if (in_.accept(u".")) {
+        read.table = std::move(read.column);
+        read.column = in_.takeName();
+    }
+    return read;
+}
+
+}  // namespace akarix

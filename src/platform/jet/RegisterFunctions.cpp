@@ -1,0 +1,187 @@
+#include "platform/jet/RegisterFunctions.h"
+
+#include <sqlcipher/sqlite3.h>
+#include <unicode/ucol.h>
+
+#include <cmath>
+#include <memory>
+#include <new>
+#include <vector>
+
+#include "platform/jet/SqlFunctions.h"
+#include "platform/runtime/RuntimeError.h"
+
+namespace akarix {
+namespace {
+
+constexpr char kErrorMark[] = "akarix ";
+
+StoreValue valueOf(sqlite3_value* value) {
+    switch (sqlite3_value_type(value)) {
+        case SQLITE_INTEGER: return std::int64_t{sqlite3_value_int64(value)};
+        case SQLITE_FLOAT: return sqlite3_value_double(value);
+        case SQLITE_TEXT: {
+            const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(value));
+            return QString::fromUtf8(bytes, sqlite3_value_bytes(value));
+        }
+        default: return std::monostate();
+    }
+}
+
+void give(sqlite3_context* context, const StoreValue& value) {
+    if (const auto* whole = std::get_if<std::int64_t>(&value)) {
+        sqlite3_result_int64(context, *whole);
+    } else if (const auto* real = std::get_if<double>(&value)) {
+        sqlite3_result_double(context, *real);
+    } else if (const auto* text = std::get_if<QString>(&value)) {
+        sqlite3_result_text16(context, text->utf16(), static_cast<int>(text->size() * 2), SQLITE_TRANSIENT);
+    } else {
+        sqlite3_result_null(context);
+    }
+}
+
+void giveError(sqlite3_context* context, int number) {
+    const QByteArray message = kErrorMark + QByteArray::number(number);
+    sqlite3_result_error(context, message.constData(), static_cast<int>(message.size()));
+}
+
+void callFunction(sqlite3_context* context, int count, sqlite3_value** values) {
+    const auto* function = static_cast<const SqlFunction*>(sqlite3_user_data(context));
+    StoreValue arguments[4];
+    for (int i = 0; i < count; ++i) {
+        arguments[i] = valueOf(values[i]);
+        if (!function->takesNull && std::holds_alternative<std::monostate>(arguments[i])) return;
+    }
+    try {
+        give(context, function->run(arguments));
+    } catch (const RuntimeError& error) {
+        giveError(context, error.number());
+    } catch (const std::bad_variant_access&) {
+        giveError(context, 13);  // a value of another kind than its column declares
+    }
+}
+
+struct ValueRelease {
+    void operator()(sqlite3_value* value) const { sqlite3_value_free(value); }
+};
+using OwnValue = std::unique_ptr<sqlite3_value, ValueRelease>;
+
+/// The state of First and Last: the value kept so far and the place of its row.
+struct Kept {
+    OwnValue value;
+    std::vector<StoreValue> place;
+};
+
+int compareValues(const StoreValue& a, const StoreValue& b) {
+    if (a.index() != b.index()) {
+        // Null, numbers, texts, the engine's own order of kinds
+        const auto rank = [](const StoreValue& v) { return v.index() == 0 ? 0 : v.index() == 3 ? 2 : 1; };
+        if (rank(a) != rank(b)) return rank(a) < rank(b) ? -1 : 1;
+        const auto number = [](const StoreValue& v) {
+            const auto* whole = std::get_if<std::int64_t>(&v);
+            return whole ? static_cast<double>(*whole) : std::get<double>(v);
+        };
+        return number(a) < number(b) ? -1 : number(a) > number(b) ? 1 : 0;
+    }
+    return a < b ? -1 : b < a ? 1 : 0;
+}
+
+bool isBefore(const std::vector<StoreValue>& a, const std::vector<StoreValue>& b) {
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        const int order = compareValues(a[i], b[i]);
+        if (order != 0) return order < 0;
+    }
+    return false;
+}
+
+template <bool Last>
+void keepStep(sqlite3_context* context, int count, sqlite3_value** values) {
+    auto** slot = static_cast<Kept**>(sqlite3_aggregate_context(context, sizeof(Kept*)));
+    std::vector<StoreValue> place;
+    place.reserve(static_cast<std::size_t>(count));
+    for (int i = 1; i < count; ++i) place.push_back(valueOf(values[i]));
+    if (!*slot) {
+        *slot = new Kept;
+    } else if (Last ? isBefore(place, (*slot)->place) : !isBefore(place, (*slot)->place)) {
+        return;
+    }
+    (*slot)->value.reset(sqlite3_value_dup(values[0]));
+    (*slot)->place = std::move(place);
+}
+
+void keepFinal(sqlite3_context* context) {
+    auto** slot = static_cast<Kept**>(sqlite3_aggregate_context(context, 0));
+    if (!slot || !*slot) return;
+    const std::unique_ptr<Kept> kept(*slot);
+    sqlite3_result_value(context, kept->value.get());
+}
+
+bool isAscii(const void* bytes, int length) {
+    const auto* place = static_cast<const unsigned char*>(bytes);
+    for (int i = 0; i < length; ++i) {
+        if (place[i] >= 0x80) return false;
+    }
+    return true;
+}
+
+unsigned char foldedAscii(unsigned char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c + ('a' - 'A')) : c;
+}
+
+int compareNoCase(void*, int lengthA, const void* a, int lengthB, const void* b) {
+    if (isAscii(a, lengthA) && isAscii(b, lengthB)) {
+        const auto* left = static_cast<const unsigned char*>(a);
+        const auto* right = static_cast<const unsigned char*>(b);
+        for (int i = 0; i < lengthA && i < lengthB; ++i) {
+            const int difference = foldedAscii(left[i]) - foldedAscii(right[i]);
+            if (difference != 0) return difference;
+        }
+        return lengthA - lengthB;
+    }
+    const QString left = QString::fromUtf8(static_cast<const char*>(a), lengthA);
+    const QString right = QString::fromUtf8(static_cast<const char*>(b), lengthB);
+    return left.compare(right, Qt::CaseInsensitive);
+}
+
+int compareInOrder(void* collator, int lengthA, const void* a, int lengthB, const void* b) {
+    UErrorCode status = U_ZERO_ERROR;
+    return ucol_strcollUTF8(static_cast<const UCollator*>(collator), static_cast<const char*>(a), lengthA,
+                            static_cast<const char*>(b), lengthB, &status);
+}
+
+void closeCollator(void* collator) {
+    ucol_close(static_cast<UCollator*>(collator));
+}
+
+void check(int result) {
+    if (result != SQLITE_OK) throw std::bad_alloc();  // registering fails for want of memory alone
+}
+
+}  // namespace
+
+void RegisterSqlFunctions(sqlite3* connection) {
+    for (const SqlFunction& function : sqlFunctions()) {
+        const int flags = SQLITE_UTF8 | (function.steady ? SQLITE_DETERMINISTIC : 0);
+        check(sqlite3_create_function_v2(connection, function.name, function.arguments, flags,
+                                         const_cast<SqlFunction*>(&function), callFunction, nullptr, nullptr,
+                                         nullptr));
+    }
+    check(sqlite3_create_function_v2(connection, "akarix_first", -1, SQLITE_UTF8, nullptr, nullptr, keepStep<false>,
+                                     keepFinal, nullptr));
+    check(sqlite3_create_function_v2(connection, "akarix_last", -1, SQLITE_UTF8, nullptr, nullptr, keepStep<true>,
+                                     keepFinal, nullptr));
+    check(sqlite3_create_collation_v2(connection, "AKARIX_NOCASE", SQLITE_UTF8, nullptr, compareNoCase, nullptr));
+
+    UErrorCode status = U_ZERO_ERROR;
+    UCollator* collator = ucol_open("ja", &status);
+    if (U_FAILURE(status)) throw RuntimeError(7);
+    ucol_setStrength(collator, UCOL_SECONDARY);
+    check(sqlite3_create_collation_v2(connection, "AKARIX_ORDER", SQLITE_UTF8, collator, compareInOrder,
+                                      closeCollator));
+}
+
+int FunctionErrorNumber(const QByteArray& message) {
+    return message.startsWith(kErrorMark) ? message.mid(sizeof(kErrorMark) - 1).toInt() : 0;
+}
+
+}  // namespace akarix

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <span>
+
+#include "platform/jet/Plan.h"
+
+namespace akarix {
+
+/// A function that the written statements call and that conditions in memory call as well. Arguments come in
+/// the stored form of their kinds; RuntimeError leaves it where the dialect raises.
+struct SqlFunction {
+    const char* name;
+    int arguments;
+    bool takesNull;  ///< otherwise a Null argument gives Null without a call
+    bool steady;     ///< the same arguments always give the same value
+    StoreValue (*run)(const StoreValue* arguments);
+};
+
+std::span<const SqlFunction> sqlFunctions();
+/// \param name one of the list.
+const SqlFunction& sqlFunction(const char* name);
+
+}  // namespace akarix

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QStringView>
+#include <optional>
+
+#include "platform/jet/Literal.h"
+
+namespace akarix {
+
+/// Words with a place in the grammar; they cannot name a column unless they stand in brackets.
+enum class Keyword {
+    None, All, And, As, Asc, Between, By, Delete, Desc, Distinct, DistinctRow, Exists, False, From, Group,
+    Having, In, Inner, Insert, Into, Is, Join, Left, Like, Mod, Not, Null, On, Or, Order, Outer, Right, Select,
+    Set, True, Union, Update, Values, Where, Xor,
+};
+
+struct Token {
+    enum class Type { Word, Bracketed, Literal, Symbol, End };
+
+    Type type = Type::End;
+    Keyword keyword = Keyword::None;  ///< of a Word
+    QStringView text;                 ///< a piece of the statement, which must outlive the token
+    qsizetype position = 0;
+    Literal literal;
+    int lifted = -1;  ///< number of the literal among those taken out of the text; -1: it stays in
+};
+
+}  // namespace akarix
