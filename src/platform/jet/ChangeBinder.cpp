@@ -1,0 +1,118 @@
+#include "platform/jet/ChangeBinder.h"
+
+#include <algorithm>
+
+#include "platform/jet/Coercion.h"
+#include "platform/jet/DialectError.h"
+
+namespace akarix {
+namespace {
+
+RuntimeError countsDiffer() {
+    return dialectError(3346, QStringLiteral("クエリの値の数とフィールドの数が一致していません。"));
+}
+
+/// The columns an INSERT names, all of the table when it names none.
+std::vector<int> columnsOf(const ParsedInsert& parsed, const TableDef& table) {
+    std::vector<int> columns;
+    if (parsed.columns.empty()) {
+        for (std::size_t i = 0; i < table.columns.size(); ++i) columns.push_back(static_cast<int>(i));
+        return columns;
+    }
+    for (const ParsedName& name : parsed.columns) {
+        const int column = table.indexOf(name.column);
+        if (column < 0) {
+            throw dialectError(
+                3127, QStringLiteral("INSERT INTO ステートメントに不明なフィールド名 '%1' があります。").arg(name.column));
+        }
+        if (std::find(columns.begin(), columns.end(), column) != columns.end()) {
+            throw dialectError(3063, QStringLiteral("出力先 '%1' が重複しています。").arg(name.column));
+        }
+        columns.push_back(column);
+    }
+    return columns;
+}
+
+const ColumnDef& columnAt(const TableDef& table, int index) {
+    return table.columns[static_cast<std::size_t>(index)];
+}
+
+RuntimeError notUpdatable() {
+    return dialectError(3073, QStringLiteral("更新可能なクエリであることが必要です。"));
+}
+
+}  // namespace
+
+BoundInsert ChangeBinder::bind(const ParsedInsert& parsed) {
+    BoundInsert bound;
+    bound.table = queries_.tableNamed(parsed.table);
+    bound.columns = columnsOf(parsed, *bound.table);
+    if (!parsed.query) {
+        if (parsed.values.size() != bound.columns.size()) throw countsDiffer();
+        const Scope nothing;
+        ExpressionBinder binder = queries_.expressions(nothing);
+        for (std::size_t i = 0; i < parsed.values.size(); ++i) {
+            bound.values.push_back(toColumn(binder.bind(*parsed.values[i]), columnAt(*bound.table, bound.columns[i])));
+        }
+        return bound;
+    }
+    auto query = queries_.bind(*parsed.query);
+    if (parsed.columns.empty()) {
+        // Without a column list the names of the results say where they go.
+        bound.columns.clear();
+        for (const BoundItem& item : query->members.front().items) {
+            const int column = bound.table->indexOf(item.column.name);
+            if (column < 0) {
+                throw dialectError(3127, QStringLiteral("INSERT INTO ステートメントに不明なフィールド名 '%1' があります。")
+                                             .arg(item.column.name));
+            }
+            bound.columns.push_back(column);
+        }
+    }
+    for (BoundSelect& member : query->members) {
+        if (member.items.size() != bound.columns.size()) throw countsDiffer();
+        for (std::size_t i = 0; i < member.items.size(); ++i) {
+            BoundPtr& value = member.items[i].expression;
+            value = toColumn(value, columnAt(*bound.table, bound.columns[i]));
+        }
+    }
+    bound.query = std::move(query);
+    return bound;
+}
+
+BoundUpdate ChangeBinder::bind(const ParsedUpdate& parsed) {
+    BoundUpdate bound;
+    bound.target = nullptr;
+    Scope scope;
+    bound.rows = queries_.bindRows(parsed.sources, parsed.where.get(), scope);
+    for (const ParsedAssignment& assignment : parsed.assignments) {
+        const BoundPtr place = scope.column(assignment.column, assignment.position);
+        if (!place) throw unknownName(assignment.column.column, assignment.position);
+        const auto& column = std::get<BoundColumn>(place->node);
+        if (bound.target && bound.target != column.table) throw notUpdatable();
+        bound.target = column.table;
+        const BoundPtr value = queries_.expressions(scope).bind(*assignment.value);
+        bound.assignments.push_back({column.column, toColumn(value, columnAt(*column.table->definition, column.column))});
+    }
+    if (!bound.target->rowNumberReachable) throw notUpdatable();
+    return bound;
+}
+
+BoundDelete ChangeBinder::bind(const ParsedDelete& parsed) {
+    BoundDelete bound;
+    Scope scope;
+    bound.rows = queries_.bindRows(parsed.sources, parsed.where.get(), scope);
+    if (parsed.target.isEmpty()) {
+        if (bound.rows.tables.size() != 1) {
+            throw dialectError(3128, QStringLiteral("削除するレコードを含んだテーブルを指定してください。"));
+        }
+        bound.target = bound.rows.tables.front().get();
+    } else {
+        bound.target = scope.table(parsed.target);
+        if (!bound.target) throw unknownTable(parsed.target);
+    }
+    if (!bound.target->rowNumberReachable) throw notUpdatable();
+    return bound;
+}
+
+}  // namespace akarix

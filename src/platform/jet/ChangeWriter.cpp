@@ -1,0 +1,104 @@
+#include <algorithm>
+
+#include "platform/jet/Writer.h"
+
+namespace akarix {
+namespace {
+
+bool isQuery(const BoundExpression& expression) {
+    return std::holds_alternative<BoundScalarQuery>(expression.node) ||
+           std::holds_alternative<BoundInQuery>(expression.node) ||
+           std::holds_alternative<BoundExists>(expression.node);
+}
+
+/// Whether a value can be written without the other tables of a joined update.
+bool needsOnly(const BoundTable* table, const BoundExpression& expression) {
+    if (const auto* column = std::get_if<BoundColumn>(&expression.node)) return column->table == table;
+    if (isQuery(expression)) return false;
+    const auto operands = operandsOf(expression);
+    return std::all_of(operands.begin(), operands.end(),
+                       [&](const BoundPtr& operand) { return needsOnly(table, *operand); });
+}
+
+}  // namespace
+
+void Writer::insert(const BoundInsert& statement) {
+    out_ += "INSERT OR IGNORE INTO " + quotedName(statement.table->name) + '(';
+    for (std::size_t i = 0; i < statement.columns.size(); ++i) {
+        const auto column = static_cast<std::size_t>(statement.columns[i]);
+        out_ += (i == 0 ? "" : ",") + quotedName(statement.table->columns[column].name);
+    }
+    out_ += ") ";
+    if (statement.query) {
+        anyQuery(*statement.query, Shape{});
+        return;
+    }
+    out_ += "VALUES(";
+    list(statement.values);
+    out_ += ')';
+}
+
+void Writer::update(const BoundUpdate& statement) {
+    out_ += "UPDATE OR IGNORE " + quotedName(statement.target->definition->name) + " SET ";
+    if (statement.rows.tables.size() > 1) {
+        assignments(statement);
+        out_ += " WHERE ";
+        targetRows(statement.rows, *statement.target);
+        return;
+    }
+    itself_ = statement.target;
+    assignments(statement);
+    if (statement.rows.where) {
+        out_ += " WHERE ";
+        condition(*statement.rows.where);
+    }
+}
+
+void Writer::assignments(const BoundUpdate& statement) {
+    const BoundTable& target = *statement.target;
+    const bool alone = statement.rows.tables.size() == 1;
+    QByteArray separator;
+    for (const BoundAssignment& assignment : statement.assignments) {
+        const auto column = static_cast<std::size_t>(assignment.column);
+        out_ += separator + quotedName(target.definition->columns[column].name) + '=';
+        separator = ",";
+        if (alone || needsOnly(&target, *assignment.value)) {
+            itself_ = &target;
+            value(*assignment.value);
+            if (!alone) itself_ = nullptr;
+            continue;
+        }
+        // A row with several partners takes the value of the last.
+        out_ += "(SELECT ";
+        value(*assignment.value);
+        rows(statement.rows);
+        out_ += (statement.rows.where ? " AND " : " WHERE ") + nameOf(target) +
+                "._rowid_=" + quotedName(target.definition->name) + "._rowid_";
+        std::vector<OrderTerm> order = naturalOrder(statement.rows);
+        for (OrderTerm& term : order) term.descending = true;
+        orderBy(order);
+        out_ += " LIMIT 1)";
+    }
+}
+
+void Writer::remove(const BoundDelete& statement) {
+    out_ += "DELETE FROM " + quotedName(statement.target->definition->name);
+    if (statement.rows.tables.size() > 1) {
+        out_ += " WHERE ";
+        targetRows(statement.rows, *statement.target);
+        return;
+    }
+    itself_ = statement.target;
+    if (statement.rows.where) {
+        out_ += " WHERE ";
+        condition(*statement.rows.where);
+    }
+}
+
+void Writer::targetRows(const BoundRows& rows, const BoundTable& target) {
+    out_ += "_rowid_ IN (SELECT " + nameOf(target) + "._rowid_";
+    this->rows(rows);
+    out_ += ')';
+}
+
+}  // namespace akarix

@@ -1,0 +1,182 @@
+#include "platform/jet/Coercion.h"
+
+#include <algorithm>
+
+#include "platform/jet/DialectError.h"
+#include "platform/jet/SqlFunctions.h"
+
+namespace akarix {
+namespace {
+
+BoundPtr converted(Conversion conversion, const BoundPtr& operand, Kind kind) {
+    return makeBound(BoundConversion{conversion, operand}, kind, operand.get());
+}
+
+BoundPtr called(const char* function, const BoundPtr& operand, Kind kind) {
+    return makeBound(BoundCall{&sqlFunction(function), {operand}}, kind, operand.get());
+}
+
+/// The literal with another use, or nothing when the expression is no literal.
+BoundPtr literalAs(const BoundPtr& expression, LiteralUse use, Kind kind) {
+    const auto* literal = std::get_if<BoundLiteral>(&expression->node);
+    if (!literal) return nullptr;
+    BoundLiteral changed = *literal;
+    changed.use = use;
+    return makeBound(changed, kind, expression.get());
+}
+
+bool isTextLiteral(const BoundExpression& expression) {
+    const auto* literal = std::get_if<BoundLiteral>(&expression.node);
+    return literal && literal->literal.kind == Literal::Kind::Text;
+}
+
+/// For comparisons: exact, whatever the other side has behind its fourth decimal.
+BoundPtr toScaled(const BoundPtr& expression) {
+    if (auto literal = literalAs(expression, LiteralUse::CurrencyExact, Kind::Currency)) return literal;
+    switch (expression->kind) {
+        case Kind::Boolean:
+        case Kind::Integer: return converted(Conversion::WholeToCurrency, expression, Kind::Currency);
+        case Kind::Double:
+        case Kind::Date: return converted(Conversion::RealToScaled, expression, Kind::Currency);
+        default: return expression;
+    }
+}
+
+}  // namespace
+
+BoundPtr toReal(const BoundPtr& expression) {
+    if (!isTextLiteral(*expression)) {
+        if (auto literal = literalAs(expression, LiteralUse::Real, Kind::Double)) return literal;
+    }
+    switch (expression->kind) {
+        case Kind::Boolean:
+        case Kind::Integer: return converted(Conversion::WholeToReal, expression, Kind::Double);
+        case Kind::Currency: return converted(Conversion::CurrencyToReal, expression, Kind::Double);
+        case Kind::Text: return called("akarix_text_real", expression, Kind::Double);
+        default: return expression;
+    }
+}
+
+BoundPtr toWhole(const BoundPtr& expression) {
+    if (!isTextLiteral(*expression)) {
+        if (auto literal = literalAs(expression, LiteralUse::IntegerStored, Kind::Integer)) return literal;
+    }
+    switch (expression->kind) {
+        case Kind::Currency: return called("akarix_whole_from_currency", expression, Kind::Integer);
+        case Kind::Double:
+        case Kind::Date: return called("akarix_whole_from_real", expression, Kind::Integer);
+        case Kind::Text: return called("akarix_whole_from_real", toReal(expression), Kind::Integer);
+        default: return expression;
+    }
+}
+
+BoundPtr toCurrency(const BoundPtr& expression) {
+    if (!isTextLiteral(*expression)) {
+        if (auto literal = literalAs(expression, LiteralUse::CurrencyStored, Kind::Currency)) return literal;
+    }
+    switch (expression->kind) {
+        case Kind::Boolean:
+        case Kind::Integer: return converted(Conversion::WholeToCurrency, expression, Kind::Currency);
+        case Kind::Double:
+        case Kind::Date: return called("akarix_ccur", expression, Kind::Currency);
+        case Kind::Text: return called("akarix_text_currency", expression, Kind::Currency);
+        default: return expression;
+    }
+}
+
+BoundPtr toDate(const BoundPtr& expression) {
+    if (auto literal = literalAs(expression, LiteralUse::DateAsked, Kind::Date)) return literal;
+    if (expression->kind == Kind::Date || expression->kind == Kind::Null) return expression;
+    if (expression->kind == Kind::Text) return called("akarix_text_date", expression, Kind::Date);
+    const BoundPtr serial = toReal(expression);
+    return makeBound(serial->node, Kind::Date, expression.get());
+}
+
+BoundPtr toText(const BoundPtr& expression) {
+    if (auto literal = literalAs(expression, LiteralUse::TextStored, Kind::Text)) return literal;
+    switch (expression->kind) {
+        case Kind::Boolean:
+        case Kind::Integer: return converted(Conversion::WholeToText, expression, Kind::Text);
+        case Kind::Currency: return called("akarix_currency_text", expression, Kind::Text);
+        case Kind::Double: return called("akarix_real_text", expression, Kind::Text);
+        case Kind::Date: return called("akarix_date_text", expression, Kind::Text);
+        default: return expression;
+    }
+}
+
+BoundPtr toKind(const BoundPtr& expression, Kind kind) {
+    if (expression->kind == kind && !std::holds_alternative<BoundLiteral>(expression->node)) return expression;
+    switch (kind) {
+        case Kind::Integer: return toWhole(expression);
+        case Kind::Currency: return toCurrency(expression);
+        case Kind::Double: return toReal(expression);
+        case Kind::Date: return toDate(expression);
+        case Kind::Text: return toText(expression);
+        case Kind::Boolean:
+        case Kind::Null: break;
+    }
+    return expression;
+}
+
+BoundPtr toColumn(const BoundPtr& expression, const ColumnDef& column) {
+    const Kind kind = kindOf(column.type);
+    const Kind given = expression->kind;
+    if (given == Kind::Null) return expression;
+    const auto literal = [&](LiteralUse use) { return literalAs(expression, use, kind); };
+    switch (kind) {
+        case Kind::Boolean:
+            if (auto made = literal(LiteralUse::BooleanStored)) return made;
+            if (given == Kind::Boolean || given == Kind::Text) return expression;
+            return converted(Conversion::NumberToBoolean, expression, kind);
+        case Kind::Integer:
+            if (auto made = literal(LiteralUse::IntegerStored)) return made;
+            return given == Kind::Text ? called("akarix_store_whole", expression, kind) : toWhole(expression);
+        case Kind::Currency:
+            if (auto made = literal(LiteralUse::CurrencyStored)) return made;
+            if (given == Kind::Text) return called("akarix_store_currency", expression, kind);
+            if (given == Kind::Double || given == Kind::Date) {
+                return called("akarix_currency_from_real", expression, kind);
+            }
+            return toCurrency(expression);
+        case Kind::Double:
+            if (auto made = literal(LiteralUse::Real)) return made;
+            return given == Kind::Text ? called("akarix_store_real", expression, kind) : toReal(expression);
+        case Kind::Date:
+            if (auto made = literal(LiteralUse::DateStored)) {
+                // CDATE('...') keeps its own demand that the text be a date.
+                const auto* own = std::get_if<BoundLiteral>(&expression->node);
+                return own->use == LiteralUse::DateAsked ? expression : made;
+            }
+            return given == Kind::Text ? called("akarix_store_date", expression, kind) : toDate(expression);
+        case Kind::Text: return toText(expression);
+        case Kind::Null: break;
+    }
+    return expression;
+}
+
+Kind commonKind(Kind a, Kind b) {
+    if (a == b || b == Kind::Null) return a;
+    if (a == Kind::Null) return b;
+    if (a == Kind::Text || b == Kind::Text) return Kind::Text;
+    if (a == Kind::Date || b == Kind::Date) return Kind::Date;
+    if (a == Kind::Double || b == Kind::Double) return Kind::Double;
+    if (a == Kind::Currency || b == Kind::Currency) return Kind::Currency;
+    return Kind::Integer;
+}
+
+void makeComparable(const std::vector<BoundPtr*>& expressions) {
+    bool text = false;
+    bool other = false;
+    bool money = false;
+    for (const BoundPtr* one : expressions) {
+        const Kind kind = (*one)->kind;
+        text = text || kind == Kind::Text;
+        other = other || (kind != Kind::Text && kind != Kind::Null);
+        money = money || kind == Kind::Currency;
+        if (text && other) throw kindsDiffer((*one)->position);
+    }
+    if (!money) return;
+    for (BoundPtr* one : expressions) *one = toScaled(*one);
+}
+
+}  // namespace akarix

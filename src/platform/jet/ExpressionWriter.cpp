@@ -1,0 +1,322 @@
+#include "platform/jet/SqlFunctions.h"
+#include "platform/jet/Writer.h"
+
+namespace akarix {
+namespace {
+
+constexpr char kFold[] = " COLLATE AKARIX_NOCASE";
+
+const char* symbolOf(CompareOp op) {
+    switch (op) {
+        case CompareOp::Equal: return "=";
+        case CompareOp::NotEqual: return "<>";
+        case CompareOp::Less: return "<";
+        case CompareOp::LessEqual: return "<=";
+        case CompareOp::Greater: return ">";
+        case CompareOp::GreaterEqual: return ">=";
+    }
+    return "=";
+}
+
+const char* symbolOf(NativeOp op) {
+    switch (op) {
+        case NativeOp::Add: return "+";
+        case NativeOp::Subtract: return "-";
+        case NativeOp::Multiply: return "*";
+        case NativeOp::Join: return "||";
+    }
+    return "+";
+}
+
+int rankOf(NativeOp op) {
+    return op == NativeOp::Join ? 2 : op == NativeOp::Multiply ? 1 : 0;
+}
+
+const char* nameOf(AggregateOp op) {
+    switch (op) {
+        case AggregateOp::Count: return "COUNT";
+        case AggregateOp::Sum: return "SUM";
+        case AggregateOp::Average: return "AVG";
+        case AggregateOp::Min: return "MIN";
+        case AggregateOp::Max: return "MAX";
+        case AggregateOp::First: return "akarix_first";
+        case AggregateOp::Last: return "akarix_last";
+    }
+    return "COUNT";
+}
+
+struct Wrapping {
+    const char* before;
+    const char* behind;
+};
+
+Wrapping wrappingOf(Conversion conversion) {
+    switch (conversion) {
+        case Conversion::WholeToCurrency: return {"(", "*10000)"};
+        case Conversion::RealToScaled: return {"(", "*10000.0)"};
+        case Conversion::WholeToReal: return {"CAST(", " AS REAL)"};
+        case Conversion::CurrencyToReal: return {"(", "/10000.0)"};
+        case Conversion::WholeToText: return {"CAST(", " AS TEXT)"};
+        case Conversion::NumberToBoolean: return {"(-(", "<>0))"};
+    }
+    return {"(", ")"};
+}
+
+/// Truth values of the engine, 1 and 0, unlike those of the dialect, -1 and 0.
+template <class Node>
+constexpr bool isTest =
+    std::is_same_v<Node, BoundBoolean> || std::is_same_v<Node, BoundNot> || std::is_same_v<Node, BoundLogic> ||
+    std::is_same_v<Node, BoundComparison> || std::is_same_v<Node, BoundIsNull> || std::is_same_v<Node, BoundLike> ||
+    std::is_same_v<Node, BoundBetween> || std::is_same_v<Node, BoundInList> || std::is_same_v<Node, BoundInQuery> ||
+    std::is_same_v<Node, BoundExists>;
+
+}  // namespace
+
+void Writer::value(const BoundExpression& expression) {
+    std::visit(
+        [this](const auto& n) {
+            if constexpr (isTest<std::decay_t<decltype(n)>>) {
+                out_ += "(-(";
+                test(n);
+                out_ += "))";
+            } else {
+                node(n);
+            }
+        },
+        expression.node);
+}
+
+void Writer::condition(const BoundExpression& expression) {
+    std::visit(
+        [&](const auto& n) {
+            if constexpr (isTest<std::decay_t<decltype(n)>>) {
+                test(n);
+            } else {
+                node(n);
+                out_ += "<>0";
+            }
+        },
+        expression.node);
+}
+
+QByteArray Writer::valueText(const BoundExpression& expression) {
+    QByteArray before;
+    out_.swap(before);
+    value(expression);
+    out_.swap(before);
+    return before;
+}
+
+void Writer::list(const std::vector<BoundPtr>& expressions) {
+    bool first = true;
+    for (const BoundPtr& one : expressions) {
+        if (!first) out_ += ',';
+        first = false;
+        value(*one);
+    }
+}
+
+void Writer::node(const BoundColumn& n) {
+    out_ += columnText(*n.table, n.column);
+}
+
+void Writer::node(const BoundLiteral& n) {
+    if (n.lifted < 0) {
+        constant(literalValue(n.literal, n.negated, n.use));
+        return;
+    }
+    const Slot slot{n.lifted, n.negated, n.use};
+    std::size_t place = 0;
+    while (place < parameters_.size() && !(parameters_[place] == slot)) ++place;
+    if (place == parameters_.size()) parameters_.push_back(slot);
+    out_ += '?' + QByteArray::number(static_cast<qulonglong>(place + 1));
+}
+
+void Writer::constant(const StoreValue& constant) {
+    if (const auto* whole = std::get_if<std::int64_t>(&constant)) {
+        out_ += '(' + QByteArray::number(static_cast<qlonglong>(*whole)) + ')';
+    } else if (const auto* real = std::get_if<double>(&constant)) {
+        out_ += '(' + QByteArray::number(*real, 'e', 17) + ')';
+    } else if (const auto* text = std::get_if<QString>(&constant)) {
+        out_ += '\'' + QString(*text).replace(u'\'', QStringLiteral("''")).toUtf8() + '\'';
+    } else {
+        out_ += "NULL";
+    }
+}
+
+void Writer::node(const BoundNull&) {
+    out_ += "NULL";
+}
+
+void Writer::node(const BoundNegation& n) {
+    out_ += "(-";
+    value(*n.operand);
+    out_ += ')';
+}
+
+void Writer::node(const BoundArithmetic& n) {
+    out_ += '(';
+    arithmetic(n);
+    out_ += ')';
+}
+
+void Writer::arithmetic(const BoundArithmetic& n) {
+    // A chain is written without parentheses, of which the engine takes a limited depth.
+    const auto* inner = std::get_if<BoundArithmetic>(&n.left->node);
+    if (inner && rankOf(inner->op) == rankOf(n.op)) {
+        arithmetic(*inner);
+    } else {
+        value(*n.left);
+    }
+    out_ += symbolOf(n.op);
+    value(*n.right);
+}
+
+void Writer::node(const BoundConversion& n) {
+    const Wrapping wrapping = wrappingOf(n.conversion);
+    out_ += wrapping.before;
+    value(*n.operand);
+    out_ += wrapping.behind;
+}
+
+void Writer::node(const BoundCall& n) {
+    out_ += n.function->name;
+    out_ += '(';
+    list(n.arguments);
+    out_ += ')';
+}
+
+void Writer::node(const BoundScalarQuery& n) {
+    out_ += '(';
+    anyQuery(*n.query, Shape{});
+    if (n.query->members.size() == 1 && !n.query->members.front().top) out_ += " LIMIT 1";
+    out_ += ')';
+}
+
+void Writer::node(const BoundChoice& n) {
+    out_ += "CASE WHEN ";
+    condition(*n.condition);
+    out_ += " THEN ";
+    value(*n.then);
+    out_ += " ELSE ";
+    value(*n.otherwise);
+    out_ += " END";
+}
+
+void Writer::node(const BoundAggregate& n) {
+    out_ += akarix::nameOf(n.op);
+    out_ += '(';
+    if (!n.operand) {
+        out_ += '*';
+    } else {
+        value(*n.operand);
+        if (n.op == AggregateOp::Min || n.op == AggregateOp::Max) {
+            if (n.operand->kind == Kind::Text) out_ += kFold;
+        }
+        if (n.op == AggregateOp::First || n.op == AggregateOp::Last) {
+            // The engine feeds groups in no settled order: the row's place comes along.
+            for (const OrderTerm& term : naturalOrder(*aggregated_)) out_ += ',' + term.text;
+        }
+    }
+    out_ += ')';
+}
+
+void Writer::test(const BoundBoolean& n) {
+    out_ += n.value ? "1" : "0";
+}
+
+void Writer::test(const BoundNot& n) {
+    out_ += "NOT (";
+    condition(*n.operand);
+    out_ += ')';
+}
+
+void Writer::test(const BoundLogic& n) {
+    logicOperand(n.left, n.op);
+    out_ += n.op == LogicOp::And ? " AND " : n.op == LogicOp::Or ? " OR " : "<>";
+    out_ += '(';
+    condition(*n.right);
+    out_ += ')';
+}
+
+void Writer::logicOperand(const BoundPtr& operand, LogicOp op) {
+    const auto* inner = std::get_if<BoundLogic>(&operand->node);
+    const bool chain = inner && inner->op == op && op != LogicOp::Xor;
+    if (!chain) out_ += '(';
+    condition(*operand);
+    if (!chain) out_ += ')';
+}
+
+void Writer::test(const BoundComparison& n) {
+    value(*n.left);
+    out_ += symbolOf(n.op);
+    value(*n.right);
+    if (n.left->kind == Kind::Text || n.right->kind == Kind::Text) out_ += kFold;
+}
+
+void Writer::test(const BoundIsNull& n) {
+    value(*n.operand);
+    out_ += n.negated ? " IS NOT NULL" : " IS NULL";
+}
+
+void Writer::test(const BoundLike& n) {
+    if (n.negated) out_ += "NOT ";
+    out_ += "akarix_like(";
+    value(*n.pattern);
+    out_ += ',';
+    value(*n.operand);
+    out_ += ')';
+}
+
+void Writer::foldCase(const BoundExpression& expression) {
+    value(expression);
+    if (expression.kind == Kind::Text) out_ += kFold;
+}
+
+void Writer::test(const BoundBetween& n) {
+    foldCase(*n.operand);
+    out_ += n.negated ? " NOT BETWEEN " : " BETWEEN ";
+    value(*n.low);
+    out_ += " AND ";
+    value(*n.high);
+}
+
+void Writer::test(const BoundInList& n) {
+    foldCase(*n.operand);
+    out_ += n.negated ? " NOT IN (" : " IN (";
+    list(n.items);
+    out_ += ')';
+}
+
+void Writer::test(const BoundInQuery& n) {
+    foldCase(*n.operand);
+    out_ += n.negated ? " NOT IN (" : " IN (";
+    Shape shape;
+    shape.ordered = false;
+    anyQuery(*n.query, shape);
+    out_ += ')';
+}
+
+void Writer::test(const BoundExists& n) {
+    out_ += "EXISTS(";
+    Shape shape;
+    shape.ordered = false;
+    anyQuery(*n.query, shape);
+    out_ += ')';
+}
+
+QByteArray Writer::nameOf(const BoundTable& table) const {
+    if (&table == itself_) return quotedName(table.definition->name);
+    return 't' + QByteArray::number(table.id);
+}
+
+QByteArray Writer::columnText(const BoundTable& table, int column) const {
+    if (table.derived) return nameOf(table) + ".c" + QByteArray::number(column);
+    return nameOf(table) + '.' + quotedName(table.definition->columns[static_cast<std::size_t>(column)].name);
+}
+
+QByteArray quotedName(const QString& name) {
+    return '"' + QString(name).replace(u'"', QStringLiteral("\"\"")).toUtf8() + '"';
+}
+
+}  // namespace akarix

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QHash>
+#include <list>
+#include <memory>
+#include <vector>
+
+#include "platform/jet/Plan.h"
+#include "platform/jet/Writer.h"
+
+namespace akarix {
+
+/// A plan and where its parameters come from.
+struct CachedPlan {
+    std::shared_ptr<const Plan> plan;
+    std::vector<Slot> parameters;
+};
+
+/// The plans used last, by the key of their statement.
+class PlanCache {
+ public:
+    static constexpr std::size_t kMost = 256;
+
+    /// Nothing when the key is not kept. The pointer holds until the next change of the cache.
+    const CachedPlan* find(const QString& key);
+    const CachedPlan& keep(const QString& key, CachedPlan plan);
+    void clear();
+
+ private:
+    struct Entry {
+        QString key;
+        CachedPlan plan;
+    };
+    std::list<Entry> entries_;  // the one used last in front
+    QHash<QString, std::list<Entry>::iterator> places_;
+};
+
+}  // namespace akarix

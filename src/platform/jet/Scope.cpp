@@ -1,0 +1,45 @@
+#include "platform/jet/Scope.h"
+
+#include "platform/jet/DialectError.h"
+
+namespace akarix {
+
+BoundPtr boundColumn(const BoundTable* table, int column) {
+    const ColumnDef& definition = table->definition->columns[static_cast<std::size_t>(column)];
+    auto made = std::make_shared<BoundExpression>();
+    made->node = BoundColumn{table, column};
+    made->kind = kindOf(definition.type);
+    made->type = definition.type;
+    made->size = definition.size;
+    made->text = definition.name;
+    return made;
+}
+
+BoundPtr Scope::column(const ParsedName& name, qsizetype position) const {
+    for (const Scope* scope = this; scope; scope = scope->outer_) {
+        BoundPtr found;
+        for (const BoundTable* table : scope->tables_) {
+            if (!name.table.isEmpty() && table->alias.compare(name.table, Qt::CaseInsensitive) != 0) continue;
+            const int index = table->definition->indexOf(name.column);
+            if (index < 0) continue;
+            if (found) throw ambiguousName(name.column, position);
+            found = boundColumn(table, index);
+        }
+        if (found) return found;
+    }
+    return nullptr;
+}
+
+BoundPtr Scope::result(const QString& alias) const {
+    const auto found = results_.find(alias.toCaseFolded());
+    return found == results_.end() ? nullptr : found->second;
+}
+
+const BoundTable* Scope::table(const QString& alias) const {
+    for (const BoundTable* table : tables_) {
+        if (table->alias.compare(alias, Qt::CaseInsensitive) == 0) return table;
+    }
+    return nullptr;
+}
+
+}  // namespace akarix

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <QByteArray>
+
+#include "platform/jet/BoundChange.h"
+
+namespace akarix {
+
+/// A parameter of a written statement: which literal of the text it is and what that becomes.
+struct Slot {
+    int lifted;
+    bool negated;
+    LiteralUse use;
+
+    friend bool operator==(const Slot&, const Slot&) = default;
+};
+
+/// Writes one bound statement in the engine's language. Rows come in a settled order, see SelectWriter.cpp.
+class Writer {
+ public:
+    /// \param rowNumber the number of the row of the only table comes behind the columns.
+    void query(const BoundQuery& query, bool rowNumber);
+    void insert(const BoundInsert& statement);
+    void update(const BoundUpdate& statement);
+    void remove(const BoundDelete& statement);
+
+    const QByteArray& text() const { return out_; }
+    const std::vector<Slot>& parameters() const { return parameters_; }
+
+ private:
+    struct OrderTerm {
+        QByteArray text;
+        const char* collation;  // empty: none
+        bool descending;
+    };
+    struct Order {
+        std::vector<OrderTerm> terms;
+        std::size_t asked = 0;  // so many of them are the statement's own; the others settle ties
+    };
+    struct Shape {
+        bool ordered = true;
+        bool aliased = false;    // columns are named c0, c1 ... for a query around
+        bool rowNumber = false;  // as the last column, named r
+        bool foldTexts = false;  // texts that differ in case are the same
+    };
+
+    // Expressions
+    void value(const BoundExpression& expression);
+    void condition(const BoundExpression& expression);
+    QByteArray valueText(const BoundExpression& expression);
+    void list(const std::vector<BoundPtr>& expressions);
+    void node(const BoundColumn& n);
+    void node(const BoundLiteral& n);
+    void node(const BoundNull& n);
+    void node(const BoundNegation& n);
+    void node(const BoundArithmetic& n);
+    void arithmetic(const BoundArithmetic& n);
+    void node(const BoundConversion& n);
+    void node(const BoundCall& n);
+    void node(const BoundScalarQuery& n);
+    void node(const BoundChoice& n);
+    void node(const BoundAggregate& n);
+    void test(const BoundBoolean& n);
+    void test(const BoundNot& n);
+    void test(const BoundLogic& n);
+    void test(const BoundComparison& n);
+    void test(const BoundIsNull& n);
+    void test(const BoundLike& n);
+    void test(const BoundBetween& n);
+    void test(const BoundInList& n);
+    void test(const BoundInQuery& n);
+    void test(const BoundExists& n);
+    void logicOperand(const BoundPtr& operand, LogicOp op);
+    void foldCase(const BoundExpression& expression);
+    void constant(const StoreValue& constant);
+
+    // Queries
+    void anyQuery(const BoundQuery& query, const Shape& shape);
+    void unionQuery(const BoundQuery& query);
+    void select(const BoundSelect& select, const Shape& shape);
+    void topSelect(const BoundSelect& select, const Shape& shape);
+    void body(const BoundSelect& select, const Shape& shape, const Order* keys);
+    void items(const BoundSelect& select, const Shape& shape);
+    void rows(const BoundRows& rows);
+    void source(const BoundSource& source);
+    void groupBy(const BoundSelect& select);
+    void orderBy(const std::vector<OrderTerm>& terms);
+    void topLimit(const BoundSelect& select, const Shape& shape);
+    Order orderOf(const BoundSelect& select);
+    void addTerm(std::vector<OrderTerm>& terms, const BoundExpression& expression, bool descending);
+    std::vector<OrderTerm> naturalOrder(const BoundRows& rows);
+    std::vector<OrderTerm> rowNumbers(const BoundRows& rows);
+
+    // Changes
+    void targetRows(const BoundRows& rows, const BoundTable& target);
+    void assignments(const BoundUpdate& statement);
+
+    QByteArray nameOf(const BoundTable& table) const;
+    QByteArray columnText(const BoundTable& table, int column) const;
+
+    QByteArray out_;
+    std::vector<Slot> parameters_;
+    const BoundTable* itself_ = nullptr;     ///< the table of a change, which has no other name than its own
+    const BoundRows* aggregated_ = nullptr;  ///< the rows of the query being written, for First and Last
+};
+
+/// A name in the engine's quotes.
+QByteArray quotedName(const QString& name);
+
+}  // namespace akarix
