@@ -23,10 +23,10 @@ bool needsOnly(const BoundTable* table, const BoundExpression& expression) {
 }  // namespace
 
 void Writer::insert(const BoundInsert& statement) {
-    out_ += "INSERT OR IGNORE INTO " + quotedName(statement.table->name) + '(';
+    out_ += "INSERT OR IGNORE INTO " + Quoted(statement.table->name) + '(';
     for (std::size_t i = 0; i < statement.columns.size(); ++i) {
         const auto column = static_cast<std::size_t>(statement.columns[i]);
-        out_ += (i == 0 ? "" : ",") + quotedName(statement.table->columns[column].name);
+        out_ += (i == 0 ? "" : ",") + Quoted(statement.table->columns[column].name);
     }
     out_ += ") ";
     if (statement.query) {
@@ -39,7 +39,7 @@ void Writer::insert(const BoundInsert& statement) {
 }
 
 void Writer::update(const BoundUpdate& statement) {
-    out_ += "UPDATE OR IGNORE " + quotedName(statement.target->definition->name) + " SET ";
+    out_ += "UPDATE OR IGNORE " + Quoted(statement.target->definition->name) + " SET ";
     if (statement.rows.tables.size() > 1) {
         assignments(statement);
         out_ += " WHERE ";
@@ -60,7 +60,7 @@ void Writer::assignments(const BoundUpdate& statement) {
     QByteArray separator;
     for (const BoundAssignment& assignment : statement.assignments) {
         const auto column = static_cast<std::size_t>(assignment.column);
-        out_ += separator + quotedName(target.definition->columns[column].name) + '=';
+        out_ += separator + Quoted(target.definition->columns[column].name) + '=';
         separator = ",";
         if (alone || needsOnly(&target, *assignment.value)) {
             itself_ = &target;
@@ -73,7 +73,7 @@ void Writer::assignments(const BoundUpdate& statement) {
         value(*assignment.value);
         rows(statement.rows);
         out_ += (statement.rows.where ? " AND " : " WHERE ") + nameOf(target) +
-                "._rowid_=" + quotedName(target.definition->name) + "._rowid_";
+                "._rowid_=" + Quoted(target.definition->name) + "._rowid_";
         std::vector<OrderTerm> order = naturalOrder(statement.rows);
         for (OrderTerm& term : order) term.descending = true;
         orderBy(order);
@@ -82,7 +82,7 @@ void Writer::assignments(const BoundUpdate& statement) {
 }
 
 void Writer::remove(const BoundDelete& statement) {
-    out_ += "DELETE FROM " + quotedName(statement.target->definition->name);
+    out_ += "DELETE FROM " + Quoted(statement.target->definition->name);
     if (statement.rows.tables.size() > 1) {
         out_ += " WHERE ";
         targetRows(statement.rows, *statement.target);

@@ -306,17 +306,13 @@ void Writer::test(const BoundExists& n) {
 }
 
 QByteArray Writer::nameOf(const BoundTable& table) const {
-    if (&table == itself_) return quotedName(table.definition->name);
+    if (&table == itself_) return Quoted(table.definition->name);
     return 't' + QByteArray::number(table.id);
 }
 
 QByteArray Writer::columnText(const BoundTable& table, int column) const {
     if (table.derived) return nameOf(table) + ".c" + QByteArray::number(column);
-    return nameOf(table) + '.' + quotedName(table.definition->columns[static_cast<std::size_t>(column)].name);
-}
-
-QByteArray quotedName(const QString& name) {
-    return '"' + QString(name).replace(u'"', QStringLiteral("\"\"")).toUtf8() + '"';
+    return nameOf(table) + '.' + Quoted(table.definition->columns[static_cast<std::size_t>(column)].name);
 }
 
 }  // namespace akarix

@@ -137,7 +137,7 @@ void Writer::source(const BoundSource& source) {
             anyQuery(*(*table)->derived, shape);
             out_ += ')';
         } else {
-            out_ += quotedName((*table)->definition->name);
+            out_ += Quoted((*table)->definition->name);
         }
         out_ += " AS " + nameOf(**table);
         return;

@@ -3,6 +3,7 @@
 #include <QByteArray>
 
 #include "platform/jet/BoundChange.h"
+#include "platform/jet/Identifier.h"
 
 namespace akarix {
 
@@ -103,8 +104,5 @@ class Writer {
     const BoundTable* itself_ = nullptr;     ///< the table of a change, which has no other name than its own
     const BoundRows* aggregated_ = nullptr;  ///< the rows of the query being written, for First and Last
 };
-
-/// A name in the engine's quotes.
-QByteArray quotedName(const QString& name);
 
 }  // namespace akarix
