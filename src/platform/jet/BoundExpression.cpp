@@ -22,7 +22,9 @@ struct Operands {
         return all;
     }
     std::vector<BoundPtr> operator()(const BoundInQuery& n) const { return {n.operand}; }
-    std::vector<BoundPtr> operator()(const BoundChoice& n) const { return {n.condition, n.then, n.otherwise}; }
+    std::vector<BoundPtr> operator()(const BoundChoice& n) const {
+        return {n.condition, n.then, n.otherwise};
+    }
     std::vector<BoundPtr> operator()(const BoundAggregate& n) const {
         return n.operand ? std::vector<BoundPtr>{n.operand} : std::vector<BoundPtr>{};
     }
@@ -38,12 +40,14 @@ struct SameHead {
         return a.table == b.table && a.column == b.column;
     }
     bool operator()(const BoundLiteral& a, const BoundLiteral& b) const {
-        return a.literal.kind == b.literal.kind && a.literal.value == b.literal.value && a.negated == b.negated &&
-               a.use == b.use && a.lifted == b.lifted;
+        return a.literal.kind == b.literal.kind && a.literal.value == b.literal.value &&
+               a.negated == b.negated && a.use == b.use && a.lifted == b.lifted;
     }
     bool operator()(const BoundBoolean& a, const BoundBoolean& b) const { return a.value == b.value; }
     bool operator()(const BoundArithmetic& a, const BoundArithmetic& b) const { return a.op == b.op; }
-    bool operator()(const BoundConversion& a, const BoundConversion& b) const { return a.conversion == b.conversion; }
+    bool operator()(const BoundConversion& a, const BoundConversion& b) const {
+        return a.conversion == b.conversion;
+    }
     bool operator()(const BoundCall& a, const BoundCall& b) const { return a.function == b.function; }
     bool operator()(const BoundLogic& a, const BoundLogic& b) const { return a.op == b.op; }
     bool operator()(const BoundComparison& a, const BoundComparison& b) const { return a.op == b.op; }

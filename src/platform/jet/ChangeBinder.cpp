@@ -16,14 +16,16 @@ RuntimeError countsDiffer() {
 std::vector<int> columnsOf(const ParsedInsert& parsed, const TableDef& table) {
     std::vector<int> columns;
     if (parsed.columns.empty()) {
-        for (std::size_t i = 0; i < table.columns.size(); ++i) columns.push_back(static_cast<int>(i));
+        for (std::size_t i = 0; i < table.columns.size(); ++i)
+            columns.push_back(static_cast<int>(i));
         return columns;
     }
     for (const ParsedName& name : parsed.columns) {
         const int column = table.indexOf(name.column);
         if (column < 0) {
             throw dialectError(
-                3127, QStringLiteral("INSERT INTO ステートメントに不明なフィールド名 '%1' があります。").arg(name.column));
+                3127, QStringLiteral("INSERT INTO ステートメントに不明なフィールド名 '%1' があります。")
+                          .arg(name.column));
         }
         if (std::find(columns.begin(), columns.end(), column) != columns.end()) {
             throw dialectError(3063, QStringLiteral("出力先 '%1' が重複しています。").arg(name.column));
@@ -52,7 +54,8 @@ BoundInsert ChangeBinder::bind(const ParsedInsert& parsed) {
         const Scope nothing;
         ExpressionBinder binder = queries_.expressions(nothing);
         for (std::size_t i = 0; i < parsed.values.size(); ++i) {
-            bound.values.push_back(toColumn(binder.bind(*parsed.values[i]), columnAt(*bound.table, bound.columns[i])));
+            bound.values.push_back(
+                toColumn(binder.bind(*parsed.values[i]), columnAt(*bound.table, bound.columns[i])));
         }
         return bound;
     }
@@ -63,8 +66,9 @@ BoundInsert ChangeBinder::bind(const ParsedInsert& parsed) {
         for (const BoundItem& item : query->members.front().items) {
             const int column = bound.table->indexOf(item.column.name);
             if (column < 0) {
-                throw dialectError(3127, QStringLiteral("INSERT INTO ステートメントに不明なフィールド名 '%1' があります。")
-                                             .arg(item.column.name));
+                throw dialectError(
+                    3127, QStringLiteral("INSERT INTO ステートメントに不明なフィールド名 '%1' があります。")
+                              .arg(item.column.name));
             }
             bound.columns.push_back(column);
         }
@@ -92,7 +96,8 @@ BoundUpdate ChangeBinder::bind(const ParsedUpdate& parsed) {
         if (bound.target && bound.target != column.table) throw notUpdatable();
         bound.target = column.table;
         const BoundPtr value = queries_.expressions(scope).bind(*assignment.value);
-        bound.assignments.push_back({column.column, toColumn(value, columnAt(*column.table->definition, column.column))});
+        bound.assignments.push_back(
+            {column.column, toColumn(value, columnAt(*column.table->definition, column.column))});
     }
     if (!bound.target->rowNumberReachable) throw notUpdatable();
     return bound;

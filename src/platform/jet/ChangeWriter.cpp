@@ -75,7 +75,8 @@ void Writer::assignments(const BoundUpdate& statement) {
         out_ += (statement.rows.where ? " AND " : " WHERE ") + nameOf(target) +
                 "._rowid_=" + Quoted(target.definition->name) + "._rowid_";
         std::vector<OrderTerm> order = naturalOrder(statement.rows);
-        for (OrderTerm& term : order) term.descending = true;
+        for (OrderTerm& term : order)
+            term.descending = true;
         orderBy(order);
         out_ += " LIMIT 1)";
     }

@@ -35,10 +35,13 @@ BoundPtr toScaled(const BoundPtr& expression) {
     if (auto literal = literalAs(expression, LiteralUse::CurrencyExact, Kind::Currency)) return literal;
     switch (expression->kind) {
         case Kind::Boolean:
-        case Kind::Integer: return converted(Conversion::WholeToCurrency, expression, Kind::Currency);
+        case Kind::Integer:
+            return converted(Conversion::WholeToCurrency, expression, Kind::Currency);
         case Kind::Double:
-        case Kind::Date: return converted(Conversion::RealToScaled, expression, Kind::Currency);
-        default: return expression;
+        case Kind::Date:
+            return converted(Conversion::RealToScaled, expression, Kind::Currency);
+        default:
+            return expression;
     }
 }
 
@@ -50,10 +53,14 @@ BoundPtr toReal(const BoundPtr& expression) {
     }
     switch (expression->kind) {
         case Kind::Boolean:
-        case Kind::Integer: return converted(Conversion::WholeToReal, expression, Kind::Double);
-        case Kind::Currency: return converted(Conversion::CurrencyToReal, expression, Kind::Double);
-        case Kind::Text: return called("akarix_text_real", expression, Kind::Double);
-        default: return expression;
+        case Kind::Integer:
+            return converted(Conversion::WholeToReal, expression, Kind::Double);
+        case Kind::Currency:
+            return converted(Conversion::CurrencyToReal, expression, Kind::Double);
+        case Kind::Text:
+            return called("akarix_text_real", expression, Kind::Double);
+        default:
+            return expression;
     }
 }
 
@@ -62,11 +69,15 @@ BoundPtr toWhole(const BoundPtr& expression) {
         if (auto literal = literalAs(expression, LiteralUse::IntegerStored, Kind::Integer)) return literal;
     }
     switch (expression->kind) {
-        case Kind::Currency: return called("akarix_whole_from_currency", expression, Kind::Integer);
+        case Kind::Currency:
+            return called("akarix_whole_from_currency", expression, Kind::Integer);
         case Kind::Double:
-        case Kind::Date: return called("akarix_whole_from_real", expression, Kind::Integer);
-        case Kind::Text: return called("akarix_whole_from_real", toReal(expression), Kind::Integer);
-        default: return expression;
+        case Kind::Date:
+            return called("akarix_whole_from_real", expression, Kind::Integer);
+        case Kind::Text:
+            return called("akarix_whole_from_real", toReal(expression), Kind::Integer);
+        default:
+            return expression;
     }
 }
 
@@ -76,11 +87,15 @@ BoundPtr toCurrency(const BoundPtr& expression) {
     }
     switch (expression->kind) {
         case Kind::Boolean:
-        case Kind::Integer: return converted(Conversion::WholeToCurrency, expression, Kind::Currency);
+        case Kind::Integer:
+            return converted(Conversion::WholeToCurrency, expression, Kind::Currency);
         case Kind::Double:
-        case Kind::Date: return called("akarix_ccur", expression, Kind::Currency);
-        case Kind::Text: return called("akarix_text_currency", expression, Kind::Currency);
-        default: return expression;
+        case Kind::Date:
+            return called("akarix_ccur", expression, Kind::Currency);
+        case Kind::Text:
+            return called("akarix_text_currency", expression, Kind::Currency);
+        default:
+            return expression;
     }
 }
 
@@ -96,24 +111,36 @@ BoundPtr toText(const BoundPtr& expression) {
     if (auto literal = literalAs(expression, LiteralUse::TextStored, Kind::Text)) return literal;
     switch (expression->kind) {
         case Kind::Boolean:
-        case Kind::Integer: return converted(Conversion::WholeToText, expression, Kind::Text);
-        case Kind::Currency: return called("akarix_currency_text", expression, Kind::Text);
-        case Kind::Double: return called("akarix_real_text", expression, Kind::Text);
-        case Kind::Date: return called("akarix_date_text", expression, Kind::Text);
-        default: return expression;
+        case Kind::Integer:
+            return converted(Conversion::WholeToText, expression, Kind::Text);
+        case Kind::Currency:
+            return called("akarix_currency_text", expression, Kind::Text);
+        case Kind::Double:
+            return called("akarix_real_text", expression, Kind::Text);
+        case Kind::Date:
+            return called("akarix_date_text", expression, Kind::Text);
+        default:
+            return expression;
     }
 }
 
 BoundPtr toKind(const BoundPtr& expression, Kind kind) {
-    if (expression->kind == kind && !std::holds_alternative<BoundLiteral>(expression->node)) return expression;
+    if (expression->kind == kind && !std::holds_alternative<BoundLiteral>(expression->node))
+        return expression;
     switch (kind) {
-        case Kind::Integer: return toWhole(expression);
-        case Kind::Currency: return toCurrency(expression);
-        case Kind::Double: return toReal(expression);
-        case Kind::Date: return toDate(expression);
-        case Kind::Text: return toText(expression);
+        case Kind::Integer:
+            return toWhole(expression);
+        case Kind::Currency:
+            return toCurrency(expression);
+        case Kind::Double:
+            return toReal(expression);
+        case Kind::Date:
+            return toDate(expression);
+        case Kind::Text:
+            return toText(expression);
         case Kind::Boolean:
-        case Kind::Null: break;
+        case Kind::Null:
+            break;
     }
     return expression;
 }
@@ -148,8 +175,10 @@ BoundPtr toColumn(const BoundPtr& expression, const ColumnDef& column) {
                 return own->use == LiteralUse::DateAsked ? expression : made;
             }
             return given == Kind::Text ? called("akarix_store_date", expression, kind) : toDate(expression);
-        case Kind::Text: return toText(expression);
-        case Kind::Null: break;
+        case Kind::Text:
+            return toText(expression);
+        case Kind::Null:
+            break;
     }
     return expression;
 }
@@ -176,7 +205,8 @@ void makeComparable(const std::vector<BoundPtr*>& expressions) {
         if (text && other) throw kindsDiffer((*one)->position);
     }
     if (!money) return;
-    for (BoundPtr* one : expressions) *one = toScaled(*one);
+    for (BoundPtr* one : expressions)
+        *one = toScaled(*one);
 }
 
 }  // namespace akarix

@@ -28,7 +28,8 @@ std::optional<QDate> readDay(QStringView text) {
 }
 
 std::optional<double> readTime(QStringView text) {
-    static const QRegularExpression pattern(QStringLiteral("^(\\d{1,2}):(\\d{2})(?::(\\d{2}))?\\s*([AaPp][Mm])?$"));
+    static const QRegularExpression pattern(
+        QStringLiteral("^(\\d{1,2}):(\\d{2})(?::(\\d{2}))?\\s*([AaPp][Mm])?$"));
     const QRegularExpressionMatch match = pattern.match(text.toString());
     if (!match.hasMatch()) return std::nullopt;
     int hour = match.captured(1).toInt();

@@ -24,33 +24,40 @@ RuntimeError syntaxError(QStringView sql, const QString& what, qsizetype positio
 }
 
 RuntimeError unknownName(const QString& name, qsizetype position) {
-    return RuntimeError(
-        3061, QStringLiteral("パラメータが少なすぎます。1 を指定してください。'%1' (%2 文字目)").arg(name).arg(position + 1));
+    return RuntimeError(3061,
+                        QStringLiteral("パラメータが少なすぎます。1 を指定してください。'%1' (%2 文字目)")
+                            .arg(name)
+                            .arg(position + 1));
 }
 
 RuntimeError ambiguousName(const QString& name, qsizetype position) {
     return RuntimeError(
-        3079, QStringLiteral("指定されたフィールド '%1' は、FROM 句にある複数のテーブルを参照しています。(%2 文字目)")
+        3079, QStringLiteral(
+                  "指定されたフィールド '%1' は、FROM 句にある複数のテーブルを参照しています。(%2 文字目)")
                   .arg(name)
                   .arg(position + 1));
 }
 
 RuntimeError unknownTable(const QString& name) {
-    return RuntimeError(3078, QStringLiteral("入力テーブルまたはクエリ '%1' が見つかりませんでした。").arg(name));
+    return RuntimeError(3078,
+                        QStringLiteral("入力テーブルまたはクエリ '%1' が見つかりませんでした。").arg(name));
 }
 
 RuntimeError unknownFunction(const QString& name, qsizetype position) {
-    return RuntimeError(3085,
-                        QStringLiteral("式に未定義関数 '%1' があります。(%2 文字目)").arg(name).arg(position + 1));
+    return RuntimeError(
+        3085, QStringLiteral("式に未定義関数 '%1' があります。(%2 文字目)").arg(name).arg(position + 1));
 }
 
 RuntimeError kindsDiffer(qsizetype position) {
-    return RuntimeError(3464, QStringLiteral("抽出条件でデータ型が一致しません。(%1 文字目)").arg(position + 1));
+    return RuntimeError(3464,
+                        QStringLiteral("抽出条件でデータ型が一致しません。(%1 文字目)").arg(position + 1));
 }
 
 RuntimeError outsideAggregate(const QString& expression) {
     return RuntimeError(
-        3122, QStringLiteral("集計関数の一部として指定された式 '%1' を含んでいないクエリを実行しようとしました。").arg(expression));
+        3122,
+        QStringLiteral("集計関数の一部として指定された式 '%1' を含んでいないクエリを実行しようとしました。")
+            .arg(expression));
 }
 
 RuntimeError tooComplex() {

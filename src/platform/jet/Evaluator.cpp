@@ -28,7 +28,8 @@ double real(const StoreValue& value) {
 
 std::optional<int> order(const StoreValue& a, const StoreValue& b) {
     if (isNull(a) || isNull(b)) return std::nullopt;
-    if (const auto* text = std::get_if<QString>(&a)) return text->compare(std::get<QString>(b), Qt::CaseInsensitive);
+    if (const auto* text = std::get_if<QString>(&a))
+        return text->compare(std::get<QString>(b), Qt::CaseInsensitive);
     const auto* left = std::get_if<std::int64_t>(&a);
     const auto* right = std::get_if<std::int64_t>(&b);
     if (left && right) return *left < *right ? -1 : *left > *right ? 1 : 0;
@@ -39,12 +40,18 @@ Truth compared(CompareOp op, const StoreValue& a, const StoreValue& b) {
     const auto place = order(a, b);
     if (!place) return std::nullopt;
     switch (op) {
-        case CompareOp::Equal: return *place == 0;
-        case CompareOp::NotEqual: return *place != 0;
-        case CompareOp::Less: return *place < 0;
-        case CompareOp::LessEqual: return *place <= 0;
-        case CompareOp::Greater: return *place > 0;
-        case CompareOp::GreaterEqual: return *place >= 0;
+        case CompareOp::Equal:
+            return *place == 0;
+        case CompareOp::NotEqual:
+            return *place != 0;
+        case CompareOp::Less:
+            return *place < 0;
+        case CompareOp::LessEqual:
+            return *place <= 0;
+        case CompareOp::Greater:
+            return *place > 0;
+        case CompareOp::GreaterEqual:
+            return *place >= 0;
     }
     return std::nullopt;
 }
@@ -74,9 +81,12 @@ StoreValue calculated(NativeOp op, const StoreValue& a, const StoreValue& b) {
         return result;
     }
     switch (op) {
-        case NativeOp::Add: return real(a) + real(b);
-        case NativeOp::Subtract: return real(a) - real(b);
-        default: return real(a) * real(b);
+        case NativeOp::Add:
+            return real(a) + real(b);
+        case NativeOp::Subtract:
+            return real(a) - real(b);
+        default:
+            return real(a) * real(b);
     }
 }
 
@@ -84,12 +94,18 @@ StoreValue changed(Conversion conversion, const StoreValue& value) {
     if (isNull(value)) return value;
     constexpr auto kScale = static_cast<double>(Currency::kScale);
     switch (conversion) {
-        case Conversion::WholeToCurrency: return calculated(NativeOp::Multiply, value, Currency::kScale);
-        case Conversion::RealToScaled: return real(value) * kScale;
-        case Conversion::WholeToReal: return real(value);
-        case Conversion::CurrencyToReal: return real(value) / kScale;
-        case Conversion::WholeToText: return QString::number(std::get<std::int64_t>(value));
-        case Conversion::NumberToBoolean: return std::int64_t{real(value) != 0 ? -1 : 0};
+        case Conversion::WholeToCurrency:
+            return calculated(NativeOp::Multiply, value, Currency::kScale);
+        case Conversion::RealToScaled:
+            return real(value) * kScale;
+        case Conversion::WholeToReal:
+            return real(value);
+        case Conversion::CurrencyToReal:
+            return real(value) / kScale;
+        case Conversion::WholeToText:
+            return QString::number(std::get<std::int64_t>(value));
+        case Conversion::NumberToBoolean:
+            return std::int64_t{real(value) != 0 ? -1 : 0};
     }
     return value;
 }
@@ -111,7 +127,9 @@ struct Evaluator {
     StoreValue operator()(const BoundNegation& n) const {
         return calculated(NativeOp::Subtract, std::int64_t{0}, value(n.operand));
     }
-    StoreValue operator()(const BoundArithmetic& n) const { return calculated(n.op, value(n.left), value(n.right)); }
+    StoreValue operator()(const BoundArithmetic& n) const {
+        return calculated(n.op, value(n.left), value(n.right));
+    }
     StoreValue operator()(const BoundConversion& n) const { return changed(n.conversion, value(n.operand)); }
     StoreValue operator()(const BoundCall& n) const {
         std::vector<StoreValue> arguments;
@@ -126,16 +144,21 @@ struct Evaluator {
         const Truth a = truth(n.left);
         const Truth b = truth(n.right);
         switch (n.op) {
-            case LogicOp::And: return asValue(bothOf(a, b));
-            case LogicOp::Or: return asValue(negatedIf(true, bothOf(negatedIf(true, a), negatedIf(true, b))));
-            case LogicOp::Xor: break;
+            case LogicOp::And:
+                return asValue(bothOf(a, b));
+            case LogicOp::Or:
+                return asValue(negatedIf(true, bothOf(negatedIf(true, a), negatedIf(true, b))));
+            case LogicOp::Xor:
+                break;
         }
         return asValue(a && b ? Truth(*a != *b) : std::nullopt);
     }
     StoreValue operator()(const BoundComparison& n) const {
         return asValue(compared(n.op, value(n.left), value(n.right)));
     }
-    StoreValue operator()(const BoundIsNull& n) const { return asValue(isNull(value(n.operand)) != n.negated); }
+    StoreValue operator()(const BoundIsNull& n) const {
+        return asValue(isNull(value(n.operand)) != n.negated);
+    }
     StoreValue operator()(const BoundLike& n) const {
         const StoreValue text = value(n.operand);
         const StoreValue pattern = value(n.pattern);

@@ -51,10 +51,13 @@ BoundPtr addOrSubtract(NativeOp op, const BoundPtr& left, const BoundPtr& right)
 }
 
 BoundPtr multiply(const BoundPtr& left, const BoundPtr& right) {
-    if (isWhole(left->kind) && isWhole(right->kind)) return native(NativeOp::Multiply, left, right, Kind::Integer);
-    if (!bothMoney(*left, *right)) return native(NativeOp::Multiply, toReal(left), toReal(right), Kind::Double);
+    if (isWhole(left->kind) && isWhole(right->kind))
+        return native(NativeOp::Multiply, left, right, Kind::Integer);
+    if (!bothMoney(*left, *right))
+        return native(NativeOp::Multiply, toReal(left), toReal(right), Kind::Double);
     // Money times a whole number keeps its scale.
-    if (isWhole(left->kind) || isWhole(right->kind)) return native(NativeOp::Multiply, left, right, Kind::Currency);
+    if (isWhole(left->kind) || isWhole(right->kind))
+        return native(NativeOp::Multiply, left, right, Kind::Currency);
     return called("akarix_mul_currency", {toCurrency(left), toCurrency(right)}, Kind::Currency);
 }
 
@@ -87,7 +90,9 @@ BoundPtr ExpressionBinder::bindNode(const ParsedExpression& parsed) {
         BoundPtr operator()(const ParsedName& n) const { return self.name(whole, n); }
         BoundPtr operator()(const ParsedLiteral& n) const { return self.literal(n); }
         BoundPtr operator()(const ParsedNull&) const { return makeBound(BoundNull{}, Kind::Null); }
-        BoundPtr operator()(const ParsedBoolean& n) const { return makeBound(BoundBoolean{n.value}, Kind::Boolean); }
+        BoundPtr operator()(const ParsedBoolean& n) const {
+            return makeBound(BoundBoolean{n.value}, Kind::Boolean);
+        }
         BoundPtr operator()(const ParsedNegation& n) const { return self.negation(n); }
         BoundPtr operator()(const ParsedNot& n) const {
             return makeBound(BoundNot{self.bind(*n.operand)}, Kind::Boolean);
@@ -111,7 +116,8 @@ BoundPtr ExpressionBinder::bindNode(const ParsedExpression& parsed) {
             auto inner = self.query(*n.query);
             const auto& items = inner->members.front().items;
             if (items.size() != 1) {
-                throw dialectError(3306, QStringLiteral("サブクエリは 1 つのフィールドだけを返さなければなりません。"));
+                throw dialectError(
+                    3306, QStringLiteral("サブクエリは 1 つのフィールドだけを返さなければなりません。"));
             }
             const Kind kind = items.front().expression->kind;
             return makeBound(BoundScalarQuery{std::move(inner)}, kind);
@@ -132,11 +138,19 @@ BoundPtr ExpressionBinder::name(const ParsedExpression& parsed, const ParsedName
 BoundPtr ExpressionBinder::literal(const ParsedLiteral& node) {
     Kind kind = Kind::Double;
     switch (node.literal.kind) {
-        case Literal::Kind::Integer: kind = Kind::Integer; break;
+        case Literal::Kind::Integer:
+            kind = Kind::Integer;
+            break;
         case Literal::Kind::Decimal:
-        case Literal::Kind::Real: kind = Kind::Double; break;
-        case Literal::Kind::Text: kind = Kind::Text; break;
-        case Literal::Kind::Date: kind = Kind::Date; break;
+        case Literal::Kind::Real:
+            kind = Kind::Double;
+            break;
+        case Literal::Kind::Text:
+            kind = Kind::Text;
+            break;
+        case Literal::Kind::Date:
+            kind = Kind::Date;
+            break;
     }
     return makeBound(BoundLiteral{node.literal, node.lifted, node.negated}, kind);
 }
@@ -150,22 +164,30 @@ BoundPtr ExpressionBinder::negation(const ParsedNegation& node) {
 BoundPtr ExpressionBinder::arithmetic(const ParsedArithmetic& node) {
     BoundPtr left = bind(*node.left);
     BoundPtr right = bind(*node.right);
-    if (node.op == ArithmeticOp::Concat) return called("akarix_concat", {toText(left), toText(right)}, Kind::Text);
+    if (node.op == ArithmeticOp::Concat)
+        return called("akarix_concat", {toText(left), toText(right)}, Kind::Text);
     if (node.op == ArithmeticOp::Add && left->kind == Kind::Text && right->kind == Kind::Text) {
         return native(NativeOp::Join, left, right, Kind::Text);
     }
     left = asOperand(left);
     right = asOperand(right);
     switch (node.op) {
-        case ArithmeticOp::Add: return addOrSubtract(NativeOp::Add, left, right);
-        case ArithmeticOp::Subtract: return addOrSubtract(NativeOp::Subtract, left, right);
-        case ArithmeticOp::Multiply: return multiply(left, right);
-        case ArithmeticOp::Divide: return called("akarix_divide", {toReal(left), toReal(right)}, Kind::Double);
+        case ArithmeticOp::Add:
+            return addOrSubtract(NativeOp::Add, left, right);
+        case ArithmeticOp::Subtract:
+            return addOrSubtract(NativeOp::Subtract, left, right);
+        case ArithmeticOp::Multiply:
+            return multiply(left, right);
+        case ArithmeticOp::Divide:
+            return called("akarix_divide", {toReal(left), toReal(right)}, Kind::Double);
         case ArithmeticOp::IntegerDivide:
             return called("akarix_whole_divide", {toWhole(left), toWhole(right)}, Kind::Integer);
-        case ArithmeticOp::Modulo: return called("akarix_modulo", {toWhole(left), toWhole(right)}, Kind::Integer);
-        case ArithmeticOp::Power: return called("akarix_power", {toReal(left), toReal(right)}, Kind::Double);
-        case ArithmeticOp::Concat: break;
+        case ArithmeticOp::Modulo:
+            return called("akarix_modulo", {toWhole(left), toWhole(right)}, Kind::Integer);
+        case ArithmeticOp::Power:
+            return called("akarix_power", {toReal(left), toReal(right)}, Kind::Double);
+        case ArithmeticOp::Concat:
+            break;
     }
     return left;
 }
@@ -190,9 +212,11 @@ BoundPtr ExpressionBinder::between(const ParsedBetween& node) {
 
 BoundPtr ExpressionBinder::inList(const ParsedInList& node) {
     BoundInList bound{bind(*node.operand), {}, node.negated};
-    for (const ParsedPtr& item : node.items) bound.items.push_back(bind(*item));
+    for (const ParsedPtr& item : node.items)
+        bound.items.push_back(bind(*item));
     std::vector<BoundPtr*> all{&bound.operand};
-    for (BoundPtr& item : bound.items) all.push_back(&item);
+    for (BoundPtr& item : bound.items)
+        all.push_back(&item);
     makeComparable(all);
     return makeBound(std::move(bound), Kind::Boolean);
 }
@@ -202,7 +226,8 @@ BoundPtr ExpressionBinder::inQuery(const ParsedInQuery& node) {
     const std::shared_ptr<BoundQuery> bound = query(*node.query);
     for (BoundSelect& member : bound->members) {
         if (member.items.size() != 1) {
-            throw dialectError(3306, QStringLiteral("サブクエリは 1 つのフィールドだけを返さなければなりません。"));
+            throw dialectError(3306,
+                               QStringLiteral("サブクエリは 1 つのフィールドだけを返さなければなりません。"));
         }
         makeComparable({&operand, &member.items.front().expression});
     }
@@ -213,7 +238,8 @@ BoundPtr ExpressionBinder::call(const ParsedExpression& parsed, const ParsedCall
     if (const auto op = aggregateNamed(node.name)) return aggregate(parsed, node, *op);
     if (node.star) throw unknownFunction(node.name, parsed.position);
     std::vector<BoundPtr> arguments;
-    for (const ParsedPtr& argument : node.arguments) arguments.push_back(bind(*argument));
+    for (const ParsedPtr& argument : node.arguments)
+        arguments.push_back(bind(*argument));
     return bindFunction(node.name, std::move(arguments), parsed.position);
 }
 
@@ -237,7 +263,8 @@ BoundPtr ExpressionBinder::aggregate(const ParsedExpression& parsed, const Parse
         return makeBound(BoundAggregate{which, of}, kind, of.get());
     };
     switch (op) {
-        case AggregateOp::Count: return made(op, operand, Kind::Integer);
+        case AggregateOp::Count:
+            return made(op, operand, Kind::Integer);
         case AggregateOp::Sum:
             if (operand->kind == Kind::Currency) return made(op, operand, Kind::Currency);
             // Whole numbers are summed as such, exactly, and only the result becomes a double.
@@ -249,7 +276,8 @@ BoundPtr ExpressionBinder::aggregate(const ParsedExpression& parsed, const Parse
                           {made(AggregateOp::Sum, operand, Kind::Currency),
                            made(AggregateOp::Count, operand, Kind::Integer)},
                           Kind::Currency);
-        default: break;
+        default:
+            break;
     }
     auto kept = std::make_shared<BoundExpression>(*operand);  // Min, Max, First, Last keep kind and width
     kept->node = BoundAggregate{op, operand};

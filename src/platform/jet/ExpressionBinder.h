@@ -13,7 +13,8 @@ class ExpressionBinder {
     using BindQuery = std::function<std::shared_ptr<BoundQuery>(const ParsedQuery&, const Scope&)>;
 
     /// \param bindQuery binds a subquery; none where subqueries have no place.
-    ExpressionBinder(const Scope& scope, BindQuery bindQuery) : scope_(scope), bindQuery_(std::move(bindQuery)) {}
+    ExpressionBinder(const Scope& scope, BindQuery bindQuery)
+        : scope_(scope), bindQuery_(std::move(bindQuery)) {}
 
     /// Aggregates have a place here.
     void allowAggregates() { aggregates_ = true; }

@@ -8,22 +8,32 @@ constexpr char kFold[] = " COLLATE AKARIX_NOCASE";
 
 const char* symbolOf(CompareOp op) {
     switch (op) {
-        case CompareOp::Equal: return "=";
-        case CompareOp::NotEqual: return "<>";
-        case CompareOp::Less: return "<";
-        case CompareOp::LessEqual: return "<=";
-        case CompareOp::Greater: return ">";
-        case CompareOp::GreaterEqual: return ">=";
+        case CompareOp::Equal:
+            return "=";
+        case CompareOp::NotEqual:
+            return "<>";
+        case CompareOp::Less:
+            return "<";
+        case CompareOp::LessEqual:
+            return "<=";
+        case CompareOp::Greater:
+            return ">";
+        case CompareOp::GreaterEqual:
+            return ">=";
     }
     return "=";
 }
 
 const char* symbolOf(NativeOp op) {
     switch (op) {
-        case NativeOp::Add: return "+";
-        case NativeOp::Subtract: return "-";
-        case NativeOp::Multiply: return "*";
-        case NativeOp::Join: return "||";
+        case NativeOp::Add:
+            return "+";
+        case NativeOp::Subtract:
+            return "-";
+        case NativeOp::Multiply:
+            return "*";
+        case NativeOp::Join:
+            return "||";
     }
     return "+";
 }
@@ -34,13 +44,20 @@ int rankOf(NativeOp op) {
 
 const char* nameOf(AggregateOp op) {
     switch (op) {
-        case AggregateOp::Count: return "COUNT";
-        case AggregateOp::Sum: return "SUM";
-        case AggregateOp::Average: return "AVG";
-        case AggregateOp::Min: return "MIN";
-        case AggregateOp::Max: return "MAX";
-        case AggregateOp::First: return "akarix_first";
-        case AggregateOp::Last: return "akarix_last";
+        case AggregateOp::Count:
+            return "COUNT";
+        case AggregateOp::Sum:
+            return "SUM";
+        case AggregateOp::Average:
+            return "AVG";
+        case AggregateOp::Min:
+            return "MIN";
+        case AggregateOp::Max:
+            return "MAX";
+        case AggregateOp::First:
+            return "akarix_first";
+        case AggregateOp::Last:
+            return "akarix_last";
     }
     return "COUNT";
 }
@@ -52,23 +69,29 @@ struct Wrapping {
 
 Wrapping wrappingOf(Conversion conversion) {
     switch (conversion) {
-        case Conversion::WholeToCurrency: return {"(", "*10000)"};
-        case Conversion::RealToScaled: return {"(", "*10000.0)"};
-        case Conversion::WholeToReal: return {"CAST(", " AS REAL)"};
-        case Conversion::CurrencyToReal: return {"(", "/10000.0)"};
-        case Conversion::WholeToText: return {"CAST(", " AS TEXT)"};
-        case Conversion::NumberToBoolean: return {"(-(", "<>0))"};
+        case Conversion::WholeToCurrency:
+            return {"(", "*10000)"};
+        case Conversion::RealToScaled:
+            return {"(", "*10000.0)"};
+        case Conversion::WholeToReal:
+            return {"CAST(", " AS REAL)"};
+        case Conversion::CurrencyToReal:
+            return {"(", "/10000.0)"};
+        case Conversion::WholeToText:
+            return {"CAST(", " AS TEXT)"};
+        case Conversion::NumberToBoolean:
+            return {"(-(", "<>0))"};
     }
     return {"(", ")"};
 }
 
 /// Truth values of the engine, 1 and 0, unlike those of the dialect, -1 and 0.
 template <class Node>
-constexpr bool isTest =
-    std::is_same_v<Node, BoundBoolean> || std::is_same_v<Node, BoundNot> || std::is_same_v<Node, BoundLogic> ||
-    std::is_same_v<Node, BoundComparison> || std::is_same_v<Node, BoundIsNull> || std::is_same_v<Node, BoundLike> ||
-    std::is_same_v<Node, BoundBetween> || std::is_same_v<Node, BoundInList> || std::is_same_v<Node, BoundInQuery> ||
-    std::is_same_v<Node, BoundExists>;
+constexpr bool isTest = std::is_same_v<Node, BoundBoolean> || std::is_same_v<Node, BoundNot> ||
+                        std::is_same_v<Node, BoundLogic> || std::is_same_v<Node, BoundComparison> ||
+                        std::is_same_v<Node, BoundIsNull> || std::is_same_v<Node, BoundLike> ||
+                        std::is_same_v<Node, BoundBetween> || std::is_same_v<Node, BoundInList> ||
+                        std::is_same_v<Node, BoundInQuery> || std::is_same_v<Node, BoundExists>;
 
 }  // namespace
 
@@ -127,7 +150,8 @@ void Writer::node(const BoundLiteral& n) {
     }
     const Slot slot{n.lifted, n.negated, n.use};
     std::size_t place = 0;
-    while (place < parameters_.size() && !(parameters_[place] == slot)) ++place;
+    while (place < parameters_.size() && !(parameters_[place] == slot))
+        ++place;
     if (place == parameters_.size()) parameters_.push_back(slot);
     out_ += '?' + QByteArray::number(static_cast<qulonglong>(place + 1));
 }
@@ -215,7 +239,8 @@ void Writer::node(const BoundAggregate& n) {
         }
         if (n.op == AggregateOp::First || n.op == AggregateOp::Last) {
             // The engine feeds groups in no settled order: the row's place comes along.
-            for (const OrderTerm& term : naturalOrder(*aggregated_)) out_ += ',' + term.text;
+            for (const OrderTerm& term : naturalOrder(*aggregated_))
+                out_ += ',' + term.text;
         }
     }
     out_ += ')';

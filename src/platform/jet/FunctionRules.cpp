@@ -47,10 +47,18 @@ BoundPtr bindPlain(const PlainRule& rule, const Arguments& given) {
     Arguments arguments;
     for (std::size_t i = 0; i < given.size(); ++i) {
         switch (rule.arguments[i]) {
-            case 'T': arguments.push_back(toText(given[i])); break;
-            case 'W': arguments.push_back(toWhole(given[i])); break;
-            case 'R': arguments.push_back(toReal(given[i])); break;
-            default: arguments.push_back(toDate(given[i])); break;
+            case 'T':
+                arguments.push_back(toText(given[i]));
+                break;
+            case 'W':
+                arguments.push_back(toWhole(given[i]));
+                break;
+            case 'R':
+                arguments.push_back(toReal(given[i]));
+                break;
+            default:
+                arguments.push_back(toDate(given[i]));
+                break;
         }
     }
     return called(rule.function, std::move(arguments), rule.result);
@@ -124,7 +132,8 @@ BoundPtr bindFix(const Arguments& a) {
 }
 
 BoundPtr bindRound(const Arguments& a) {
-    return bindCutting({a[0], a.size() > 1 ? toWhole(a[1]) : makeWhole(0)}, "akarix_round_currency", "akarix_round");
+    return bindCutting({a[0], a.size() > 1 ? toWhole(a[1]) : makeWhole(0)}, "akarix_round_currency",
+                       "akarix_round");
 }
 
 BoundPtr bindAbs(const Arguments& a) {
@@ -149,10 +158,14 @@ BoundPtr bindFormat(const Arguments& a) {
     const BoundPtr mask = a.size() > 1 ? toText(a[1]) : nullptr;
     if (!mask) return toText(a[0]);
     switch (a[0]->kind) {
-        case Kind::Currency: return called("akarix_format_currency", {a[0], mask}, Kind::Text);
-        case Kind::Date: return called("akarix_format_date", {a[0], mask}, Kind::Text);
-        case Kind::Text: return called("akarix_format_text", {a[0], mask}, Kind::Text);
-        default: return called("akarix_format_real", {toReal(a[0]), mask}, Kind::Text);
+        case Kind::Currency:
+            return called("akarix_format_currency", {a[0], mask}, Kind::Text);
+        case Kind::Date:
+            return called("akarix_format_date", {a[0], mask}, Kind::Text);
+        case Kind::Text:
+            return called("akarix_format_text", {a[0], mask}, Kind::Text);
+        default:
+            return called("akarix_format_real", {toReal(a[0]), mask}, Kind::Text);
     }
 }
 
@@ -165,14 +178,14 @@ struct SpecialRule {
 };
 
 const std::array kSpecialRules = {
-    SpecialRule{u"CDATE", 1, 1, bindCDate},   SpecialRule{u"CINT", 1, 1, bindCInt},
-    SpecialRule{u"CLNG", 1, 1, bindCLng},     SpecialRule{u"CCUR", 1, 1, bindCCur},
-    SpecialRule{u"CDBL", 1, 1, bindCDbl},     SpecialRule{u"CSTR", 1, 1, bindCStr},
-    SpecialRule{u"IIF", 3, 3, bindIIf},       SpecialRule{u"ISNULL", 1, 1, bindIsNull},
-    SpecialRule{u"NZ", 1, 2, bindNz},         SpecialRule{u"INT", 1, 1, bindInt},
-    SpecialRule{u"FIX", 1, 1, bindFix},       SpecialRule{u"ROUND", 1, 2, bindRound},
-    SpecialRule{u"ABS", 1, 1, bindAbs},       SpecialRule{u"MID", 2, 3, bindMid},
-    SpecialRule{u"INSTR", 2, 3, bindInStr},   SpecialRule{u"FORMAT", 1, 2, bindFormat},
+    SpecialRule{u"CDATE", 1, 1, bindCDate}, SpecialRule{u"CINT", 1, 1, bindCInt},
+    SpecialRule{u"CLNG", 1, 1, bindCLng},   SpecialRule{u"CCUR", 1, 1, bindCCur},
+    SpecialRule{u"CDBL", 1, 1, bindCDbl},   SpecialRule{u"CSTR", 1, 1, bindCStr},
+    SpecialRule{u"IIF", 3, 3, bindIIf},     SpecialRule{u"ISNULL", 1, 1, bindIsNull},
+    SpecialRule{u"NZ", 1, 2, bindNz},       SpecialRule{u"INT", 1, 1, bindInt},
+    SpecialRule{u"FIX", 1, 1, bindFix},     SpecialRule{u"ROUND", 1, 2, bindRound},
+    SpecialRule{u"ABS", 1, 1, bindAbs},     SpecialRule{u"MID", 2, 3, bindMid},
+    SpecialRule{u"INSTR", 2, 3, bindInStr}, SpecialRule{u"FORMAT", 1, 2, bindFormat},
 };
 
 struct AggregateName {
@@ -193,7 +206,8 @@ auto ruleNamed(const Rules& rules, const QString& name) {
                         [&](const auto& rule) { return name.compare(rule.name, Qt::CaseInsensitive) == 0; });
 }
 
-void checkCount(const QString& name, std::size_t given, std::size_t fewest, std::size_t most, qsizetype position) {
+void checkCount(const QString& name, std::size_t given, std::size_t fewest, std::size_t most,
+                qsizetype position) {
     if (given >= fewest && given <= most) return;
     throw dialectError(3075, QStringLiteral("クエリ式 '%1' で関数の引数の数が一致しません。(%2 文字目)")
                                  .arg(name)

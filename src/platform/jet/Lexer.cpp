@@ -12,11 +12,11 @@ namespace {
 
 // In the order of the enumeration, which is that of the alphabet: the search is binary.
 constexpr std::array<std::u16string_view, 40> kKeywords = {
-    u"",      u"ALL",    u"AND",    u"AS",       u"ASC",         u"BETWEEN", u"BY",     u"DELETE",
-    u"DESC",  u"DISTINCT", u"DISTINCTROW", u"EXISTS", u"FALSE",  u"FROM",    u"GROUP",  u"HAVING",
-    u"IN",    u"INNER",  u"INSERT", u"INTO",     u"IS",          u"JOIN",    u"LEFT",   u"LIKE",
-    u"MOD",   u"NOT",    u"NULL",   u"ON",       u"OR",          u"ORDER",   u"OUTER",  u"RIGHT",
-    u"SELECT", u"SET",   u"TRUE",   u"UNION",    u"UPDATE",      u"VALUES",  u"WHERE",  u"XOR",
+    u"",       u"ALL",      u"AND",         u"AS",     u"ASC",    u"BETWEEN", u"BY",    u"DELETE",
+    u"DESC",   u"DISTINCT", u"DISTINCTROW", u"EXISTS", u"FALSE",  u"FROM",    u"GROUP", u"HAVING",
+    u"IN",     u"INNER",    u"INSERT",      u"INTO",   u"IS",     u"JOIN",    u"LEFT",  u"LIKE",
+    u"MOD",    u"NOT",      u"NULL",        u"ON",     u"OR",     u"ORDER",   u"OUTER", u"RIGHT",
+    u"SELECT", u"SET",      u"TRUE",        u"UNION",  u"UPDATE", u"VALUES",  u"WHERE", u"XOR",
 };
 static_assert(static_cast<std::size_t>(Keyword::Xor) + 1 == kKeywords.size());
 
@@ -56,7 +56,8 @@ Literal readNumber(QStringView text) {
     if (!exponent && point < 0 && whole.size() <= 18) {
         return {Literal::Kind::Integer, static_cast<std::int64_t>(whole.toLongLong())};
     }
-    while (fraction.endsWith(u'0')) fraction.chop(1);
+    while (fraction.endsWith(u'0'))
+        fraction.chop(1);
     if (!exponent && fraction.size() <= 4 && whole.size() <= 14) {
         const QString digits = whole.toString() + fraction.toString().leftJustified(4, u'0');
         return {Literal::Kind::Decimal, static_cast<std::int64_t>(digits.toLongLong())};
@@ -81,7 +82,8 @@ class Lexer {
     QChar at(qsizetype i) const { return i < sql_.size() ? sql_[i] : QChar(); }
 
     Token next() {
-        while (place_ < sql_.size() && sql_[place_].isSpace()) ++place_;
+        while (place_ < sql_.size() && sql_[place_].isSpace())
+            ++place_;
         Token token;
         token.position = place_;
         if (place_ >= sql_.size()) return token;
@@ -104,7 +106,8 @@ class Lexer {
 
     void readWord(Token& token) {
         const qsizetype from = place_;
-        while (place_ < sql_.size() && isNamePart(sql_[place_])) ++place_;
+        while (place_ < sql_.size() && isNamePart(sql_[place_]))
+            ++place_;
         token.type = Token::Type::Word;
         token.text = sql_.sliced(from, place_ - from);
         token.keyword = keywordOf(token.text);
@@ -112,15 +115,18 @@ class Lexer {
 
     void readNumeral(Token& token) {
         const qsizetype from = place_;
-        while (isDigit(at(place_))) ++place_;
+        while (isDigit(at(place_)))
+            ++place_;
         if (at(place_) == u'.') ++place_;
-        while (isDigit(at(place_))) ++place_;
+        while (isDigit(at(place_)))
+            ++place_;
         if (at(place_).toUpper() == u'E') {
             qsizetype ahead = place_ + 1;
             if (at(ahead) == u'+' || at(ahead) == u'-') ++ahead;
             if (isDigit(at(ahead))) {
                 place_ = ahead;
-                while (isDigit(at(place_))) ++place_;
+                while (isDigit(at(place_)))
+                    ++place_;
             }
         }
         token.type = Token::Type::Literal;
@@ -150,7 +156,8 @@ class Lexer {
 
     void readDate(Token& token) {
         const qsizetype end = sql_.indexOf(u'#', place_ + 1);
-        const auto serial = end < 0 ? std::nullopt : parseDateLiteral(sql_.sliced(place_ + 1, end - place_ - 1));
+        const auto serial =
+            end < 0 ? std::nullopt : parseDateLiteral(sql_.sliced(place_ + 1, end - place_ - 1));
         if (!serial) throw syntaxError(sql_, QStringLiteral("日付が正しくありません。"), token.position);
         token.type = Token::Type::Literal;
         token.text = sql_.sliced(place_ + 1, end - place_ - 1);
@@ -160,7 +167,8 @@ class Lexer {
 
     void readBracketed(Token& token) {
         const qsizetype end = sql_.indexOf(u']', place_);
-        if (end <= place_ + 1) throw syntaxError(sql_, QStringLiteral("角かっこの名前が正しくありません。"), place_);
+        if (end <= place_ + 1)
+            throw syntaxError(sql_, QStringLiteral("角かっこの名前が正しくありません。"), place_);
         token.type = Token::Type::Bracketed;
         token.text = sql_.sliced(place_ + 1, end - place_ - 1);
         place_ = end + 1;

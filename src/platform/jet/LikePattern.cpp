@@ -32,8 +32,10 @@ bool listHolds(QStringView list, QChar c) {
 
 Element elementAt(QStringView pattern, QChar c) {
     switch (pattern.front().unicode()) {
-        case u'?': return {1, true};
-        case u'#': return {1, c >= u'0' && c <= u'9'};
+        case u'?':
+            return {1, true};
+        case u'#':
+            return {1, c >= u'0' && c <= u'9'};
         case u'[': {
             // A bracket right behind the opening one (or behind its "!") ends an empty list.
             const qsizetype end = pattern.indexOf(u']');
@@ -43,7 +45,8 @@ Element elementAt(QStringView pattern, QChar c) {
             if (others) list = list.sliced(1);
             return {end + 1, listHolds(list, c) != others};
         }
-        default: return {1, folded(pattern.front()) == folded(c)};
+        default:
+            return {1, folded(pattern.front()) == folded(c)};
     }
 }
 

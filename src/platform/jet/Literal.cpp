@@ -32,11 +32,16 @@ StoreValue scaled(std::int64_t whole) {
 
 StoreValue textOf(const Literal& literal, const StoreValue& value) {
     switch (literal.kind) {
-        case Literal::Kind::Integer: return QString::number(std::get<std::int64_t>(value));
-        case Literal::Kind::Decimal: return Currency::FromScaled(std::get<std::int64_t>(value)).ToText();
-        case Literal::Kind::Real: return CStr(std::get<double>(value));
-        case Literal::Kind::Date: return CStr(Date(std::get<double>(value)));
-        case Literal::Kind::Text: break;
+        case Literal::Kind::Integer:
+            return QString::number(std::get<std::int64_t>(value));
+        case Literal::Kind::Decimal:
+            return Currency::FromScaled(std::get<std::int64_t>(value)).ToText();
+        case Literal::Kind::Real:
+            return CStr(std::get<double>(value));
+        case Literal::Kind::Date:
+            return CStr(Date(std::get<double>(value)));
+        case Literal::Kind::Text:
+            break;
     }
     return value;
 }
@@ -56,14 +61,18 @@ StoreValue textAs(const QString& text, LiteralUse use) {
             return converted(text, [](const Variant& v) -> StoreValue { return CCur(v).Scaled(); });
         case LiteralUse::IntegerStored:
             return converted(text, [](const Variant& v) { return wholeFromReal(CDbl(v)); });
-        case LiteralUse::Real: return converted(text, [](const Variant& v) -> StoreValue { return CDbl(v); });
+        case LiteralUse::Real:
+            return converted(text, [](const Variant& v) -> StoreValue { return CDbl(v); });
         case LiteralUse::DateStored:
             return converted(text, [](const Variant& v) -> StoreValue { return CDate(v).Serial(); });
-        case LiteralUse::DateAsked: return CDate(Variant(text)).Serial();
+        case LiteralUse::DateAsked:
+            return CDate(Variant(text)).Serial();
         case LiteralUse::BooleanStored:
-            return converted(text, [](const Variant& v) -> StoreValue { return std::int64_t{CDbl(v) != 0 ? -1 : 0}; });
+            return converted(
+                text, [](const Variant& v) -> StoreValue { return std::int64_t{CDbl(v) != 0 ? -1 : 0}; });
         case LiteralUse::Natural:
-        case LiteralUse::TextStored: break;
+        case LiteralUse::TextStored:
+            break;
     }
     return text;
 }
@@ -85,11 +94,14 @@ StoreValue numberAs(const Literal& literal, const StoreValue& value, LiteralUse 
             if (whole && !decimal) return value;
             if (whole) return wholeFromCurrency(*whole);
             return wholeFromReal(std::get<double>(value));
-        case LiteralUse::BooleanStored: return std::int64_t{realOf(literal, value) != 0 ? -1 : 0};
-        case LiteralUse::TextStored: return textOf(literal, value);
+        case LiteralUse::BooleanStored:
+            return std::int64_t{realOf(literal, value) != 0 ? -1 : 0};
+        case LiteralUse::TextStored:
+            return textOf(literal, value);
         case LiteralUse::Real:
         case LiteralUse::DateStored:
-        case LiteralUse::DateAsked: break;
+        case LiteralUse::DateAsked:
+            break;
     }
     return realOf(literal, value);
 }

@@ -9,7 +9,8 @@ constexpr char16_t kBetween = 0x1f;
 constexpr char16_t kLifted = 0x1e;
 
 bool hasFrom(const std::vector<Token>& tokens) {
-    return std::any_of(tokens.begin(), tokens.end(), [](const Token& token) { return token.keyword == Keyword::From; });
+    return std::any_of(tokens.begin(), tokens.end(),
+                       [](const Token& token) { return token.keyword == Keyword::From; });
 }
 
 /// Whether the literals behind a word are lifted; the words that say nothing about it leave it as it was.
@@ -19,21 +20,29 @@ bool liftsBehind(Keyword keyword, bool before) {
         case Keyword::Where:
         case Keyword::On:
         case Keyword::Set:
-        case Keyword::Values: return true;
+        case Keyword::Values:
+            return true;
         case Keyword::Select:
         case Keyword::Group:
         case Keyword::Having:
         case Keyword::Order:
-        case Keyword::Union: return false;
-        default: return before;
+        case Keyword::Union:
+            return false;
+        default:
+            return before;
     }
 }
 
 void appendToken(QString& key, const Token& token) {
     switch (token.type) {
-        case Token::Type::Bracketed: key += u'['; break;
-        case Token::Type::Literal: key += QChar(static_cast<char16_t>(u'0' + static_cast<int>(token.literal.kind))); break;
-        default: break;
+        case Token::Type::Bracketed:
+            key += u'[';
+            break;
+        case Token::Type::Literal:
+            key += QChar(static_cast<char16_t>(u'0' + static_cast<int>(token.literal.kind)));
+            break;
+        default:
+            break;
     }
     key += token.text;
     key += QChar(kBetween);
@@ -45,7 +54,8 @@ LiftedStatement liftLiterals(std::vector<Token>& tokens) {
     LiftedStatement lifted;
     const Keyword first = tokens.front().keyword;
     const bool query = first == Keyword::Select || tokens.front().type == Token::Type::Symbol;
-    if (!query && first != Keyword::Insert && first != Keyword::Update && first != Keyword::Delete) return lifted;
+    if (!query && first != Keyword::Insert && first != Keyword::Update && first != Keyword::Delete)
+        return lifted;
     const bool values = first == Keyword::Insert && !hasFrom(tokens);
     std::vector<bool> levels{!query};
     for (std::size_t i = 0; i < tokens.size(); ++i) {

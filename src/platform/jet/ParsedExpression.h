@@ -108,10 +108,10 @@ struct ParsedCall {
     bool star = false;  ///< Count(*)
 };
 
-using ParsedNode = std::variant<ParsedName, ParsedLiteral, ParsedNull, ParsedBoolean, ParsedNegation, ParsedNot,
-                                ParsedArithmetic, ParsedComparison, ParsedLogic, ParsedIsNull, ParsedLike,
-                                ParsedBetween, ParsedInList, ParsedInQuery, ParsedExists, ParsedScalarQuery,
-                                ParsedCall>;
+using ParsedNode =
+    std::variant<ParsedName, ParsedLiteral, ParsedNull, ParsedBoolean, ParsedNegation, ParsedNot,
+                 ParsedArithmetic, ParsedComparison, ParsedLogic, ParsedIsNull, ParsedLike, ParsedBetween,
+                 ParsedInList, ParsedInQuery, ParsedExists, ParsedScalarQuery, ParsedCall>;
 
 struct ParsedExpression {
     ParsedExpression(ParsedNode content, qsizetype place);

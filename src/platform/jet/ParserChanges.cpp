@@ -7,7 +7,8 @@ namespace {
 bool isValuesOnly(const ParsedQuery& query) {
     if (query.members.size() != 1 || !query.order.empty()) return false;
     const ParsedSelect& select = query.members.front();
-    if (!select.sources.empty() || select.where || !select.groups.empty() || select.having || select.top) return false;
+    if (!select.sources.empty() || select.where || !select.groups.empty() || select.having || select.top)
+        return false;
     for (const ParsedItem& item : select.items) {
         if (!item.expression) return false;
     }
@@ -33,10 +34,12 @@ ParsedStatement Parser::insert() {
         in_.expect(u")");
         return read;
     }
-    if (!in_.at(Keyword::Select) && !in_.at(u"(")) in_.fail(QStringLiteral("VALUES か SELECT がありません。"));
+    if (!in_.at(Keyword::Select) && !in_.at(u"("))
+        in_.fail(QStringLiteral("VALUES か SELECT がありません。"));
     read.query = query();
     if (isValuesOnly(*read.query)) {
-        for (ParsedItem& item : read.query->members.front().items) read.values.push_back(std::move(item.expression));
+        for (ParsedItem& item : read.query->members.front().items)
+            read.values.push_back(std::move(item.expression));
         read.query.reset();
     }
     return read;

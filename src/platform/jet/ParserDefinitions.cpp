@@ -16,15 +16,15 @@ struct TypeName {
 
 // "Integer" is the 16-bit kind of the catalogue, as everywhere in the system.
 const std::array<TypeName, 29> kTypeNames = {{
-    {u"LONG", FieldType::Long},         {u"INTEGER4", FieldType::Long},    {u"INTEGER", FieldType::Integer},
-    {u"INT", FieldType::Integer},       {u"SHORT", FieldType::Integer},    {u"SMALLINT", FieldType::Integer},
-    {u"INTEGER2", FieldType::Integer},  {u"BYTE", FieldType::Byte},        {u"INTEGER1", FieldType::Byte},
-    {u"CURRENCY", FieldType::Currency}, {u"MONEY", FieldType::Currency},   {u"TEXT", FieldType::Text},
-    {u"CHAR", FieldType::Text},         {u"VARCHAR", FieldType::Text},     {u"STRING", FieldType::Text},
-    {u"MEMO", FieldType::Memo},         {u"LONGTEXT", FieldType::Memo},    {u"DATETIME", FieldType::Date},
-    {u"DATE", FieldType::Date},         {u"TIME", FieldType::Date},        {u"DOUBLE", FieldType::Double},
-    {u"FLOAT", FieldType::Double},      {u"NUMBER", FieldType::Double},    {u"SINGLE", FieldType::Single},
-    {u"REAL", FieldType::Single},       {u"YESNO", FieldType::Boolean},    {u"BOOLEAN", FieldType::Boolean},
+    {u"LONG", FieldType::Long},         {u"INTEGER4", FieldType::Long},   {u"INTEGER", FieldType::Integer},
+    {u"INT", FieldType::Integer},       {u"SHORT", FieldType::Integer},   {u"SMALLINT", FieldType::Integer},
+    {u"INTEGER2", FieldType::Integer},  {u"BYTE", FieldType::Byte},       {u"INTEGER1", FieldType::Byte},
+    {u"CURRENCY", FieldType::Currency}, {u"MONEY", FieldType::Currency},  {u"TEXT", FieldType::Text},
+    {u"CHAR", FieldType::Text},         {u"VARCHAR", FieldType::Text},    {u"STRING", FieldType::Text},
+    {u"MEMO", FieldType::Memo},         {u"LONGTEXT", FieldType::Memo},   {u"DATETIME", FieldType::Date},
+    {u"DATE", FieldType::Date},         {u"TIME", FieldType::Date},       {u"DOUBLE", FieldType::Double},
+    {u"FLOAT", FieldType::Double},      {u"NUMBER", FieldType::Double},   {u"SINGLE", FieldType::Single},
+    {u"REAL", FieldType::Single},       {u"YESNO", FieldType::Boolean},   {u"BOOLEAN", FieldType::Boolean},
     {u"BIT", FieldType::Boolean},       {u"LOGICAL", FieldType::Boolean},
 }};
 
@@ -64,7 +64,8 @@ Plan Parser::createTable() {
     for (const QStringList& key : plan.table.uniqueKeys) {
         for (const QString& column : key) {
             if (plan.table.indexOf(column) < 0) {
-                throw dialectError(3409, QStringLiteral("フィールド '%1' はテーブルにありません。").arg(column));
+                throw dialectError(3409,
+                                   QStringLiteral("フィールド '%1' はテーブルにありません。").arg(column));
             }
         }
     }
@@ -95,7 +96,8 @@ ColumnDef Parser::columnDefinition() {
     if (column.type == FieldType::Text && in_.accept(u"(")) {
         const Literal& size = in_.peek().literal;
         const auto* characters = std::get_if<std::int64_t>(&size.value);
-        if (size.kind != Literal::Kind::Integer || !characters || *characters < 1 || *characters > kWidestText) {
+        if (size.kind != Literal::Kind::Integer || !characters || *characters < 1 ||
+            *characters > kWidestText) {
             in_.fail(QStringLiteral("フィールドのサイズが正しくありません。"));
         }
         column.size = static_cast<int>(*characters);
@@ -173,7 +175,8 @@ ParsedStatement Parser::alter() {
 }
 
 ParsedStatement Parser::drop() {
-    if (in_.acceptWord(u"TABLE")) return ParsedDefinition{definition(Plan::Definition::DropTable, in_.takeName())};
+    if (in_.acceptWord(u"TABLE"))
+        return ParsedDefinition{definition(Plan::Definition::DropTable, in_.takeName())};
     in_.expectWord(u"INDEX");
     const QString name = in_.takeName();
     in_.expect(Keyword::On, u"ON");

@@ -17,7 +17,8 @@ int depthOf(const ParsedPtr& a, const ParsedPtr& b) {
 
 int depthOf(const std::vector<ParsedPtr>& all) {
     int most = 0;
-    for (const ParsedPtr& one : all) most = std::max(most, one->depth);
+    for (const ParsedPtr& one : all)
+        most = std::max(most, one->depth);
     return most + 1;
 }
 
@@ -87,8 +88,8 @@ ParsedPtr Parser::comparison() {
             ParsedPtr right = joined();
             const int depth = depthOf(left, right);
             left = make(ParsedComparison{symbol->op, std::move(left), std::move(right)}, position, depth);
-        } else if (in_.at(Keyword::Is) || in_.at(Keyword::Like) || in_.at(Keyword::Between) || in_.at(Keyword::In) ||
-                   in_.at(Keyword::Not)) {
+        } else if (in_.at(Keyword::Is) || in_.at(Keyword::Like) || in_.at(Keyword::Between) ||
+                   in_.at(Keyword::In) || in_.at(Keyword::Not)) {
             left = predicate(std::move(left));
         } else {
             return left;
@@ -129,7 +130,8 @@ ParsedPtr Parser::between(ParsedPtr operand, bool negatedForm) {
     ParsedPtr high = joined();
     const qsizetype position = operand->position;
     const int depth = std::max(depthOf(operand, low), depthOf(high));
-    return make(ParsedBetween{std::move(operand), std::move(low), std::move(high), negatedForm}, position, depth);
+    return make(ParsedBetween{std::move(operand), std::move(low), std::move(high), negatedForm}, position,
+                depth);
 }
 
 ParsedPtr Parser::in(ParsedPtr operand, bool negatedForm) {
@@ -162,7 +164,8 @@ ParsedPtr Parser::joined() {
     while (in_.accept(u"&")) {
         ParsedPtr right = sum();
         const int depth = depthOf(left, right);
-        left = make(ParsedArithmetic{ArithmeticOp::Concat, std::move(left), std::move(right)}, position, depth);
+        left =
+            make(ParsedArithmetic{ArithmeticOp::Concat, std::move(left), std::move(right)}, position, depth);
     }
     return left;
 }
@@ -185,7 +188,8 @@ ParsedPtr Parser::modulo() {
     while (in_.accept(Keyword::Mod)) {
         ParsedPtr right = wholeQuotient();
         const int depth = depthOf(left, right);
-        left = make(ParsedArithmetic{ArithmeticOp::Modulo, std::move(left), std::move(right)}, position, depth);
+        left =
+            make(ParsedArithmetic{ArithmeticOp::Modulo, std::move(left), std::move(right)}, position, depth);
     }
     return left;
 }
@@ -196,7 +200,8 @@ ParsedPtr Parser::wholeQuotient() {
     while (in_.accept(u"\\")) {
         ParsedPtr right = product();
         const int depth = depthOf(left, right);
-        left = make(ParsedArithmetic{ArithmeticOp::IntegerDivide, std::move(left), std::move(right)}, position, depth);
+        left = make(ParsedArithmetic{ArithmeticOp::IntegerDivide, std::move(left), std::move(right)},
+                    position, depth);
     }
     return left;
 }
@@ -237,7 +242,8 @@ ParsedPtr Parser::power() {
         // A sign behind "^" belongs to the exponent: 2^-1.
         ParsedPtr right = in_.at(u"-") || in_.at(u"+") ? signedValue() : primary();
         const int depth = depthOf(left, right);
-        left = make(ParsedArithmetic{ArithmeticOp::Power, std::move(left), std::move(right)}, position, depth);
+        left =
+            make(ParsedArithmetic{ArithmeticOp::Power, std::move(left), std::move(right)}, position, depth);
     }
     return left;
 }
@@ -257,7 +263,8 @@ ParsedPtr Parser::primary() {
             in_.expect(u")");
             return make(ParsedExists{std::move(inner)}, token.position, 1);
         }
-        if (token.keyword == Keyword::None || token.keyword == Keyword::Left || token.keyword == Keyword::Right) {
+        if (token.keyword == Keyword::None || token.keyword == Keyword::Left ||
+            token.keyword == Keyword::Right) {
             return call();
         }
     }

@@ -76,7 +76,8 @@ ParsedItem Parser::item() {
     ParsedItem read;
     read.position = in_.position();
     if (in_.accept(u"*")) return read;
-    if (in_.atName() && TokenStream::isSymbol(in_.peek(1), u".") && TokenStream::isSymbol(in_.peek(2), u"*")) {
+    if (in_.atName() && TokenStream::isSymbol(in_.peek(1), u".") &&
+        TokenStream::isSymbol(in_.peek(2), u"*")) {
         read.starTable = in_.takeName();
         in_.take();
         in_.take();

@@ -57,7 +57,8 @@ std::shared_ptr<const TableDef> definitionOf(const BoundQuery& query, const QStr
 }  // namespace
 
 ExpressionBinder QueryBinder::expressions(const Scope& scope) {
-    return ExpressionBinder(scope, [this](const ParsedQuery& parsed, const Scope& outer) { return bind(parsed, &outer); });
+    return ExpressionBinder(
+        scope, [this](const ParsedQuery& parsed, const Scope& outer) { return bind(parsed, &outer); });
 }
 
 const TableDef* QueryBinder::tableNamed(const QString& name) const {
@@ -80,7 +81,8 @@ std::shared_ptr<BoundQuery> QueryBinder::bind(const ParsedQuery& parsed, const S
         Kind kind = Kind::Null;
         for (const BoundSelect& member : query->members) {
             if (member.items.size() != first.size()) {
-                throw dialectError(3307, QStringLiteral("ユニオン クエリの各クエリの列数が一致していません。"));
+                throw dialectError(3307,
+                                   QStringLiteral("ユニオン クエリの各クエリの列数が一致していません。"));
             }
             kind = commonKind(kind, member.items[i].expression->kind);
         }
@@ -118,7 +120,8 @@ BoundSelect QueryBinder::bindSelect(const ParsedSelect& parsed, const std::vecto
     select.rows = bindRows(parsed.sources, parsed.where.get(), scope);
     bindItems(parsed, select, scope);
     ExpressionBinder plain = expressions(scope);
-    for (const ParsedPtr& group : parsed.groups) select.groups.push_back(plain.bind(*group));
+    for (const ParsedPtr& group : parsed.groups)
+        select.groups.push_back(plain.bind(*group));
     if (parsed.having) {
         ExpressionBinder aggregating = expressions(scope);
         aggregating.allowAggregates();
@@ -133,13 +136,16 @@ BoundSelect QueryBinder::bindSelect(const ParsedSelect& parsed, const std::vecto
 BoundRows QueryBinder::bindRows(const std::vector<ParsedSource>& sources, const ParsedExpression* where,
                                 Scope& scope) {
     BoundRows rows;
-    for (const ParsedSource& source : sources) rows.sources.push_back(bindSource(source, rows, scope, false));
+    for (const ParsedSource& source : sources)
+        rows.sources.push_back(bindSource(source, rows, scope, false));
     if (where) rows.where = expressions(scope).bind(*where);
     return rows;
 }
 
-BoundSource QueryBinder::bindSource(const ParsedSource& parsed, BoundRows& rows, Scope& scope, bool enclosed) {
-    if (const auto* join = std::get_if<ParsedJoin>(&parsed.node)) return bindJoin(*join, rows, scope, enclosed);
+BoundSource QueryBinder::bindSource(const ParsedSource& parsed, BoundRows& rows, Scope& scope,
+                                    bool enclosed) {
+    if (const auto* join = std::get_if<ParsedJoin>(&parsed.node))
+        return bindJoin(*join, rows, scope, enclosed);
     auto table = std::make_unique<BoundTable>();
     if (const auto* derived = std::get_if<ParsedDerived>(&parsed.node)) {
         table->alias = derived->alias;
@@ -154,7 +160,8 @@ BoundSource QueryBinder::bindSource(const ParsedSource& parsed, BoundRows& rows,
     return addTable(std::move(table), rows, scope, enclosed);
 }
 
-BoundSource QueryBinder::addTable(std::unique_ptr<BoundTable> table, BoundRows& rows, Scope& scope, bool enclosed) {
+BoundSource QueryBinder::addTable(std::unique_ptr<BoundTable> table, BoundRows& rows, Scope& scope,
+                                  bool enclosed) {
     const BoundTable* twin = scope.table(table->alias);
     if (twin) {
         throw dialectError(3012, QStringLiteral("'%1' は FROM 句に既にあります。").arg(table->alias));
@@ -173,10 +180,12 @@ BoundSource QueryBinder::bindJoin(const ParsedJoin& parsed, BoundRows& rows, Sco
     const bool right = parsed.op == JoinOp::Right;
     const bool leftIsJoin = std::holds_alternative<ParsedJoin>(parsed.left->node);
     const bool rightIsJoin = std::holds_alternative<ParsedJoin>(parsed.right->node);
-    auto leftSide = std::make_unique<BoundSource>(bindSource(*parsed.left, rows, scope, enclosed || (right && leftIsJoin)));
-    auto rightSide =
-        std::make_unique<BoundSource>(bindSource(*parsed.right, rows, scope, enclosed || (!right && rightIsJoin)));
-    for (std::size_t i = first; i < rows.tables.size(); ++i) own.add(rows.tables[i].get());
+    auto leftSide = std::make_unique<BoundSource>(
+        bindSource(*parsed.left, rows, scope, enclosed || (right && leftIsJoin)));
+    auto rightSide = std::make_unique<BoundSource>(
+        bindSource(*parsed.right, rows, scope, enclosed || (!right && rightIsJoin)));
+    for (std::size_t i = first; i < rows.tables.size(); ++i)
+        own.add(rows.tables[i].get());
     BoundJoin join{parsed.op != JoinOp::Inner, std::move(leftSide), std::move(rightSide), nullptr};
     join.on = expressions(own).bind(*parsed.on);
     if (right) std::swap(join.left, join.right);
@@ -207,7 +216,8 @@ void QueryBinder::addStar(const ParsedItem& parsed, BoundSelect& select, const S
         if (!table) throw unknownTable(parsed.starTable);
         tables = {table};
     }
-    if (tables.empty()) throw dialectError(3067, QStringLiteral("クエリには少なくとも 1 つのテーブルが必要です。"));
+    if (tables.empty())
+        throw dialectError(3067, QStringLiteral("クエリには少なくとも 1 つのテーブルが必要です。"));
     for (const BoundTable* table : tables) {
         for (std::size_t i = 0; i < table->definition->columns.size(); ++i) {
             select.items.push_back(itemOf(boundColumn(table, static_cast<int>(i))));
@@ -230,11 +240,15 @@ void QueryBinder::bindOrder(const std::vector<ParsedOrder>& parsed, BoundSelect&
             binder.allowResults();
             bound.expression = binder.bind(*term.expression);
         }
-        if (!select.grouped && hasAggregate(*bound.expression)) throw outsideAggregate(bound.expression->text);
-        const auto isSame = [&](const BoundItem& item) { return sameExpression(*item.expression, *bound.expression); };
+        if (!select.grouped && hasAggregate(*bound.expression))
+            throw outsideAggregate(bound.expression->text);
+        const auto isSame = [&](const BoundItem& item) {
+            return sameExpression(*item.expression, *bound.expression);
+        };
         if (select.distinct && std::none_of(select.items.begin(), select.items.end(), isSame)) {
-            throw dialectError(3093, QStringLiteral("ORDER BY 句 (%1) は DISTINCT と矛盾しています。")
-                                         .arg(term.expression->text));
+            throw dialectError(
+                3093,
+                QStringLiteral("ORDER BY 句 (%1) は DISTINCT と矛盾しています。").arg(term.expression->text));
         }
         select.order.push_back(std::move(bound));
     }

@@ -18,7 +18,8 @@ class QueryBinder {
     const TableDef* tableNamed(const QString& name) const;
 
  private:
-    BoundSelect bindSelect(const ParsedSelect& parsed, const std::vector<ParsedOrder>& order, const Scope* outer);
+    BoundSelect bindSelect(const ParsedSelect& parsed, const std::vector<ParsedOrder>& order,
+                           const Scope* outer);
     BoundSource bindSource(const ParsedSource& parsed, BoundRows& rows, Scope& scope, bool enclosed);
     BoundSource bindJoin(const ParsedJoin& parsed, BoundRows& rows, Scope& scope, bool enclosed);
     BoundSource addTable(std::unique_ptr<BoundTable> table, BoundRows& rows, Scope& scope, bool enclosed);

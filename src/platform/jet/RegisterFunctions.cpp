@@ -18,13 +18,16 @@ constexpr char kErrorMark[] = "akarix ";
 
 StoreValue valueOf(sqlite3_value* value) {
     switch (sqlite3_value_type(value)) {
-        case SQLITE_INTEGER: return std::int64_t{sqlite3_value_int64(value)};
-        case SQLITE_FLOAT: return sqlite3_value_double(value);
+        case SQLITE_INTEGER:
+            return std::int64_t{sqlite3_value_int64(value)};
+        case SQLITE_FLOAT:
+            return sqlite3_value_double(value);
         case SQLITE_TEXT: {
             const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(value));
             return QString::fromUtf8(bytes, sqlite3_value_bytes(value));
         }
-        default: return std::monostate();
+        default:
+            return std::monostate();
     }
 }
 
@@ -99,7 +102,8 @@ void keepStep(sqlite3_context* context, int count, sqlite3_value** values) {
     auto** slot = static_cast<Kept**>(sqlite3_aggregate_context(context, sizeof(Kept*)));
     std::vector<StoreValue> place;
     place.reserve(static_cast<std::size_t>(count));
-    for (int i = 1; i < count; ++i) place.push_back(valueOf(values[i]));
+    for (int i = 1; i < count; ++i)
+        place.push_back(valueOf(values[i]));
     if (!*slot) {
         *slot = new Kept;
     } else if (Last ? isBefore(place, (*slot)->place) : !isBefore(place, (*slot)->place)) {
@@ -166,11 +170,12 @@ void RegisterSqlFunctions(sqlite3* connection) {
                                          const_cast<SqlFunction*>(&function), callFunction, nullptr, nullptr,
                                          nullptr));
     }
-    check(sqlite3_create_function_v2(connection, "akarix_first", -1, SQLITE_UTF8, nullptr, nullptr, keepStep<false>,
-                                     keepFinal, nullptr));
-    check(sqlite3_create_function_v2(connection, "akarix_last", -1, SQLITE_UTF8, nullptr, nullptr, keepStep<true>,
-                                     keepFinal, nullptr));
-    check(sqlite3_create_collation_v2(connection, "AKARIX_NOCASE", SQLITE_UTF8, nullptr, compareNoCase, nullptr));
+    check(sqlite3_create_function_v2(connection, "akarix_first", -1, SQLITE_UTF8, nullptr, nullptr,
+                                     keepStep<false>, keepFinal, nullptr));
+    check(sqlite3_create_function_v2(connection, "akarix_last", -1, SQLITE_UTF8, nullptr, nullptr,
+                                     keepStep<true>, keepFinal, nullptr));
+    check(sqlite3_create_collation_v2(connection, "AKARIX_NOCASE", SQLITE_UTF8, nullptr, compareNoCase,
+                                      nullptr));
 
     UErrorCode status = U_ZERO_ERROR;
     UCollator* collator = ucol_open("ja", &status);

@@ -12,7 +12,8 @@ constexpr int kFirstExpression = 1000;
 void nameResults(std::vector<BoundItem>& items) {
     std::map<QString, int> uses;
     for (const BoundItem& item : items) {
-        if (!item.column.column.isEmpty() && item.column.name.isEmpty()) ++uses[item.column.column.toCaseFolded()];
+        if (!item.column.column.isEmpty() && item.column.name.isEmpty())
+            ++uses[item.column.column.toCaseFolded()];
     }
     int number = kFirstExpression;
     for (BoundItem& item : items) {

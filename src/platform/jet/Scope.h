@@ -6,14 +6,16 @@
 
 namespace akarix {
 
-/// The names a piece of a statement can see: the tables of its FROM, the aliases of its select list where they
-/// count, and what stands around it.
+/// The names a piece of a statement can see: the tables of its FROM, the aliases of its select list where
+/// they count, and what stands around it.
 class Scope {
  public:
     explicit Scope(const Scope* outer = nullptr) : outer_(outer) {}
 
     void add(const BoundTable* table) { tables_.push_back(table); }
-    void nameResult(const QString& alias, BoundPtr expression) { results_[alias.toCaseFolded()] = std::move(expression); }
+    void nameResult(const QString& alias, BoundPtr expression) {
+        results_[alias.toCaseFolded()] = std::move(expression);
+    }
 
     /// A stored column; 3079 when several tables have it. Nothing when there is none.
     BoundPtr column(const ParsedName& name, qsizetype position) const;

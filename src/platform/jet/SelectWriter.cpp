@@ -5,26 +5,29 @@
 
 // The order of rows. What ORDER BY asks for comes first; texts go by the Japanese order, then by code points.
 // Ties and queries without ORDER BY: a grouped query goes by its groups, DISTINCT by its columns, all others
-// by the tables' natural order: the key where a table has one and nothing was asked for, else the row numbers,
-// which are the order of insertion.
+// by the tables' natural order: the key where a table has one and nothing was asked for, else the row
+// numbers, which are the order of insertion.
 
 namespace akarix {
 namespace {
 
 bool isConstant(const BoundExpression& expression) {
     return std::holds_alternative<BoundLiteral>(expression.node) ||
-           std::holds_alternative<BoundNull>(expression.node) || std::holds_alternative<BoundBoolean>(expression.node);
+           std::holds_alternative<BoundNull>(expression.node) ||
+           std::holds_alternative<BoundBoolean>(expression.node);
 }
 
 void collectTables(const BoundExpression& expression, std::set<const BoundTable*>& tables) {
     if (const auto* column = std::get_if<BoundColumn>(&expression.node)) tables.insert(column->table);
-    for (const BoundPtr& operand : operandsOf(expression)) collectTables(*operand, tables);
+    for (const BoundPtr& operand : operandsOf(expression))
+        collectTables(*operand, tables);
 }
 
 /// The tables that DISTINCTROW counts rows of: those that give columns, unless all do.
 std::vector<const BoundTable*> contributing(const BoundSelect& select) {
     std::set<const BoundTable*> tables;
-    for (const BoundItem& item : select.items) collectTables(*item.expression, tables);
+    for (const BoundItem& item : select.items)
+        collectTables(*item.expression, tables);
     std::vector<const BoundTable*> some;
     for (const auto& table : select.rows.tables) {
         if (tables.count(table.get()) != 0 && table->rowNumberReachable) some.push_back(table.get());
@@ -76,9 +79,11 @@ void Writer::unionQuery(const BoundQuery& query) {
             terms.push_back({name, "", descending});
         }
     };
-    for (const BoundUnionOrder& term : query.order) add(term.item, term.descending);
+    for (const BoundUnionOrder& term : query.order)
+        add(term.item, term.descending);
     if (distinct || !query.order.empty()) {
-        for (std::size_t i = 0; i < columns; ++i) add(i, false);
+        for (std::size_t i = 0; i < columns; ++i)
+            add(i, false);
     }
     orderBy(terms);
 }
@@ -99,7 +104,8 @@ void Writer::body(const BoundSelect& select, const Shape& shape, const Order* ke
     items(select, shape);
     if (shape.rowNumber) out_ += ',' + nameOf(*select.rows.tables.front()) + "._rowid_ AS r";
     if (keys) {
-        for (std::size_t i = 0; i < keys->terms.size(); ++i) out_ += ',' + keys->terms[i].text + " AS " + numbered('k', i);
+        for (std::size_t i = 0; i < keys->terms.size(); ++i)
+            out_ += ',' + keys->terms[i].text + " AS " + numbered('k', i);
     }
     rows(select.rows);
     groupBy(select);
@@ -110,7 +116,8 @@ void Writer::items(const BoundSelect& select, const Shape& shape) {
         if (i > 0) out_ += ',';
         const BoundExpression& expression = *select.items[i].expression;
         value(expression);
-        if ((select.distinct || shape.foldTexts) && expression.kind == Kind::Text) out_ += " COLLATE AKARIX_NOCASE";
+        if ((select.distinct || shape.foldTexts) && expression.kind == Kind::Text)
+            out_ += " COLLATE AKARIX_NOCASE";
         if (shape.aliased) out_ += " AS " + numbered('c', i);
     }
 }
@@ -198,7 +205,8 @@ Writer::Order Writer::orderOf(const BoundSelect& select) {
             if (!isConstant(*item.expression)) addTerm(order.terms, *item.expression, false);
         }
     } else {
-        const std::vector<OrderTerm> ties = order.asked > 0 ? rowNumbers(select.rows) : naturalOrder(select.rows);
+        const std::vector<OrderTerm> ties =
+            order.asked > 0 ? rowNumbers(select.rows) : naturalOrder(select.rows);
         order.terms.insert(order.terms.end(), ties.begin(), ties.end());
     }
     return order;
@@ -295,11 +303,13 @@ void Writer::topSelect(const BoundSelect& select, const Shape& shape) {
     for (std::size_t i = 0; i < keys.size(); ++i) {
         const QByteArray own = "b." + keys[i].text;
         const QByteArray last = "x." + keys[i].text;
-        const QByteArray collation = *keys[i].collation ? QByteArray(" COLLATE ") + keys[i].collation : QByteArray();
+        const QByteArray collation =
+            *keys[i].collation ? QByteArray(" COLLATE ") + keys[i].collation : QByteArray();
         const bool down = keys[i].descending;
         // Nulls stand before everything else.
-        out_ += '(' + own + (down ? '>' : '<') + last + collation + " OR " + own + (down ? " IS NOT NULL" : " IS NULL") +
-                " AND " + last + (down ? " IS NULL" : " IS NOT NULL") + " OR " + own + " IS " + last + collation;
+        out_ += '(' + own + (down ? '>' : '<') + last + collation + " OR " + own +
+                (down ? " IS NOT NULL" : " IS NULL") + " AND " + last + (down ? " IS NULL" : " IS NOT NULL") +
+                " OR " + own + " IS " + last + collation;
         if (i + 1 < keys.size()) out_ += " AND ";
     }
     out_ += QByteArray(static_cast<qsizetype>(keys.size()), ')');

@@ -81,7 +81,8 @@ double roundedTo(double value, std::int64_t decimals) {
 std::int64_t roundedMoney(std::int64_t scaled, std::int64_t decimals) {
     if (decimals < 0) throw RuntimeError(kBadArgument);
     std::int64_t unit = Currency::kScale;
-    for (std::int64_t i = 0; i < decimals && unit > 1; ++i) unit /= 10;
+    for (std::int64_t i = 0; i < decimals && unit > 1; ++i)
+        unit /= 10;
     const std::int64_t rest = scaled % unit;
     std::int64_t kept = scaled / unit;
     const std::int64_t twice = std::abs(rest) * 2;
@@ -146,12 +147,14 @@ StoreValue sign(const StoreValue* a) {
 
 QString trimmedLeft(const QString& value) {
     qsizetype from = 0;
-    while (from < value.size() && value[from] == u' ') ++from;
+    while (from < value.size() && value[from] == u' ')
+        ++from;
     return value.sliced(from);
 }
 
 QString trimmedRight(QString value) {
-    while (value.endsWith(u' ')) value.chop(1);
+    while (value.endsWith(u' '))
+        value.chop(1);
     return value;
 }
 
@@ -162,7 +165,8 @@ const std::array kFunctions = {
     SqlFunction{"akarix_mul_currency", 2, false, true,
                 [](Values a) -> StoreValue { return (money(a[0]) * money(a[1])).Scaled(); }},
     SqlFunction{"akarix_average_currency", 2, false, true, averageMoney},
-    SqlFunction{"akarix_currency_text", 1, false, true, [](Values a) -> StoreValue { return money(a[0]).ToText(); }},
+    SqlFunction{"akarix_currency_text", 1, false, true,
+                [](Values a) -> StoreValue { return money(a[0]).ToText(); }},
     SqlFunction{"akarix_whole_from_currency", 1, false, true,
                 [](Values a) -> StoreValue { return wholeFromCurrency(whole(a[0])); }},
     SqlFunction{"akarix_currency_from_real", 1, false, true,
@@ -196,30 +200,39 @@ const std::array kFunctions = {
     SqlFunction{"akarix_sign", 1, false, true, sign},
     SqlFunction{"akarix_val", 1, false, true, [](Values a) -> StoreValue { return Val(text(a[0])); }},
     // Dates
-    SqlFunction{"akarix_date_text", 1, false, true, [](Values a) -> StoreValue { return CStr(Date(real(a[0]))); }},
+    SqlFunction{"akarix_date_text", 1, false, true,
+                [](Values a) -> StoreValue { return CStr(Date(real(a[0]))); }},
     SqlFunction{"akarix_text_date", 1, false, true,
                 [](Values a) -> StoreValue { return CDate(text(a[0])).Serial(); }},
-    SqlFunction{"akarix_year", 1, false, true, [](Values a) -> StoreValue { return std::int64_t{Year(Date(real(a[0])))}; }},
-    SqlFunction{"akarix_month", 1, false, true, [](Values a) -> StoreValue { return std::int64_t{Month(Date(real(a[0])))}; }},
-    SqlFunction{"akarix_day", 1, false, true, [](Values a) -> StoreValue { return std::int64_t{Day(Date(real(a[0])))}; }},
-    SqlFunction{"akarix_date_serial", 3, false, true,
-                [](Values a) -> StoreValue {
-                    return DateSerial(smallWhole(a[0]), smallWhole(a[1]), smallWhole(a[2])).Serial();
-                }},
+    SqlFunction{"akarix_year", 1, false, true,
+                [](Values a) -> StoreValue { return std::int64_t{Year(Date(real(a[0])))}; }},
+    SqlFunction{"akarix_month", 1, false, true,
+                [](Values a) -> StoreValue { return std::int64_t{Month(Date(real(a[0])))}; }},
+    SqlFunction{"akarix_day", 1, false, true,
+                [](Values a) -> StoreValue { return std::int64_t{Day(Date(real(a[0])))}; }},
+    SqlFunction{
+        "akarix_date_serial", 3, false, true,
+        [](Values a)
+            -> StoreValue { return DateSerial(smallWhole(a[0]), smallWhole(a[1]), smallWhole(a[2])).Serial(); }},
     SqlFunction{"akarix_today", 0, false, false, [](Values) -> StoreValue { return Today().Serial(); }},
     SqlFunction{"akarix_now", 0, false, false, [](Values) -> StoreValue { return Now().Serial(); }},
     // Texts
     SqlFunction{"akarix_like", 2, false, true,
                 [](Values a) -> StoreValue { return std::int64_t{likeMatches(text(a[0]), text(a[1]))}; }},
     SqlFunction{"akarix_concat", 2, true, true, concat},
-    SqlFunction{"akarix_left", 2, false, true, [](Values a) -> StoreValue { return text(a[0]).left(length(a[1])); }},
-    SqlFunction{"akarix_right", 2, false, true, [](Values a) -> StoreValue { return text(a[0]).right(length(a[1])); }},
+    SqlFunction{"akarix_left", 2, false, true,
+                [](Values a) -> StoreValue { return text(a[0]).left(length(a[1])); }},
+    SqlFunction{"akarix_right", 2, false, true,
+                [](Values a) -> StoreValue { return text(a[0]).right(length(a[1])); }},
     SqlFunction{"akarix_mid", 3, false, true, mid},
-    SqlFunction{"akarix_len", 1, false, true, [](Values a) -> StoreValue { return std::int64_t{text(a[0]).size()}; }},
+    SqlFunction{"akarix_len", 1, false, true,
+                [](Values a) -> StoreValue { return std::int64_t{text(a[0]).size()}; }},
     SqlFunction{"akarix_trim", 1, false, true,
                 [](Values a) -> StoreValue { return trimmedLeft(trimmedRight(text(a[0]))); }},
-    SqlFunction{"akarix_ltrim", 1, false, true, [](Values a) -> StoreValue { return trimmedLeft(text(a[0])); }},
-    SqlFunction{"akarix_rtrim", 1, false, true, [](Values a) -> StoreValue { return trimmedRight(text(a[0])); }},
+    SqlFunction{"akarix_ltrim", 1, false, true,
+                [](Values a) -> StoreValue { return trimmedLeft(text(a[0])); }},
+    SqlFunction{"akarix_rtrim", 1, false, true,
+                [](Values a) -> StoreValue { return trimmedRight(text(a[0])); }},
     SqlFunction{"akarix_ucase", 1, false, true, [](Values a) -> StoreValue { return text(a[0]).toUpper(); }},
     SqlFunction{"akarix_lcase", 1, false, true, [](Values a) -> StoreValue { return text(a[0]).toLower(); }},
     SqlFunction{"akarix_instr", 3, false, true, instr},
@@ -232,14 +245,20 @@ const std::array kFunctions = {
     SqlFunction{"akarix_format_text", 2, false, true,
                 [](Values a) -> StoreValue { return Format(text(a[0]), text(a[1])); }},
     // Texts on their way into columns of other kinds
-    SqlFunction{"akarix_store_whole", 1, false, true,
-                [](Values a) { return stored(a[0], [](const Variant& v) { return wholeFromReal(CDbl(v)); }); }},
-    SqlFunction{"akarix_store_currency", 1, false, true,
-                [](Values a) { return stored(a[0], [](const Variant& v) -> StoreValue { return CCur(v).Scaled(); }); }},
-    SqlFunction{"akarix_store_real", 1, false, true,
-                [](Values a) { return stored(a[0], [](const Variant& v) -> StoreValue { return CDbl(v); }); }},
-    SqlFunction{"akarix_store_date", 1, false, true,
-                [](Values a) { return stored(a[0], [](const Variant& v) -> StoreValue { return CDate(v).Serial(); }); }},
+    SqlFunction{
+        "akarix_store_whole", 1, false, true,
+        [](Values a) { return stored(a[0], [](const Variant& v) { return wholeFromReal(CDbl(v)); }); }},
+    SqlFunction{
+        "akarix_store_currency", 1, false, true,
+        [](Values
+               a) { return stored(a[0], [](const Variant& v) -> StoreValue { return CCur(v).Scaled(); }); }},
+    SqlFunction{
+        "akarix_store_real", 1, false, true,
+        [](Values a) { return stored(a[0], [](const Variant& v) -> StoreValue { return CDbl(v); }); }},
+    SqlFunction{
+        "akarix_store_date", 1, false, true,
+        [](Values
+               a) { return stored(a[0], [](const Variant& v) -> StoreValue { return CDate(v).Serial(); }); }},
 };
 
 }  // namespace
@@ -249,9 +268,9 @@ std::span<const SqlFunction> sqlFunctions() {
 }
 
 const SqlFunction& sqlFunction(const char* name) {
-    const auto* const found = std::find_if(kFunctions.begin(), kFunctions.end(), [name](const SqlFunction& one) {
-        return std::strcmp(one.name, name) == 0;
-    });
+    const auto* const found =
+        std::find_if(kFunctions.begin(), kFunctions.end(),
+                     [name](const SqlFunction& one) { return std::strcmp(one.name, name) == 0; });
     Q_ASSERT(found != kFunctions.end());
     return *found;
 }

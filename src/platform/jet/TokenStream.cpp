@@ -73,7 +73,8 @@ void TokenStream::failHere() const {
     if (atEnd()) fail(QStringLiteral("式が途中で終わっています。"));
     const Token& token = peek();
     const bool operand = token.type == Token::Type::Literal || atName();
-    fail(operand ? QStringLiteral("演算子がありません。") : QStringLiteral("'%1' はここでは使えません。").arg(token.text));
+    fail(operand ? QStringLiteral("演算子がありません。")
+                 : QStringLiteral("'%1' はここでは使えません。").arg(token.text));
 }
 
 }  // namespace akarix

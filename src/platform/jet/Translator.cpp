@@ -26,7 +26,8 @@ struct Planner {
     CachedPlan operator()(const ParsedQuery& parsed) const {
         const auto bound = QueryBinder(catalogue).bind(parsed);
         Plan plan;
-        for (const BoundItem& item : bound->members.front().items) plan.columns.push_back(item.column);
+        for (const BoundItem& item : bound->members.front().items)
+            plan.columns.push_back(item.column);
         const bool updatable = isUpdatable(*bound);
         if (updatable) plan.updatableTable = bound->members.front().rows.tables.front()->definition->name;
         Writer writer;
@@ -71,7 +72,8 @@ BoundStatement withArguments(const CachedPlan& plan, const std::vector<Literal>&
     BoundStatement bound{plan.plan, {}};
     bound.arguments.reserve(plan.parameters.size());
     for (const Slot& slot : plan.parameters) {
-        bound.arguments.push_back(literalValue(literals[static_cast<std::size_t>(slot.lifted)], slot.negated, slot.use));
+        bound.arguments.push_back(
+            literalValue(literals[static_cast<std::size_t>(slot.lifted)], slot.negated, slot.use));
     }
     return bound;
 }
