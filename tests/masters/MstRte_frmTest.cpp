@@ -55,7 +55,7 @@ TEST_F(RouteMaster, EditsAKnownCode) {
     clerk.fill(u"青葉台と名のる長い名前の地区である事"_qs);
     clerk.fill(u"10"_qs);
     clerk.enter();
-    EXPECT_EQ(stored(), QStringList{u"3|ｱｵﾊﾞ|青葉台と名のる長い名前の地区|10"_qs}) << "30 bytes";
+    EXPECT_EQ(stored(), QStringList{u"3|ｱｵﾊﾞ|青葉台と名のる長い名前の地区で|10"_qs}) << "30 bytes";
 }
 
 TEST_F(RouteMaster, AnUnknownCodeStaysOnAnEmptyScreen) {

@@ -48,7 +48,7 @@ class FieldWalk : public ScreenTest {
         step(desk, from);
         return clerk.focusedName();
     }
-    Desk& desk = *new Desk;
+    Desk desk;
 };
 
 TEST_F(FieldWalk, GoesRoundInTabOrder) {

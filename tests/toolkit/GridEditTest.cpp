@@ -52,7 +52,7 @@ class GridEditing : public ScreenTest {
         sheet.list.SetCol(col);
     }
 
-    Sheet& sheet = *new Sheet;
+    Sheet sheet;
 };
 
 TEST_F(GridEditing, AppliesTheColumnTable) {

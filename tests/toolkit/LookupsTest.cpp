@@ -71,7 +71,7 @@ class Lookups : public ScreenTest {
 };
 
 TEST_F(Lookups, APickIsATypedCodeAndEnter) {
-    auto& caller = *new Caller(u"Rte"_qs);
+    Caller caller(u"Rte"_qs);
     caller.Show();
     clerk.expect(u"Help_frm"_qs, [this](QWidget&) {
         EXPECT_EQ(column(list(), 1), (QStringList{u"なし"_qs, u"青葉"_qs, u"北町"_qs, u"南町"_qs}));
@@ -130,6 +130,7 @@ TEST_F(Lookups, CustomersAreFoundByRouteInTheirRound) {
         EXPECT_EQ(list().Rows(), 1) << "nothing is read before a search";
         EXPECT_EQ(list().TextMatrix(0, 1), u"ｺｰﾄﾞ"_qs);
         clerk.clickCell(list(), 0, 1);
+        clerk.click(u"ebox(0)"_qs);
         clerk.enter();
         clerk.enter();
         clerk.fill(u"1"_qs);
