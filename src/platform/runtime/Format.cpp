@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "platform/runtime/CDate.h"
+#include "platform/runtime/CDbl.h"
 #include "platform/runtime/CStr.h"
 #include "platform/runtime/DateFormat.h"
 #include "platform/runtime/FormatMask.h"
@@ -65,8 +66,10 @@ QString underNumberMask(const Variant& value, const QString& mask) {
 
 QString underDateMask(const Variant& value, const QString& mask) {
     if (isMissing(value)) return {};
-    if (value.IsText() && !IsDate(value) && !IsNumeric(value)) return value.As<QString>();
-    return formatDate(CDate(value), maskSections(mask).first());
+    const QString section = maskSections(mask).first();
+    if (!value.IsText() || IsDate(value)) return formatDate(CDate(value), section);
+    // The text of a number is a serial, and too great a one overflows as the number itself does.
+    return IsNumeric(value) ? formatDate(CDate(CDbl(value)), section) : value.As<QString>();
 }
 
 QString generalNumber(const Variant& value) {

@@ -4,6 +4,7 @@
 
 #include "platform/runtime/CDate.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Raises.h"
 
 namespace akarix {
 
@@ -35,6 +36,12 @@ TEST(Format, FollowsTheTable) {
         ++cases;
     }
     EXPECT_GT(cases, 150);
+}
+
+TEST(Format, ANumberBeyondTheDatesOverflowsUnderADateMask) {
+    EXPECT_EQ(raised([] { return Format(20110325, u"yyyy/mm/dd"_qs); }), 6);
+    EXPECT_EQ(raised([] { return Format("20110325", u"yyyy/mm/dd"_qs); }), 6);
+    EXPECT_EQ(Format("20110325", u"@@@@/@@/@@"_qs), u"2011/03/25"_qs);
 }
 
 }  // namespace
