@@ -1,0 +1,83 @@
+#include "platform/jet/SqlScript.h"
+
+#include <QFile>
+#include <QTextStream>
+
+#include "platform/jet/Database.h"
+#include "platform/runtime/CStr.h"
+#include "platform/runtime/RuntimeError.h"
+
+namespace akarix {
+namespace {
+
+QString cell(const Variant& value) {
+    if (value.IsNull()) return QStringLiteral("NULL");
+    const QString text = CStr(value);
+    return text.isEmpty() ? QStringLiteral("EMPTY") : text;
+}
+
+QStringList rowsOf(Recordset& rows, const SqlCase& test) {
+    QStringList lines;
+    if (!test.columns.isEmpty()) {
+        QStringList names;
+        for (int i = 0; i < rows.FieldCount(); ++i) names.append(rows.Fields(i).Name());
+        const QString found = names.join(u'|');
+        if (found != test.columns) lines.append(QStringLiteral(": ") + found);
+    }
+    for (; !rows.Eof(); rows.MoveNext()) {
+        QStringList cells;
+        for (int i = 0; i < rows.FieldCount(); ++i) cells.append(cell(rows.Fields(i).Value()));
+        lines.append(cells.join(u'|'));
+    }
+    if (lines.isEmpty()) lines.append(QStringLiteral("none"));
+    return lines;
+}
+
+QStringList outcome(Database& database, const SqlCase& test) {
+    const QString start = test.statement.trimmed();
+    if (start.startsWith(u"SELECT", Qt::CaseInsensitive) || start.startsWith(u'(')) {
+        Recordset rows = database.OpenRecordset(test.statement);
+        const QStringList lines = rowsOf(rows, test);
+        return test.expected == QStringList{QStringLiteral("runs")} ? test.expected : lines;
+    }
+    database.Execute(test.statement);
+    const bool counted = test.expected.value(0).startsWith(u"changed");
+    return {counted ? QStringLiteral("changed %1").arg(database.RecordsAffected()) : QStringLiteral("ok")};
+}
+
+}  // namespace
+
+std::vector<SqlCase> readSqlScript(const QString& path) {
+    std::vector<SqlCase> cases;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return cases;
+    QTextStream in(&file);
+    int number = 0;
+    while (!in.atEnd()) {
+        const QString line = in.readLine();
+        ++number;
+        if (line.isEmpty() || line.startsWith(u"# ")) continue;
+        if (line.startsWith(u"> ")) {
+            cases.push_back({number, line.mid(2), {}, {}});
+        } else if (line.startsWith(u". ")) {
+            cases.back().statement += u'\n' + line.mid(2);
+        } else if (line.startsWith(u": ")) {
+            cases.back().columns = line.mid(2);
+        } else {
+            cases.back().expected.append(line);
+        }
+    }
+    return cases;
+}
+
+QStringList runSqlCase(Database& database, const SqlCase& test) {
+    try {
+        return outcome(database, test);
+    } catch (const RuntimeError& error) {
+        const QString number = QStringLiteral("error %1").arg(error.number());
+        if (test.expected == QStringList{number}) return test.expected;
+        return {number, error.description()};
+    }
+}
+
+}  // namespace akarix
