@@ -20,13 +20,15 @@ QStringList rowsOf(Recordset& rows, const SqlCase& test) {
     QStringList lines;
     if (!test.columns.isEmpty()) {
         QStringList names;
-        for (int i = 0; i < rows.FieldCount(); ++i) names.append(rows.Fields(i).Name());
+        for (int i = 0; i < rows.FieldCount(); ++i)
+            names.append(rows.Fields(i).Name());
         const QString found = names.join(u'|');
         if (found != test.columns) lines.append(QStringLiteral(": ") + found);
     }
     for (; !rows.Eof(); rows.MoveNext()) {
         QStringList cells;
-        for (int i = 0; i < rows.FieldCount(); ++i) cells.append(cell(rows.Fields(i).Value()));
+        for (int i = 0; i < rows.FieldCount(); ++i)
+            cells.append(cell(rows.Fields(i).Value()));
         lines.append(cells.join(u'|'));
     }
     if (lines.isEmpty()) lines.append(QStringLiteral("none"));

@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "platform/jet/SqlScript.h"
 #include "platform/jet/DBEngine.h"
+#include "platform/jet/SqlScript.h"
 
 namespace akarix {
 namespace {
@@ -25,11 +25,13 @@ TEST_P(SqlScripts, GiveWhatTheyExpect) {
     const QTemporaryDir folder;
     Database& database = *DBEngine::Workspaces(0).CreateDatabase(folder.filePath(QStringLiteral("Test.MDB")),
                                                                  QStringLiteral("MS Access;PWD=dialect"));
-    const QString path = QStringLiteral(AKARIX_TEST_DATA "/%1.sqltest").arg(QString::fromStdString(GetParam()));
+    const QString path =
+        QStringLiteral(AKARIX_TEST_DATA "/%1.sqltest").arg(QString::fromStdString(GetParam()));
     const std::vector<SqlCase> cases = readSqlScript(path);
     ASSERT_FALSE(cases.empty());
     for (const SqlCase& test : cases) {
-        EXPECT_EQ(runSqlCase(database, test).join(u'\n').toStdString(), test.expected.join(u'\n').toStdString())
+        EXPECT_EQ(runSqlCase(database, test).join(u'\n').toStdString(),
+                  test.expected.join(u'\n').toStdString())
             << qPrintable(path) << ':' << test.line << '\n'
             << test.statement.toStdString();
     }
