@@ -8,8 +8,6 @@ namespace akarix {
 
 /// The billing screen: closes a month into the ledger.
 class Seikyu_frm : public EntryForm {
-    Q_OBJECT
-
  public:
     Seikyu_frm();
     void init();

@@ -8,8 +8,6 @@ namespace akarix {
 
 /// Keeps the customers (Deal), and prints the list of them.
 class MstDeal_frm : public MasterForm, public ReportForm {
-    Q_OBJECT
-
  public:
     MstDeal_frm();
 

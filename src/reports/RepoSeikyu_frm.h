@@ -12,8 +12,6 @@ namespace akarix {
 /// The billing list: a month's ledger for a range of codes and a route, in the order of the round, on the
 /// screen and on the sheet "請求一覧表".
 class RepoSeikyu_frm : public EntryForm, public ReportForm {
-    Q_OBJECT
-
  public:
     RepoSeikyu_frm();
     void init();

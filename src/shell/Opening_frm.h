@@ -7,8 +7,6 @@ namespace akarix {
 
 /// The splash: stands for one second, or until its picture is clicked.
 class Opening_frm : public Form {
-    Q_OBJECT
-
  public:
     Opening_frm();
 

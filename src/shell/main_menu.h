@@ -9,8 +9,6 @@ namespace akarix {
 
 /// The first and last screen: a board of buttons that open the others.
 class main_menu : public Form {
-    Q_OBJECT
-
  public:
     main_menu();
 
