@@ -27,6 +27,12 @@ void Discard(const QString& path) {
     QFile::remove(JournalOf(path));
 }
 
+void Lock(RawFile& file, const QString& path) {
+    if (!file.lock()) {
+        throw StoreError(3045, path);
+    }
+}
+
 // Lets the engine play a left journal back first: it makes whole what a dying process left half written.
 void PlayBackJournal(const QString& path, const QString& password) {
     try {
@@ -91,14 +97,16 @@ void RepairStoreFile(const QString& path, const QString& password) {
     if (!QFileInfo(path).isFile()) {
         throw StoreError(3024, path);
     }
+    {
+        RawFile file(path);
+        Lock(file, path);
+    }
     PlayBackJournal(path, password);
     const QString beside = path + QStringLiteral(".repair");
     Discard(beside);
     {
         RawFile file(path);
-        if (!file.lock()) {
-            throw StoreError(3045, path);
-        }
+        Lock(file, path);
         const PageImage image(file, PageCipher(KeyOfPassword(password)));
         Salvage salvage(image);
         if (image.isEmpty() || salvage.objects().empty()) {

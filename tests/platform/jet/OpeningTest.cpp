@@ -1,0 +1,150 @@
+#include <QDir>
+#include <vector>
+
+#include "platform/jet/Action.h"
+#include "platform/jet/StoreFixture.h"
+#include "platform/jet/StoreKey.h"
+
+namespace akarix {
+namespace {
+
+class OpeningTest : public StoreTest {
+ protected:
+    void makeStore() {
+        Database& database = create();
+        MakeTable(database, GoodsTable());
+        for (int code = 1; code <= 2000; ++code) {
+            addRow(database, code);
+        }
+        database.Close();
+    }
+    static void addRow(Database& database, int code) {
+        const TableDef& table = *database.engine().catalogue().find(QStringLiteral("goods"));
+        database.engine().insertRow(table, {QStringLiteral("Code"), QStringLiteral("Kana")},
+                                    {std::int64_t{code}, QStringLiteral("ｱｲｳｴｵ")});
+    }
+    int openError(const QString& password = QStringLiteral("secret1")) {
+        return ErrorOf([&] { open(password).Close(); });
+    }
+};
+
+TEST_F(OpeningTest, TellsWhatIsWrongByNumber) {
+    {
+        const Action fast;
+        makeStore();
+    }
+    const QByteArray sound = bytesOf(path());
+    ASSERT_GT(sound.size(), 20 * kPageSize);
+    const auto garbled = [&](qsizetype from, qsizetype length) {
+        QByteArray bytes = sound;
+        for (qsizetype i = from; i < from + length; ++i) {
+            bytes[i] = static_cast<char>(~bytes[i]);
+        }
+        return bytes;
+    };
+    struct Case {
+        const char* name;
+        QByteArray bytes;
+        QString password;
+        int error;
+    };
+    const QString right = QStringLiteral("secret1");
+    const QString wrong = QStringLiteral("other");
+    const Case cases[] = {
+        {"sound", sound, right, 0},
+        {"wrong password", sound, wrong, 3031},
+        {"empty", {}, right, 3343},
+        {"less than a page", sound.left(1000), right, 3343},
+        {"text", QByteArray(50, 'x'), right, 3343},
+        {"long text", QByteArray(50000, 'x'), right, 3343},
+        {"first page behind the mark", garbled(16, kPageSize - 16), right, 3343},
+        {"first page with the mark", garbled(0, kPageSize), right, 3343},
+        {"mark alone, which the right password can do without", garbled(0, 16), right, 0},
+        {"one byte in the middle", garbled(10 * kPageSize + 77, 1), right, 3343},
+        {"middle page", garbled(12 * kPageSize, kPageSize), right, 3343},
+        {"tail cut at a page", sound.left(sound.size() - 8 * kPageSize), right, 3343},
+        {"tail cut inside a page", sound.left(sound.size() - 100), right, 3343},
+    };
+    for (const Case& damage : cases) {
+        SCOPED_TRACE(damage.name);
+        write(path(), damage.bytes);
+        EXPECT_EQ(openError(damage.password), damage.error);
+        EXPECT_EQ(bytesOf(path()), damage.bytes) << "opening must change nothing";
+    }
+}
+
+TEST_F(OpeningTest, MissingAndExistingFiles) {
+    EXPECT_EQ(openError(), 3024);
+    EXPECT_FALSE(QFile::exists(path())) << "the store is never made by opening it";
+    create().Close();
+    EXPECT_EQ(openError(), 0);
+    EXPECT_EQ(ErrorOf([&] { create(); }), 3204);
+    QFile::remove(path());
+    QDir().mkpath(path());
+    EXPECT_EQ(openError(), 3024) << "a folder is no file";
+    EXPECT_EQ(ErrorOf([] { DBEngine::Workspaces(1); }), 3265);
+}
+
+TEST_F(OpeningTest, ErrorsNameTheirSource) {
+    try {
+        open();
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.source(), u"DAO.Workspace");
+    }
+}
+
+TEST_F(OpeningTest, NothingReadableInTheBytes) {
+    Database& database = create();
+    MakeTable(database, GoodsTable());
+    addRow(database, 1);
+    database.Close();
+    EXPECT_FALSE(bytesOf(path()).contains("CREATE TABLE"));
+    EXPECT_FALSE(bytesOf(path()).contains(QStringLiteral("ｱｲｳｴｵ").toUtf8()));
+    EXPECT_FALSE(bytesOf(path()).contains("secret1"));
+}
+
+TEST_F(OpeningTest, ClosingLetsGoAndEndsAllUse) {
+    Database& database = create();
+    MakeTable(database, GoodsTable());
+    Recordset rows = database.OpenRecordset(QStringLiteral("SELECT * FROM Goods"));
+    {
+        const Action saving;
+        addRow(database, 7);
+        DBEngine::Workspaces(0).Close();
+    }
+    EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files), QStringList{QStringLiteral("Store.MDB")});
+    EXPECT_EQ(ErrorOf([&] { database.Execute(QStringLiteral("DELETE * FROM Goods")); }), 3420);
+    EXPECT_EQ(ErrorOf([&] { rows.Eof(); }), 3420);
+    EXPECT_EQ(ErrorOf([&] { database.Close(); }), 3420);
+    ASSERT_TRUE(QFile::copy(path(), path(QStringLiteral("Copy.MDB"))));
+    Database& copy = *DBEngine::Workspaces(0).OpenDatabase(path(QStringLiteral("Copy.MDB")), false, false, Connect());
+    EXPECT_EQ(count(copy, QStringLiteral("Goods")), 1);
+}
+
+TEST_F(OpeningTest, CopyOfAnOpenStoreHoldsEverythingSoFar) {
+    Database& database = create();
+    MakeTable(database, GoodsTable());
+    const Action saving;
+    addRow(database, 1);
+    database.engine().copyTo(path(QStringLiteral("Copy.MDB")));
+    addRow(database, 2);
+    Database& copy = *DBEngine::Workspaces(0).OpenDatabase(path(QStringLiteral("Copy.MDB")), false, false, Connect());
+    EXPECT_EQ(count(copy, QStringLiteral("Goods")), 1);
+    EXPECT_EQ(count(database, QStringLiteral("Goods")), 2);
+    EXPECT_EQ(ErrorOf([&] { database.engine().copyTo(path(QStringLiteral("no/such/folder"))); }), 76);
+}
+
+TEST_F(OpeningTest, ExclusiveAndReadOnly) {
+    create().Close();
+    Workspace& workspace = DBEngine::Workspaces(0);
+    Database& reader = *workspace.OpenDatabase(path(), false, true, Connect());
+    EXPECT_EQ(ErrorOf([&] { MakeTable(reader, GoodsTable()); }), 3027);
+    reader.Close();
+    Database& owner = *workspace.OpenDatabase(path(), true, false, Connect());
+    MakeTable(owner, GoodsTable());
+    EXPECT_EQ(ErrorOf([&] { DBEngine::RepairDatabase(path()); }), 3045) << "somebody works with the file";
+}
+
+}  // namespace
+}  // namespace akarix

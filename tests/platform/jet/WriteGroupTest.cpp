@@ -1,0 +1,183 @@
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <chrono>
+#include <csignal>
+#include <thread>
+
+#include "platform/jet/Action.h"
+#include "platform/jet/StoreFixture.h"
+#include "platform/jet/Workspace.h"
+
+namespace akarix {
+namespace {
+
+class WriteGroupTest : public StoreTest {
+ protected:
+    void SetUp() override {
+        database_ = &create();
+        MakeTable(*database_, GoodsTable());
+        other_ = &open();
+    }
+
+    static void add(Database& database, int code) {
+        database.Execute(QStringLiteral("INSERT INTO Goods(Code) VALUES(%1)").arg(code));
+    }
+    /// Rows that another desk sees.
+    int seen() { return count(*other_, QStringLiteral("Goods")); }
+
+    Database* database_ = nullptr;
+    Database* other_ = nullptr;
+};
+
+TEST_F(WriteGroupTest, CommitsAtTheEndOfTheOutermostAction) {
+    add(*database_, 1);
+    EXPECT_EQ(seen(), 1) << "outside an action at once";
+    {
+        const Action outer;
+        add(*database_, 2);
+        {
+            const Action inner;
+            add(*database_, 3);
+        }
+        EXPECT_EQ(count(*database_, QStringLiteral("Goods")), 3) << "its own writer sees all";
+        EXPECT_EQ(seen(), 1);
+    }
+    EXPECT_EQ(seen(), 3);
+}
+
+TEST_F(WriteGroupTest, CommitsBeforeTheEndWhereItMust) {
+    struct Case {
+        const char* name;
+        std::function<void()> step;
+    };
+    const Case cases[] = {
+        {"flush", [&] { database_->engine().flush(); }},
+        {"definition", [&] { MakeTable(*database_, GoodsTable(QStringLiteral("Further"))); }},
+        {"copy", [&] { database_->engine().copyTo(path(QStringLiteral("Copy.MDB"))); }},
+        {"time",
+         [&] {
+             std::this_thread::sleep_for(std::chrono::milliseconds(60));
+             database_->Execute(QStringLiteral("UPDATE Goods SET Rte=1"));
+         }},
+        {"waiting for the operator",
+         [&] {
+             int none = 0;
+             const QCoreApplication application(none, nullptr);
+             database_->engine().flush();
+             add(*database_, 1000);
+             for (int i = 0; i < 200 && seen() < 6; ++i) {
+                 QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+                 std::this_thread::sleep_for(std::chrono::milliseconds(1));
+             }
+         }},
+        {"close", [&] { database_->Close(); }},
+    };
+    int code = 0;
+    int expected = 0;
+    for (const Case& commit : cases) {
+        SCOPED_TRACE(commit.name);
+        const Action action;
+        add(*database_, ++code);
+        ++expected;
+        EXPECT_EQ(seen(), expected - 1);
+        commit.step();
+        expected += commit.name == std::string("waiting for the operator") ? 1 : 0;
+        EXPECT_EQ(seen(), expected);
+    }
+}
+
+TEST_F(WriteGroupTest, AFailedStatementTakesNothingWithIt) {
+    const auto addOrRaise = [&](int code) {
+        database_->engine().insertRow(*database_->engine().catalogue().find(QStringLiteral("Goods")),
+                                      {QStringLiteral("Code")}, {std::int64_t{code}});
+    };
+    {
+        const Action action;
+        add(*database_, 1);
+        EXPECT_EQ(ErrorOf([&] { addOrRaise(1); }), 3022);
+        EXPECT_EQ(ErrorOf([&] { MakeTable(*database_, GoodsTable()); }), 3010);
+        add(*database_, 2);
+    }
+    EXPECT_EQ(seen(), 2);
+    EXPECT_EQ(ErrorOf([&] { addOrRaise(2); }), 3022);
+    add(*database_, 3);
+    EXPECT_EQ(seen(), 3) << "outside an action, too";
+}
+
+TEST_F(WriteGroupTest, WhatBreaksAKeyAKindOrAWidthIsDropped) {
+    struct Case {
+        const char16_t* sql;
+        int changed;
+    };
+    const Case cases[] = {
+        {u"INSERT INTO Goods(Code,Kana) VALUES(1,'ｱｲｳｴｵｶｷｸｹｺ')", 1},
+        {u"INSERT INTO Goods(Code,Kana) VALUES(1,'ｱ')", 0},
+        {u"INSERT INTO Goods(Kana) VALUES('ｱ')", 0},
+        {u"INSERT INTO Goods(Code,Kana) VALUES(2,'ｱｲｳｴｵｶｷｸｹｺｻ')", 0},
+        {u"INSERT INTO Goods(Code,Kana) VALUES(3,'')", 0},
+        {u"INSERT INTO Goods(Code,Rte) VALUES(4,32767)", 1},
+        {u"INSERT INTO Goods(Code,Rte) VALUES(5,32768)", 0},
+        {u"UPDATE Goods SET Rte=Rte+1", 1},  // the row whose Rte is Null stays so
+        {u"UPDATE Goods SET Code=1 WHERE Code=4", 0},
+        {u"UPDATE Goods SET Kana='ｱｲｳｴｵｶｷｸｹｺｻ'", 0},
+        {u"DELETE * FROM Goods WHERE Code=99", 0},
+    };
+    for (const Case& change : cases) {
+        const QString sql = QString::fromUtf16(change.sql);
+        SCOPED_TRACE(sql.toStdString());
+        database_->Execute(sql);
+        EXPECT_EQ(database_->RecordsAffected(), change.changed);
+    }
+}
+
+/// Adds pairs of rows, one pair an action, and tells each that ended.
+[[noreturn]] void WriteUntilKilled(const QString& file, int from, int channel) {
+    Database& database = *DBEngine::Workspaces(0).OpenDatabase(file, false, false, Connect());
+    for (int code = from;; code += 2) {
+        {
+            const Action action;
+            database.Execute(QStringLiteral("INSERT INTO Goods(Code) VALUES(%1)").arg(code));
+            database.Execute(QStringLiteral("INSERT INTO Goods(Code) VALUES(%1)").arg(code + 1));
+        }
+        if (write(channel, &code, sizeof code) != sizeof code) {
+            _exit(1);
+        }
+    }
+}
+
+TEST_F(WriteGroupTest, AKilledProcessLosesNoActionThatEnded) {
+    DBEngine::Workspaces(0).Close();
+    int next = 1;
+    for (int round = 0; round < 20; ++round) {
+        int channel[2];
+        ASSERT_EQ(pipe(channel), 0);
+        const pid_t child = fork();
+        if (child == 0) {
+            close(channel[0]);
+            WriteUntilKilled(path(), next, channel[1]);
+        }
+        close(channel[1]);
+        int ended = 0;
+        ASSERT_EQ(read(channel[0], &ended, sizeof ended), static_cast<ssize_t>(sizeof ended));
+        std::this_thread::sleep_for(std::chrono::microseconds(1700 * round));
+        kill(child, SIGKILL);
+        int code = 0;
+        while (read(channel[0], &code, sizeof code) == static_cast<ssize_t>(sizeof code)) {
+            ended = code;
+        }
+        close(channel[0]);
+        waitpid(child, nullptr, 0);
+
+        Database& database = open();
+        const int rows = count(database, QStringLiteral("Goods"));
+        EXPECT_GE(rows, ended + 1);
+        EXPECT_EQ(rows % 2, 0) << "never half an action as short as this";
+        next = rows + 1;
+        database.Close();
+    }
+}
+
+}  // namespace
+}  // namespace akarix
