@@ -129,6 +129,7 @@ void CipherEngine::define(const BoundStatement& statement) {
         throw;
     }
     catalogue_ = ReadCatalogue(open);
+    ++catalogueVersion_;
 }
 
 std::int64_t CipherEngine::insertRow(const TableDef& table, const std::vector<QString>& columns,

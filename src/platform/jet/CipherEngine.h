@@ -14,6 +14,7 @@ class CipherEngine final : public Engine {
     ~CipherEngine() override;
 
     const Catalogue& catalogue() const override { return catalogue_; }
+    int catalogueVersion() const override { return catalogueVersion_; }
     std::vector<StoreRow> rows(const BoundStatement& statement) override;
     std::int64_t change(const BoundStatement& statement) override;
     void define(const BoundStatement& statement) override;
@@ -31,6 +32,7 @@ class CipherEngine final : public Engine {
 
     Connection connection_;
     Catalogue catalogue_;
+    int catalogueVersion_ = 0;
     std::unique_ptr<StatementCache> statements_;
     std::unique_ptr<WriteGroup> group_;
 };

@@ -21,7 +21,7 @@ void Database::Execute(const QString& sql) {
             impl_->affected = session.engine().change(statement);
             return;
         case Plan::Kind::Definition:
-            session.define(statement);
+            session.engine().define(statement);
             return;
     }
 }

@@ -17,6 +17,8 @@ class Engine {
     virtual ~Engine() = default;
 
     virtual const Catalogue& catalogue() const = 0;
+    /// Grows with every definition; what was bound to the catalogue before is void then.
+    virtual int catalogueVersion() const = 0;
     /// All rows of a query; the engine keeps nothing open behind it.
     virtual std::vector<StoreRow> rows(const BoundStatement& statement) = 0;
     /// Runs a change; rows that break a key, a kind or a width are left out. The count of rows changed.

@@ -28,6 +28,9 @@ struct Recordset::Impl {
     const TableDef& table() const;
     const ColumnDef& storedColumn(int index) const;
     int indexOf(const QString& name) const;
+    const ResultColumn& column(int index) const {
+        return statement.plan->columns[static_cast<std::size_t>(index)];
+    }
 
     Variant value(int index);
     void setValue(int index, const Variant& value);

@@ -15,13 +15,12 @@ Engine& Session::engine() {
 }
 
 BoundStatement Session::translate(const QString& sql) {
-    engine();
+    const int version = engine().catalogueVersion();
+    if (version != translatedVersion_) {
+        translator_->clear();
+        translatedVersion_ = version;
+    }
     return translator_->translate(sql);
-}
-
-void Session::define(const BoundStatement& statement) {
-    engine().define(statement);
-    translator_->clear();
 }
 
 void Session::close() {

@@ -16,14 +16,13 @@ class Session {
 
     Engine& engine();
     BoundStatement translate(const QString& sql);
-    /// Carries a definition out; no statement translated before it is used again.
-    void define(const BoundStatement& statement);
     bool isOpen() const { return engine_ != nullptr; }
     void close();
 
  private:
     std::unique_ptr<Engine> engine_;
     std::unique_ptr<Translator> translator_;
+    int translatedVersion_ = 0;
 };
 
 }  // namespace akarix
