@@ -13,7 +13,9 @@ namespace {
     throw StoreError(number, detail, QStringLiteral("DAO.Recordset"));
 }
 
-std::int64_t RowNumber(const StoreRow& row) { return std::get<std::int64_t>(row.back()); }
+std::int64_t RowNumber(const StoreRow& row) {
+    return std::get<std::int64_t>(row.back());
+}
 
 // The columns set, by their stored names, with their values.
 std::pair<std::vector<QString>, StoreRow> Written(const Plan& plan, const std::vector<bool>& written,

@@ -37,10 +37,11 @@ class DefinitionTest : public StoreTest {
 };
 
 TEST_F(DefinitionTest, EveryKindIsReadBack) {
-    TableDef table{QStringLiteral("Kinds"), {}, {{QStringLiteral("C1"), QStringLiteral("C2")}, {QStringLiteral("C3")}}};
+    TableDef table{
+        QStringLiteral("Kinds"), {}, {{QStringLiteral("C1"), QStringLiteral("C2")}, {QStringLiteral("C3")}}};
     for (const int type : {1, 2, 3, 4, 5, 6, 7, 8, 10, 12}) {
-        table.columns.push_back({QStringLiteral("C%1").arg(type), static_cast<FieldType>(type), type == 10 ? 30 : 0,
-                                 type < 5});
+        table.columns.push_back(
+            {QStringLiteral("C%1").arg(type), static_cast<FieldType>(type), type == 10 ? 30 : 0, type < 5});
     }
     ASSERT_EQ(define(Kind::CreateTable, table), 0);
     database_->Close();
@@ -74,7 +75,11 @@ TEST_F(DefinitionTest, ASecondRunOfTheSameStepFailsAndChangesNothing) {
         {Kind::AddColumn, {name, {}, {}}, {QStringLiteral("Kensin"), FieldType::Integer}, {}, 3380},
         {Kind::AddColumn, {name, {}, {}}, {QStringLiteral("Keiyaku"), FieldType::Text, 30}, {}, 3380},
         {Kind::AlterColumn, {name, {}, {}}, {QStringLiteral("Kana"), FieldType::Text, 20}, {}, 3380},
-        {Kind::CreateIndex, {name, {}, {}}, {}, {QStringLiteral("ByKana"), {QStringLiteral("Kana")}, false}, 3075},
+        {Kind::CreateIndex,
+         {name, {}, {}},
+         {},
+         {QStringLiteral("ByKana"), {QStringLiteral("Kana")}, false},
+         3075},
         {Kind::DropColumn, {name, {}, {}}, {QStringLiteral("Flg")}, {}, 3383},
     };
     for (const Step& step : steps) {
@@ -119,7 +124,8 @@ TEST_F(DefinitionTest, AlteringConvertsTheValuesAndKeepsTheRest) {
 TEST_F(DefinitionTest, IndexesOutliveAnAlteredColumn) {
     MakeTable(*database_, GoodsTable());
     const TableDef name{QStringLiteral("Goods"), {}, {}};
-    ASSERT_EQ(define(Kind::CreateIndex, name, {}, {QStringLiteral("ByKana"), {QStringLiteral("Kana")}, true}), 0);
+    ASSERT_EQ(define(Kind::CreateIndex, name, {}, {QStringLiteral("ByKana"), {QStringLiteral("Kana")}, true}),
+              0);
     EXPECT_EQ(goods().uniqueKeys.size(), 2U);
     ASSERT_EQ(define(Kind::AlterColumn, name, {QStringLiteral("Rte"), FieldType::Long}), 0);
     EXPECT_EQ(goods().uniqueKeys.size(), 2U);

@@ -113,12 +113,14 @@ TEST_F(OpeningTest, ClosingLetsGoAndEndsAllUse) {
         addRow(database, 7);
         DBEngine::Workspaces(0).Close();
     }
-    EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files), QStringList{QStringLiteral("Store.MDB")});
+    EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files),
+              QStringList{QStringLiteral("Store.MDB")});
     EXPECT_EQ(ErrorOf([&] { database.Execute(QStringLiteral("DELETE * FROM Goods")); }), 3420);
     EXPECT_EQ(ErrorOf([&] { rows.Eof(); }), 3420);
     EXPECT_EQ(ErrorOf([&] { database.Close(); }), 3420);
     ASSERT_TRUE(QFile::copy(path(), path(QStringLiteral("Copy.MDB"))));
-    Database& copy = *DBEngine::Workspaces(0).OpenDatabase(path(QStringLiteral("Copy.MDB")), false, false, Connect());
+    Database& copy =
+        *DBEngine::Workspaces(0).OpenDatabase(path(QStringLiteral("Copy.MDB")), false, false, Connect());
     EXPECT_EQ(count(copy, QStringLiteral("Goods")), 1);
 }
 
@@ -129,7 +131,8 @@ TEST_F(OpeningTest, CopyOfAnOpenStoreHoldsEverythingSoFar) {
     addRow(database, 1);
     database.engine().copyTo(path(QStringLiteral("Copy.MDB")));
     addRow(database, 2);
-    Database& copy = *DBEngine::Workspaces(0).OpenDatabase(path(QStringLiteral("Copy.MDB")), false, false, Connect());
+    Database& copy =
+        *DBEngine::Workspaces(0).OpenDatabase(path(QStringLiteral("Copy.MDB")), false, false, Connect());
     EXPECT_EQ(count(copy, QStringLiteral("Goods")), 1);
     EXPECT_EQ(count(database, QStringLiteral("Goods")), 2);
     EXPECT_EQ(ErrorOf([&] { database.engine().copyTo(path(QStringLiteral("no/such/folder"))); }), 76);

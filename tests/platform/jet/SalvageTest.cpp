@@ -16,10 +16,13 @@ using Row = std::vector<StoreValue>;
 using Contents = std::map<std::pair<QString, std::int64_t>, Row>;  // by table and row number
 
 TableDef Table(int number) {
-    TableDef table{QStringLiteral("T%1").arg(number), {}, {{QStringLiteral("Nendo"), QStringLiteral("Deal")}}};
-    table.columns = {{QStringLiteral("Nendo"), FieldType::Integer}, {QStringLiteral("Deal"), FieldType::Long}};
+    TableDef table{
+        QStringLiteral("T%1").arg(number), {}, {{QStringLiteral("Nendo"), QStringLiteral("Deal")}}};
+    table.columns = {{QStringLiteral("Nendo"), FieldType::Integer},
+                     {QStringLiteral("Deal"), FieldType::Long}};
     // Shapes repeat: what tells two tables of one shape apart is not in the rows.
-    constexpr FieldType kKinds[] = {FieldType::Text, FieldType::Currency, FieldType::Date, FieldType::Integer};
+    constexpr FieldType kKinds[] = {FieldType::Text, FieldType::Currency, FieldType::Date,
+                                    FieldType::Integer};
     for (int i = 0; i < 2 + number % 10; ++i) {
         table.columns.push_back({QStringLiteral("C%1").arg(i), kKinds[(i + number) % 4], 40, i == 3});
     }
