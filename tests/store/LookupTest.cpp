@@ -115,13 +115,13 @@ TEST_F(LookupTest, BillingMonthOfADate) {
 TEST_F(LookupTest, Consignors) {
     ScratchStore::run(
         QStringLiteral("INSERT INTO Bnk(Code,ItakuCode,Itakusya,fName,BkName,Stn,StnName,Syurui,KozaNo) "
-                       "VALUES(152,'0000152301 ','ﾐﾄﾞﾘ','FURI.TXT','ｷﾞﾝｺｳ',1,'ﾎﾝﾃﾝ','1','1023344');\n"
+                       "VALUES(152,'000015230 ','ﾐﾄﾞﾘ','FURI.TXT','ｷﾞﾝｺｳ',1,'ﾎﾝﾃﾝ','1','1023344');\n"
                        "INSERT INTO Bnk(Code,BkName,Stn,Saifurikae,Keiyaku,Jimusyo) "
                        "VALUES(9900,'ﾕｳｾｲ',990,'15','02','緑');\n"));
     Consignor consignor;
     consignor.Saifurikae = QStringLiteral("kept");
     LoadBankConsignor(152, consignor);
-    EXPECT_EQ(consignor.ItakuCode, QStringLiteral("0000152301"));
+    EXPECT_EQ(consignor.ItakuCode, QStringLiteral("000015230"));
     EXPECT_EQ(consignor.Bnk, QStringLiteral("0152"));
     EXPECT_EQ(consignor.Stn, QStringLiteral("001"));
     EXPECT_EQ(consignor.KozaNo, QStringLiteral("1023344"));

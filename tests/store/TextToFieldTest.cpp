@@ -37,7 +37,7 @@ TEST(TextToField, ByKind) {
     }
     Variant value;
     EXPECT_THROW(TextToField(value, FieldType::Integer, 2, QStringLiteral("40000")), RuntimeError);
-    EXPECT_THROW(TextToField(value, FieldType::Date, 8, QStringLiteral("2/30")), RuntimeError);
+    EXPECT_THROW(TextToField(value, FieldType::Date, 8, QStringLiteral("2011/2/30")), RuntimeError);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ int create(const QStringList& arguments) {
     QCommandLineParser parser;
     parser.addOption(QCommandLineOption(QStringLiteral("force")));
     if (!parser.parse(QStringList(QString()) + arguments) || parser.positionalArguments().size() > 1) {
-        tellError(QString::fromUtf8(helpText));
+        tellWrongUse(QStringLiteral("create"));
         return WrongUse;
     }
     const QString path = parser.positionalArguments().value(0, DatabaseName());

@@ -87,7 +87,7 @@ int makeSample(const QStringList& arguments) {
     const bool understood = parser.parse(QStringList(QString()) + arguments);
     const std::optional<sample::Wish> wish = understood ? readWish(parser) : std::nullopt;
     if (!wish || parser.positionalArguments().size() > 1) {
-        tellError(QString::fromUtf8(helpText));
+        tellWrongUse(QStringLiteral("sample"));
         return WrongUse;
     }
     const QString path = parser.positionalArguments().value(0, DatabaseName());

@@ -24,6 +24,10 @@ void tellError(const QString& text) {
     write(stderr, text);
 }
 
+void tellWrongUse(const QString& command) {
+    tellError(QStringLiteral("引数が正しくありません。使い方: akarix-admin %1 --help\n").arg(command));
+}
+
 ProgressLine::~ProgressLine() {
     if (shown_) write(stderr, QStringLiteral("\n"));
 }

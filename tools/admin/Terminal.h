@@ -7,6 +7,8 @@ namespace akarix::admin {
 
 void tell(const QString& text);
 void tellError(const QString& text);
+/// Says that a command was given wrong arguments and where its use is explained.
+void tellWrongUse(const QString& command);
 
 /// A line of progress for work that takes more than a second; quick work stays silent.
 class ProgressLine {
