@@ -184,6 +184,20 @@ TEST_F(TtoTest, AFeePastSixteenBitsStopsTheRunAndWhatWasDoneStays) {
     EXPECT_EQ(ledger(2011, 3), QStringList{QStringLiteral("1|0|3000|0|0|0|0")});
 }
 
+TEST_F(TtoTest, CustomersAreCountedInSixteenBits) {
+    customers(QStringLiteral("1"));
+    for (int count = 1; count <= 16384; count *= 2) {
+        gDb->Execute(QStringLiteral("INSERT INTO Deal(Code) SELECT Code+%1 FROM Deal").arg(count));
+    }
+    try {
+        CarryForwardMonth(2011, 3);
+        FAIL() << "32,768 customers";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), 6);
+    }
+    EXPECT_TRUE(ledger(2011, 3).isEmpty());
+}
+
 TEST_F(TtoTest, PuttingAmountsReplacesThem) {
     PutGGaku(2011, 3, 5, Currency(100));
     PutGGaku(2011, 3, 5, Currency::FromText(QStringLiteral("-0.5")));
