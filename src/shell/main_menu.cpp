@@ -9,6 +9,7 @@
 #include "dialogs/AskConfirm.h"
 #include "dialogs/AskText.h"
 #include "dialogs/ShowAlert.h"
+#include "masters/GTanka_frm.h"
 #include "masters/MstDeal_frm.h"
 #include "masters/MstRte_frm.h"
 #include "output/EX.h"
@@ -55,7 +56,7 @@ constexpr std::array<BoardButton, 19> kBoard{{
     {8, 1, u"消費先台帳"},
     {13, 2, u"得意先", &OpenScreen<MstDeal_frm>},
     {17, 2, u"得意先初期残"},
-    {3, 2, u"料金表"},
+    {3, 2, u"料金表", &OpenScreen<GTanka_frm>},
     {4, 2, u"商品"},
     {9, 2, u"リース料金"},
     {12, 2, u"地区", &OpenScreen<MstRte_frm>},

@@ -1,0 +1,364 @@
+#include "masters/GTanka_frm.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "output/EX.h"
+#include "platform/forms/Choice.h"
+#include "platform/forms/FieldLayout.h"
+#include "platform/forms/FlexGrid.h"
+#include "platform/runtime/CCur.h"
+#include "platform/runtime/CInt.h"
+#include "platform/runtime/CLng.h"
+#include "store/dbAccess.h"
+#include "toolkit/Dentaku_frm.h"
+#include "toolkit/FieldWalk.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+namespace {
+
+enum Field { kPattern, kSt, kEd, kKihon, kTanka };
+enum Button { kAdd, kShow, kSave, kClear, kShowAll, kExport, kEmptyTable };
+enum Column { kColMark, kColSt, kColEd, kColKihon, kColTanka, kColShow, kColumns };
+
+struct Head {
+    const char16_t* title;
+    int width;
+    int alignment = AlignRightCenter;
+};
+
+constexpr std::array<Head, kColumns> kHeads{{
+    {u"削除", 500, AlignCenterCenter},
+    {u"開始", 500},
+    {u"終了", 500},
+    {u"基本料", 1000},
+    {u"単価", 800},
+    {u"実行", 600, AlignCenterCenter},
+}};
+
+const QString kKeep = QStringLiteral("○");
+const QString kDelete = QStringLiteral("×");
+
+constexpr int kScrollBar = 24;
+constexpr int kUsageWidth = 600;
+constexpr int kPriceWidth = 800;
+
+TariffBand bandFrom(const QString& st, const QString& ed, const QString& kihon, const QString& tanka) {
+    return {CInt(KeepNumeric(st)), CInt(KeepNumeric(ed)), CCur(KeepNumeric(kihon)), CCur(KeepNumeric(tanka))};
+}
+
+}  // namespace
+
+GTanka_frm::GTanka_frm() : EntryForm(QStringLiteral("GTanka_frm"), QStringLiteral("価格表")) {
+    auto* body = new QHBoxLayout(this);
+    body->setSpacing(20);
+    body->addLayout(layOutBands());
+    body->addLayout(layOutTable(), 1);
+    orderWalk();
+    wire();
+}
+
+// ---- layout
+
+QVBoxLayout* GTanka_frm::layOutBands() {
+    struct Line {
+        const char16_t* caption;
+        int bytes;
+    };
+    constexpr std::array<Line, 5> kLines{
+        {{u"パターン", 5}, {u"開始使用量", 5}, {u"～終了使用量", 5}, {u"基本料", 10}, {u"単価", 10}}};
+    const auto walker = [](const char16_t* caption, const char16_t* name) {
+        constexpr int kWidth = 40;
+        auto* button = &Named(new CommandButton(QString::fromUtf16(caption)), QString::fromUtf16(name));
+        button->setFixedWidth(kWidth);
+        return button;
+    };
+    cmdLeft_ = walker(u"←", u"cmdLeft");
+    cmdRight_ = walker(u"→", u"cmdRight");
+    FieldLayout fields(*this);
+    for (std::size_t i = 0; i < kLines.size(); ++i) {
+        const int index = static_cast<int>(i);
+        FieldLine line = fields.row(QString::fromUtf16(kLines[i].caption));
+        line.text(addBox(ebox, index, ImeMode::Off), kLines[i].bytes);
+        if (index == kPattern) line.widget(cmdLeft_).widget(cmdRight_);
+    }
+    const auto row = [this](std::initializer_list<std::pair<Button, const char16_t*>> buttons) {
+        auto* line = new QHBoxLayout;
+        for (const auto& [index, caption] : buttons) {
+            line->addWidget(&Command.add(index, new CommandButton(QString::fromUtf16(caption))));
+        }
+        return line;
+    };
+    QHBoxLayout* bandButtons = row({{kAdd, u"追加"}, {kShow, u"表示"}});
+    Command1_ = &Named(new CommandButton(QStringLiteral("電卓")), QStringLiteral("Command1"));
+    bandButtons->addWidget(Command1_);
+
+    ListK_ = &Named(new FlexGrid(this), QStringLiteral("ListK"));
+    ListK_->SetCols(kColumns);
+    ListK_->SetFixedRows(1);
+    int width = 0;
+    for (int column = 0; column < kColumns; ++column) {
+        const Head& head = kHeads[static_cast<std::size_t>(column)];
+        ListK_->SetColWidth(column, head.width);
+        ListK_->SetColAlignment(column, head.alignment);
+        width += Twips(head.width);
+    }
+    ListK_->setFixedWidth(width + kScrollBar);
+
+    auto* bands = new QVBoxLayout;
+    bands->addLayout(fields.layout());
+    bands->addLayout(bandButtons);
+    bands->addWidget(ListK_, 1);
+    bands->addLayout(row({{kSave, u"保存"}, {kClear, u"クリア"}}));
+    return bands;
+}
+
+QVBoxLayout* GTanka_frm::layOutTable() {
+    Check1_ = &Named(new CheckBox(QStringLiteral("追加表示"), this), QStringLiteral("Check1"));
+    Check2_ = &Named(new CheckBox(QStringLiteral("整数部のみ表示"), this), QStringLiteral("Check2"));
+    auto* line = new QHBoxLayout;
+    line->addWidget(Check1_);
+    line->addSpacing(12);
+    line->addWidget(Check2_);
+    line->addStretch();
+    constexpr std::array<std::pair<Button, const char16_t*>, 3> kButtons{
+        {{kShowAll, u"全表示"}, {kExport, u"Excel"}, {kEmptyTable, u"クリア"}}};
+    for (const auto& [index, caption] : kButtons) {
+        line->addWidget(&Command.add(index, new CommandButton(QString::fromUtf16(caption))));
+    }
+
+    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    List_->SetFixedRows(1);
+    constexpr int kHeight = 420;
+    List_->setMinimumSize(Twips(kUsageWidth) + PriceTable::kPrices * Twips(kPriceWidth) + kScrollBar,
+                          kHeight);
+
+    auto* table = new QVBoxLayout;
+    table->addLayout(line);
+    table->addWidget(List_, 1);
+    return table;
+}
+
+// The four fields of a band lead to 追加; what is done to the whole pattern comes behind it.
+void GTanka_frm::orderWalk() {
+    for (const auto& [index, box] : ebox) {
+        JoinWalk(*this, *box);
+    }
+    for (const Button button : {kAdd, kSave, kShow, kShowAll, kExport, kEmptyTable, kClear}) {
+        JoinWalk(*this, Command(button));
+    }
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{cmdLeft_, cmdRight_, Command1_, Check1_, Check2_}) {
+        JoinWalk(*this, *control);
+    }
+}
+
+void GTanka_frm::wire() {
+    wireKeys(ebox, [this](int index) {
+        if (index == kPattern) load();
+        return true;
+    });
+    const auto press = [this](Button button, void (GTanka_frm::*action)()) {
+        on(&Command(button), &CommandButton::Click, [this, action] { (this->*action)(); });
+    };
+    press(kAdd, &GTanka_frm::addBand);
+    press(kSave, &GTanka_frm::save);
+    press(kClear, &GTanka_frm::clear);
+    press(kShowAll, &GTanka_frm::showAllBands);
+    press(kExport, &GTanka_frm::exportTable);
+    on(&Command(kShow), &CommandButton::Click, [this] { showBand(typedBand()); });
+    on(&Command(kEmptyTable), &CommandButton::Click, [this] {
+        emptyTable();
+        Check1_->SetValue(0);
+    });
+    on(cmdLeft_, &CommandButton::Click, [this] { walk(QStringLiteral(" WHERE Ptn<%1 ORDER BY Ptn DESC")); });
+    on(cmdRight_, &CommandButton::Click, [this] { walk(QStringLiteral(" WHERE Ptn>%1 ORDER BY Ptn")); });
+    on(Command1_, &CommandButton::Click, [] { OpenScreen<Dentaku_frm>(); });
+    on(ListK_, &FlexGrid::Click, [this] { clickBand(); });
+}
+
+// ---- the pattern
+
+void GTanka_frm::init() {
+    List_->SetCols(PriceTable::kPrices + 1);
+    for (int column = 0; column < List_->Cols(); ++column) {
+        List_->SetColWidth(column, column == 0 ? kUsageWidth : kPriceWidth);
+        List_->SetColAlignment(column, AlignRightCenter);
+    }
+    clear();
+}
+
+void GTanka_frm::clear() {
+    ClearControls(*this);
+    Check1_->SetValue(0);
+    Check2_->SetValue(0);
+    emptyBands();
+    emptyTable();
+    Recordset highest = gDb->OpenRecordset(QStringLiteral("SELECT MAX(Ptn) AS tCode FROM Gaskeisan"));
+    ebox(kPattern).SetText(NumStr(CLng(NullToZero(highest[QStringLiteral("tCode")])) + 1));
+    FocusSelect(ebox(kPattern));
+}
+
+void GTanka_frm::emptyBands() {
+    ListK_->SetRows(1);
+    for (int column = 0; column < kColumns; ++column) {
+        ListK_->SetTextMatrix(0, column, QString::fromUtf16(kHeads[static_cast<std::size_t>(column)].title));
+    }
+}
+
+QString GTanka_frm::pattern() const {
+    return NumStr(NumVal(ebox(kPattern).Text()));
+}
+
+void GTanka_frm::load() {
+    emptyBands();
+    Recordset bands = gDb->OpenRecordset(QStringLiteral("SELECT * FROM GasKeisan"
+                                                        " WHERE Ptn=") +
+                                         pattern() + QStringLiteral(" ORDER BY St,Ed"));
+    for (; !bands.Eof(); bands.MoveNext()) {
+        const auto text = [&bands](const char16_t* column) {
+            return NumStr(NullToZero(bands[QString::fromUtf16(column)]));
+        };
+        putBand({text(u"St"), text(u"Ed"), text(u"Kihon"), text(u"Tanka")});
+    }
+}
+
+void GTanka_frm::walk(const QString& condition) {
+    Recordset next =
+        gDb->OpenRecordset(QStringLiteral("SELECT * FROM Gaskeisan") + condition.arg(pattern()));
+    if (next.Eof()) return clear();
+    ebox(kPattern).SetText(NumStr(next[QStringLiteral("Ptn")]));
+    load();
+}
+
+void GTanka_frm::putBand(const std::array<QString, 4>& texts) {
+    const int row = ListK_->Rows();
+    ListK_->SetRows(row + 1);
+    ListK_->SetTextMatrix(row, kColMark, kKeep);
+    for (int i = 0; i < 4; ++i) {
+        ListK_->SetTextMatrix(row, kColSt + i, texts[static_cast<std::size_t>(i)]);
+    }
+    ListK_->SetTextMatrix(row, kColShow, QStringLiteral("表示"));
+}
+
+void GTanka_frm::addBand() {
+    putBand({ebox(kSt).Text(), ebox(kEd).Text(), ebox(kKihon).Text(), ebox(kTanka).Text()});
+    FocusSelect(ebox(kSt));  // a tariff is typed band by band
+}
+
+void GTanka_frm::clickBand() {
+    const int row = ListK_->MouseRow();
+    if (row < 1) return;
+    const QString mark = ListK_->TextMatrix(row, kColMark);
+    const int column = ListK_->MouseCol();
+    switch (column) {
+        case kColMark:
+            ListK_->SetTextMatrix(row, kColMark, mark == kKeep ? kDelete : kKeep);
+            break;
+        case kColShow:
+            if (mark == kKeep) showBand(bandOf(row));
+            break;
+        default:
+            for (int field = kSt; field <= kTanka; ++field) {
+                ebox(field).SetText(ListK_->TextMatrix(row, kColSt + field - kSt));
+            }
+            break;
+    }
+}
+
+void GTanka_frm::save() {
+    if (ListK_->Rows() <= 1 || NumVal(ebox(kPattern).Text()) == 0.0) return;
+    const auto where = [this](const QString& st, const QString& ed) {
+        return QStringLiteral(" WHERE Ptn=") + pattern() + QStringLiteral(" AND St=") + st +
+               QStringLiteral(" AND Ed=") + ed;
+    };
+    for (int row = 1; row < ListK_->Rows(); ++row) {
+        if (ListK_->TextMatrix(row, kColMark) == kDelete) {
+            gDb->Execute(QStringLiteral("DELETE * FROM GasKeisan") +
+                         where(KeepNumeric(ListK_->TextMatrix(row, kColSt)),
+                               KeepNumeric(ListK_->TextMatrix(row, kColEd))));
+            continue;
+        }
+        const TariffBand band = bandOf(row);
+        Recordset stored = gDb->OpenRecordset(QStringLiteral("SELECT * FROM GasKeisan") +
+                                              where(NumStr(band.st), NumStr(band.ed)));
+        if (stored.Eof()) {
+            stored.AddNew();
+            stored.Fields(QStringLiteral("Ptn")) = CInt(NumVal(ebox(kPattern).Text()));
+            stored.Fields(QStringLiteral("St")) = band.st;
+            stored.Fields(QStringLiteral("Ed")) = band.ed;
+        } else {
+            stored.Edit();
+        }
+        stored.Fields(QStringLiteral("Kihon")) = band.kihon;
+        stored.Fields(QStringLiteral("Tanka")) = band.tanka;
+        stored.Update();
+    }
+    clear();
+}
+
+// ---- the price table
+
+TariffBand GTanka_frm::typedBand() const {
+    return bandFrom(ebox(kSt).Text(), ebox(kEd).Text(), ebox(kKihon).Text(), ebox(kTanka).Text());
+}
+
+TariffBand GTanka_frm::bandOf(int row) const {
+    return bandFrom(ListK_->TextMatrix(row, kColSt), ListK_->TextMatrix(row, kColEd),
+                    ListK_->TextMatrix(row, kColKihon), ListK_->TextMatrix(row, kColTanka));
+}
+
+void GTanka_frm::showBand(const TariffBand& band) {
+    addToTable(band);
+    paintTable();
+}
+
+void GTanka_frm::showAllBands() {
+    Check1_->SetValue(1);
+    for (int row = 1; row < ListK_->Rows(); ++row) {
+        if (ListK_->TextMatrix(row, kColMark) == kKeep) addToTable(bandOf(row));
+    }
+    paintTable();
+}
+
+// A table of whole units is made to run on from band to band; one of tenths shows the last band alone, unless
+// the operator asks for more.
+void GTanka_frm::addToTable(const TariffBand& band) {
+    if (Check2_->Value() == 1) {
+        table_.AddWhole(band);
+        return;
+    }
+    if (Check1_->Value() == 0) table_.Clear();
+    table_.AddTenths(band);
+}
+
+void GTanka_frm::emptyTable() {
+    table_.Clear();
+    paintTable();
+}
+
+void GTanka_frm::paintTable() {
+    const auto put = [this](int row, const PriceTable::Row& texts) {
+        for (int column = 0; column < List_->Cols(); ++column) {
+            List_->SetTextMatrix(row, column, texts[static_cast<std::size_t>(column)]);
+        }
+    };
+    List_->SetRows(static_cast<int>(table_.Rows().size()) + 1);
+    put(0, PriceTable::Heads(Check2_->Value() == 1));
+    int row = 1;
+    for (const PriceTable::Row& texts : table_.Rows()) {
+        put(row++, texts);
+    }
+    List_->Refresh();
+}
+
+void GTanka_frm::exportTable() {
+    if (List_->Rows() <= 1) return;
+    GridToExcel(QStringLiteral("ガス料金表"), QStringLiteral("パターン : ") + ebox(kPattern).Text(), {}, *List_);
+}
+
+}  // namespace akarix
