@@ -228,8 +228,7 @@ void GTanka_frm::load() {
 }
 
 void GTanka_frm::walk(const QString& condition) {
-    Recordset next =
-        gDb->OpenRecordset(QStringLiteral("SELECT * FROM Gaskeisan") + condition.arg(pattern()));
+    Recordset next = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Gaskeisan") + condition.arg(pattern()));
     if (next.Eof()) return clear();
     ebox(kPattern).SetText(NumStr(next[QStringLiteral("Ptn")]));
     load();
@@ -358,7 +357,8 @@ void GTanka_frm::paintTable() {
 
 void GTanka_frm::exportTable() {
     if (List_->Rows() <= 1) return;
-    GridToExcel(QStringLiteral("ガス料金表"), QStringLiteral("パターン : ") + ebox(kPattern).Text(), {}, *List_);
+    GridToExcel(QStringLiteral("ガス料金表"), QStringLiteral("パターン : ") + ebox(kPattern).Text(), {},
+                *List_);
 }
 
 }  // namespace akarix

@@ -16,8 +16,8 @@ struct TariffBand {
     Currency tanka;
 };
 
-/// The printed price table: the charges of tariff bands by usage, ten to a row. A table holds bands laid out by
-/// tenths, or by whole units, or one after the other.
+/// The printed price table: the charges of tariff bands by usage, ten to a row. A table holds bands laid out
+/// by tenths, or by whole units, or one after the other.
 class PriceTable {
  public:
     static constexpr int kPrices = 10;
