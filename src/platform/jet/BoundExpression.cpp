@@ -1,9 +1,12 @@
 #include "platform/jet/BoundExpression.h"
 
 #include "platform/jet/BoundQuery.h"
+#include "platform/jet/DialectError.h"
 
 namespace akarix {
 namespace {
+
+constexpr int kMostNodes = 20000;
 
 struct Operands {
     std::vector<BoundPtr> operator()(const BoundNegation& n) const { return {n.operand}; }
@@ -76,6 +79,8 @@ BoundPtr makeBound(BoundNode node, Kind kind, const BoundExpression* from) {
     made->node = std::move(node);
     made->kind = kind;
     made->type = typeOf(kind);
+    for (const BoundPtr& operand : operandsOf(*made)) made->weight += operand->weight;
+    if (made->weight > kMostNodes) throw tooComplex();
     if (from) {
         made->text = from->text;
         made->position = from->position;

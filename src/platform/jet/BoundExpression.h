@@ -148,9 +148,10 @@ struct BoundExpression {
     int size = 0;
     QString text;            ///< as the statement has it, for messages
     qsizetype position = 0;  ///< in the statement
+    int weight = 1;          ///< nodes of the tree; what an alias stands for counts where it is used
 };
 
-/// \param from gives the text and the place.
+/// \param from gives the text and the place. Raises 3360 when the tree gets too large.
 BoundPtr makeBound(BoundNode node, Kind kind, const BoundExpression* from = nullptr);
 /// A whole number that no text contains, such as an argument left out.
 BoundPtr makeWhole(std::int64_t value);

@@ -111,7 +111,7 @@ BoundPtr bindNz(const Arguments& a) {
                        : makeBound(BoundLiteral{Literal{Literal::Kind::Text, QString()}}, Kind::Text);
     }
     const Kind kind = commonKind(a[0]->kind, fallback->kind);
-    return makeBound(BoundChoice{bindIsNull(a), toKind(fallback, kind), toKind(a[0], kind)}, kind);
+    return called("akarix_nz", {toKind(a[0], kind), toKind(fallback, kind)}, kind);
 }
 
 /// Whole numbers stay, money and doubles have a function each.
@@ -139,8 +139,7 @@ BoundPtr bindRound(const Arguments& a) {
 BoundPtr bindAbs(const Arguments& a) {
     const BoundPtr value = a[0]->kind == Kind::Text || a[0]->kind == Kind::Date ? toReal(a[0]) : a[0];
     const Kind kind = value->kind == Kind::Boolean ? Kind::Integer : value->kind;
-    const BoundPtr negative = makeBound(BoundComparison{CompareOp::Less, value, makeWhole(0)}, Kind::Boolean);
-    return makeBound(BoundChoice{negative, makeBound(BoundNegation{value}, kind), value}, kind);
+    return called("akarix_abs", {value}, kind);
 }
 
 BoundPtr bindMid(const Arguments& a) {

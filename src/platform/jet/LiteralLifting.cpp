@@ -7,6 +7,8 @@ namespace {
 
 constexpr char16_t kBetween = 0x1f;
 constexpr char16_t kLifted = 0x1e;
+// The engine takes 999; one literal can need two forms.
+constexpr std::size_t kMostParameters = 400;
 
 bool hasFrom(const std::vector<Token>& tokens) {
     return std::any_of(tokens.begin(), tokens.end(),
@@ -77,6 +79,10 @@ LiftedStatement liftLiterals(std::vector<Token>& tokens) {
         } else {
             appendToken(lifted.key, token);
         }
+    }
+    if (lifted.literals.size() > kMostParameters) {
+        for (Token& token : tokens) token.lifted = -1;
+        return {};
     }
     return lifted;
 }

@@ -10,7 +10,7 @@ namespace akarix {
 /// and makes the key under which the plan is kept: the tokens, with the kind of a literal in its place.
 /// What stays in: select lists (but for an INSERT of values), TOP, GROUP BY, HAVING, ORDER BY.
 struct LiftedStatement {
-    QString key;  ///< empty: not to be kept (a definition)
+    QString key;  ///< empty: not to be kept (a definition, or more literals than the engine takes)
     std::vector<Literal> literals;
 };
 

@@ -186,7 +186,12 @@ void RegisterSqlFunctions(sqlite3* connection) {
 }
 
 int FunctionErrorNumber(const QByteArray& message) {
-    return message.startsWith(kErrorMark) ? message.mid(sizeof(kErrorMark) - 1).toInt() : 0;
+    if (message.startsWith(kErrorMark)) return message.mid(sizeof(kErrorMark) - 1).toInt();
+    // Messages of the engine that stand for an error of the dialect: a sum past 64 bits, and trees that are
+    // deeper in its own form than in the dialect's.
+    if (message == "integer overflow") return 6;
+    if (message == "parser stack overflow" || message.startsWith("Expression tree is too large")) return 3360;
+    return 0;
 }
 
 }  // namespace akarix

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <set>
 
+#include "platform/jet/DialectError.h"
 #include "platform/jet/Writer.h"
 
 // The order of rows. What ORDER BY asks for comes first; texts go by the Japanese order, then by code points.
@@ -10,6 +11,8 @@
 
 namespace akarix {
 namespace {
+
+constexpr int kMostTops = 4;
 
 bool isConstant(const BoundExpression& expression) {
     return std::holds_alternative<BoundLiteral>(expression.node) ||
@@ -259,9 +262,16 @@ void Writer::topLimit(const BoundSelect& select, const Shape& shape) {
     out_ += "))*" + count + "+99)/100";
 }
 
+void Writer::topSelect(const BoundSelect& select, const Shape& shape) {
+    // Each level writes what is inside it two or three times.
+    if (++tops_ > kMostTops) throw tooComplex();
+    writeTop(select, shape);
+    --tops_;
+}
+
 /// TOP keeps every row that is equal to the last one in what ORDER BY asks for. The rows (named b) are held
 /// against the last of the counted ones (named x).
-void Writer::topSelect(const BoundSelect& select, const Shape& shape) {
+void Writer::writeTop(const BoundSelect& select, const Shape& shape) {
     const Order order = orderOf(select);
     Shape inner = shape;
     inner.aliased = true;

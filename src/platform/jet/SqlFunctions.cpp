@@ -140,6 +140,13 @@ StoreValue concat(const StoreValue* a) {
     return text(a[0]) + text(a[1]);
 }
 
+StoreValue absolute(const StoreValue* a) {
+    const auto* number = std::get_if<std::int64_t>(a);
+    if (!number) return std::abs(real(a[0]));
+    if (*number == INT64_MIN) throw RuntimeError(kOverflow);
+    return *number < 0 ? -*number : *number;
+}
+
 StoreValue sign(const StoreValue* a) {
     const double number = real(a[0]);
     return std::int64_t{number > 0 ? 1 : number < 0 ? -1 : 0};
@@ -197,6 +204,8 @@ const std::array kFunctions = {
     SqlFunction{"akarix_fix", 1, false, true, [](Values a) -> StoreValue { return Fix(real(a[0])); }},
     SqlFunction{"akarix_round", 2, false, true,
                 [](Values a) -> StoreValue { return roundedTo(real(a[0]), whole(a[1])); }},
+    SqlFunction{"akarix_abs", 1, false, true, absolute},
+    SqlFunction{"akarix_nz", 2, true, true, [](Values a) { return isNull(a[0]) ? a[1] : a[0]; }},
     SqlFunction{"akarix_sign", 1, false, true, sign},
     SqlFunction{"akarix_val", 1, false, true, [](Values a) -> StoreValue { return Val(text(a[0])); }},
     // Dates

@@ -80,6 +80,7 @@ class Writer {
     void unionQuery(const BoundQuery& query);
     void select(const BoundSelect& select, const Shape& shape);
     void topSelect(const BoundSelect& select, const Shape& shape);
+    void writeTop(const BoundSelect& select, const Shape& shape);
     void body(const BoundSelect& select, const Shape& shape, const Order* keys);
     void items(const BoundSelect& select, const Shape& shape);
     void rows(const BoundRows& rows);
@@ -102,6 +103,7 @@ class Writer {
     QByteArray out_;
     std::vector<Slot> parameters_;
     const BoundTable* itself_ = nullptr;     ///< the table of a change, which has no other name than its own
+    int tops_ = 0;                           ///< levels of TOP around the place being written
     const BoundRows* aggregated_ = nullptr;  ///< the rows of the query being written, for First and Last
 };
 
