@@ -79,7 +79,8 @@ BoundPtr makeBound(BoundNode node, Kind kind, const BoundExpression* from) {
     made->node = std::move(node);
     made->kind = kind;
     made->type = typeOf(kind);
-    for (const BoundPtr& operand : operandsOf(*made)) made->weight += operand->weight;
+    for (const BoundPtr& operand : operandsOf(*made))
+        made->weight += operand->weight;
     if (made->weight > kMostNodes) throw tooComplex();
     if (from) {
         made->text = from->text;

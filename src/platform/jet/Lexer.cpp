@@ -56,10 +56,12 @@ Literal readNumber(QStringView text) {
     if (!exponent && point < 0 && whole.size() <= 18) {
         return {Literal::Kind::Integer, static_cast<std::int64_t>(whole.toLongLong())};
     }
-    while (fraction.endsWith(u'0')) fraction.chop(1);
+    while (fraction.endsWith(u'0'))
+        fraction.chop(1);
     if (!exponent && fraction.size() <= 4) {
         bool fits = false;
-        const qlonglong scaled = (whole.toString() + fraction.toString().leftJustified(4, u'0')).toLongLong(&fits);
+        const qlonglong scaled =
+            (whole.toString() + fraction.toString().leftJustified(4, u'0')).toLongLong(&fits);
         if (fits) return {Literal::Kind::Decimal, static_cast<std::int64_t>(scaled)};
     }
     return {Literal::Kind::Real, text.toDouble()};

@@ -81,7 +81,8 @@ LiftedStatement liftLiterals(std::vector<Token>& tokens) {
         }
     }
     if (lifted.literals.size() > kMostParameters) {
-        for (Token& token : tokens) token.lifted = -1;
+        for (Token& token : tokens)
+            token.lifted = -1;
         return {};
     }
     return lifted;

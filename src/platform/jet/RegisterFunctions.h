@@ -15,8 +15,8 @@ namespace akarix {
 /// one where they come last.
 void RegisterSqlFunctions(sqlite3* connection);
 
-/// The classic number of an error that one of these functions raised, or that the engine has a text of its own
-/// for, from the message of the connection; 0 for all others.
+/// The classic number of an error that one of these functions raised, or that the engine has a text of its
+/// own for, from the message of the connection; 0 for all others.
 int FunctionErrorNumber(const QByteArray& message);
 
 }  // namespace akarix

@@ -15,7 +15,8 @@ ResultColumn column(const char16_t* name, FieldType type) {
 }
 
 const std::vector<ResultColumn> kColumns{column(u"Code", FieldType::Long), column(u"Namae", FieldType::Text),
-                                         column(u"Gaku", FieldType::Currency), column(u"Hi", FieldType::Date)};
+                                         column(u"Gaku", FieldType::Currency),
+                                         column(u"Hi", FieldType::Date)};
 
 TEST(Criteria, JudgesRowsAsAWhereWould) {
     const std::vector<StoreValue> row{std::int64_t{123}, QStringLiteral("Abc"), std::int64_t{15000}, 40607.0};
@@ -54,8 +55,13 @@ TEST(Criteria, JudgesRowsAsAWhereWould) {
 
 TEST(Criteria, RefusesWhatItCannotJudge) {
     const std::pair<const char*, int> cases[] = {
-        {"Kana=1", 3061}, {"Namae=5", 3464}, {"Code=", 3075}, {"Code=1 ORDER BY Code", 3075},
-        {"SUM(Code)=1", 3096}, {"Code IN (SELECT Code FROM T)", 3075}, {"", 3075},
+        {"Kana=1", 3061},
+        {"Namae=5", 3464},
+        {"Code=", 3075},
+        {"Code=1 ORDER BY Code", 3075},
+        {"SUM(Code)=1", 3096},
+        {"Code IN (SELECT Code FROM T)", 3075},
+        {"", 3075},
     };
     for (const auto& [text, number] : cases) {
         try {

@@ -50,11 +50,13 @@ TEST(PlanCache, SparesTheWorkWhereOnlyLiteralsDiffer) {
         {"SELECT * FROM T WHERE Gaku=1", "SELECT * FROM T WHERE Gaku=-1", false},
         {"UPDATE T SET Gaku=1.5 WHERE Code=1", "UPDATE T SET Gaku=200.25 WHERE Code=9", true},
         {"INSERT INTO T(Code,Namae) SELECT 1 , 'a'", "INSERT INTO T(Code,Namae) SELECT 2 , 'b''c'", true},
-        {"INSERT INTO T(Code,Namae) SELECT Code,'a' FROM U", "INSERT INTO T(Code,Namae) SELECT Code,'b' FROM U", false},
+        {"INSERT INTO T(Code,Namae) SELECT Code,'a' FROM U",
+         "INSERT INTO T(Code,Namae) SELECT Code,'b' FROM U", false},
         {"SELECT TOP 1 Code FROM T", "SELECT TOP 2 Code FROM T", false},
         {"SELECT Code FROM T ORDER BY 1", "SELECT Code,Gaku FROM T ORDER BY 2", false},
         {"SELECT Code+1 FROM T", "SELECT Code+2 FROM T", false},
-        {"SELECT Code FROM T WHERE Code IN (SELECT 1 FROM U)", "SELECT Code FROM T WHERE Code IN (SELECT 2 FROM U)", false},
+        {"SELECT Code FROM T WHERE Code IN (SELECT 1 FROM U)",
+         "SELECT Code FROM T WHERE Code IN (SELECT 2 FROM U)", false},
         {"SELECT [Code] FROM T", "SELECT 'Code' FROM T", false},
         {"SELECT Code FROM T WHERE Hi=#1/2/2003#", "SELECT Code FROM T WHERE Hi=#2004-05-06#", true},
     };
@@ -69,13 +71,17 @@ TEST(PlanCache, SparesTheWorkWhereOnlyLiteralsDiffer) {
 
 TEST(PlanCache, BindsTheLiteralsOfEachTextInTheFormOfTheirColumn) {
     Translator translator(smallCatalogue());
-    const QString shape = QStringLiteral("INSERT INTO T(Code,Namae,Gaku,Hi) SELECT %1 , '%2' , -%3 , CDATE('%4')");
+    const QString shape =
+        QStringLiteral("INSERT INTO T(Code,Namae,Gaku,Hi) SELECT %1 , '%2' , -%3 , CDATE('%4')");
     translator.translate(shape.arg(1).arg(QStringLiteral("x")).arg(2).arg(QStringLiteral("2011/1/1")));
-    const BoundStatement bound = translator.translate(shape.arg(7).arg(QStringLiteral("y")).arg(30).arg(QStringLiteral("1900/1/1")));
+    const BoundStatement bound =
+        translator.translate(shape.arg(7).arg(QStringLiteral("y")).arg(30).arg(QStringLiteral("1900/1/1")));
     const std::vector<StoreValue> expected{std::int64_t{7}, QStringLiteral("y"), std::int64_t{-300000}, 2.0};
     EXPECT_EQ(bound.arguments, expected);
     EXPECT_EQ(translator.fromCache(), 1);
-    EXPECT_EQ(errorOf(translator, shape.arg(7).arg(QStringLiteral("y")).arg(30).arg(QStringLiteral("1900/2/30"))), 13);
+    EXPECT_EQ(
+        errorOf(translator, shape.arg(7).arg(QStringLiteral("y")).arg(30).arg(QStringLiteral("1900/2/30"))),
+        13);
 }
 
 TEST(PlanCache, ForgetsThePlansLongUnusedAndAllOfThemWhenCleared) {
@@ -99,15 +105,22 @@ TEST(Translator, SaysWhichQueriesCanBeChanged) {
         bool updatable;
     };
     const Case cases[] = {
-        {"SELECT Namae FROM T WHERE Code>1 ORDER BY Namae", true}, {"SELECT T.* FROM T", true},
-        {"SELECT TOP 1 * FROM T ORDER BY Gaku", true},             {"SELECT DISTINCT Code FROM T", false},
-        {"SELECT MAX(Code) FROM T", false},                        {"SELECT Code FROM T GROUP BY Code", false},
-        {"SELECT T.Code FROM T, U", false},                        {"SELECT 1 AS One", false},
-        {"SELECT Code FROM T UNION ALL SELECT Code FROM U", false}, {"SELECT c FROM (SELECT Code AS c FROM T) AS d", false},
+        {"SELECT Namae FROM T WHERE Code>1 ORDER BY Namae", true},
+        {"SELECT T.* FROM T", true},
+        {"SELECT TOP 1 * FROM T ORDER BY Gaku", true},
+        {"SELECT DISTINCT Code FROM T", false},
+        {"SELECT MAX(Code) FROM T", false},
+        {"SELECT Code FROM T GROUP BY Code", false},
+        {"SELECT T.Code FROM T, U", false},
+        {"SELECT 1 AS One", false},
+        {"SELECT Code FROM T UNION ALL SELECT Code FROM U", false},
+        {"SELECT c FROM (SELECT Code AS c FROM T) AS d", false},
     };
     Translator translator(smallCatalogue());
     for (const Case& one : cases) {
-        EXPECT_EQ(!translator.translate(QString::fromUtf8(one.sql)).plan->updatableTable.isEmpty(), one.updatable) << one.sql;
+        EXPECT_EQ(!translator.translate(QString::fromUtf8(one.sql)).plan->updatableTable.isEmpty(),
+                  one.updatable)
+            << one.sql;
     }
 }
 
@@ -136,7 +149,8 @@ TEST(Translator, NamesTheConstructAndItsPlace) {
 // What is too deep must be refused here, and what is let through the engine must take.
 TEST(Translator, KeepsTheDepthOfStatementsWithinWhatTheEngineTakes) {
     const auto nested = [](const QString& open, const QString& middle, const QString& close, int depth) {
-        return QStringLiteral("SELECT Code FROM T WHERE ") + open.repeated(depth) + middle + close.repeated(depth);
+        return QStringLiteral("SELECT Code FROM T WHERE ") + open.repeated(depth) + middle +
+               close.repeated(depth);
     };
     const QTemporaryDir folder;
     Database& database = *DBEngine::Workspaces(0).CreateDatabase(folder.filePath(QStringLiteral("Deep.MDB")),
@@ -178,15 +192,22 @@ TEST(Translator, KeepsTheDepthOfStatementsWithinWhatTheEngineTakes) {
 // Statements with pieces lost, doubled and exchanged: an error is right, a crash is not.
 TEST(Translator, StandsBrokenStatements) {
     const QStringList seeds{
-        QStringLiteral("SELECT TOP 5 a.Code, First(b.Gaku) AS g FROM (T AS a LEFT JOIN U AS b ON a.Code = b.Code) "
-                       "WHERE a.Namae LIKE '*x[!a-c]' AND b.Hi >= #1/2/2003# GROUP BY a.Code ORDER BY First(b.Gaku) DESC"),
-        QStringLiteral("UPDATE T INNER JOIN U ON T.Code=U.Code SET T.Gaku = [U].[Gaku]*1.5, T.Namae='a''b' & U.Namae"),
-        QStringLiteral("INSERT INTO T(Code, Namae) SELECT IIF(Code IN (1,2),-3,Code), \"q\" FROM U UNION SELECT 1, NULL"),
+        QStringLiteral(
+            "SELECT TOP 5 a.Code, First(b.Gaku) AS g FROM (T AS a LEFT JOIN U AS b ON a.Code = b.Code) "
+            "WHERE a.Namae LIKE '*x[!a-c]' AND b.Hi >= #1/2/2003# GROUP BY a.Code ORDER BY First(b.Gaku) "
+            "DESC"),
+        QStringLiteral(
+            "UPDATE T INNER JOIN U ON T.Code=U.Code SET T.Gaku = [U].[Gaku]*1.5, T.Namae='a''b' & U.Namae"),
+        QStringLiteral("INSERT INTO T(Code, Namae) SELECT IIF(Code IN (1,2),-3,Code), \"q\" FROM U UNION "
+                       "SELECT 1, NULL"),
         QStringLiteral("CREATE TABLE V(Code Long NOT NULL, Namae Text(5), CONSTRAINT k PRIMARY KEY (Code))"),
-        QStringLiteral("DELETE T.* FROM T INNER JOIN U ON T.Code=U.Code WHERE NOT EXISTS (SELECT * FROM U) XOR TRUE"),
+        QStringLiteral(
+            "DELETE T.* FROM T INNER JOIN U ON T.Code=U.Code WHERE NOT EXISTS (SELECT * FROM U) XOR TRUE"),
     };
     std::mt19937 random(7164);
-    const auto pick = [&](qsizetype below) { return static_cast<qsizetype>(random() % static_cast<std::uint32_t>(below)); };
+    const auto pick = [&](qsizetype below) {
+        return static_cast<qsizetype>(random() % static_cast<std::uint32_t>(below));
+    };
     Translator translator(smallCatalogue());
     for (int round = 0; round < 4000; ++round) {
         QStringList words = seeds[pick(seeds.size())].split(u' ');
@@ -194,10 +215,18 @@ TEST(Translator, StandsBrokenStatements) {
             const qsizetype place = pick(words.size());
             const QStringList other = seeds[pick(seeds.size())].split(u' ');
             switch (random() % 4) {
-                case 0: words[place] = other[pick(other.size())]; break;
-                case 1: words.insert(place, words[pick(words.size())]); break;
-                case 2: words[place].truncate(pick(words[place].size() + 1)); break;
-                default: words[place].append(QStringLiteral("()[]'\"#.,*-;=é")[pick(14)]); break;
+                case 0:
+                    words[place] = other[pick(other.size())];
+                    break;
+                case 1:
+                    words.insert(place, words[pick(words.size())]);
+                    break;
+                case 2:
+                    words[place].truncate(pick(words[place].size() + 1));
+                    break;
+                default:
+                    words[place].append(QStringLiteral("()[]'\"#.,*-;=é")[pick(14)]);
+                    break;
             }
         }
         errorOf(translator, words.join(u' '));
