@@ -39,19 +39,23 @@ Connection OpenKeyed(const QString& path, const QString& password, int flags) {
     // Newer releases of the engine need to be told the format; older ones pass over what they do not know.
     Run(opened, "PRAGMA cipher_compatibility=3");
     Run(opened, "PRAGMA cipher_page_size=" + QByteArray::number(kPageSize));
+    // The schema names a collation of ours, so that not even a check of the file can do without.
+    RegisterSqlFunctions(opened);
     return connection;
 }
 
 void Configure(sqlite3* connection, bool exclusive) {
     if (exclusive) {
+        // The mode keeps what lock the connection gets; a transaction gets it the whole one now.
         Run(connection, "PRAGMA locking_mode=EXCLUSIVE");
+        Run(connection, "BEGIN EXCLUSIVE");
+        Run(connection, "COMMIT");
     }
     Run(connection, "PRAGMA journal_mode=DELETE");
     Run(connection, "PRAGMA synchronous=FULL");
     Run(connection, "PRAGMA cache_size=-16000");
     // Pages given back are blanked, so that salvage never takes rows long deleted for lost ones.
     Run(connection, "PRAGMA secure_delete=ON");
-    RegisterSqlFunctions(connection);
 }
 
 // The engine says the same of a wrong password and of a broken first page; the other pages tell which it is.
@@ -79,6 +83,7 @@ void Prove(sqlite3* connection, const QString& password) {
             case SQLITE_NOTADB:
                 throw StoreError(NumberOfUnreadable(connection, password));
             case SQLITE_BUSY:
+                throw StoreError(3356);
             case SQLITE_CANTOPEN:
             case SQLITE_PERM:
                 throw;

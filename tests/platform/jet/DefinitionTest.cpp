@@ -129,6 +129,8 @@ TEST_F(DefinitionTest, IndexesOutliveAnAlteredColumn) {
     EXPECT_EQ(goods().uniqueKeys.size(), 2U);
     ASSERT_EQ(define(Kind::AlterColumn, name, {QStringLiteral("Rte"), FieldType::Long}), 0);
     EXPECT_EQ(goods().uniqueKeys.size(), 2U);
+    database_->Close();
+    database_ = &open();
     database_->Execute(QStringLiteral("INSERT INTO Goods(Code,Kana) VALUES(1,'a')"));
     database_->Execute(QStringLiteral("INSERT INTO Goods(Code,Kana) VALUES(2,'A')"));
     EXPECT_EQ(database_->RecordsAffected(), 0) << "texts that differ in case alone are one key";

@@ -139,13 +139,15 @@ TEST_F(OpeningTest, CopyOfAnOpenStoreHoldsEverythingSoFar) {
 }
 
 TEST_F(OpeningTest, ExclusiveAndReadOnly) {
-    create().Close();
+    Database& made = create();
+    MakeTable(made, GoodsTable());
+    made.Close();
     Workspace& workspace = DBEngine::Workspaces(0);
     Database& reader = *workspace.OpenDatabase(path(), false, true, Connect());
-    EXPECT_EQ(ErrorOf([&] { MakeTable(reader, GoodsTable()); }), 3027);
+    EXPECT_EQ(ErrorOf([&] { MakeTable(reader, GoodsTable(QStringLiteral("Further"))); }), 3027);
+    EXPECT_EQ(count(reader, QStringLiteral("Goods")), 0);
     reader.Close();
     Database& owner = *workspace.OpenDatabase(path(), true, false, Connect());
-    MakeTable(owner, GoodsTable());
     EXPECT_EQ(ErrorOf([&] { DBEngine::RepairDatabase(path()); }), 3045) << "somebody works with the file";
 }
 
