@@ -147,7 +147,7 @@ TEST_F(OpeningTest, ExclusiveAndReadOnly) {
     EXPECT_EQ(ErrorOf([&] { MakeTable(reader, GoodsTable(QStringLiteral("Further"))); }), 3027);
     EXPECT_EQ(count(reader, QStringLiteral("Goods")), 0);
     reader.Close();
-    Database& owner = *workspace.OpenDatabase(path(), true, false, Connect());
+    workspace.OpenDatabase(path(), true, false, Connect());
     EXPECT_EQ(ErrorOf([&] { DBEngine::RepairDatabase(path()); }), 3045) << "somebody works with the file";
 }
 

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kTables = 20;
 constexpr int kLongTexts = 3;  // the table whose texts run over onto further pages
+constexpr int kTextKey = 4;
 
 using Row = std::vector<StoreValue>;
 using Contents = std::map<std::pair<QString, std::int64_t>, Row>;  // by table and row number
@@ -25,6 +26,9 @@ TableDef Table(int number) {
                                     FieldType::Integer};
     for (int i = 0; i < 2 + number % 10; ++i) {
         table.columns.push_back({QStringLiteral("C%1").arg(i), kKinds[(i + number) % 4], 40, i == 3});
+    }
+    if (number == kTextKey) {
+        table.uniqueKeys = {{QStringLiteral("C0")}};
     }
     if (number == kLongTexts) {
         table.columns.push_back({QStringLiteral("Memo"), FieldType::Memo});
