@@ -1,0 +1,379 @@
+#include "entry/SlipG_frm.h"
+
+#include <QScopeGuard>
+#include <QVBoxLayout>
+#include <array>
+
+#include "billing/Sub.h"
+#include "dialogs/AskConfirm.h"
+#include "dialogs/ShowAlert.h"
+#include "entry/GasUsage.h"
+#include "output/EX.h"
+#include "platform/forms/FieldLayout.h"
+#include "platform/runtime/CCur.h"
+#include "platform/runtime/CInt.h"
+#include "platform/runtime/CLng.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DatePart.h"
+#include "platform/runtime/Format.h"
+#include "platform/runtime/IsDate.h"
+#include "store/FieldValue.h"
+#include "store/Lookup.h"
+#include "toolkit/FieldWalk.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+
+namespace akarix {
+
+namespace {
+
+enum Box { kYear, kMonth, kDay, kRoute, kCustomer };
+enum Button { kClear, kDelete, kSave, kExport };
+
+enum Column {
+    kColDeal,
+    kColNamae,
+    kColZenkaiMeter,
+    kColKoukanMeter,
+    kColKoukanGoMeter,
+    kColKonkaiMeter,
+    kColSuu,
+    kColGaku,
+    kColHi,
+    kColumns
+};
+
+struct ColumnPlan {
+    const char16_t* title;
+    const char16_t* mask;
+    std::int16_t width;
+    const char16_t* align;
+    bool editable;
+    const char16_t* source;
+};
+
+constexpr std::array<ColumnPlan, kColumns> kPlan{{
+    {u"ｺｰﾄﾞ", u"", 1000, u"R", false, u"Deal"},
+    {u"得意先", u"S", 2000, u"L", false, u""},
+    {u"前回検針値", u"#,##0.0", 1300, u"R", true, u"ZenkaiMeter"},
+    {u"交換検針値", u"#,###.#", 1300, u"R", true, u"KoukanMeter"},
+    {u"交換後の値", u"#,###.#", 1300, u"R", true, u"KoukanGoMeter"},
+    {u"今回検針値", u"#,##0.0", 1300, u"R", true, u"KonkaiMeter"},
+    {u"使用量", u"#,##0.0", 1000, u"R", false, u"Suu"},
+    {u"料金", u"##,##0", 1400, u"R", true, u"Gaku"},
+    {u"検針日", u"##", 1000, u"R", true, u"Hi"},
+}};
+
+constexpr int kEarliestYear = 2000;
+
+QString slashed(const QString& year, const QString& month, const QString& day) {
+    return year + u'/' + month + u'/' + day;
+}
+
+}  // namespace
+
+SlipG_frm::SlipG_frm() : EntryForm(QStringLiteral("SlipG_frm"), QStringLiteral("検針入力")) {
+    layOut();
+    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
+    on(&ebox(kRoute), &TextBox::LostFocus, [this] { takeRouteDay(); });
+    // A picked route goes the way of the day box: the walk then comes to the route and reads it there.
+    wireLookup(F6(0), QStringLiteral("Rte"), QStringLiteral("ALL"), ebox(kRoute), press, kDay);
+    wireLookup(F6(1), QStringLiteral("Deal"), {}, ebox(kCustomer), press, kCustomer);
+    on(Command1_, &CommandButton::Click, [this] { showMonth(); });
+    on(&Btn(kClear), &CommandButton::Click, [this] { clear(); });
+    on(&Btn(kDelete), &CommandButton::Click, [this] { askAndDelete(); });
+    on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
+    on(&Btn(kExport), &CommandButton::Click, [this] { exportGrid(); });
+    wireGrid();
+}
+
+SlipG_frm::~SlipG_frm() {
+    if (gGridForm != this) return;
+    gGridForm = nullptr;
+    gGrid = nullptr;
+}
+
+void SlipG_frm::layOut() {
+    constexpr int kRouteBytes = 5;
+    constexpr int kCodeBytes = 8;
+    constexpr int kNameBytes = 30;
+    FieldLayout fields(*this);
+    fields.row(QStringLiteral("検針日"))
+        .text(addBox(ebox, kYear, ImeMode::Off), 4)
+        .note(QStringLiteral("年"))
+        .text(addBox(ebox, kMonth, ImeMode::Off), 2)
+        .note(QStringLiteral("月分"))
+        .text(addBox(ebox, kDay, ImeMode::Off), 2)
+        .note(QStringLiteral("日"));
+    sRte_ = &Named(new Label({}, this), QStringLiteral("sRte"));
+    fields.row(QStringLiteral("地区"))
+        .text(addBox(ebox, kRoute, ImeMode::Off), kRouteBytes, kCodeBytes)
+        .lookup(F6.add(0, new Image))
+        .name(*sRte_, kNameBytes);
+    Command1_ = &Named(new CommandButton(QStringLiteral("表示")), QStringLiteral("Command1"));
+    fields.row(QStringLiteral("コード"))
+        .text(addBox(ebox, kCustomer, ImeMode::Off), kCodeBytes)
+        .lookup(F6.add(1, new Image))
+        .button(*Command1_);
+
+    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    List_->SetFixedRows(1);
+    int width = 0;
+    for (const ColumnPlan& column : kPlan) {
+        width += Twips(column.width);
+    }
+    constexpr int kScrollBar = 24;
+    constexpr int kGridHeight = 460;
+    List_->setMinimumSize(width + kScrollBar, kGridHeight);
+    tBox_ = &Named(new TextBox(this), QStringLiteral("tBox"));
+    tBox_->hide();
+
+    auto* body = new QVBoxLayout(this);
+    body->addLayout(fields.layout());
+    body->addWidget(List_, 1);
+    body->addLayout(ButtonBar(*this, Btn,
+                              {QStringLiteral("画面クリア"), QStringLiteral("削除"), QStringLiteral("保存"),
+                               QStringLiteral("Excel")}));
+}
+
+void SlipG_frm::wireGrid() {
+    on(List_, &FlexGrid::Click, [this] { openEditor(); });
+    on(List_, &FlexGrid::RowColChange, [this] { openEditor(); });
+    on(List_, &FlexGrid::Scroll, [this] { closeEditor(); });
+    on(List_, &FlexGrid::KeyDown, [this](KeyEvent& event) {
+        if (event.KeyCode == key::Return) openEditor();
+    });
+    on(tBox_, &TextBox::KeyDown, [this](KeyEvent& event) { cellKey(event); });
+    on(tBox_, &TextBox::LostFocus, [this] { tBox_->hide(); });
+}
+
+void SlipG_frm::defineColumns() {
+    gGridForm = this;
+    gGrid = List_;
+    GridInit(QStringLiteral("List"));
+    for (const ColumnPlan& plan : kPlan) {
+        GridAddCol({QString::fromUtf16(plan.title), QString::fromUtf16(plan.mask), plan.width,
+                    QString::fromUtf16(plan.align), plan.editable, QStringLiteral("T"),
+                    static_cast<std::int16_t>(ImeMode::Off)});
+    }
+    GridApply();
+}
+
+void SlipG_frm::init() {
+    List_->SetRows(1);
+    defineColumns();
+    defaultDay_ =
+        CInt(KeepNumeric(GetContents(QStringLiteral("SELECT Contents FROM zSysFunc WHERE Code=3"))));
+    clear();
+}
+
+void SlipG_frm::fromexe(int nendo, int getudo, std::int32_t deal) {
+    if (nendo < 1 || getudo < 1 || deal < 1) return;
+    init();
+    ebox(kYear).SetText(NumStr(nendo));
+    ebox(kMonth).SetText(NumStr(getudo));
+    ebox(kCustomer).SetText(NumStr(deal));
+    showMonth();
+}
+
+void SlipG_frm::clear() {
+    ClearControls(*this);
+    const Date today = Today();
+    ebox(kYear).SetText(NumStr(Year(today)));
+    ebox(kMonth).SetText(NumStr(Month(today)));
+    if (defaultDay_ >= 1) ebox(kDay).SetText(NumStr(defaultDay_));
+    sRte_->SetCaption({});
+    Command1_->setEnabled(true);
+    List_->SetRows(1);
+    tBox_->hide();
+    FocusSelect(ebox(kYear));
+}
+
+// ---- the head
+
+bool SlipG_frm::enter(int index) {
+    const auto month = [this] { return NumVal(ebox(kMonth).Text()); };
+    switch (index) {
+        case kYear:
+            return NumVal(ebox(kYear).Text()) >= kEarliestYear;
+        case kMonth:
+            return month() >= 1 && month() <= 12;
+        case kDay:
+            // The month, not the day, is held against 31: a day past the month's end is the save's to tell.
+            return NumVal(ebox(kDay).Text()) >= 1 && month() <= 31;
+        case kRoute:
+            sRte_->SetCaption(GetName(QStringLiteral("Rte"), NumVal(ebox(kRoute).Text())));
+            return true;
+        case kCustomer:
+            SetFocus(Command1_);
+            return false;
+        default:
+            return true;
+    }
+}
+
+void SlipG_frm::takeRouteDay() {
+    const std::int16_t day = CInt(GetKensinDay(NumVal(ebox(kRoute).Text())));
+    if (day > 0) ebox(kDay).SetText(NumStr(day));
+}
+
+QString SlipG_frm::filter() const {
+    QString terms;
+    const double route = NumVal(ebox(kRoute).Text());
+    if (route > 0) terms += QStringLiteral(" AND Deal.Rte=") + NumStr(route);
+    const double customer = NumVal(ebox(kCustomer).Text());
+    if (customer > 0) terms += QStringLiteral(" AND Deal.Code=") + NumStr(customer);
+    return terms;
+}
+
+MonthReadings SlipG_frm::month() const {
+    return {KeepNumeric(ebox(kYear).Text()), KeepNumeric(ebox(kMonth).Text())};
+}
+
+// ---- the buttons
+
+void SlipG_frm::showMonth() {
+    Command1_->setEnabled(false);
+    const auto enable = qScopeGuard([this] { Command1_->setEnabled(true); });
+    for (const int field : {kYear, kMonth}) {
+        if (enter(field)) continue;
+        FocusSelect(ebox(field));
+        return;
+    }
+    List_->SetRows(1);
+    List_->Refresh();
+    Recordset rows = month().show(filter(), KeepNumeric(ebox(kDay).Text()));
+    if (rows.Eof()) {
+        Command1_->setEnabled(true);
+        SetFocus(Command1_);  // the button let go of the keyboard when it was switched off
+        return;
+    }
+    fill(rows);
+    List_->SetRow(1);
+    List_->SetCol(kColKonkaiMeter);
+    GridEdit();
+}
+
+void SlipG_frm::fill(Recordset& rows) {
+    rows.MoveLast();
+    const std::int16_t count = CInt(rows.RecordCount());
+    rows.MoveFirst();
+    List_->SetRows(count + 1);
+    for (int row = 1; row <= count; ++row, rows.MoveNext()) {
+        const std::int32_t deal = longOf(rows[QStringLiteral("Deal")]);
+        List_->SetTextMatrix(row, kColDeal, NumStr(deal));
+        List_->SetTextMatrix(row, kColNamae, GetName(QStringLiteral("Deal"), deal));
+        for (int column = kColZenkaiMeter; column < kColumns; ++column) {
+            const QString source = QString::fromUtf16(kPlan[static_cast<std::size_t>(column)].source);
+            List_->SetTextMatrix(row, column, Format(moneyOf(rows[source]), gCols[column].Fmt));
+        }
+    }
+}
+
+void SlipG_frm::save() {
+    const QString day = ebox(kDay).Text();
+    if (!IsDate(slashed(ebox(kYear).Text(), ebox(kMonth).Text(), day))) {
+        ShowAlert(QStringLiteral("検針日を正しく入れて下さい。"));
+        return;
+    }
+    const MonthReadings readings = month();
+    // The whole month goes, whatever part of it the grid shows: a month is entered and saved as one.
+    readings.clear();
+    for (int row = 1; row < List_->Rows(); ++row) {
+        const auto number = [this, row](int column) { return KeepNumeric(List_->TextMatrix(row, column)); };
+        if (NumVal(number(kColDeal)) == 0) continue;
+        QStringList rest;
+        for (int column = kColKoukanMeter; column <= kColGaku; ++column) {
+            rest += number(column);
+        }
+        // One day for all: what a row's own day column shows is not kept.
+        rest += KeepNumeric(day);
+        readings.add(number(kColDeal), number(kColZenkaiMeter), rest);
+    }
+    clear();
+}
+
+void SlipG_frm::askAndDelete() {
+    if (AskConfirmRev(QStringLiteral("この月度の検針を削除します。"), QStringLiteral("いいえ"),
+                      QStringLiteral("削除"))) {
+        return;
+    }
+    month().clearRoute(KeepNumeric(ebox(kRoute).Text()));
+    clear();
+}
+
+void SlipG_frm::exportGrid() {
+    if (List_->Rows() <= 1) return;
+    GridToExcel(QStringLiteral("検針入力一覧"),
+                QStringLiteral("ルート : ") + ebox(kRoute).Text() + QStringLiteral(" : ") + sRte_->Caption(),
+                slashed(ebox(kYear).Text(), ebox(kMonth).Text(), ebox(kDay).Text()), *List_);
+}
+
+// ---- the cells
+
+void SlipG_frm::openEditor() {
+    closeEditor();
+    if (List_->Rows() > 1) GridEdit();
+}
+
+/// Hands the keyboard back to the grid; the box hides as it loses it, and with it what was not confirmed.
+void SlipG_frm::closeEditor() {
+    if (tBox_->isVisible()) SetFocus(List_);
+    tBox_->hide();
+}
+
+void SlipG_frm::cellKey(KeyEvent& event) {
+    if (event.KeyCode == key::Return || event.KeyCode == key::Down) {
+        event.KeyCode = 0;
+        confirmCell();
+    } else if (event.KeyCode == key::Escape) {
+        event.KeyCode = 0;
+        closeEditor();
+    }
+}
+
+void SlipG_frm::confirmCell() {
+    const int row = List_->Row();
+    switch (List_->Col()) {
+        case kColZenkaiMeter:
+        case kColKoukanMeter:
+        case kColKoukanGoMeter:
+        case kColGaku:
+            List_->SetText(tBox_->Text());
+            closeEditor();
+            break;
+        case kColKonkaiMeter:
+            List_->SetText(tBox_->Text());
+            calculateRow(row);
+            if (row + 1 < List_->Rows()) {
+                GridNextRow();
+            } else {
+                FocusSelect(ebox(kRoute));
+            }
+            break;
+        case kColHi:
+            if (!isDayOfMonth(tBox_->Text())) break;
+            List_->SetText(tBox_->Text());
+            closeEditor();
+            break;
+        default:
+            break;
+    }
+}
+
+void SlipG_frm::calculateRow(int row) {
+    const auto money = [this, row](int column) {
+        return CCur(KeepNumeric(List_->TextMatrix(row, column)));
+    };
+    const Currency usage = CalcGasUsage(money(kColZenkaiMeter), money(kColKoukanMeter),
+                                        money(kColKoukanGoMeter), money(kColKonkaiMeter));
+    List_->SetTextMatrix(row, kColSuu, Format(usage, QStringLiteral("#,##0.0")));
+    const std::int32_t deal = CLng(KeepNumeric(List_->TextMatrix(row, kColDeal)));
+    List_->SetTextMatrix(row, kColGaku, Format(CalcGasCharge(deal, usage), QStringLiteral("###,##0")));
+}
+
+bool SlipG_frm::isDayOfMonth(const QString& day) const {
+    return IsDate(slashed(ebox(kYear).Text(), ebox(kMonth).Text(), NumStr(NumVal(day))));
+}
+
+}  // namespace akarix

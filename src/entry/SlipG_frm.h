@@ -1,0 +1,58 @@
+#pragma once
+
+#include "entry/MonthReadings.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Label.h"
+#include "toolkit/EntryForm.h"
+#include "toolkit/GridEdit.h"
+
+namespace akarix {
+
+/// The monthly reading sheet: a row a customer in the order of the round, readings typed straight into the
+/// grid. The grid is the working copy of the month; nothing but a month's opening is written before the save.
+class SlipG_frm : public EntryForm, public GridForm {
+ public:
+    SlipG_frm();
+    ~SlipG_frm() override;
+    void init();
+    /// Opens the sheet on one customer's month.
+    void fromexe(int nendo, int getudo, std::int32_t deal);
+
+    TextBox& tBox() override { return *tBox_; }
+    ComboBox* cbBox() override { return nullptr; }
+    void SetCombo(const QString& /*gridName*/) override {}
+
+ private:
+    void layOut();
+    void wireGrid();
+    void defineColumns();
+    bool enter(int index);
+    void takeRouteDay();
+    void clear();
+
+    QString filter() const;
+    MonthReadings month() const;
+    void showMonth();
+    void fill(Recordset& rows);
+    void save();
+    void askAndDelete();
+    void exportGrid();
+
+    void openEditor();
+    void closeEditor();
+    void cellKey(KeyEvent& event);
+    void confirmCell();
+    void calculateRow(int row);
+    bool isDayOfMonth(const QString& day) const;
+
+    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
+    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
+    ControlArray<Image> F6{QStringLiteral("F6")};
+    CommandButton* Command1_ = nullptr;
+    Label* sRte_ = nullptr;
+    FlexGrid* List_ = nullptr;
+    TextBox* tBox_ = nullptr;
+    std::int16_t defaultDay_ = 0;
+};
+
+}  // namespace akarix
