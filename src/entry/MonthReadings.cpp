@@ -14,9 +14,10 @@ MonthReadings::MonthReadings(QString year, QString month)
     : year_(std::move(year)), month_(std::move(month)) {}
 
 Recordset MonthReadings::show(const QString& filter, const QString& day) const {
-    const QString rows = QStringLiteral("SELECT Dgd.* FROM Dgd "
-                                        " INNER JOIN Deal ON Dgd.Deal=Deal.Code "
-                                        " WHERE Nendo   =") +
+    const QString rows = QStringLiteral(
+                             "SELECT Dgd.* FROM Dgd "
+                             " INNER JOIN Deal ON Dgd.Deal=Deal.Code "
+                             " WHERE Nendo   =") +
                          year_ + QStringLiteral(" AND   Getudo  =") + month_ + filter;
     Recordset probe = gDb->OpenRecordset(rows);
     const bool unopened = probe.Eof();

@@ -12,8 +12,8 @@ class MonthReadings {
  public:
     MonthReadings(QString year, QString month);
 
-    /// The filter's rows in the order of the round. Looking at a month opens it: where the filter finds no row
-    /// at all, its customers get one each, read on `day` with nothing used yet.
+    /// The filter's rows in the order of the round. Looking at a month opens it: where the filter finds no
+    /// row at all, its customers get one each, read on `day` with nothing used yet.
     Recordset show(const QString& filter, const QString& day) const;
 
     /// Takes the month away, every route of it.

@@ -362,9 +362,7 @@ void SlipG_frm::confirmCell() {
 }
 
 void SlipG_frm::calculateRow(int row) {
-    const auto money = [this, row](int column) {
-        return CCur(KeepNumeric(List_->TextMatrix(row, column)));
-    };
+    const auto money = [this, row](int column) { return CCur(KeepNumeric(List_->TextMatrix(row, column))); };
     const Currency usage = CalcGasUsage(money(kColZenkaiMeter), money(kColKoukanMeter),
                                         money(kColKoukanGoMeter), money(kColKonkaiMeter));
     List_->SetTextMatrix(row, kColSuu, Format(usage, QStringLiteral("#,##0.0")));
