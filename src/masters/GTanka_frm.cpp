@@ -43,6 +43,7 @@ constexpr std::array<Head, kColumns> kHeads{{
 const QString kKeep = QStringLiteral("○");
 const QString kDelete = QStringLiteral("×");
 
+constexpr int kSpacing = 10;
 constexpr int kScrollBar = 24;
 constexpr int kUsageWidth = 600;
 constexpr int kPriceWidth = 800;
@@ -55,7 +56,8 @@ TariffBand bandFrom(const QString& st, const QString& ed, const QString& kihon, 
 
 GTanka_frm::GTanka_frm() : EntryForm(QStringLiteral("GTanka_frm"), QStringLiteral("価格表")) {
     auto* body = new QHBoxLayout(this);
-    body->setSpacing(20);
+    constexpr int kBetweenHalves = 20;
+    body->setSpacing(kBetweenHalves);
     body->addLayout(layOutBands());
     body->addLayout(layOutTable(), 1);
     orderWalk();
@@ -88,6 +90,7 @@ QVBoxLayout* GTanka_frm::layOutBands() {
     }
     const auto row = [this](std::initializer_list<std::pair<Button, const char16_t*>> buttons) {
         auto* line = new QHBoxLayout;
+        line->setSpacing(kSpacing);
         for (const auto& [index, caption] : buttons) {
             line->addWidget(&Command.add(index, new CommandButton(QString::fromUtf16(caption))));
         }
@@ -107,9 +110,11 @@ QVBoxLayout* GTanka_frm::layOutBands() {
         ListK_->SetColAlignment(column, head.alignment);
         width += Twips(head.width);
     }
-    ListK_->setFixedWidth(width + kScrollBar);
+    ListK_->setMinimumWidth(width + kScrollBar);
+    ListK_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
 
     auto* bands = new QVBoxLayout;
+    bands->setSpacing(kSpacing);
     bands->addLayout(fields.layout());
     bands->addLayout(bandButtons);
     bands->addWidget(ListK_, 1);
@@ -121,8 +126,8 @@ QVBoxLayout* GTanka_frm::layOutTable() {
     Check1_ = &Named(new CheckBox(QStringLiteral("追加表示"), this), QStringLiteral("Check1"));
     Check2_ = &Named(new CheckBox(QStringLiteral("整数部のみ表示"), this), QStringLiteral("Check2"));
     auto* line = new QHBoxLayout;
+    line->setSpacing(kSpacing);
     line->addWidget(Check1_);
-    line->addSpacing(12);
     line->addWidget(Check2_);
     line->addStretch();
     constexpr std::array<std::pair<Button, const char16_t*>, 3> kButtons{
@@ -138,6 +143,7 @@ QVBoxLayout* GTanka_frm::layOutTable() {
                           kHeight);
 
     auto* table = new QVBoxLayout;
+    table->setSpacing(kSpacing);
     table->addLayout(line);
     table->addWidget(List_, 1);
     return table;

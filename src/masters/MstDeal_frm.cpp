@@ -32,6 +32,7 @@ enum Field {
     kAddr1 = 5,
     kSime = 9,
     kHaisou = 14,
+    kStn = 17,
     kFrom = 20,
     kTo = 21,
     kRoute = 22,
@@ -98,7 +99,7 @@ FieldTable fields() {
     sime.newColumn = true;
     MasterField bank = number(16, u"銀行", u"Bnk", FieldKind::Integer, 4);
     bank.display = MaskedUnlessZero(QStringLiteral("0000"));
-    MasterField branch = number(17, u"支店", u"Stn", FieldKind::Integer, 5, u"郵便局は2文字目から3文字");
+    MasterField branch = number(kStn, u"支店", u"Stn", FieldKind::Integer, 5, u"郵便局は2文字目から3文字");
     branch.display = branchText;
     MasterField kind = number(18, u"種類", u"Kind", FieldKind::Integer, 1, u"1:普通 2：当座");
     kind.display = Masked(QStringLiteral("#"));
@@ -243,6 +244,7 @@ bool MstDeal_frm::enter(int index) {
 }
 
 void MstDeal_frm::showExtras(Recordset& row) {
+    if (row[QStringLiteral("Stn")].IsNull()) ebox(kStn).SetText({});  // branch 000 is a branch
     ChkACU_->SetValue(integerOf(row[QStringLiteral("ACU")]));
     ChkKeihou_->SetValue(integerOf(row[QStringLiteral("Keihou")]));
     ChkNoSeikyu_->SetValue(integerOf(row[QStringLiteral("NoSeikyu")]));
