@@ -155,7 +155,9 @@ void main_menu::buildBoard() {
         auto* head = new Label(QString::fromUtf16(kColumns[static_cast<size_t>(column)]), this);
         head->setObjectName(QStringLiteral("Label(%1)").arg(column));
         head->setAlignment(Qt::AlignCenter);
-        head->setProperty("heading", true);
+        head->setAutoFillBackground(true);
+        head->setBackgroundRole(QPalette::Highlight);
+        head->setForegroundRole(QPalette::HighlightedText);
         head->setGeometry(left(column), kHeadTop, kColumnWidth, kHeadHeight);
     }
     std::array<int, 4> rows{};
@@ -200,7 +202,7 @@ void main_menu::QueryUnload(bool& cancel) {
     // Refusing the unload and ending the program from here is the whole exit: nobody is asked, no screen is
     // kept.
     cancel = true;
-    CloseDb();
+    RunGuarded([] { CloseDb(); });
     QCoreApplication::exit(0);
 }
 

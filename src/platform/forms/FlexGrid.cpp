@@ -18,6 +18,7 @@ namespace {
 
 constexpr int defaultColumnTwips = 960;
 constexpr int cellMargin = 4;
+constexpr int tightMargin = 1;
 
 int qtAlignment(int alignment) {
     switch (alignment) {
@@ -119,7 +120,10 @@ class FlexGrid::CellPainter : public QStyledItemDelegate {
         const QString& text = model_->text(row, index.column());
         if (!text.isEmpty()) {
             painter->setPen(option.palette.color(QPalette::Text));
-            const QRect room = cell.adjusted(cellMargin, 0, -cellMargin, 0);
+            // Columns have the widths they were given; a text that just fits gets its margin's room too.
+            const bool tight = option.fontMetrics.horizontalAdvance(text) > cell.width() - 2 * cellMargin;
+            const int margin = tight ? tightMargin : cellMargin;
+            const QRect room = cell.adjusted(margin, 0, -margin, 0);
             painter->drawText(room, qtAlignment(model_->alignment(index.column())) | Qt::TextSingleLine,
                               option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
         }

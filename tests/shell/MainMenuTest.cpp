@@ -1,0 +1,238 @@
+#include "shell/main_menu.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include "output/EX.h"
+#include "platform/forms/SingleInstance.h"
+#include "platform/forms/TextBox.h"
+#include "store/Settings.h"
+#include "support/ScratchStore.h"
+#include "support/ScreenTest.h"
+#include "values/Dates.h"
+
+namespace akarix {
+namespace {
+
+class MainMenu : public ScreenTest {
+ protected:
+    /// The guard against a second program is this machine's; the one that may run here is no concern of ours.
+    static void SetUpTestSuite() {
+        static const QTemporaryDir cache;
+        qputenv("XDG_CACHE_HOME", cache.path().toUtf8());
+    }
+    /// Changes the store before the program is started.
+    static void prepare(const QString& statements) {
+        ASSERT_TRUE(OpenDb([](const QString&, const QString&) {}));
+        ScratchStore::run(statements);
+        CloseDb();
+    }
+    static void setPassword(const QString& password) {
+        prepare(u"UPDATE zSysFunc SET contents='%1' WHERE Code=123"_qs.arg(password));
+    }
+    void clickSplash() {
+        clerk.expect(u"Opening_frm"_qs, [this](QWidget&) {
+            EXPECT_EQ(gDb, nullptr) << "the store is opened behind the splash";
+            clerk.click("Image1");
+        });
+    }
+    bool start(const QString& password = {}) {
+        clickSplash();
+        clerk.answerText(password);
+        return main_menu::Start();
+    }
+    void press(int button) { clerk.click(u"main_menu/Command(%1)"_qs.arg(button)); }
+    static QStringList storedPassword() {
+        return ScratchStore::rows(u"SELECT contents FROM zSysFunc WHERE Code=123"_qs);
+    }
+    static QList<QWidget*> shownForms() {
+        QList<QWidget*> shown;
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (widget->isVisible() && qobject_cast<Form*>(widget)) shown += widget;
+        }
+        return shown;
+    }
+
+    ScratchStore store{false};
+};
+
+// ---- the start
+
+TEST_F(MainMenu, StartsBySplashStoreAndLogin) {
+    ASSERT_TRUE(start());
+    EXPECT_EQ(clerk.said(), (QStringList{u"Akarix"_qs, u"パスワードを入力してください。"_qs}));
+    EXPECT_TRUE(clerk.isOpen(u"main_menu"_qs));
+    EXPECT_EQ(clerk.focusedName(), u"Command(0)"_qs);
+    EXPECT_EQ(gTaxRate, Currency(5));
+}
+
+TEST_F(MainMenu, TheSplashGoesByItself) {
+    clerk.expect(u"Opening_frm"_qs);
+    clerk.answerText({});
+    EXPECT_TRUE(main_menu::Start());
+}
+
+TEST_F(MainMenu, ReadsTheSettings) {
+    struct Case {
+        const char16_t* statements;
+        bool preview;
+        int invoiceMode;
+        int dateMode;
+    };
+    const std::vector<Case> cases = {
+        {u"UPDATE zSysFunc SET contents='1' WHERE Code=2", true, 1, 2},
+        {u"UPDATE zSysFunc SET contents='2' WHERE Code=2", false, 1, 2},
+        {u"UPDATE zSysFunc SET contents='No.1' WHERE Code=2;\nUPDATE zSysFunc SET contents='x7y' WHERE Code=100",
+         false, 7, 2},
+        {u"DELETE FROM zSysFunc WHERE Code=2 OR Code=100", false, 0, 2},
+        {u"DELETE FROM zSysFunc", false, 0, 2},
+        {u"UPDATE UserOP SET contents='1' WHERE Code=1", true, 1, 1},
+        {u"DELETE FROM UserOP WHERE Code=1", true, 1, 2},
+        {u"DELETE FROM UserOP", true, 1, 0},
+    };
+    for (const Case& c : cases) {
+        const ScratchStore fresh(false);
+        prepare(QString::fromUtf16(c.statements));
+        gPrintPreview = !c.preview;
+        gInvoiceMode = 9;
+        gDateMode = 0;
+        ASSERT_TRUE(start());
+        EXPECT_EQ(gPrintPreview, c.preview) << QString::fromUtf16(c.statements).toStdString();
+        EXPECT_EQ(gInvoiceMode, c.invoiceMode) << QString::fromUtf16(c.statements).toStdString();
+        EXPECT_EQ(gDateMode, c.dateMode) << QString::fromUtf16(c.statements).toStdString();
+        clerk.clearDesk();
+        CloseDb();
+    }
+    gPrintPreview = false;
+}
+
+TEST_F(MainMenu, TakesTheExactPasswordOnce) {
+    setPassword(u"Gas1"_qs);
+    for (const char* wrong : {"gas1", "Gas1 ", " Gas1", ""}) {
+        clickSplash();
+        clerk.answerText(QString(wrong));
+        clerk.answerAlert();
+        EXPECT_FALSE(main_menu::Start()) << wrong;
+        EXPECT_EQ(clerk.lastSaid(), u"パスワードが異なります。"_qs);
+        EXPECT_EQ(gDb, nullptr);
+        EXPECT_EQ(shownForms(), QList<QWidget*>());
+    }
+    EXPECT_TRUE(start(u"Gas1"_qs));
+}
+
+TEST_F(MainMenu, EndsWithoutAStore) {
+    ASSERT_TRUE(QFile::remove(store.path()));
+    clickSplash();
+    clerk.answerMsgBox();
+    EXPECT_FALSE(main_menu::Start());
+    EXPECT_TRUE(clerk.lastSaid().startsWith(u"エラー番号  3024"_qs));
+    EXPECT_EQ(shownForms(), QList<QWidget*>());
+}
+
+// ---- the password
+
+TEST_F(MainMenu, ChangesThePassword) {
+    setPassword(u"old"_qs);
+    ASSERT_TRUE(start(u"old"_qs));
+    struct Case {
+        const char* what;
+        const char* typed;
+        bool yes;
+        const char16_t* question;
+        const char16_t* stored;
+    };
+    for (const Case& c : {Case{"refused", "new", false, u"newで更新します。", u"old"},
+                          {"an emptied box is the present one", "", true, u"oldで更新します。", u"old"},
+                          {"confirmed", "new", true, u"newで更新します。", u"new"}}) {
+        clerk.answerText(QString(c.typed));
+        clerk.answerConfirm(c.yes);
+        press(6);
+        EXPECT_EQ(clerk.lastSaid(), QString::fromUtf16(c.question)) << c.what;
+        EXPECT_EQ(storedPassword(), QStringList{QString::fromUtf16(c.stored)}) << c.what;
+    }
+    clerk.expect(u"Request_frm"_qs, [this](QWidget&) {
+        const auto* box = qobject_cast<TextBox*>(clerk.focused());
+        EXPECT_EQ(box->selectedText(), u"new"_qs);
+        clerk.enter();
+    });
+    clerk.answerConfirm(false);
+    press(6);
+}
+
+TEST_F(MainMenu, AnEmptyPasswordMayStayOne) {
+    ASSERT_TRUE(start());
+    clerk.answerText({});
+    clerk.answerConfirm(true);
+    press(6);
+    EXPECT_EQ(clerk.lastSaid(), u"で更新します。"_qs);
+    EXPECT_EQ(storedPassword(), QStringList{u" "_qs});
+}
+
+TEST_F(MainMenu, WithoutAPasswordsRowTheChangeFails) {
+    ASSERT_TRUE(start());
+    gDb->Execute(u"DELETE FROM zSysFunc"_qs);
+    clerk.answerMsgBox();
+    press(6);
+    EXPECT_TRUE(clerk.lastSaid().startsWith(u"実行時エラー '3021'"_qs));
+    EXPECT_TRUE(clerk.isOpen(u"main_menu"_qs));
+}
+
+// ---- the board
+
+TEST_F(MainMenu, EachButtonOpensItsScreenOnce) {
+    ASSERT_TRUE(start());
+    for (const auto& [button, screen] : std::map<int, QString>{{3, u"GTanka_frm"_qs},
+                                                               {7, u"RepoSeikyu_frm"_qs},
+                                                               {12, u"MstRte_frm"_qs},
+                                                               {13, u"MstDeal_frm"_qs},
+                                                               {16, u"Seikyu_frm"_qs}}) {
+        press(button);
+        ASSERT_TRUE(clerk.isOpen(screen)) << screen.toStdString();
+        const QList<QWidget*> shown = shownForms();
+        EXPECT_EQ(clerk.window(), &clerk.form(screen));
+        clerk.type(u"77"_qs);
+        const QString cleared = clerk.text("ebox(0)");
+        press(button);
+        EXPECT_EQ(shownForms(), shown) << screen.toStdString();
+        EXPECT_EQ(clerk.window(), &clerk.form(screen)) << "brought to the front";
+        EXPECT_NE(clerk.text("ebox(0)"), cleared) << "and made ready again";
+    }
+    press(10);
+    EXPECT_EQ(shownForms().size(), 6) << "the dead button";
+}
+
+TEST_F(MainMenu, AllShiftKeysOnAButtonAreAPressOnTheButton) {
+    ASSERT_TRUE(start());
+    clerk.click(clerk.control("Command(12)"), Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_TRUE(clerk.isOpen(u"MstRte_frm"_qs));
+    EXPECT_EQ(shownForms().size(), 2);
+}
+
+TEST_F(MainMenu, TheBoardIsScaledWithItsWindow) {
+    ASSERT_TRUE(start());
+    clerk.settle();
+    Form& menu = clerk.form(u"main_menu"_qs);
+    const QWidget& button = clerk.control("Command(18)");
+    const QRect before = button.geometry();
+    const int letters = button.fontInfo().pixelSize();
+    menu.resize(menu.width() * 2, menu.height() * 3);
+    clerk.settle();
+    EXPECT_EQ(button.geometry(),
+              QRect(before.left() * 2, before.top() * 3, before.width() * 2, before.height() * 3));
+    EXPECT_EQ(button.fontInfo().pixelSize(), letters * 2);
+    menu.resize(menu.width() / 2, menu.height() / 3);
+    clerk.settle();
+    EXPECT_EQ(button.geometry(), before);
+}
+
+TEST_F(MainMenu, ClosingTheMenuEndsTheProgram) {
+    ASSERT_TRUE(start());
+    press(13);
+    QTimer::singleShot(0, &clerk, [this] { clerk.form(u"main_menu"_qs).close(); });
+    EXPECT_EQ(QApplication::exec(), 0) << "nobody is asked";
+    EXPECT_EQ(gDb, nullptr);
+    EXPECT_EQ(gWs, nullptr);
+}
+
+}  // namespace
+}  // namespace akarix
