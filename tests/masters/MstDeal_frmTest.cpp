@@ -26,9 +26,7 @@ class CustomerMaster : public ScreenTest {
         }
         return texts.join(u'/');
     }
-    void put(int index, const QString& text) {
-        clerk.find<TextBox>(u"ebox(%1)"_qs.arg(index)).SetText(text);
-    }
+    void put(int index, const QString& text) { clerk.find<TextBox>(u"ebox(%1)"_qs.arg(index)).SetText(text); }
     /// Presses Enter in a box.
     void enterIn(int index) {
         clerk.find<TextBox>(u"ebox(%1)"_qs.arg(index)).setFocus();
@@ -73,8 +71,9 @@ TEST_F(CustomerMaster, ANewCustomerIsTypedThroughToSave) {
     clerk.click("ChkKeihou");
     press(2);
     EXPECT_EQ(ScratchStore::rows(u"SELECT * FROM Deal"_qs).size(), 1);
-    EXPECT_EQ(ScratchStore::rows(u"SELECT Code,Rte,Kana,Namae,Ryaku,Yubin,Addr1,Addr2,TEL,Fax FROM Deal"_qs),
-              QStringList{u"1|2|ﾔﾏﾀﾞ ﾀﾛｳ|山田太郎|山田太郎|150-0001|東京都渋谷区神宮前|一丁目|03-1111-2222| "_qs});
+    EXPECT_EQ(
+        ScratchStore::rows(u"SELECT Code,Rte,Kana,Namae,Ryaku,Yubin,Addr1,Addr2,TEL,Fax FROM Deal"_qs),
+        QStringList{u"1|2|ﾔﾏﾀﾞ ﾀﾛｳ|山田太郎|山田太郎|150-0001|東京都渋谷区神宮前|一丁目|03-1111-2222| "_qs});
     EXPECT_EQ(ScratchStore::rows(u"SELECT Sime,SH,Map,Sisetu,Simekiri,Haisou,TankaPtn,Bnk,Stn,Kind,Koza,"
                                  "DiscGaku,ACU,Keihou,NoSeikyu FROM Deal"_qs),
               QStringList{u"20|1|15|7|3|10|2|5|12|1|0123456|3500|0|1|0"_qs});
@@ -89,9 +88,12 @@ TEST_F(CustomerMaster, FieldsAreShownByTheirOwnRules) {
         const char16_t* shown;
     };
     const std::vector<Case> cases = {
-        {"0,0,0,0", u"/000//"},           {"5,5,1,1200", u"0005/005/1/1200"},
-        {"9900,12,2,0.5", u"9900/012/2/0.5"}, {"123,345,0,0", u"0123/345//"},
-        {"1,12345,1,0", u"0001/12345/1/"},    {"Null,Null,Null,Null", u"///"},
+        {"0,0,0,0", u"/000//"},
+        {"5,5,1,1200", u"0005/005/1/1200"},
+        {"9900,12,2,0.5", u"9900/012/2/0.5"},
+        {"123,345,0,0", u"0123/345//"},
+        {"1,12345,1,0", u"0001/12345/1/"},
+        {"Null,Null,Null,Null", u"///"},
     };
     open();
     int code = 0;

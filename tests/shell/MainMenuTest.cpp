@@ -82,7 +82,8 @@ TEST_F(MainMenu, ReadsTheSettings) {
     const std::vector<Case> cases = {
         {u"UPDATE zSysFunc SET contents='1' WHERE Code=2", true, 1, 2},
         {u"UPDATE zSysFunc SET contents='2' WHERE Code=2", false, 1, 2},
-        {u"UPDATE zSysFunc SET contents='No.1' WHERE Code=2;\nUPDATE zSysFunc SET contents='x7y' WHERE Code=100",
+        {u"UPDATE zSysFunc SET contents='No.1' WHERE Code=2;\nUPDATE zSysFunc SET contents='x7y' WHERE "
+         u"Code=100",
          false, 7, 2},
         {u"DELETE FROM zSysFunc WHERE Code=2 OR Code=100", false, 0, 2},
         {u"DELETE FROM zSysFunc", false, 0, 2},
