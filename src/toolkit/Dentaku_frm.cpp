@@ -30,7 +30,6 @@ bool holdsOperator(const QString& text) {
 
 Dentaku_frm::Dentaku_frm() : Form(QStringLiteral("電卓"), QStringLiteral("メモ型電卓")) {
     setFixedSize(Twips(3825), Twips(5715));
-    move(0, 0);
 
     eSiki_ = &Named(new MemoBox, QStringLiteral("eSiki"));
     eAns_ = &Named(new TextBox, QStringLiteral("eAns"));
@@ -76,6 +75,8 @@ Dentaku_frm::Dentaku_frm() : Form(QStringLiteral("電卓"), QStringLiteral("メ�
 }
 
 void Dentaku_frm::init() {
+    // Out of the way of the screen that is being filled in; a window is given its place when it is shown.
+    move(screen()->availableGeometry().topLeft());
     SetFocus(eSiki_);
 }
 

@@ -1,3 +1,5 @@
+#include <QScreen>
+
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/MemoBox.h"
 #include "support/ScreenTest.h"
@@ -55,6 +57,12 @@ TEST_F(Calculator, AnswersOnEnter) {
     EXPECT_EQ(answerTo(u"2+"_qs), u"0.0"_qs);
     EXPECT_EQ(answerTo(u"1500"_qs), u"0.0"_qs) << "a bare number is not echoed";
     EXPECT_EQ(answerTo(u"-1500"_qs), u"-1,500.0"_qs);
+}
+
+TEST_F(Calculator, StandsInTheCornerInItsOwnSize) {
+    const QWidget& window = *clerk.find<MemoBox>(u"eSiki"_qs).window();
+    EXPECT_EQ(window.pos(), window.screen()->availableGeometry().topLeft());
+    EXPECT_EQ(window.size(), QSize(255, 381)) << "3825 by 5715 twips";
 }
 
 TEST_F(Calculator, DecimalsAreTakenFromTheShownText) {
