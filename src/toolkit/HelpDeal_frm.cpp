@@ -54,6 +54,7 @@ void HelpDeal_frm::Start(const QString& table, const QString& mode) {
     mode_ = mode;
     ClearControls(*this);
     sRte->SetCaption({});
+    SetFocus(&ebox(0));
     forgetChoice();
     empty();
 }

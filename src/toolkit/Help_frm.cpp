@@ -40,6 +40,7 @@ void Help_frm::Start(const QString& table, const QString& mode) {
     table_ = table;
     mode_ = mode;
     ClearControls(*this);
+    SetFocus(&ebox(0));
     forgetChoice();
     sql_ = listSql();
     fill(sql_, columns());

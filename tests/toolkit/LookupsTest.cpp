@@ -147,6 +147,7 @@ TEST_F(Lookups, CustomersAreFoundByRouteInTheirRound) {
     inDialog(u"HelpDeal_frm"_qs, [this] {
         EXPECT_EQ(list().Rows(), 1) << "a second use starts anew";
         EXPECT_EQ(clerk.text(u"sRte"_qs), QString());
+        EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_qs) << "though it was left in the list";
         clerk.expect(u"Help_frm"_qs, [this](QWidget&) { clerk.clickCell(list(), 3, 0); });
         clerk.click(u"F6(0)"_qs);
         EXPECT_EQ(clerk.text(u"ebox(2)"_qs), u"2"_qs);
