@@ -8,10 +8,10 @@
 namespace akarix {
 
 Currency PrevKonkaiMeter(int nendo, int getudo, std::int32_t deal) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT TOP 1 KonkaiMeter FROM Dgd  WHERE Deal=") +
-                                       NumStr(deal) + QStringLiteral(" AND   Nendo*100+Getudo < ") +
-                                       NumStr(std::int32_t{nendo * 100 + getudo}) +
-                                       QStringLiteral(" ORDER BY Nendo*100+Getudo DESC"));
+    Recordset set =
+        gDb->OpenRecordset(QStringLiteral("SELECT TOP 1 KonkaiMeter FROM Dgd  WHERE Deal=") + NumStr(deal) +
+                           QStringLiteral(" AND   Nendo*100+Getudo < ") + NumStr(nendo * 100 + getudo) +
+                           QStringLiteral(" ORDER BY Nendo*100+Getudo DESC"));
     const Currency meter = set.Eof() ? Currency() : moneyOf(set[QStringLiteral("KonkaiMeter")]);
     set.Close();
     return meter;
@@ -20,8 +20,8 @@ Currency PrevKonkaiMeter(int nendo, int getudo, std::int32_t deal) {
 void ReadMonthMeter(std::int32_t deal, int nendo, int getudo, Currency& zenkaiMeter, Currency& konkaiMeter,
                     Currency& suu) {
     Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Dgd  WHERE Deal  =") + NumStr(deal) +
-                                       QStringLiteral(" AND   Nendo =") + NumStr(std::int32_t{nendo}) +
-                                       QStringLiteral(" AND   Getudo=") + NumStr(std::int32_t{getudo}));
+                                       QStringLiteral(" AND   Nendo =") + NumStr(nendo) +
+                                       QStringLiteral(" AND   Getudo=") + NumStr(getudo));
     zenkaiMeter = konkaiMeter = suu = Currency();
     if (!set.Eof()) {
         zenkaiMeter = moneyOf(set[QStringLiteral("ZenkaiMeter")]);

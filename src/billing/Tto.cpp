@@ -3,8 +3,8 @@
 #include <functional>
 
 #include "platform/runtime/CInt.h"
-#include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"
+#include "store/Lookup.h"
 #include "store/dbAccess.h"
 #include "values/Dates.h"
 #include "values/NumStr.h"
@@ -17,14 +17,20 @@ namespace {
 
 /// " WHERE Nendo =... AND   Getudo=...", as every statement of the run on one month ends.
 QString ofMonth(int nendo, int getudo) {
-    return QStringLiteral(" WHERE Nendo =") + NumStr(std::int32_t{nendo}) + QStringLiteral(" AND   Getudo=") +
-           NumStr(std::int32_t{getudo});
+    return QStringLiteral(" WHERE Nendo =") + NumStr(nendo) + QStringLiteral(" AND   Getudo=") +
+           NumStr(getudo);
+}
+
+/// The same for what one customer has in the month.
+QString ofCustomerMonth(std::int32_t deal, int nendo, int getudo) {
+    return QStringLiteral(" WHERE Deal  =") + NumStr(deal) + QStringLiteral(" AND   Nendo =") +
+           NumStr(nendo) + QStringLiteral(" AND   Getudo=") + NumStr(getudo);
 }
 
 /// The condition that picks one row of the ledger.
 QString ofLedgerRow(std::int32_t deal, int nendo, int getudo) {
-    return QStringLiteral(" WHERE Deal=") + NumStr(deal) + QStringLiteral(" AND   Nendo=") +
-           NumStr(std::int32_t{nendo}) + QStringLiteral(" AND   Getudo=") + NumStr(std::int32_t{getudo});
+    return QStringLiteral(" WHERE Deal=") + NumStr(deal) + QStringLiteral(" AND   Nendo=") + NumStr(nendo) +
+           QStringLiteral(" AND   Getudo=") + NumStr(getudo);
 }
 
 /// Walks a whole set. Its rows are counted in 16 bits: more than 32,767 raise 6.
@@ -32,7 +38,7 @@ void forEachRow(const QString& sql, const std::function<void(Recordset&)>& visit
     Recordset set = gDb->OpenRecordset(sql);
     if (!set.Eof()) {
         set.MoveLast();
-        const std::int16_t count = CInt(Variant(std::int32_t{set.RecordCount()}));
+        const std::int16_t count = CInt(set.RecordCount());
         set.MoveFirst();
         for (std::int16_t i = 0; i < count; ++i) {
             visit(set);
@@ -47,12 +53,10 @@ void forEachRow(const QString& sql, const std::function<void(Recordset&)>& visit
 void putAmount(const QString& column, int nendo, int getudo, std::int32_t deal, const QString& initial,
                const QString& amount) {
     gDb->Execute(QStringLiteral("INSERT INTO TtoD(Deal, Nendo, Getudo, ") + column +
-                 QStringLiteral(") VALUES(") + NumStr(deal) + u',' + NumStr(std::int32_t{nendo}) + u',' +
-                 NumStr(std::int32_t{getudo}) + u',' + initial + u')');
+                 QStringLiteral(") VALUES(") + NumStr(deal) + u',' + NumStr(nendo) + u',' + NumStr(getudo) +
+                 u',' + initial + u')');
     gDb->Execute(QStringLiteral(" UPDATE TtoD  SET   ") + column + QStringLiteral(" =") + amount +
-                 QStringLiteral(" WHERE Deal  =") + NumStr(deal) + QStringLiteral(" AND   Nendo =") +
-                 NumStr(std::int32_t{nendo}) + QStringLiteral(" AND   Getudo=") +
-                 NumStr(std::int32_t{getudo}));
+                 ofCustomerMonth(deal, nendo, getudo));
 }
 
 /// Sales of months that lost their slips.
@@ -60,23 +64,22 @@ void clearSalesWithoutSlips(int nendo, int getudo) {
     gDb->Execute(QStringLiteral("UPDATE TtoD LEFT JOIN Dud ON (TtoD.Getudo = Dud.Getudo) AND (TtoD.Nendo = "
                                 "Dud.Nendo) AND (TtoD.Deal = Dud.Deal)  SET TtoD.UGaku = 0  WHERE "
                                 "TtoD.Nendo =") +
-                 NumStr(std::int32_t{nendo}) + QStringLiteral(" AND   TtoD.Getudo=") +
-                 NumStr(std::int32_t{getudo}) +
+                 NumStr(nendo) + QStringLiteral(" AND   TtoD.Getudo=") + NumStr(getudo) +
                  QStringLiteral(" AND   TtoD.UGaku<>0  AND   Dud.Dno IS NULL"));
 }
 
 void rememberClosingDate(int nendo, int getudo, Date creation) {
-    Recordset set = gDb->OpenRecordset(
-        QStringLiteral("SELECT Syukei.Nen, Syukei.Tuki, Syukei.Hizuke From Syukei WHERE "
-                       "Syukei.Nen=") +
-        NumStr(std::int32_t{nendo}) + QStringLiteral(" AND Syukei.Tuki=") + NumStr(std::int32_t{getudo}));
+    Recordset set =
+        gDb->OpenRecordset(QStringLiteral("SELECT Syukei.Nen, Syukei.Tuki, Syukei.Hizuke From Syukei WHERE "
+                                          "Syukei.Nen=") +
+                           NumStr(nendo) + QStringLiteral(" AND Syukei.Tuki=") + NumStr(getudo));
     if (set.Eof()) {
         set.AddNew();
     } else {
         set.Edit();
     }
-    set.Fields(QStringLiteral("Nen")) = std::int32_t{nendo};
-    set.Fields(QStringLiteral("Tuki")) = std::int32_t{getudo};
+    set.Fields(QStringLiteral("Nen")) = nendo;
+    set.Fields(QStringLiteral("Tuki")) = getudo;
     set.Fields(QStringLiteral("Hizuke")) = creation;
     set.Update();
     set.Close();
@@ -99,10 +102,9 @@ LeaseFees readLeaseFees() {
 
 /// Removes the slip that an earlier run made for the customer and month; gives its number, or 0.
 std::int32_t removeLeaseSlip(int nendo, int getudo, std::int32_t deal) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Dud  WHERE Deal  =") + NumStr(deal) +
-                                       QStringLiteral(" AND   Nendo =") + NumStr(std::int32_t{nendo}) +
-                                       QStringLiteral(" AND   Getudo=") + NumStr(std::int32_t{getudo}) +
-                                       QStringLiteral(" AND   CreateAuto=1"));
+    Recordset set =
+        gDb->OpenRecordset(QStringLiteral("SELECT * FROM Dud ") + ofCustomerMonth(deal, nendo, getudo) +
+                           QStringLiteral(" AND   CreateAuto=1"));
     const std::int32_t dno = set.Eof() ? 0 : longOf(set[QStringLiteral("Dno")]);
     set.Close();
     if (dno != 0) gDb->Execute(QStringLiteral("DELETE FROM Dud WHERE Dno=") + NumStr(dno));
@@ -175,8 +177,8 @@ void PutZenkaiGaku(std::int32_t deal, int nendo, int getudo, Currency amount) {
     if (set.Eof()) {
         set.AddNew();
         set.Fields(QStringLiteral("Deal")) = deal;
-        set.Fields(QStringLiteral("Nendo")) = std::int32_t{nendo};
-        set.Fields(QStringLiteral("Getudo")) = std::int32_t{getudo};
+        set.Fields(QStringLiteral("Nendo")) = nendo;
+        set.Fields(QStringLiteral("Getudo")) = getudo;
         set.Fields(QStringLiteral("ZenkaiGaku")) = amount;
         set.Fields(QStringLiteral("SyokiFlg")) = std::int16_t{0};
     } else {
@@ -201,8 +203,8 @@ void MakeLeaseSlip(int nendo, int getudo, Date creation, std::int32_t deal, int 
                      QStringLiteral("      , CDATE('") + DateText(creation) + QStringLiteral("') ") +
                      QStringLiteral("      , ") + NumStr(deal) + QStringLiteral("      , 0 ") +
                      QStringLiteral("      ,'") + name + QStringLiteral("' ") + QStringLiteral("      , ") +
-                     NumStr(fee) + QStringLiteral("      , ") + NumStr(std::int32_t{nendo}) +
-                     QStringLiteral("      , ") + NumStr(std::int32_t{getudo}) + QStringLiteral("      ,1)"));
+                     NumStr(fee) + QStringLiteral("      , ") + NumStr(nendo) + QStringLiteral("      , ") +
+                     NumStr(getudo) + QStringLiteral("      ,1)"));
         ++eda;
     };
     if (acu == 1) addLine(QStringLiteral("ACUリース代"), fees.acu);
@@ -210,12 +212,7 @@ void MakeLeaseSlip(int nendo, int getudo, Date creation, std::int32_t deal, int 
 }
 
 std::int32_t NextDudNo() {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT MAX(Dno) AS tDno FROM Dud"));
-    std::int64_t highest = 0;
-    if (!set.Eof()) highest = longOf(set[QStringLiteral("tDno")]);
-    set.Close();
-    if (highest >= INT32_MAX) throw RuntimeError(6);
-    return static_cast<std::int32_t>(highest + 1);
+    return HighestPlus(QStringLiteral("SELECT MAX(Dno) AS tDno FROM Dud"), 1);
 }
 
 void ReadLedgerHead(std::int32_t deal, int nendo, int getudo, Currency& zenkaiGaku, int& syokiFlg) {

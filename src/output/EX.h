@@ -44,6 +44,6 @@ void ExcelRunPaged();
 /// Copies a grid to a new workbook, which is saved where the operator says; cancelled, nothing is left. The
 /// date stands at the top right, the title in the middle of row 2, line1 and line2 in row 4, the grid from
 /// row 6 on. A file that cannot be written is told in a message.
-void GridToExcel(const QString& title, const QString& line1, const QString& line2, FlexGrid& grid);
+void GridToExcel(const QString& title, const QString& line1, const QString& line2, const FlexGrid& grid);
 
 }  // namespace akarix

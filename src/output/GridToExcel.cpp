@@ -8,7 +8,7 @@
 
 namespace akarix {
 
-void GridToExcel(const QString& title, const QString& line1, const QString& line2, FlexGrid& grid) {
+void GridToExcel(const QString& title, const QString& line1, const QString& line2, const FlexGrid& grid) {
     const Date today = Today();
     const QString path = AskSavePath(
         title, QStringLiteral("%1_%2.xlsx").arg(title, Format(today, QStringLiteral("yyyymmdd"))));

@@ -25,8 +25,7 @@ void readBankPart(const Recordset& set, Consignor& consignor) {
 }  // namespace
 
 void LoadBankConsignor(int code, Consignor& consignor) {
-    Recordset set =
-        gDb->OpenRecordset(QStringLiteral("SELECT * FROM Bnk WHERE Code=") + NumStr(std::int32_t{code}));
+    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Bnk WHERE Code=") + NumStr(code));
     if (!set.Eof()) readBankPart(set, consignor);
     set.Close();
 }

@@ -16,17 +16,6 @@ namespace {
 const QString blank = QStringLiteral(" ");
 constexpr std::int16_t monthEnd = 31;
 
-/// The highest number of a question for one maximum, and the step; raises 6 past 32 bits.
-std::int32_t nextAfter(const QString& sql, std::int32_t step) {
-    Recordset set = gDb->OpenRecordset(sql);
-    std::int64_t highest = 0;
-    if (!set.Eof()) highest = longOf(set[QStringLiteral("tCode")]);
-    set.Close();
-    const std::int64_t next = highest + step;
-    if (next > INT32_MAX) throw RuntimeError(6);
-    return static_cast<std::int32_t>(next);
-}
-
 }  // namespace
 
 QString GetName(const QString& table, const Variant& code) {
@@ -71,19 +60,26 @@ Variant GetKensinDay(const Variant& code) {
     return day;
 }
 
+std::int32_t HighestPlus(const QString& sql, std::int32_t step) {
+    Recordset set = gDb->OpenRecordset(sql);
+    const std::int64_t highest = set.Eof() ? 0 : longOf(set.Fields(0).Value());
+    set.Close();
+    if (highest + step > INT32_MAX) throw RuntimeError(6);
+    return static_cast<std::int32_t>(highest + step);
+}
+
 std::int32_t NextCode(const QString& table) {
-    return nextAfter(QStringLiteral("SELECT MAX(Code) AS tCode FROM ") + table, 1);
+    return HighestPlus(QStringLiteral("SELECT MAX(Code) AS tCode FROM ") + table, 1);
 }
 
 std::int32_t NextHaisou() {
-    return nextAfter(QStringLiteral("SELECT MAX(Haisou) AS tCode FROM Deal"), 10);
+    return HighestPlus(QStringLiteral("SELECT MAX(Haisou) AS tCode FROM Deal"), 10);
 }
 
 void PrevReadingDate(int year, int month, std::int32_t deal, QString& text) {
-    // No order is asked for: any earlier reading will do.
     Recordset set = gDb->OpenRecordset(
         QStringLiteral("SELECT * FROM Dgd ") + QStringLiteral(" WHERE Deal  =") + NumStr(deal) +
-        QStringLiteral(" AND   Nendo*100+Getudo<") + NumStr(std::int32_t{year * 100 + month}));
+        QStringLiteral(" AND   Nendo*100+Getudo<") + NumStr(year * 100 + month));
     text.clear();
     if (!set.Eof()) {
         const QString day = NumStr(NullToZero(set[QStringLiteral("Nendo")])) + u'/' +

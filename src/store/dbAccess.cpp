@@ -40,9 +40,8 @@ bool OpenDb(void (*fail)(const QString& text, const QString& title)) {
             return true;
         } catch (const RuntimeError& error) {
             if (error.number() != unrecognisedFormat) {
-                fail(QStringLiteral("エラー番号 ") + Str(Variant(std::int32_t{error.number()})) +
-                         error.source() + QStringLiteral(" でエラーが発生しました。 ") + u'\r' +
-                         error.description(),
+                fail(QStringLiteral("エラー番号 ") + Str(error.number()) + error.source() +
+                         QStringLiteral(" でエラーが発生しました。 ") + u'\r' + error.description(),
                      QStringLiteral("エラー"));
                 return false;
             }
