@@ -6,9 +6,9 @@
 
 #include "admin/NewFile.h"
 #include "admin/Terminal.h"
-#include "platform/jet/DBEngine.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
+#include "sample/OpenStore.h"
 #include "sample/SampleDealer.h"
 #include "store/CreateDatabase.h"
 #include "store/dbAccess.h"
@@ -63,18 +63,6 @@ std::optional<sample::Wish> readWish(const QCommandLineParser& parser) {
     return wish;
 }
 
-/// Opens the file as the program's own store for as long as it lives.
-class OpenStore {
- public:
-    explicit OpenStore(const QString& path) {
-        gWs = &DBEngine::Workspaces(0);
-        gDb = gWs->OpenDatabase(path, false, false, ConnectText());
-    }
-    ~OpenStore() { CloseDb(); }
-    OpenStore(const OpenStore&) = delete;
-    OpenStore& operator=(const OpenStore&) = delete;
-};
-
 int makeSample(const QStringList& arguments) {
     QCommandLineParser parser;
     parser.addOptions({
@@ -98,7 +86,7 @@ int makeSample(const QStringList& arguments) {
     }
     replaceFile(path, [&wish](const QString& working) {
         CreateDelivered(working);
-        const OpenStore store(working);
+        const sample::OpenStore store(working);
         ProgressLine line;
         sample::FillSampleDealer(*wish, [&line](const QString& text) { line.show(text); });
     });

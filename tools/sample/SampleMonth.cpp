@@ -8,6 +8,7 @@
 #include "platform/runtime/Fix.h"
 #include "platform/runtime/Format.h"
 #include "sample/SampleMasters.h"
+#include "sample/Season.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -16,9 +17,6 @@
 namespace akarix::sample {
 
 namespace {
-
-/// Use of each month against the average of the year, in percent.
-constexpr int season[12] = {150, 155, 135, 110, 90, 75, 60, 50, 60, 80, 105, 130};
 
 constexpr int readingDays[] = {20, 21, 22, 23, 24, 25};
 

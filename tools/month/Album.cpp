@@ -1,0 +1,61 @@
+#include "month/Album.h"
+
+#include <QDir>
+#include <QPainter>
+#include <QPixmap>
+#include <QWidget>
+
+#include "month/Failure.h"
+
+namespace akarix::month {
+
+namespace {
+
+constexpr int titleHeight = 30;
+constexpr int edge = 1;
+
+bool isFramed(const QWidget& window) {
+    return !window.windowFlags().testFlag(Qt::FramelessWindowHint);
+}
+
+/// The place of a window on the desk, title included: the pictures come without the desk's own frames.
+QRect outline(const QWidget& window) {
+    const QRect inner(window.pos(), window.size());
+    return isFramed(window) ? inner.adjusted(-edge, -titleHeight, edge, edge) : inner;
+}
+
+void paintWindow(QPainter& painter, QWidget& window) {
+    if (isFramed(window)) {
+        const QRect frame = outline(window);
+        painter.fillRect(frame, QColor(0x4a, 0x5d, 0x73));
+        painter.setPen(Qt::white);
+        painter.setFont(window.font());
+        painter.drawText(frame.adjusted(10, 0, -10, 0).adjusted(0, 0, 0, titleHeight - frame.height()),
+                         Qt::AlignVCenter | Qt::AlignLeft, window.windowTitle());
+    }
+    painter.drawPixmap(window.pos(), window.grab());
+}
+
+}  // namespace
+
+void Album::take(const QString& name, const QList<QWidget*>& windows) {
+    QRect desk;
+    for (const QWidget* window : windows)
+        desk |= outline(*window);
+    const qreal ratio = windows.front()->devicePixelRatioF();
+    QPixmap picture(desk.size() * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(QColor(0x8c, 0x99, 0xa6));
+    QPainter painter(&picture);
+    painter.translate(-desk.topLeft());
+    for (QWidget* window : windows)
+        paintWindow(painter, *window);
+    painter.end();
+
+    QDir().mkpath(folder_);
+    const QString number = QStringLiteral("%1").arg(++count_, 2, 10, QLatin1Char('0'));
+    const QString path = QDir(folder_).filePath(number + u'-' + name + QStringLiteral(".png"));
+    if (!picture.save(path)) throw Failure(QStringLiteral("%1 に書き込めません。").arg(path));
+}
+
+}  // namespace akarix::month

@@ -1,0 +1,52 @@
+#include "month/Hands.h"
+
+#include "clerk/Clerk.h"
+#include "month/Album.h"
+#include "month/Desk.h"
+#include "month/Failure.h"
+#include "platform/forms/Form.h"
+
+namespace akarix::month {
+
+void openFromMenu(Desk& desk, int button, const QString& form) {
+    desk.clerk.bringToFront(QStringLiteral("main_menu"));
+    desk.clerk.click(QStringLiteral("main_menu/Command(%1)").arg(button));
+    desk.clerk.bringToFront(form);
+}
+
+void closeForm(Desk& desk, const QString& form) {
+    desk.clerk.closeBox(desk.clerk.form(form));
+    if (desk.clerk.isOpen(form)) throw Failure(form + QStringLiteral(" が閉じません。"));
+}
+
+void walkTo(Desk& desk, const QString& end, const std::map<QString, QString>& texts) {
+    constexpr int mostFields = 60;
+    for (int i = 0; i < mostFields; ++i) {
+        const QString here = desk.clerk.focusedName();
+        if (here == end) return;
+        if (const auto text = texts.find(here); text != texts.end()) desk.clerk.type(text->second);
+        desk.clerk.enter();
+    }
+    throw Failure(QStringLiteral("Enter で %1 に着きません。").arg(end));
+}
+
+void requireFocus(Desk& desk, const QString& control) {
+    const QString here = desk.clerk.focusedName();
+    if (here != control) {
+        throw Failure(QStringLiteral("キーボードが %1 でなく %2 にあります。").arg(control, here));
+    }
+}
+
+void takeForm(Desk& desk, const QString& picture, const QString& form) {
+    desk.clerk.settle();
+    desk.album.take(picture, {&desk.clerk.form(form)});
+}
+
+void expectPictured(Desk& desk, const QString& dialog, const QString& picture, int key) {
+    desk.clerk.expect(dialog, [&desk, picture, key](QWidget& shown) {
+        desk.album.take(picture, {&shown});
+        desk.clerk.press(key);
+    });
+}
+
+}  // namespace akarix::month

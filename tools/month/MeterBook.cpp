@@ -1,0 +1,57 @@
+#include "month/MeterBook.h"
+
+#include <algorithm>
+
+#include "ledger/Rows.h"
+#include "sample/Season.h"
+
+namespace akarix::month {
+
+namespace {
+
+constexpr int meterEnd = 99999;
+constexpr int newHousehold = 80;  ///< tenths in its first month
+constexpr std::int64_t scaledTenth = 1000;
+
+int seasonOf(std::int64_t month) {
+    return sample::season[month - 1];
+}
+
+}  // namespace
+
+MeterBook::MeterBook(Database& db, int year, int month) : month_(month) {
+    struct Sum {
+        std::int64_t tenths = 0;
+        int months = 0;
+    };
+    std::map<std::int32_t, Sum> sums;
+    for (const auto& row : readNumbers(db, QStringLiteral("SELECT Deal,Getudo,Suu FROM Dgd "
+                                                          "WHERE Nendo*100+Getudo<%1")
+                                               .arg(year * 100 + month))) {
+        Sum& sum = sums[static_cast<std::int32_t>(row[0])];
+        sum.tenths += row[2] / scaledTenth * 100 / seasonOf(row[1]);
+        ++sum.months;
+    }
+    for (const auto& [deal, sum] : sums)
+        usualTenths_[deal] = static_cast<int>(sum.tenths / sum.months);
+}
+
+void MeterBook::addMeter(std::int32_t deal) {
+    usualTenths_[deal] = newHousehold * 100 / seasonOf(month_);
+}
+
+std::optional<MeterNote> MeterBook::note(std::int32_t deal, int before) const {
+    const auto found = usualTenths_.find(deal);
+    if (found == usualTenths_.end()) return std::nullopt;
+    const int mood = 85 + (deal * 37 + month_ * 11) % 31;  // no month is like another
+    const int use = found->second * seasonOf(month_) / 100 * mood / 100;
+    constexpr int exchangeEvery = 97;
+    const bool exchanged = before + use > meterEnd || (before > 0 && deal % exchangeEvery == 11);
+    if (!exchanged) return MeterNote{.now = before + use};
+    const int onTheOld = std::min(use / 2, meterEnd - before);
+    constexpr int testedAtTheWorks = 3;
+    return MeterNote{
+        .exchangedAt = before + onTheOld, .startsAt = testedAtTheWorks, .now = testedAtTheWorks + use - onTheOld};
+}
+
+}  // namespace akarix::month

@@ -1,0 +1,22 @@
+#pragma once
+
+namespace akarix::month {
+
+struct Desk;
+
+// The road of a month, in its order. Each step is done by keys and clicks on the screens; one that cannot go
+// on raises.
+void startProgram(Desk& desk);
+void keepRoute(Desk& desk);
+void keepCustomer(Desk& desk);
+void openSheet(Desk& desk);
+void typeReadings(Desk& desk);
+void saveSheet(Desk& desk);
+void runBilling(Desk& desk);
+void showList(Desk& desk);
+void printList(Desk& desk);
+void exportList(Desk& desk);
+void previewList(Desk& desk);
+void endProgram(Desk& desk);
+
+}  // namespace akarix::month

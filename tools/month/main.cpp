@@ -1,0 +1,49 @@
+#include <QApplication>
+#include <cstdio>
+
+#include "clerk/Offscreen.h"
+#include "month/Failure.h"
+#include "month/MonthPlayer.h"
+#include "month/Options.h"
+#include "platform/forms/Style.h"
+#include "platform/runtime/RuntimeError.h"
+
+namespace {
+
+enum ExitCode { Done = 0, Failed = 1, WrongUse = 2 };
+
+void write(std::FILE* stream, const QString& text) {
+    std::fputs(text.toLocal8Bit().constData(), stream);
+}
+
+int play(const akarix::month::Options& options) {
+    try {
+        write(stdout, akarix::month::playMonth(options));
+        return Done;
+    } catch (const akarix::RuntimeError& error) {
+        write(stderr, QStringLiteral("%1 %2\n").arg(error.number()).arg(error.description()));
+    } catch (const std::exception& error) {
+        write(stderr, QString::fromUtf8(error.what()) + u'\n');
+    }
+    return Failed;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const auto options = akarix::month::readOptions(arguments);
+    if (!options || options->help) {
+        write(options ? stdout : stderr, akarix::month::helpText());
+        return options ? Done : WrongUse;
+    }
+    // The scale is read when the application is made, so it is set before.
+    if (options->scale != 1) qputenv("QT_SCALE_FACTOR", QByteArray::number(options->scale));
+    akarix::GoOffscreenWithoutDisplay();
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    akarix::ApplyStyle(application);
+    return play(*options);
+}

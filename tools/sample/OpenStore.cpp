@@ -1,0 +1,17 @@
+#include "sample/OpenStore.h"
+
+#include "platform/jet/DBEngine.h"
+#include "store/dbAccess.h"
+
+namespace akarix::sample {
+
+OpenStore::OpenStore(const QString& path) {
+    gWs = &DBEngine::Workspaces(0);
+    gDb = gWs->OpenDatabase(path, false, false, ConnectText());
+}
+
+OpenStore::~OpenStore() {
+    CloseDb();
+}
+
+}  // namespace akarix::sample
