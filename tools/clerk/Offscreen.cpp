@@ -10,7 +10,10 @@ namespace {
 QtMessageHandler standardHandler;
 
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (!text.startsWith(u"This plugin does not support")) standardHandler(type, context, text);
+    for (const char16_t* known : {u"This plugin does not support", u"QStandardPaths: XDG_RUNTIME_DIR not set"}) {
+        if (text.startsWith(QStringView(known))) return;
+    }
+    standardHandler(type, context, text);
 }
 
 }  // namespace

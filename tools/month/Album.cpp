@@ -1,5 +1,6 @@
 #include "month/Album.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QPainter>
 #include <QPixmap>
@@ -39,6 +40,7 @@ void paintWindow(QPainter& painter, QWidget& window) {
 }  // namespace
 
 void Album::take(const QString& name, const QList<QWidget*>& windows) {
+    QCoreApplication::processEvents();  // a window just opened has yet to take the keyboard
     QRect desk;
     for (const QWidget* window : windows)
         desk |= outline(*window);

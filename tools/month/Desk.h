@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <cstdint>
 #include <map>
 
@@ -21,6 +22,7 @@ struct Desk {
     const WorkFolder& folder;
     Clerk& clerk;
     Album& album;
+    QString newTariff{};
     std::int32_t newCustomer = 0;
     std::map<std::int32_t, MeterNote> typed{};  ///< the readings by customer
 };

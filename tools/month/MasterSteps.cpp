@@ -17,6 +17,16 @@ QString ebox(int index) {
     return QStringLiteral("ebox(%1)").arg(index);
 }
 
+/// A price is worked out on the calculator that the tariff screen offers.
+void calculate(Desk& desk) {
+    const QString form = QStringLiteral("電卓");
+    desk.clerk.click(QStringLiteral("Command1"));
+    desk.clerk.bringToFront(form);
+    desk.clerk.fill(QStringLiteral("1500+12.5*480"));
+    takeForm(desk, QStringLiteral("calculator"), form);
+    closeForm(desk, form);
+}
+
 /// A customer is sought by a part of his reading and picked by a click.
 void lookUpCustomer(Desk& desk) {
     desk.clerk.expect(QStringLiteral("HelpDeal_frm"), [&desk](QWidget& lookup) {
@@ -49,6 +59,27 @@ void askToDelete(Desk& desk) {
 
 }  // namespace
 
+void keepTariff(Desk& desk) {
+    const QString form = QStringLiteral("GTanka_frm");
+    openFromMenu(desk, 3, form);
+    desk.clerk.fill(QStringLiteral("1"));
+    desk.clerk.clickCell(desk.clerk.find<FlexGrid>(QStringLiteral("ListK")), 2, 5);
+    takeForm(desk, QStringLiteral("tariff"), form);
+    calculate(desk);
+
+    desk.clerk.bringToFront(form);
+    desk.clerk.click(QStringLiteral("Command(3)"));
+    desk.newTariff = desk.clerk.text(ebox(0));
+    walkTo(desk, QStringLiteral("Command(0)"),
+           {{ebox(1), QStringLiteral("0")},
+            {ebox(2), QStringLiteral("999")},
+            {ebox(3), QStringLiteral("1500")},
+            {ebox(4), QStringLiteral("480.5")}});
+    desk.clerk.enter();
+    desk.clerk.click(QStringLiteral("Command(2)"));
+    closeForm(desk, form);
+}
+
 void keepRoute(Desk& desk) {
     const QString form = QStringLiteral("MstRte_frm");
     openFromMenu(desk, 12, form);
@@ -77,7 +108,7 @@ void keepCustomer(Desk& desk) {
             {ebox(7), QStringLiteral("0000-12-3456")},
             {ebox(10), QStringLiteral("1")},
             {ebox(12), QStringLiteral("7")},
-            {ebox(15), QStringLiteral("1")}});
+            {ebox(15), desk.newTariff}});
     takeForm(desk, QStringLiteral("new-customer"), form);
     desk.clerk.enter();
     closeForm(desk, form);

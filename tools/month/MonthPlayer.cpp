@@ -28,8 +28,9 @@ struct RoadStep {
     void (*play)(Desk&);
 };
 
-constexpr std::array<RoadStep, 12> road{{
+constexpr std::array<RoadStep, 13> road{{
     {u"起動", startProgram},
+    {u"料金表", keepTariff},
     {u"地区マスター", keepRoute},
     {u"得意先マスター", keepCustomer},
     {u"検針シートを開く", openSheet},

@@ -7,6 +7,7 @@ struct Desk;
 // The road of a month, in its order. Each step is done by keys and clicks on the screens; one that cannot go
 // on raises.
 void startProgram(Desk& desk);
+void keepTariff(Desk& desk);
 void keepRoute(Desk& desk);
 void keepCustomer(Desk& desk);
 void openSheet(Desk& desk);

@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
 #include <cstdio>
 
 #include "clerk/Offscreen.h"
@@ -41,6 +43,10 @@ int main(int argc, char** argv) {
     }
     // The scale is read when the application is made, so it is set before.
     if (options->scale != 1) qputenv("QT_SCALE_FACTOR", QByteArray::number(options->scale));
+    // The program is one to a user, by a mark in his cache. The month is played in a folder of its own, so it
+    // neither disturbs one at work nor waits for it.
+    static const QTemporaryDir cache;  // outlives the mark in it
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(cache.path()));
     akarix::GoOffscreenWithoutDisplay();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);

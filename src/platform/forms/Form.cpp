@@ -57,8 +57,11 @@ void Form::ShowModal() {
     if (isVisible()) hide();
     const QPointer<QWidget> before = QApplication::focusWidget();
     setWindowModality(Qt::ApplicationModal);
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                   Qt::WindowCloseButtonHint);
+    // A form that wants no frame (the splash) keeps none.
+    const bool framed = !windowFlags().testFlag(Qt::FramelessWindowHint);
+    setWindowFlags(framed ? Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint
+                          : Qt::Dialog | Qt::FramelessWindowHint);
 
     QEventLoop loop;
     QEventLoop* const outer = std::exchange(modalLoop_, &loop);

@@ -1,0 +1,221 @@
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include "month/Failure.h"
+#include "month/MeterBook.h"
+#include "month/MonthCheck.h"
+#include "month/Options.h"
+#include "platform/print/PdfText.h"
+#include "sample/OpenStore.h"
+#include "store/dbAccess.h"
+#include "support/ScratchStore.h"
+#include "support/ScreenTest.h"
+
+namespace akarix::month {
+namespace {
+
+using testing::HasSubstr;
+
+struct Run {
+    int exitCode = -1;
+    QString said;
+};
+
+/// Runs the program as it is built.
+Run runProgram(const QStringList& arguments) {
+    QProcess program;
+    program.setProcessChannelMode(QProcess::MergedChannels);
+    program.start(QStringLiteral(AKARIX_MONTH_PROGRAM), arguments);
+    constexpr int patience = 120000;
+    if (!program.waitForFinished(patience)) program.kill();
+    return {program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1,
+            QString::fromUtf8(program.readAll())};
+}
+
+/// One played month of a small dealer, for all tests that look at what it leaves.
+class PlayedMonth : public testing::Test {
+ protected:
+    static void SetUpTestSuite() {
+        folder_ = new QTemporaryDir;
+        run_ = runProgram({u"--customers"_qs, u"12"_qs, u"--month"_qs, u"2011/4"_qs, u"--out"_qs, path({})});
+    }
+    static void TearDownTestSuite() { delete folder_; }
+    void SetUp() override { ASSERT_EQ(run_.exitCode, 0) << run_.said.toStdString(); }
+
+    static QString path(const QString& name) { return folder_->filePath(u"month/"_qs + name); }
+    static QString database() { return path(u"dealer/"_qs + DatabaseName()); }
+    /// A figure of the summary without its commas.
+    static QString figure(const QString& label) {
+        QFile file(path(u"summary.txt"_qs));
+        EXPECT_TRUE(file.open(QFile::ReadOnly));
+        const QRegularExpression line(u"^%1 +([-0-9,.]+) "_qs.arg(label),
+                                      QRegularExpression::MultilineOption);
+        return line.match(QString::fromUtf8(file.readAll())).captured(1).remove(u',');
+    }
+    static QString stored(const QString& question) { return ScratchStore::rows(question).value(0); }
+
+    static inline QTemporaryDir* folder_ = nullptr;
+    static inline Run run_;
+};
+
+TEST_F(PlayedMonth, SummaryTellsWhatTheStoreHolds) {
+    const sample::OpenStore store(database());
+    EXPECT_EQ(figure(u"得意先"_qs), u"13"_qs) << "twelve, and the one keyed in on the way";
+    struct {
+        const char16_t* label;
+        const char16_t* question;
+    } const cases[] = {
+        {u"検針", u"SELECT COUNT(*) FROM Dgd WHERE Nendo=2011 AND Getudo=4 AND KonkaiMeter>0"},
+        {u"ガス料金", u"SELECT SUM(Gaku) FROM Dgd WHERE Nendo=2011 AND Getudo=4"},
+        {u"当月請求", u"SELECT SUM(Gaku) FROM TtoD WHERE Nendo=2011 AND Getudo=4"},
+        {u"前月残", u"SELECT SUM(ZenkaiGaku+GGaku+UGaku-NGaku) FROM TtoD WHERE Nendo=2011 AND Getudo=3"},
+        {u"次月繰越", u"SELECT SUM(ZenkaiGaku+Gaku-NGaku) FROM TtoD WHERE Nendo=2011 AND Getudo=4"},
+    };
+    for (const auto& [label, question] : cases) {
+        EXPECT_EQ(figure(QString::fromUtf16(label)), stored(QString::fromUtf16(question)));
+    }
+    EXPECT_GT(figure(u"使用量"_qs).toDouble(), 12.0);
+}
+
+TEST_F(PlayedMonth, TheListIsPrinted) {
+    QString text = PdfPages(path(u"billing-list.pdf"_qs)).join(QString());
+    EXPECT_THAT(text.toStdString(), HasSubstr("平成23年4月"));
+    EXPECT_THAT(text.toStdString(), HasSubstr("花子"));
+    EXPECT_THAT(text.remove(u',').toStdString(), HasSubstr(figure(u"ガス料金"_qs).toStdString()));
+    EXPECT_TRUE(QFile::exists(path(u"billing-list.xlsx"_qs)));
+}
+
+TEST_F(PlayedMonth, EveryScreenIsPictured) {
+    const QStringList pictures = QDir(path(u"screens"_qs)).entryList(QDir::Files, QDir::Name);
+    for (const char16_t* name : {u"splash", u"login", u"menu", u"tariff", u"calculator", u"route", u"customer-lookup",
+                                 u"customer", u"confirmation", u"reading-sheet", u"billing", u"message",
+                                 u"billing-list", u"printer", u"preview"}) {
+        const QStringList found = pictures.filter(QRegularExpression(u"^[0-9]{2}-%1\\.png$"_qs.arg(name)));
+        ASSERT_EQ(found.size(), 1) << QString::fromUtf16(name).toStdString();
+        EXPECT_FALSE(QImage(path(u"screens/"_qs + found[0])).isNull());
+    }
+    EXPECT_EQ(pictures.front(), u"01-splash.png"_qs);
+}
+
+// Each fault is planted into a ledger that was right, and must be the only thing told.
+TEST_F(PlayedMonth, AFaultOfOneYenIsTold) {
+    const sample::OpenStore store(database());
+    std::map<std::int32_t, MeterNote> typed;
+    for (const QString& row : ScratchStore::rows(
+             u"SELECT Deal,KoukanMeter,KoukanGoMeter,KonkaiMeter FROM Dgd WHERE Nendo=2011 AND Getudo=4 "
+             "AND KonkaiMeter>0"_qs)) {
+        const QStringList cells = row.split(u'|');
+        const auto tenths = [&cells](int i) { return qRound(cells[i].toDouble() * 10); };
+        typed[cells[0].toInt()] = {tenths(1), tenths(2), tenths(3)};
+    }
+    const auto told = [&typed] {
+        try {
+            checkMonth(*gDb, 2011, 4, typed);
+            return QString();
+        } catch (const Failure& failure) {
+            return failure.text();
+        }
+    };
+    ASSERT_EQ(told(), QString());
+    struct {
+        const char16_t* plant;
+        const char16_t* mend;
+        const char16_t* tells;
+    } const cases[] = {
+        {u"UPDATE TtoD SET NGaku=NGaku+1 WHERE Deal=3 AND Nendo=2011 AND Getudo=3",
+         u"UPDATE TtoD SET NGaku=NGaku-1 WHERE Deal=3 AND Nendo=2011 AND Getudo=3", u"得意先 3 2011/4 ZenkaiGaku"},
+        {u"UPDATE TtoD SET Gaku=Gaku-1 WHERE Deal=4 AND Nendo=2011 AND Getudo=4",
+         u"UPDATE TtoD SET Gaku=Gaku+1 WHERE Deal=4 AND Nendo=2011 AND Getudo=4", u"得意先 4 2011/4 Gaku"},
+        {u"UPDATE GasKeisan SET Kihon=Kihon+1 WHERE Ptn=6", u"UPDATE GasKeisan SET Kihon=Kihon-1 WHERE Ptn=6",
+         u"得意先 13 2011/4 Gaku"},
+        {u"UPDATE Dgd SET KoukanGoMeter=1 WHERE Deal=13", u"UPDATE Dgd SET KoukanGoMeter=0 WHERE Deal=13",
+         u"得意先 13: 入力した検針値と違います。"},
+    };
+    for (const auto& [plant, mend, tells] : cases) {
+        gDb->Execute(QString::fromUtf16(plant));
+        EXPECT_THAT(told().toStdString(), HasSubstr(QString::fromUtf16(tells).toStdString()));
+        EXPECT_THAT(told().toStdString(), HasSubstr("（1 か所）"));
+        gDb->Execute(QString::fromUtf16(mend));
+        EXPECT_EQ(told(), QString());
+    }
+}
+
+TEST(MonthProgram, ARunThatGoesWrongEndsWithAWord) {
+    const QTemporaryDir folder;
+    const QString templates = folder.filePath(u"Prt"_qs);
+    const QString taken = folder.filePath(u"taken"_qs);
+    const QString list = u"/取引先一覧.xlsx"_qs;
+    QDir().mkpath(templates);
+    QDir().mkpath(taken);
+    ASSERT_TRUE(QFile::copy(QStringLiteral(AKARIX_SOURCE_DIR "/Prt") + list, templates + list));
+    ASSERT_TRUE(QFile::copy(templates + list, taken + list));
+    struct {
+        QStringList arguments;
+        int exitCode;
+        const char* says;
+    } const cases[] = {
+        {{u"--frobnicate"_qs}, 2, "使い方"},
+        {{u"--help"_qs}, 0, "使い方"},
+        {{u"--out"_qs, taken}, 1, "他のものがあります"},
+        // The list cannot be printed, which the program tells in a box that the road does not expect.
+        {{u"--customers"_qs, u"2"_qs, u"--out"_qs, folder.filePath(u"out"_qs), u"--templates"_qs, templates},
+         1,
+         "一覧表の印刷: unexpected dialog: 1004"},
+    };
+    for (const auto& [arguments, exitCode, says] : cases) {
+        const Run run = runProgram(arguments);
+        EXPECT_EQ(run.exitCode, exitCode) << arguments.join(u' ').toStdString();
+        EXPECT_THAT(run.said.toStdString(), HasSubstr(says));
+    }
+    EXPECT_TRUE(QFile::exists(taken + list)) << "what was in the folder is left alone";
+}
+
+TEST(MonthOptions, AreReadOrRefused) {
+    struct {
+        const char* arguments;
+        bool good;
+    } const cases[] = {
+        {"", true},
+        {"--customers 1 --month 2000/1 --scale 1.5 --out x", true},
+        {"--customers 32000", true},
+        {"--customers 0", false},
+        {"--customers many", false},
+        {"--month 1999/12", false},
+        {"--month 2011/13", false},
+        {"--month 2011-4", false},
+        {"--scale 0", false},
+        {"--scale", false},
+        {"somewhere", false},
+    };
+    for (const auto& [arguments, good] : cases) {
+        const auto options =
+            readOptions(QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
+        EXPECT_EQ(options.has_value(), good) << arguments;
+    }
+}
+
+TEST(MeterReader, ReadsOnFromWhereTheMeterStood) {
+    const ScratchStore store;
+    ScratchStore::run(
+        u"INSERT INTO Dgd(Nendo,Getudo,Deal,ZenkaiMeter,KonkaiMeter,Suu) VALUES(2011,1,5,100,115,15);\n"
+        "INSERT INTO Dgd(Nendo,Getudo,Deal,ZenkaiMeter,KonkaiMeter,Suu) VALUES(2011,7,5,115,121,6)"_qs);
+    MeterBook book(*gDb, 2012, 1);
+    EXPECT_EQ(book.note(6, 0), std::nullopt) << "has no meter";
+    const auto january = book.note(5, 1210);
+    ASSERT_TRUE(january);
+    EXPECT_EQ(january->exchangedAt, 0);
+    EXPECT_GT(january->now, 1210 + 100);
+    EXPECT_LT(january->now, 1210 + 200);
+    EXPECT_LT(MeterBook(*gDb, 2012, 8).note(5, 1210)->now, 1210 + 90) << "summer is low";
+    const auto full = book.note(5, 99950);
+    EXPECT_EQ(full->exchangedAt, 99999) << "the old meter's end";
+    EXPECT_LT(full->now, 200) << "the rest on the new one";
+}
+
+}  // namespace
+}  // namespace akarix::month
