@@ -21,13 +21,13 @@ namespace {
 
 using testing::HasSubstr;
 
-struct Run {
+struct Outcome {
     int exitCode = -1;
     QString said;
 };
 
 /// Runs the program as it is built.
-Run runProgram(const QStringList& arguments) {
+Outcome runProgram(const QStringList& arguments) {
     QProcess program;
     program.setProcessChannelMode(QProcess::MergedChannels);
     program.start(QStringLiteral(AKARIX_MONTH_PROGRAM), arguments);
@@ -60,7 +60,7 @@ class PlayedMonth : public testing::Test {
     static QString stored(const QString& question) { return ScratchStore::rows(question).value(0); }
 
     static inline QTemporaryDir* folder_ = nullptr;
-    static inline Run run_;
+    static inline Outcome run_;
 };
 
 TEST_F(PlayedMonth, SummaryTellsWhatTheStoreHolds) {
@@ -168,7 +168,7 @@ TEST(MonthProgram, ARunThatGoesWrongEndsWithAWord) {
          "一覧表の印刷: unexpected dialog: 1004"},
     };
     for (const auto& [arguments, exitCode, says] : cases) {
-        const Run run = runProgram(arguments);
+        const Outcome run = runProgram(arguments);
         EXPECT_EQ(run.exitCode, exitCode) << arguments.join(u' ').toStdString();
         EXPECT_THAT(run.said.toStdString(), HasSubstr(says));
     }

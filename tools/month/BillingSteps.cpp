@@ -51,8 +51,9 @@ void runBilling(Desk& desk) {
     std::map<QString, QString> typed = monthTyped(desk.options);
     typed[QStringLiteral("ebox(2)")] = DateText(DateSerial(desk.options.year, desk.options.month + 1, 0));
     walkTo(desk, QStringLiteral("ebox(5)"), typed);
+    takeForm(desk, QStringLiteral("billing"), billingForm);
     desk.clerk.expect(QStringLiteral("Alert_frm"), [&desk](QWidget& message) {
-        desk.album.take(QStringLiteral("billing"), {&desk.clerk.form(billingForm), &message});
+        desk.album.take(QStringLiteral("billing-done"), {&desk.clerk.form(billingForm), &message});
         desk.album.take(QStringLiteral("message"), {&message});
         desk.clerk.enter();
     });
