@@ -92,9 +92,9 @@ TEST_F(PlayedMonth, TheListIsPrinted) {
 
 TEST_F(PlayedMonth, EveryScreenIsPictured) {
     const QStringList pictures = QDir(path(u"screens"_qs)).entryList(QDir::Files, QDir::Name);
-    for (const char16_t* name : {u"splash", u"login", u"menu", u"tariff", u"calculator", u"route", u"customer-lookup",
-                                 u"customer", u"confirmation", u"reading-sheet", u"billing", u"message",
-                                 u"billing-list", u"printer", u"preview"}) {
+    for (const char16_t* name : {u"splash", u"login", u"menu", u"tariff", u"calculator", u"route",
+                                 u"customer-lookup", u"customer", u"confirmation", u"reading-sheet",
+                                 u"billing", u"message", u"billing-list", u"printer", u"preview"}) {
         const QStringList found = pictures.filter(QRegularExpression(u"^[0-9]{2}-%1\\.png$"_qs.arg(name)));
         ASSERT_EQ(found.size(), 1) << QString::fromUtf16(name).toStdString();
         EXPECT_FALSE(QImage(path(u"screens/"_qs + found[0])).isNull());
@@ -128,7 +128,8 @@ TEST_F(PlayedMonth, AFaultOfOneYenIsTold) {
         const char16_t* tells;
     } const cases[] = {
         {u"UPDATE TtoD SET NGaku=NGaku+1 WHERE Deal=3 AND Nendo=2011 AND Getudo=3",
-         u"UPDATE TtoD SET NGaku=NGaku-1 WHERE Deal=3 AND Nendo=2011 AND Getudo=3", u"得意先 3 2011/4 ZenkaiGaku"},
+         u"UPDATE TtoD SET NGaku=NGaku-1 WHERE Deal=3 AND Nendo=2011 AND Getudo=3",
+         u"得意先 3 2011/4 ZenkaiGaku"},
         {u"UPDATE TtoD SET Gaku=Gaku-1 WHERE Deal=4 AND Nendo=2011 AND Getudo=4",
          u"UPDATE TtoD SET Gaku=Gaku+1 WHERE Deal=4 AND Nendo=2011 AND Getudo=4", u"得意先 4 2011/4 Gaku"},
         {u"UPDATE GasKeisan SET Kihon=Kihon+1 WHERE Ptn=6", u"UPDATE GasKeisan SET Kihon=Kihon-1 WHERE Ptn=6",
@@ -193,8 +194,7 @@ TEST(MonthOptions, AreReadOrRefused) {
         {"somewhere", false},
     };
     for (const auto& [arguments, good] : cases) {
-        const auto options =
-            readOptions(QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
+        const auto options = readOptions(QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
         EXPECT_EQ(options.has_value(), good) << arguments;
     }
 }

@@ -10,7 +10,8 @@ namespace {
 QtMessageHandler standardHandler;
 
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    for (const char16_t* known : {u"This plugin does not support", u"QStandardPaths: XDG_RUNTIME_DIR not set"}) {
+    for (const char16_t* known :
+         {u"This plugin does not support", u"QStandardPaths: XDG_RUNTIME_DIR not set"}) {
         if (text.startsWith(QStringView(known))) return;
     }
     standardHandler(type, context, text);

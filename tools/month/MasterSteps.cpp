@@ -84,7 +84,9 @@ void keepRoute(Desk& desk) {
     const QString form = QStringLiteral("MstRte_frm");
     openFromMenu(desk, 12, form);
     walkTo(desk, saveButton,
-           {{ebox(1), QStringLiteral("ﾐﾅﾐﾏﾁ")}, {ebox(2), QStringLiteral("南町地区")}, {ebox(3), QStringLiteral("26")}});
+           {{ebox(1), QStringLiteral("ﾐﾅﾐﾏﾁ")},
+            {ebox(2), QStringLiteral("南町地区")},
+            {ebox(3), QStringLiteral("26")}});
     takeForm(desk, QStringLiteral("route"), form);
     desk.clerk.enter();
     closeForm(desk, form);

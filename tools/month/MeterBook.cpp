@@ -50,8 +50,9 @@ std::optional<MeterNote> MeterBook::note(std::int32_t deal, int before) const {
     if (!exchanged) return MeterNote{.now = before + use};
     const int onTheOld = std::min(use / 2, meterEnd - before);
     constexpr int testedAtTheWorks = 3;
-    return MeterNote{
-        .exchangedAt = before + onTheOld, .startsAt = testedAtTheWorks, .now = testedAtTheWorks + use - onTheOld};
+    return MeterNote{.exchangedAt = before + onTheOld,
+                     .startsAt = testedAtTheWorks,
+                     .now = testedAtTheWorks + use - onTheOld};
 }
 
 }  // namespace akarix::month

@@ -13,16 +13,17 @@ namespace {
 
 constexpr std::int64_t scaledTenth = 1000;
 
-QStringList compareReadings(Database& db, int year, int month,
-                            std::map<std::int32_t, MeterNote> typed) {
+QStringList compareReadings(Database& db, int year, int month, std::map<std::int32_t, MeterNote> typed) {
     QStringList differences;
-    for (const auto& row : readNumbers(
-             db, QStringLiteral("SELECT Deal,KoukanMeter,KoukanGoMeter,KonkaiMeter FROM Dgd "
-                                "WHERE Nendo=%1 AND Getudo=%2 ORDER BY Deal")
-                     .arg(year)
-                     .arg(month))) {
+    for (const auto& row :
+         readNumbers(db, QStringLiteral("SELECT Deal,KoukanMeter,KoukanGoMeter,KonkaiMeter FROM Dgd "
+                                        "WHERE Nendo=%1 AND Getudo=%2 ORDER BY Deal")
+                             .arg(year)
+                             .arg(month))) {
         const auto deal = static_cast<std::int32_t>(row[0]);
-        const auto tenths = [&row](std::size_t column) { return static_cast<int>(row[column] / scaledTenth); };
+        const auto tenths = [&row](std::size_t column) {
+            return static_cast<int>(row[column] / scaledTenth);
+        };
         const MeterNote stored{tenths(1), tenths(2), tenths(3)};
         const auto note = typed.find(deal);
         if (stored != (note == typed.end() ? MeterNote() : note->second)) {

@@ -18,8 +18,8 @@ void startProgram(Desk& desk) {
     });
     expectPictured(desk, QStringLiteral("Request_frm"), QStringLiteral("login"), Qt::Key_Return);
     if (!main_menu::Start()) {
-        throw Failure(
-            QStringLiteral("Akarix が始まりません。既に動いているときは、終了してからもう一度行ってください。"));
+        throw Failure(QStringLiteral(
+            "Akarix が始まりません。既に動いているときは、終了してからもう一度行ってください。"));
     }
     takeForm(desk, QStringLiteral("menu"), QStringLiteral("main_menu"));
 }

@@ -33,7 +33,8 @@ Figures readFigures(Database& db, int year, int month) {
     const QString ofMonth = QStringLiteral(" WHERE Nendo=%1 AND Getudo=%2").arg(year).arg(month);
     Figures figures;
     figures.customers = readNumbers(db, QStringLiteral("SELECT COUNT(*) FROM Deal WHERE Code>0"))[0][0];
-    for (const auto& row : readNumbers(db, QStringLiteral("SELECT KonkaiMeter,Suu,Gaku FROM Dgd") + ofMonth)) {
+    for (const auto& row :
+         readNumbers(db, QStringLiteral("SELECT KonkaiMeter,Suu,Gaku FROM Dgd") + ofMonth)) {
         const bool wasRead = row[0] != 0 || row[1] != 0 || row[2] != 0;
         figures.readings += wasRead ? 1 : 0;
         figures.usage += row[1];

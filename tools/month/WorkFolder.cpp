@@ -40,8 +40,8 @@ WorkFolder::WorkFolder(const QString& path) : root_(QDir(path).absolutePath()) {
     QDir folder(root_);
     const QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
     if (!folder.exists(marker) && !folder.isEmpty(everything)) {
-        throw Failure(QStringLiteral("%1 には他のものがあります。--out で別のフォルダを指定してください。")
-                          .arg(root_));
+        throw Failure(
+            QStringLiteral("%1 には他のものがあります。--out で別のフォルダを指定してください。").arg(root_));
     }
     for (const QString& name : folder.entryList(everything)) {
         if (!QFileInfo(folder.filePath(name)).isDir()) {
