@@ -34,7 +34,9 @@ QByteArray InsertText(const TableDef& table, const std::vector<QString>& columns
 }
 
 QByteArray UpdateText(const TableDef& table, const std::vector<QString>& columns) {
-    QByteArray text = "UPDATE " + Quoted(table.name) + " SET ";
+    // One row is changed or none, so there is nothing to take back when a rule is broken; the engine need not
+    // keep the page as it was for that, encrypted once more.
+    QByteArray text = "UPDATE OR FAIL " + Quoted(table.name) + " SET ";
     for (std::size_t i = 0; i < columns.size(); ++i) {
         text += (i == 0 ? "" : ",") + Quoted(columns[i]) + "=?" + QByteArray::number(static_cast<int>(i) + 1);
     }

@@ -1,0 +1,64 @@
+// The billing list of 100 pages, filled from the ledger and written as one PDF file.
+
+#include <QApplication>
+#include <QFile>
+
+#include "DealerFiles.h"
+#include "Measure.h"
+#include "output/EX.h"
+#include "platform/forms/Style.h"
+#include "platform/print/Printer.h"
+#include "reports/RepoSeikyu_frm.h"
+
+namespace akarix::bench {
+namespace {
+
+constexpr int kPages = 100;
+constexpr int kRowsOfPage = 57;
+constexpr int kSheetRows = 58;
+constexpr int kSheetFirstRow = 4;
+constexpr int kRuns = 5;
+
+int run() {
+    // The last page is not full: it has the totals.
+    DealerFiles files(kPages * kRowsOfPage - 1, 1);
+    QFile::link(QStringLiteral(AKARIX_SOURCE_DIR "/Prt"), QStringLiteral("Prt"));
+    gPrintPreview = false;
+    auto& list = Form::Instance<RepoSeikyu_frm>();
+    list.init();
+    list.findChild<TextBox*>(QStringLiteral("ebox(0)"))->SetText(QString::number(kYear));
+    list.findChild<TextBox*>(QStringLiteral("ebox(1)"))->SetText(QString::number(kMonth));
+    const QString sql = QStringLiteral(
+                            "SELECT TtoD.* FROM TtoD  INNER JOIN Deal ON TtoD.Deal=Deal.Code  WHERE Nendo= "
+                            "%1 AND   Getudo=%2 ORDER BY Deal.Rte,Deal.Haisou,Deal.Code")
+                            .arg(kYear)
+                            .arg(kMonth);
+    std::vector<Time> pages;
+    for (int i = 0; i < kRuns; ++i) {
+        Printer::Current().UsePdf(files.path("list"));
+        QFile::remove(files.path("list"));
+        const Time all = measure([&] {
+            const Action grouped;
+            ExcelOpenPaged(QStringLiteral("請求一覧表"), kSheetRows, kSheetFirstRow);
+            SetReport(&list, gDb->OpenRecordset(sql));
+            ExcelRunPaged();
+        });
+        pages.push_back({all.wall / kPages, all.processor / kPages});
+        if (!QFile::exists(files.path("list"))) return 1;
+    }
+    printHead();
+    printRow("billing list, one of 100 pages to PDF", median(pages), std::nullopt, under(10));
+    return 0;
+}
+
+}  // namespace
+}  // namespace akarix::bench
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    akarix::ApplyStyle(application);
+    const int result = akarix::bench::run();
+    akarix::Form::DropInstances();
+    return result;
+}
