@@ -16,8 +16,8 @@ inline double millisecondsSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-/// What a work took: by the clock on the wall, and of the processor. Where others share the machine the second
-/// is the steadier one, but it knows nothing of the disk.
+/// What a work took: by the clock on the wall, and of the processor. Where others share the machine the
+/// second is the steadier one, but it knows nothing of the disk.
 struct Time {
     double wall = 0;
     double processor = 0;

@@ -81,9 +81,7 @@ class PeerStatement {
     void bind(int place, double value) { sqlite3_bind_double(statement_, place, value); }
     void bind(int place, int value) { sqlite3_bind_int(statement_, place, value); }
     void bind(int place, std::int64_t value) { sqlite3_bind_int64(statement_, place, value); }
-    void bind(int place, const char* text) {
-        sqlite3_bind_text(statement_, place, text, -1, SQLITE_STATIC);
-    }
+    void bind(int place, const char* text) { sqlite3_bind_text(statement_, place, text, -1, SQLITE_STATIC); }
 
     const PeerStore& store_;
     sqlite3_stmt* statement_ = nullptr;

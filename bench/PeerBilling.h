@@ -102,10 +102,10 @@ class PeerBilling {
     PeerStore& store_;
     PeerStatement clearSales_{
         store_,
-        "UPDATE OR IGNORE TtoD SET UGaku=0 WHERE Nendo=?1 AND Getudo=?2 AND UGaku<>0 AND NOT EXISTS(SELECT 1 FROM Dud "
+        "UPDATE OR IGNORE TtoD SET UGaku=0 WHERE Nendo=?1 AND Getudo=?2 AND UGaku<>0 AND NOT EXISTS(SELECT 1 "
+        "FROM Dud "
         "WHERE Dud.Getudo=TtoD.Getudo AND Dud.Nendo=TtoD.Nendo AND Dud.Deal=TtoD.Deal)"};
-    PeerStatement readings_{store_,
-                            "SELECT Deal,Gaku FROM Dgd WHERE Nendo=?1 AND Getudo=?2 ORDER BY Deal"};
+    PeerStatement readings_{store_, "SELECT Deal,Gaku FROM Dgd WHERE Nendo=?1 AND Getudo=?2 ORDER BY Deal"};
     PeerStatement leases_{store_, "SELECT Code,ACU,Keihou FROM Deal WHERE ACU=1 OR Keihou=1 ORDER BY Code"};
     PeerStatement sales_{
         store_, "SELECT Deal,SUM(Gaku) FROM Dud WHERE Nendo=?1 AND Getudo=?2 GROUP BY Deal ORDER BY Deal"};
