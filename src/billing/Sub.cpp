@@ -2,19 +2,18 @@
 
 #include "platform/runtime/Int.h"
 #include "store/FieldValue.h"
+#include "store/Lookup.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
 
 namespace akarix {
 
 Currency PrevKonkaiMeter(int nendo, int getudo, std::int32_t deal) {
-    Recordset set =
-        gDb->OpenRecordset(QStringLiteral("SELECT TOP 1 KonkaiMeter FROM Dgd  WHERE Deal=") + NumStr(deal) +
-                           QStringLiteral(" AND   Nendo*100+Getudo < ") + NumStr(nendo * 100 + getudo) +
-                           QStringLiteral(" ORDER BY Nendo*100+Getudo DESC"));
-    const Currency meter = set.Eof() ? Currency() : moneyOf(set[QStringLiteral("KonkaiMeter")]);
-    set.Close();
-    return meter;
+    return moneyOf(FirstValue(QStringLiteral("SELECT TOP 1 KonkaiMeter FROM Dgd  WHERE Deal=") +
+                                  NumStr(deal) + QStringLiteral(" AND   Nendo*100+Getudo < ") +
+                                  NumStr(nendo * 100 + getudo) +
+                                  QStringLiteral(" ORDER BY Nendo*100+Getudo DESC"),
+                              QStringLiteral("KonkaiMeter")));
 }
 
 void ReadMonthMeter(std::int32_t deal, int nendo, int getudo, Currency& zenkaiMeter, Currency& konkaiMeter,
@@ -32,19 +31,16 @@ void ReadMonthMeter(std::int32_t deal, int nendo, int getudo, Currency& zenkaiMe
 }
 
 Currency CalcGasCharge(std::int32_t deal, Currency usage) {
-    Recordset customer =
-        gDb->OpenRecordset(QStringLiteral("SELECT TankaPtn FROM Deal  WHERE Code=") + NumStr(deal));
-    const bool known = !customer.Eof();
-    const std::int16_t pattern = known ? integerOf(customer[QStringLiteral("TankaPtn")]) : std::int16_t{0};
-    customer.Close();
-    if (!known) return {};
+    const Variant pattern = FirstValue(
+        QStringLiteral("SELECT TankaPtn FROM Deal  WHERE Code=") + NumStr(deal), QStringLiteral("TankaPtn"));
+    if (pattern.IsEmpty()) return {};
 
     const QString use = NumStr(usage);
     // No order: where bands overlap, the one that comes first counts.
     Recordset band = gDb->OpenRecordset(
         QStringLiteral("SELECT GasKeisan.Ptn, GasKeisan.St, GasKeisan.Ed, GasKeisan.Kihon, "
                        "GasKeisan.Tanka From GasKeisan WHERE GasKeisan.Ptn=") +
-        NumStr(pattern) + QStringLiteral(" AND GasKeisan.St<=") + use +
+        NumStr(integerOf(pattern)) + QStringLiteral(" AND GasKeisan.St<=") + use +
         QStringLiteral(" AND GasKeisan.Ed>=") + use);
     Currency charge;
     if (!band.Eof()) {
@@ -56,11 +52,9 @@ Currency CalcGasCharge(std::int32_t deal, Currency usage) {
 }
 
 bool IsNoInvoice(std::int32_t deal) {
-    Recordset set =
-        gDb->OpenRecordset(QStringLiteral("SELECT NoSeikyu FROM Deal WHERE Code=") + NumStr(deal));
-    const bool noInvoice = set.Eof() || integerOf(set[QStringLiteral("NoSeikyu")]) == 1;
-    set.Close();
-    return noInvoice;
+    const Variant flag = FirstValue(QStringLiteral("SELECT NoSeikyu FROM Deal WHERE Code=") + NumStr(deal),
+                                    QStringLiteral("NoSeikyu"));
+    return flag.IsEmpty() || integerOf(flag) == 1;
 }
 
 }  // namespace akarix

@@ -102,11 +102,10 @@ LeaseFees readLeaseFees() {
 
 /// Removes the slip that an earlier run made for the customer and month; gives its number, or 0.
 std::int32_t removeLeaseSlip(int nendo, int getudo, std::int32_t deal) {
-    Recordset set =
-        gDb->OpenRecordset(QStringLiteral("SELECT * FROM Dud ") + ofCustomerMonth(deal, nendo, getudo) +
-                           QStringLiteral(" AND   CreateAuto=1"));
-    const std::int32_t dno = set.Eof() ? 0 : longOf(set[QStringLiteral("Dno")]);
-    set.Close();
+    const std::int32_t dno =
+        longOf(FirstValue(QStringLiteral("SELECT * FROM Dud ") + ofCustomerMonth(deal, nendo, getudo) +
+                              QStringLiteral(" AND   CreateAuto=1"),
+                          QStringLiteral("Dno")));
     if (dno != 0) gDb->Execute(QStringLiteral("DELETE FROM Dud WHERE Dno=") + NumStr(dno));
     return dno;
 }
@@ -246,11 +245,9 @@ Variant PriorBalance(std::int32_t deal, int nendo, int getudo) {
 }
 
 QString ReadClosingDate(std::int16_t year, std::int16_t month) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Hizuke FROM Syukei  WHERE Nen=") +
-                                       NumStr(year) + QStringLiteral(" AND Tuki=") + NumStr(month));
-    const QString date = set.Eof() ? QString() : NullToEmpty(set[QStringLiteral("Hizuke")]);
-    set.Close();
-    return date;
+    return NullToEmpty(FirstValue(QStringLiteral("SELECT Hizuke FROM Syukei  WHERE Nen=") + NumStr(year) +
+                                      QStringLiteral(" AND Tuki=") + NumStr(month),
+                                  QStringLiteral("Hizuke")));
 }
 
 }  // namespace akarix

@@ -16,14 +16,23 @@ namespace {
 const QString blank = QStringLiteral(" ");
 constexpr std::int16_t monthEnd = 31;
 
+QString nameOrBlank(const QString& sql) {
+    const Variant name = FirstValue(sql, QStringLiteral("Namae"));
+    return name.IsEmpty() ? blank : NullToEmpty(name);
+}
+
 }  // namespace
 
-QString GetName(const QString& table, const Variant& code) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Code,Namae FROM ") + table +
-                                       QStringLiteral(" WHERE Code=") + NumStr(code));
-    const QString name = set.Eof() ? blank : NullToEmpty(set[QStringLiteral("Namae")]);
+Variant FirstValue(const QString& sql, const QString& column) {
+    Recordset set = gDb->OpenRecordset(sql);
+    const Variant value = set.Eof() ? Variant() : set[column];
     set.Close();
-    return name;
+    return value;
+}
+
+QString GetName(const QString& table, const Variant& code) {
+    return nameOrBlank(QStringLiteral("SELECT Code,Namae FROM ") + table + QStringLiteral(" WHERE Code=") +
+                       NumStr(code));
 }
 
 void GetNameAndNoSeikyu(const QString& table, const Variant& code, QString& name, int& noSeikyu) {
@@ -39,25 +48,19 @@ void GetNameAndNoSeikyu(const QString& table, const Variant& code, QString& name
 }
 
 QString GetDealName(const Variant& code) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Namae FROM Deal ") +
-                                       QStringLiteral(" WHERE Code=") + NumStr(code));
-    const QString name = set.Eof() ? blank : NullToEmpty(set[QStringLiteral("Namae")]);
-    set.Close();
-    return name;
+    return nameOrBlank(QStringLiteral("SELECT Namae FROM Deal ") + QStringLiteral(" WHERE Code=") +
+                       NumStr(code));
 }
 
 Currency GetHinTanka(const Variant& code) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Tanka FROM Hin WHERE Code=") + NumStr(code));
-    const Currency price = set.Eof() ? Currency() : moneyOf(set[QStringLiteral("Tanka")]);
-    set.Close();
-    return price;
+    return moneyOf(FirstValue(QStringLiteral("SELECT Tanka FROM Hin WHERE Code=") + NumStr(code),
+                              QStringLiteral("Tanka")));
 }
 
 Variant GetKensinDay(const Variant& code) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Kensin FROM Rte WHERE Code=") + NumStr(code));
-    const Variant day = set.Eof() ? Variant(std::int16_t{0}) : NullToZero(set[QStringLiteral("Kensin")]);
-    set.Close();
-    return day;
+    const Variant day = FirstValue(QStringLiteral("SELECT Kensin FROM Rte WHERE Code=") + NumStr(code),
+                                   QStringLiteral("Kensin"));
+    return NullToZero(day.IsEmpty() ? Variant::Null() : day);
 }
 
 std::int32_t HighestPlus(const QString& sql, std::int32_t step) {
@@ -91,23 +94,18 @@ void PrevReadingDate(int year, int month, std::int32_t deal, QString& text) {
 }
 
 QString GetContents(const QString& sql) {
-    Recordset set = gDb->OpenRecordset(sql);
-    const QString contents = set.Eof() ? QString() : NullToEmpty(set[QStringLiteral("contents")]);
-    set.Close();
-    return contents;
+    return NullToEmpty(FirstValue(sql, QStringLiteral("contents")));
 }
 
 QString AddressOfZip(const QString& zip) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Addr FROM Zip7 WHERE Code=") + KeepDigits(zip));
-    const QString address = set.Eof() ? QString() : NullToEmpty(set[QStringLiteral("Addr")]);
-    set.Close();
-    return address;
+    return NullToEmpty(FirstValue(QStringLiteral("SELECT Addr FROM Zip7 WHERE Code=") + KeepDigits(zip),
+                                  QStringLiteral("Addr")));
 }
 
 void DateToGetudo(std::int32_t deal, Date hizuke, int& nendo, int& getudo) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Sime FROM Deal WHERE Code=") + NumStr(deal));
-    const std::int16_t closingDay = set.Eof() ? monthEnd : integerOf(set[QStringLiteral("Sime")]);
-    set.Close();
+    const Variant sime = FirstValue(QStringLiteral("SELECT Sime FROM Deal WHERE Code=") + NumStr(deal),
+                                    QStringLiteral("Sime"));
+    const std::int16_t closingDay = sime.IsEmpty() ? monthEnd : integerOf(sime);
     nendo = Year(hizuke);
     getudo = Month(hizuke);
     // A closing day of 0 moves every date into the next month.

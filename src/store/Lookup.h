@@ -6,6 +6,9 @@
 
 namespace akarix {
 
+/// A column of the question's first row; Empty when there is no row.
+Variant FirstValue(const QString& sql, const QString& column);
+
 /// One-row questions that many screens ask. A missing name is one blank, a missing number 0. The code may be
 /// a number or its text; a text that is none raises 13.
 QString GetName(const QString& table, const Variant& code);
