@@ -1,8 +1,10 @@
 #include "toolkit/Dentaku_frm.h"
 
 #include <QGridLayout>
+#include <QScreen>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/MemoBox.h"
@@ -75,8 +77,9 @@ Dentaku_frm::Dentaku_frm() : Form(QStringLiteral("電卓"), QStringLiteral("メ�
 }
 
 void Dentaku_frm::init() {
-    // Out of the way of the screen that is being filled in; a window is given its place when it is shown.
-    move(screen()->availableGeometry().topLeft());
+    // A window is given its place when it is first shown; this one stands out of the way of the screen that
+    // is being filled in, until the clerk moves it.
+    if (!std::exchange(inCorner_, true)) move(screen()->availableGeometry().topLeft());
     SetFocus(eSiki_);
 }
 

@@ -25,6 +25,7 @@ class Dentaku_frm : public Form {
     MemoBox* eSiki_;
     TextBox* eAns_;
     ComboBox* Combo1_;
+    bool inCorner_ = false;
 };
 
 }  // namespace akarix

@@ -60,9 +60,12 @@ TEST_F(Calculator, AnswersOnEnter) {
 }
 
 TEST_F(Calculator, StandsInTheCornerInItsOwnSize) {
-    const QWidget& window = *clerk.find<MemoBox>(u"eSiki"_qs).window();
+    QWidget& window = *clerk.find<MemoBox>(u"eSiki"_qs).window();
     EXPECT_EQ(window.pos(), window.screen()->availableGeometry().topLeft());
     EXPECT_EQ(window.size(), QSize(255, 381)) << "3825 by 5715 twips";
+    window.move(200, 100);
+    OpenScreen<Dentaku_frm>();
+    EXPECT_EQ(window.pos(), QPoint(200, 100)) << "where the clerk has put it";
 }
 
 TEST_F(Calculator, DecimalsAreTakenFromTheShownText) {
