@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QPainter>
 #include <array>
 
 #include "billing/Seikyu_frm.h"
@@ -16,7 +15,6 @@
 #include "output/EX.h"
 #include "platform/forms/MsgBox.h"
 #include "platform/forms/SingleInstance.h"
-#include "platform/forms/Style.h"
 #include "platform/jet/Action.h"
 #include "platform/runtime/CInt.h"
 #include "reports/RepoSeikyu_frm.h"
