@@ -126,6 +126,7 @@ void SlipG_frm::layOut() {
     constexpr int kGridHeight = 460;
     List_->setMinimumSize(width + kScrollBar, kGridHeight);
     tBox_ = &Named(new TextBox(this), QStringLiteral("tBox"));
+    tBox_->setAlignment(Qt::AlignRight);  // all that is typed into the grid are numbers
     tBox_->hide();
 
     auto* body = new QVBoxLayout(this);
@@ -312,8 +313,9 @@ void SlipG_frm::exportGrid() {
 // ---- the cells
 
 void SlipG_frm::openEditor() {
-    closeEditor();
-    if (List_->Rows() > 1) GridEdit();
+    if (List_->Rows() <= 1) return;
+    if (!gCols[List_->Col()].Editable) closeEditor();
+    GridEdit();
 }
 
 /// Hands the keyboard back to the grid; the box hides as it loses it, and with it what was not confirmed.
