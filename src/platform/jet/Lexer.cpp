@@ -40,17 +40,24 @@ bool isDigit(QChar c) {
     return c >= u'0' && c <= u'9';
 }
 
+bool isAsciiLetter(QChar c) {
+    const char16_t lower = c.unicode() | 0x20;
+    return lower >= u'a' && lower <= u'z';
+}
+
 bool isNameStart(QChar c) {
-    return c.isLetter() || c == u'_' || c.isSurrogate();
+    if (c.unicode() < 0x80) return isAsciiLetter(c) || c == u'_';
+    return c.isLetter() || c.isSurrogate();
 }
 
 bool isNamePart(QChar c) {
-    return isNameStart(c) || c.isDigit() || c.isMark() || c == u'$';
+    if (c.unicode() < 0x80) return isAsciiLetter(c) || isDigit(c) || c == u'_' || c == u'$';
+    return isNameStart(c) || c.isDigit() || c.isMark();
 }
 
 Literal readNumber(QStringView text) {
     const qsizetype point = text.indexOf(u'.');
-    const bool exponent = text.contains(u'e', Qt::CaseInsensitive);
+    const bool exponent = text.contains(u'e') || text.contains(u'E');
     QStringView whole = point < 0 ? text : text.first(point);
     QStringView fraction = point < 0 ? QStringView() : text.sliced(point + 1);
     if (!exponent && point < 0 && whole.size() <= 18) {

@@ -35,6 +35,11 @@ bool liftsBehind(Keyword keyword, bool before) {
     }
 }
 
+/// The number behind TOP is part of the plan.
+bool countsRows(const std::vector<Token>& tokens, std::size_t literal) {
+    return literal > 0 && tokens[literal - 1].text.compare(u"TOP", Qt::CaseInsensitive) == 0;
+}
+
 void appendToken(QString& key, const Token& token) {
     switch (token.type) {
         case Token::Type::Bracketed:
@@ -60,17 +65,18 @@ LiftedStatement liftLiterals(std::vector<Token>& tokens) {
         return lifted;
     const bool values = first == Keyword::Insert && !hasFrom(tokens);
     std::vector<bool> levels{!query};
+    lifted.key.reserve(tokens.back().position + static_cast<qsizetype>(tokens.size()) * 2);
+    lifted.literals.reserve(tokens.size() / 2);
     for (std::size_t i = 0; i < tokens.size(); ++i) {
         Token& token = tokens[i];
         if (token.type == Token::Type::Word) {
             levels.back() = liftsBehind(token.keyword, levels.back());
-        } else if (token.text == u"(") {
+        } else if (token.type == Token::Type::Symbol && token.text == u"(") {
             levels.push_back(levels.back());
-        } else if (token.text == u")" && levels.size() > 1) {
+        } else if (token.type == Token::Type::Symbol && token.text == u")" && levels.size() > 1) {
             levels.pop_back();
         }
-        const bool count = i > 0 && tokens[i - 1].text.compare(u"TOP", Qt::CaseInsensitive) == 0;
-        if (token.type == Token::Type::Literal && (values || levels.back()) && !count) {
+        if (token.type == Token::Type::Literal && (values || levels.back()) && !countsRows(tokens, i)) {
             token.lifted = static_cast<int>(lifted.literals.size());
             lifted.literals.push_back(token.literal);
             lifted.key += QChar(kLifted);

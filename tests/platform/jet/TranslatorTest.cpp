@@ -5,8 +5,8 @@
 #include <QTemporaryDir>
 #include <random>
 
+#include "platform/jet/Action.h"
 #include "platform/jet/DBEngine.h"
-#include "platform/jet/Engine.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -189,8 +189,16 @@ TEST(Translator, KeepsTheDepthOfStatementsWithinWhatTheEngineTakes) {
     database.Close();
 }
 
-// Statements with pieces lost, doubled and exchanged: an error is right, a crash is not.
+// Statements with pieces lost, doubled and exchanged: an error of the dialect is right, a crash is not, and
+// neither is a text that the engine does not understand.
 TEST(Translator, StandsBrokenStatements) {
+    const QTemporaryDir folder;
+    Database& database = *DBEngine::Workspaces(0).CreateDatabase(folder.filePath(QStringLiteral("Broken.MDB")),
+                                                                 QStringLiteral("MS Access;PWD=broken"));
+    for (const char16_t* table : {u"T", u"U"}) {
+        database.Execute(QStringLiteral("CREATE TABLE %1(Code Long PRIMARY KEY, Namae Text(20), Gaku Currency, Hi DateTime)")
+                             .arg(QString::fromUtf16(table)));
+    }
     const QStringList seeds{
         QStringLiteral(
             "SELECT TOP 5 a.Code, First(b.Gaku) AS g FROM (T AS a LEFT JOIN U AS b ON a.Code = b.Code) "
@@ -208,30 +216,35 @@ TEST(Translator, StandsBrokenStatements) {
     const auto pick = [&](qsizetype below) {
         return static_cast<qsizetype>(random() % static_cast<std::uint32_t>(below));
     };
-    Translator translator(smallCatalogue());
+    const Action action;
+    int understood = 0;
     for (int round = 0; round < 4000; ++round) {
         QStringList words = seeds[pick(seeds.size())].split(u' ');
-        for (int change = 0; change < 3; ++change) {
+        for (int change = round % 3; change < 3; ++change) {
             const qsizetype place = pick(words.size());
             const QStringList other = seeds[pick(seeds.size())].split(u' ');
             switch (random() % 4) {
-                case 0:
-                    words[place] = other[pick(other.size())];
-                    break;
-                case 1:
-                    words.insert(place, words[pick(words.size())]);
-                    break;
-                case 2:
-                    words[place].truncate(pick(words[place].size() + 1));
-                    break;
-                default:
-                    words[place].append(QStringLiteral("()[]'\"#.,*-;=é")[pick(14)]);
-                    break;
+                case 0: words[place] = other[pick(other.size())]; break;
+                case 1: words.insert(place, words[pick(words.size())]); break;
+                case 2: words[place].truncate(pick(words[place].size() + 1)); break;
+                default: words[place].append(QStringLiteral("()[]'\"#.,*-;=é")[pick(14)]); break;
             }
         }
-        errorOf(translator, words.join(u' '));
+        const QString sql = words.join(u' ');
+        try {
+            if (sql.startsWith(u"SELECT")) {
+                database.OpenRecordset(sql).Eof();
+            } else {
+                database.Execute(sql);
+            }
+            ++understood;
+        } catch (const RuntimeError& error) {
+            const QString& text = error.description();
+            EXPECT_FALSE(text.contains(u"near ") || text.contains(u"no such") || text.contains(u"misuse")) << sql.toStdString() << error.what();
+        }
     }
-    EXPECT_EQ(translator.translated(), 4000);
+    EXPECT_GT(understood, 100);
+    database.Close();
 }
 
 }  // namespace
