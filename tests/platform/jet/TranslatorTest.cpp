@@ -193,11 +193,13 @@ TEST(Translator, KeepsTheDepthOfStatementsWithinWhatTheEngineTakes) {
 // neither is a text that the engine does not understand.
 TEST(Translator, StandsBrokenStatements) {
     const QTemporaryDir folder;
-    Database& database = *DBEngine::Workspaces(0).CreateDatabase(folder.filePath(QStringLiteral("Broken.MDB")),
-                                                                 QStringLiteral("MS Access;PWD=broken"));
+    Database& database = *DBEngine::Workspaces(0).CreateDatabase(
+        folder.filePath(QStringLiteral("Broken.MDB")), QStringLiteral("MS Access;PWD=broken"));
     for (const char16_t* table : {u"T", u"U"}) {
-        database.Execute(QStringLiteral("CREATE TABLE %1(Code Long PRIMARY KEY, Namae Text(20), Gaku Currency, Hi DateTime)")
-                             .arg(QString::fromUtf16(table)));
+        database.Execute(
+            QStringLiteral(
+                "CREATE TABLE %1(Code Long PRIMARY KEY, Namae Text(20), Gaku Currency, Hi DateTime)")
+                .arg(QString::fromUtf16(table)));
     }
     const QStringList seeds{
         QStringLiteral(
@@ -224,10 +226,18 @@ TEST(Translator, StandsBrokenStatements) {
             const qsizetype place = pick(words.size());
             const QStringList other = seeds[pick(seeds.size())].split(u' ');
             switch (random() % 4) {
-                case 0: words[place] = other[pick(other.size())]; break;
-                case 1: words.insert(place, words[pick(words.size())]); break;
-                case 2: words[place].truncate(pick(words[place].size() + 1)); break;
-                default: words[place].append(QStringLiteral("()[]'\"#.,*-;=é")[pick(14)]); break;
+                case 0:
+                    words[place] = other[pick(other.size())];
+                    break;
+                case 1:
+                    words.insert(place, words[pick(words.size())]);
+                    break;
+                case 2:
+                    words[place].truncate(pick(words[place].size() + 1));
+                    break;
+                default:
+                    words[place].append(QStringLiteral("()[]'\"#.,*-;=é")[pick(14)]);
+                    break;
             }
         }
         const QString sql = words.join(u' ');
@@ -240,7 +250,8 @@ TEST(Translator, StandsBrokenStatements) {
             ++understood;
         } catch (const RuntimeError& error) {
             const QString& text = error.description();
-            EXPECT_FALSE(text.contains(u"near ") || text.contains(u"no such") || text.contains(u"misuse")) << sql.toStdString() << error.what();
+            EXPECT_FALSE(text.contains(u"near ") || text.contains(u"no such") || text.contains(u"misuse"))
+                << sql.toStdString() << error.what();
         }
     }
     EXPECT_GT(understood, 100);
