@@ -123,7 +123,8 @@ void SetReport(ReportForm* form, Recordset set) {
 void ExcelRunPaged() {
     if (!report.form || !report.set) throw RuntimeError(91);
     ReportForm& form = *report.form;
-    Recordset& set = *report.set;
+    // Taken out of the state, so that a run that dies leaves no rows behind.
+    Recordset set = std::move(*std::exchange(report.set, std::nullopt));
 
     set.MoveLast();
     const int count = set.RecordCount();
@@ -159,7 +160,6 @@ void ExcelRunPaged() {
     form.PrintOutDetailGokei(line, report.sheetFirstRow, page);
     if (line >= 2) ExcelPrintPage();
     ExcelClose();
-    report.set.reset();
 }
 
 }  // namespace akarix
