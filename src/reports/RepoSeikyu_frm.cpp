@@ -74,6 +74,13 @@ constexpr int kSheetRows = 58;
 constexpr int kSheetFirstRow = 4;
 constexpr int kEraBase = 1988;  // the sheet counts its years by one era, whatever the screens do
 
+bool isLast(Recordset& set) {
+    set.MoveNext();
+    const bool last = set.Eof();
+    set.MovePrevious();
+    return last;
+}
+
 }  // namespace
 
 RepoSeikyu_frm::RepoSeikyu_frm() : EntryForm(QStringLiteral("RepoSeikyu_frm"), QStringLiteral("請求一覧表")) {
@@ -292,6 +299,16 @@ void RepoSeikyu_frm::PrintOutHead(int /*page*/) {
 }
 
 void RepoSeikyu_frm::PrintOutDetail(int row, Recordset& set) {
+    printRow(row, set);
+    // A page that the last customer fills goes out before the total is asked for; the total belongs on it.
+    if (row == kSheetFirstRow + kSheetRows - 1 && isLast(set)) printTotal();
+}
+
+void RepoSeikyu_frm::PrintOutDetailGokei(int /*line*/, int /*firstRow*/, int /*page*/) {
+    printTotal();
+}
+
+void RepoSeikyu_frm::printRow(int row, const Recordset& set) {
     const std::int32_t deal = longOf(set[QStringLiteral("Deal")]);
     Currency zenkaiMeter;
     Currency konkaiMeter;
@@ -324,7 +341,7 @@ void RepoSeikyu_frm::PrintOutDetail(int row, Recordset& set) {
     printed_.zenkaiGaku += zenkaiGaku;
 }
 
-void RepoSeikyu_frm::PrintOutDetailGokei(int /*line*/, int /*firstRow*/, int /*page*/) {
+void RepoSeikyu_frm::printTotal() {
     ExcelCell(QStringLiteral("F63"), NumStr(printed_.suu));
     if (withAmounts()) {
         ExcelCell(QStringLiteral("G63"), NumStr(printed_.gGaku));

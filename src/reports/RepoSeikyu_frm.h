@@ -33,6 +33,8 @@ class RepoSeikyu_frm : public EntryForm, public ReportForm {
     QString filter() const;
     void show();
     void print();
+    void printRow(int row, const Recordset& set);
+    void printTotal();
     void exportGrid();
     bool withAmounts() const { return ChkGaku_->Value() == 0; }
 
