@@ -136,10 +136,10 @@ void RepoSeikyu_frm::layOut() {
     List_->SetFixedRows(1);
     int width = 0;
     for (int column = 0; column < kColumns; ++column) {
-        const Head& spec = kHeads[static_cast<std::size_t>(column)];
-        List_->SetColWidth(column, spec.width);
-        List_->SetColAlignment(column, spec.alignment);
-        width += Twips(spec.width);
+        const Head& shape = kHeads[static_cast<std::size_t>(column)];
+        List_->SetColWidth(column, shape.width);
+        List_->SetColAlignment(column, shape.alignment);
+        width += Twips(shape.width);
     }
     constexpr int kScrollBar = 24;
     constexpr int kGridHeight = 420;
