@@ -3,7 +3,6 @@
 #include <QList>
 #include <QString>
 
-class QPixmap;
 class QWidget;
 
 namespace akarix::month {
@@ -15,7 +14,6 @@ class Album {
 
     /// Windows as they stand on the desk, the last on top, each with its title.
     void take(const QString& name, const QList<QWidget*>& windows);
-    int count() const { return count_; }
 
  private:
     QString folder_;

@@ -1,5 +1,7 @@
 #include "month/Summary.h"
 
+#include <algorithm>
+
 #include "ledger/Rows.h"
 #include "platform/runtime/Currency.h"
 #include "platform/runtime/Format.h"
