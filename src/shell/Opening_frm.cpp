@@ -55,6 +55,7 @@ QPixmap splashPicture(qreal ratio) {
 }  // namespace
 
 Opening_frm::Opening_frm() : Form(QStringLiteral("Opening_frm"), QStringLiteral("Akarix")) {
+    setWindowFlag(Qt::FramelessWindowHint);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     Image1_ = new Image(this);
@@ -72,12 +73,6 @@ Opening_frm::Opening_frm() : Form(QStringLiteral("Opening_frm"), QStringLiteral(
         Unload();
     });
     timer->start();
-}
-
-void Opening_frm::setVisible(bool visible) {
-    // A modal form is given a title bar each time it is shown.
-    if (visible) setWindowFlag(Qt::FramelessWindowHint);
-    Form::setVisible(visible);
 }
 
 }  // namespace akarix

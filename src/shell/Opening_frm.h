@@ -9,7 +9,6 @@ namespace akarix {
 class Opening_frm : public Form {
  public:
     Opening_frm();
-    void setVisible(bool visible) override;
 
  private:
     Image* Image1_;
