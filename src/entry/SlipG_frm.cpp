@@ -234,8 +234,13 @@ MonthReadings SlipG_frm::month() const {
 // ---- the buttons
 
 void SlipG_frm::showMonth() {
+    // Switched off, the button loses the keyboard to its neighbour; it gets it back unless a field took it.
+    const bool pressed = focusWidget() == Command1_;
     Command1_->setEnabled(false);
-    const auto enable = qScopeGuard([this] { Command1_->setEnabled(true); });
+    const auto enable = qScopeGuard([this, pressed, neighbour = focusWidget()] {
+        Command1_->setEnabled(true);
+        if (pressed && focusWidget() == neighbour) Command1_->setFocus();
+    });
     for (const int field : {kYear, kMonth}) {
         if (enter(field)) continue;
         FocusSelect(ebox(field));
@@ -244,11 +249,7 @@ void SlipG_frm::showMonth() {
     List_->SetRows(1);
     List_->Refresh();
     Recordset rows = month().show(filter(), KeepNumeric(ebox(kDay).Text()));
-    if (rows.Eof()) {
-        Command1_->setEnabled(true);
-        SetFocus(Command1_);  // the button let go of the keyboard when it was switched off
-        return;
-    }
+    if (rows.Eof()) return;
     fill(rows);
     List_->SetRow(1);
     List_->SetCol(kColKonkaiMeter);
