@@ -15,7 +15,8 @@ namespace akarix::bench {
 class PeerStore {
  public:
     explicit PeerStore(const QString& path) {
-        check(sqlite3_open(path.toUtf8().constData(), &connection_));
+        check(sqlite3_open_v2(path.toUtf8().constData(), &connection_,
+                              SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr));
         const StoreKey key = KeyOfPassword(ConnectText().section(u'=', 1));
         run("PRAGMA key=\"x'" + key.encryption.toHex() + FileMark().toHex() + "'\"");
         run("PRAGMA cipher_page_size=" + QByteArray::number(kPageSize));

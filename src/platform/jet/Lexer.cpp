@@ -4,8 +4,8 @@
 #include <array>
 #include <string_view>
 
-#include "platform/jet/DateLiteral.h"
 #include "platform/jet/DialectError.h"
+#include "platform/jet/Scanning.h"
 
 namespace akarix {
 namespace {
@@ -36,44 +36,6 @@ Keyword keywordOf(QStringView word) {
     return static_cast<Keyword>(found - kKeywords.begin());
 }
 
-bool isDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
-
-bool isAsciiLetter(QChar c) {
-    const char16_t lower = c.unicode() | 0x20;
-    return lower >= u'a' && lower <= u'z';
-}
-
-bool isNameStart(QChar c) {
-    if (c.unicode() < 0x80) return isAsciiLetter(c) || c == u'_';
-    return c.isLetter() || c.isSurrogate();
-}
-
-bool isNamePart(QChar c) {
-    if (c.unicode() < 0x80) return isAsciiLetter(c) || isDigit(c) || c == u'_' || c == u'$';
-    return isNameStart(c) || c.isDigit() || c.isMark();
-}
-
-Literal readNumber(QStringView text) {
-    const qsizetype point = text.indexOf(u'.');
-    const bool exponent = text.contains(u'e') || text.contains(u'E');
-    QStringView whole = point < 0 ? text : text.first(point);
-    QStringView fraction = point < 0 ? QStringView() : text.sliced(point + 1);
-    if (!exponent && point < 0 && whole.size() <= 18) {
-        return {Literal::Kind::Integer, static_cast<std::int64_t>(whole.toLongLong())};
-    }
-    while (fraction.endsWith(u'0'))
-        fraction.chop(1);
-    if (!exponent && fraction.size() <= 4) {
-        bool fits = false;
-        const qlonglong scaled =
-            (whole.toString() + fraction.toString().leftJustified(4, u'0')).toLongLong(&fits);
-        if (fits) return {Literal::Kind::Decimal, static_cast<std::int64_t>(scaled)};
-    }
-    return {Literal::Kind::Real, text.toDouble()};
-}
-
 class Lexer {
  public:
     explicit Lexer(QStringView sql) : sql_(sql) {}
@@ -96,16 +58,11 @@ class Lexer {
         Token token;
         token.position = place_;
         if (place_ >= sql_.size()) return token;
-        const QChar c = sql_[place_];
-        if (isNameStart(c)) {
-            readWord(token);
-        } else if (isDigit(c) || (c == u'.' && isDigit(at(place_ + 1)))) {
-            readNumeral(token);
-        } else if (c == u'\'' || c == u'"') {
-            readText(token, c);
-        } else if (c == u'#') {
-            readDate(token);
-        } else if (c == u'[') {
+        if (const qsizetype end = nameEnd(sql_, place_); end > place_) {
+            readWord(token, end);
+        } else if (beginsLiteral(sql_, place_)) {
+            readLiteral(token);
+        } else if (sql_[place_] == u'[') {
             readBracketed(token);
         } else {
             readSymbol(token);
@@ -113,65 +70,25 @@ class Lexer {
         return token;
     }
 
-    void readWord(Token& token) {
-        const qsizetype from = place_;
-        while (place_ < sql_.size() && isNamePart(sql_[place_]))
-            ++place_;
+    void readWord(Token& token, qsizetype end) {
         token.type = Token::Type::Word;
-        token.text = sql_.sliced(from, place_ - from);
+        token.text = sql_.sliced(place_, end - place_);
         token.keyword = keywordOf(token.text);
+        place_ = end;
     }
 
-    void readNumeral(Token& token) {
-        const qsizetype from = place_;
-        while (isDigit(at(place_)))
-            ++place_;
-        if (at(place_) == u'.') ++place_;
-        while (isDigit(at(place_)))
-            ++place_;
-        if (at(place_).toUpper() == u'E') {
-            qsizetype ahead = place_ + 1;
-            if (at(ahead) == u'+' || at(ahead) == u'-') ++ahead;
-            if (isDigit(at(ahead))) {
-                place_ = ahead;
-                while (isDigit(at(place_)))
-                    ++place_;
-            }
+    void readLiteral(Token& token) {
+        std::optional<ScannedLiteral> scanned = scanLiteral(sql_, place_);
+        if (!scanned) {
+            throw syntaxError(sql_,
+                              sql_[place_] == u'#' ? QStringLiteral("日付が正しくありません。")
+                                                   : QStringLiteral("文字列が閉じていません。"),
+                              place_);
         }
         token.type = Token::Type::Literal;
-        token.text = sql_.sliced(from, place_ - from);
-        token.literal = readNumber(token.text);
-    }
-
-    void readText(Token& token, QChar quote) {
-        const qsizetype from = ++place_;
-        bool doubled = false;
-        for (;; ++place_) {
-            if (place_ >= sql_.size()) {
-                throw syntaxError(sql_, QStringLiteral("文字列が閉じていません。"), token.position);
-            }
-            if (sql_[place_] != quote) continue;
-            if (at(place_ + 1) != quote) break;
-            doubled = true;
-            ++place_;
-        }
-        token.type = Token::Type::Literal;
-        token.text = sql_.sliced(from, place_ - from);
-        QString value = token.text.toString();
-        if (doubled) value.replace(QString(2, quote), QString(quote));
-        token.literal = {Literal::Kind::Text, value};
-        ++place_;
-    }
-
-    void readDate(Token& token) {
-        const qsizetype end = sql_.indexOf(u'#', place_ + 1);
-        const auto serial =
-            end < 0 ? std::nullopt : parseDateLiteral(sql_.sliced(place_ + 1, end - place_ - 1));
-        if (!serial) throw syntaxError(sql_, QStringLiteral("日付が正しくありません。"), token.position);
-        token.type = Token::Type::Literal;
-        token.text = sql_.sliced(place_ + 1, end - place_ - 1);
-        token.literal = {Literal::Kind::Date, *serial};
-        place_ = end + 1;
+        token.text = scanned->inside;
+        token.literal = std::move(scanned->literal);
+        place_ = scanned->end;
     }
 
     void readBracketed(Token& token) {

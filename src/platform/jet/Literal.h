@@ -11,6 +11,8 @@ struct Literal {
 
     Kind kind = Kind::Integer;
     StoreValue value;  ///< Integer: itself; Decimal: scaled by 10,000; Real, Date: a double; Text: the text
+
+    friend bool operator==(const Literal&, const Literal&) = default;
 };
 
 /// What a statement makes of a literal. Chosen once for a plan, carried out for every text that uses it.

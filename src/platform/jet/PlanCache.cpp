@@ -10,6 +10,10 @@ const CachedPlan* PlanCache::find(const QString& key) {
 }
 
 const CachedPlan& PlanCache::keep(const QString& key, CachedPlan plan) {
+    if (find(key)) {
+        entries_.front().plan = std::move(plan);
+        return entries_.front().plan;
+    }
     entries_.push_front({key, std::move(plan)});
     places_.insert(key, entries_.begin());
     if (entries_.size() > kMost) {

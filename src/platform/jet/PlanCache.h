@@ -14,6 +14,9 @@ namespace akarix {
 struct CachedPlan {
     std::shared_ptr<const Plan> plan;
     std::vector<Slot> parameters;
+
+    /// Of a plan kept by the shape of its text: the literals that are part of the plan, by their numbers.
+    std::vector<std::pair<std::size_t, Literal>> staying = {};
 };
 
 /// The plans used last, by the key of their statement.

@@ -18,6 +18,7 @@ namespace {
 
 Recordset::Recordset(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {
     const auto width = static_cast<int>(impl_->statement.plan->columns.size());
+    impl_->fields.reserve(impl_->statement.plan->columns.size());
     for (int i = 0; i < width; ++i) {
         impl_->fields.push_back(Field(this, i));
     }

@@ -91,7 +91,8 @@ const ColumnDef& Recordset::Impl::storedColumn(int index) const {
 int Recordset::Impl::indexOf(const QString& name) const {
     const auto& columns = statement.plan->columns;
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        if (columns[i].name.compare(name, Qt::CaseInsensitive) == 0) {
+        const QString& column = columns[i].name;
+        if (column.size() == name.size() && column.compare(name, Qt::CaseInsensitive) == 0) {
             return static_cast<int>(i);
         }
     }

@@ -21,13 +21,12 @@ sqlite3_stmt* StatementCache::of(const std::shared_ptr<const Plan>& plan) {
 }
 
 sqlite3_stmt* StatementCache::of(const QByteArray& text) {
-    const std::string key = text.toStdString();
-    auto found = byText_.find(key);
+    auto found = byText_.find(text);
     if (found == byText_.end()) {
         if (byText_.size() >= kMostTexts) {
             byText_.clear();
         }
-        found = byText_.emplace(key, Prepare(connection_, text)).first;
+        found = byText_.emplace(text, Prepare(connection_, text)).first;
     }
     return found->second.get();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QByteArray>
 #include <memory>
-#include <string>
 #include <unordered_map>
 
 #include "platform/jet/Plan.h"
@@ -30,7 +30,7 @@ class StatementCache {
 
     sqlite3* connection_;
     std::unordered_map<const Plan*, Entry> byPlan_;
-    std::unordered_map<std::string, Statement> byText_;
+    std::unordered_map<QByteArray, Statement> byText_;
     std::uint64_t uses_ = 0;
 };
 

@@ -27,7 +27,9 @@ int WaitForLock(void*, int polls) {
 
 Connection OpenKeyed(const QString& path, const QString& password, int flags) {
     sqlite3* opened = nullptr;
-    const int result = sqlite3_open_v2(path.toUtf8().constData(), &opened, flags, nullptr);
+    // The program has one thread; a lock at every call would be for nobody.
+    const int result =
+        sqlite3_open_v2(path.toUtf8().constData(), &opened, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     Connection connection(opened);
     if (result != SQLITE_OK) {
         throw StoreError(3051, path);

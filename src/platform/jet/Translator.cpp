@@ -1,5 +1,7 @@
 #include "platform/jet/Translator.h"
 
+#include <algorithm>
+
 #include "platform/jet/ChangeBinder.h"
 #include "platform/jet/DefinitionBinder.h"
 #include "platform/jet/Lexer.h"
@@ -7,6 +9,7 @@
 #include "platform/jet/Parser.h"
 #include "platform/jet/PlanCache.h"
 #include "platform/jet/QueryBinder.h"
+#include "platform/jet/TextShape.h"
 
 namespace akarix {
 namespace {
@@ -78,36 +81,72 @@ BoundStatement withArguments(const CachedPlan& plan, const std::vector<Literal>&
     return bound;
 }
 
+/// Whether the literals that are part of the plan are those of this text.
+bool fits(const CachedPlan& plan, const std::vector<Literal>& literals) {
+    return std::all_of(plan.staying.begin(), plan.staying.end(),
+                       [&](const auto& staying) { return literals[staying.first] == staying.second; });
+}
+
+/// The plan of a statement as it is kept by the shape of its text, which counts all literals.
+CachedPlan byShape(CachedPlan plan, const std::vector<Token>& tokens) {
+    std::vector<int> places;
+    std::size_t literals = 0;
+    for (const Token& token : tokens) {
+        if (token.type != Token::Type::Literal) continue;
+        if (token.lifted < 0) {
+            plan.staying.emplace_back(literals, token.literal);
+        } else {
+            places.push_back(static_cast<int>(literals));
+        }
+        ++literals;
+    }
+    for (Slot& slot : plan.parameters)
+        slot.lifted = places[static_cast<std::size_t>(slot.lifted)];
+    return plan;
+}
+
 }  // namespace
 
 struct Translator::Impl {
     const Catalogue& catalogue;
-    PlanCache cache;
+    TextShape shape;
+    PlanCache byShape;
+    PlanCache byTokens;
     std::int64_t translated = 0;
     std::int64_t fromCache = 0;
 };
 
-Translator::Translator(const Catalogue& catalogue) : impl_(new Impl{catalogue, {}, 0, 0}) {}
+Translator::Translator(const Catalogue& catalogue) : impl_(new Impl{catalogue, {}, {}, {}, 0, 0}) {}
 
 Translator::~Translator() = default;
 
 BoundStatement Translator::translate(const QString& sql) {
     ++impl_->translated;
+    TextShape& shape = impl_->shape;
+    const bool shaped = shape.read(sql);
+    const CachedPlan* kept = shaped ? impl_->byShape.find(shape.key()) : nullptr;
+    if (kept && fits(*kept, shape.literals())) {
+        ++impl_->fromCache;
+        return withArguments(*kept, shape.literals());
+    }
     std::vector<Token> tokens = tokenize(sql);
     const LiftedStatement lifted = liftLiterals(tokens);
-    if (!lifted.key.isEmpty()) {
-        if (const CachedPlan* kept = impl_->cache.find(lifted.key)) {
-            ++impl_->fromCache;
-            return withArguments(*kept, lifted.literals);
-        }
+    const bool keeps = !lifted.key.isEmpty();
+    kept = keeps ? impl_->byTokens.find(lifted.key) : nullptr;
+    if (kept) {
+        ++impl_->fromCache;
+    } else {
+        CachedPlan plan = std::visit(Planner{impl_->catalogue}, Parser(sql, tokens).statement());
+        if (!keeps) return withArguments(plan, lifted.literals);
+        kept = &impl_->byTokens.keep(lifted.key, std::move(plan));
     }
-    CachedPlan plan = std::visit(Planner{impl_->catalogue}, Parser(sql, tokens).statement());
-    if (lifted.key.isEmpty()) return withArguments(plan, lifted.literals);
-    return withArguments(impl_->cache.keep(lifted.key, std::move(plan)), lifted.literals);
+    if (shaped) impl_->byShape.keep(shape.key(), byShape(*kept, tokens));
+    return withArguments(*kept, lifted.literals);
 }
 
 void Translator::clear() {
-    impl_->cache.clear();
+    impl_->byShape.clear();
+    impl_->byTokens.clear();
 }
 
 std::int64_t Translator::translated() const {

@@ -84,6 +84,41 @@ TEST(PlanCache, BindsTheLiteralsOfEachTextInTheFormOfTheirColumn) {
         13);
 }
 
+TEST(PlanCache, ATextSeenBeforeInAnotherFormIsTranslatedAsIfItWereTheFirst) {
+    const char* const pairs[][2] = {
+        {"SELECT Code+1 FROM T WHERE Code=5", "SELECT Code+2 FROM T WHERE Code=6"},
+        {"SELECT TOP 1 Code FROM T WHERE Code>3", "SELECT TOP 7 Code FROM T WHERE Code>4"},
+        {"SELECT 'a' , Code FROM T WHERE Namae='x'", "SELECT 'A' , Code FROM T WHERE Namae='y'"},
+        {"SELECT Code AS c1 FROM T WHERE Code=1", "SELECT Code AS c2 FROM T WHERE Code=1"},
+        {"SELECT Code AS [1] FROM T WHERE Code=1", "SELECT Code AS [2] FROM T WHERE Code=1"},
+        {"SELECT Code AS [a'b] FROM T WHERE Namae='1'", "SELECT Code AS [a'c] FROM T WHERE Namae='2'"},
+        {"SELECT * FROM T WHERE Namae='it''s'", "SELECT * FROM T WHERE Namae=\"it's '\""},
+        {"SELECT * FROM T WHERE Namae='1'", "SELECT * FROM T WHERE Namae=''"},
+        {"SELECT * FROM T WHERE Gaku=1", "SELECT * FROM T WHERE Gaku=12345678901234567890"},
+        {"SELECT * FROM T WHERE Gaku=1.5", "SELECT * FROM T WHERE Gaku=.25"},
+        {"SELECT * FROM T WHERE Gaku=1.5", "SELECT * FROM T WHERE Gaku=1.5E+3"},
+        {"SELECT * FROM T WHERE Gaku=-1 AND Code=2", "SELECT * FROM T WHERE Gaku=-7 AND Code=-8"},
+        {"SELECT * FROM T WHERE Hi=#1/2/2003#", "SELECT * FROM T WHERE Hi=#2004-05-06#"},
+        {"UPDATE T SET Gaku=1 WHERE Code=1", "UPDATE T SET Gaku=1.5 WHERE Code=1"},
+    };
+    for (const auto& [first, second] : pairs) {
+        Translator used(smallCatalogue());
+        used.translate(QString::fromUtf8(first));
+        for (int times = 0; times < 2; ++times) {
+            for (const char* text : {second, first}) {
+                const QString sql = QString::fromUtf8(text);
+                const BoundStatement fresh = Translator(smallCatalogue()).translate(sql);
+                const BoundStatement again = used.translate(sql);
+                EXPECT_EQ(again.plan->text, fresh.plan->text) << text;
+                EXPECT_EQ(again.arguments, fresh.arguments) << text;
+            }
+        }
+    }
+    Translator used(smallCatalogue());
+    used.translate(QStringLiteral("SELECT * FROM T WHERE Namae='a'"));
+    EXPECT_EQ(errorOf(used, QStringLiteral("SELECT * FROM T WHERE Namae='a")), 3075);
+}
+
 TEST(PlanCache, ForgetsThePlansLongUnusedAndAllOfThemWhenCleared) {
     Translator translator(smallCatalogue());
     const QString hot = QStringLiteral("SELECT * FROM T WHERE Code=1");
