@@ -15,7 +15,8 @@ QString ofScaled(std::int64_t scaled) {
     constexpr int kPlaces = 4;
     std::array<char16_t, 24> text{};
     auto from = text.end();
-    std::uint64_t rest = scaled < 0 ? 0 - static_cast<std::uint64_t>(scaled) : static_cast<std::uint64_t>(scaled);
+    std::uint64_t rest =
+        scaled < 0 ? 0 - static_cast<std::uint64_t>(scaled) : static_cast<std::uint64_t>(scaled);
     bool shown = false;
     for (int place = 0; place < kPlaces; ++place, rest /= 10) {
         const auto digit = static_cast<char16_t>(u'0' + rest % 10);
