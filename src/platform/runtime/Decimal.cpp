@@ -3,6 +3,8 @@
 #include <QLocale>
 #include <QRegularExpression>
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -41,10 +43,12 @@ Decimal Decimal::shortest(double value) {
 }
 
 Decimal Decimal::of(std::int64_t value) {
+    std::array<char, 20> text{};
+    const auto magnitude = value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
+    const auto written = std::to_chars(text.begin(), text.end(), magnitude);
     Decimal d;
-    const QByteArray text = QByteArray::number(static_cast<qint64>(value));
     d.negative = value < 0;
-    d.digits = text.mid(d.negative ? 1 : 0).toStdString();
+    d.digits.assign(text.begin(), written.ptr);
     d.point = length(d.digits);
     d.normalise();
     return d;
@@ -145,18 +149,19 @@ double Decimal::toDouble() const {
 }
 
 QString Decimal::plainText() const {
-    QString text = negative ? QStringLiteral("-") : QString();
-    for (int i = 0; i < point; ++i) {
-        text += i < length(digits) ? QLatin1Char(digits[static_cast<std::size_t>(i)]) : QLatin1Char('0');
-    }
-    if (point <= 0) text += u'0';
+    const int whole = std::max(point, 0);
+    const int given = std::min(whole, length(digits));
+    std::string text;
+    if (negative) text += '-';
+    text.append(digits, 0, static_cast<std::size_t>(given));
+    text.append(static_cast<std::size_t>(whole - given), '0');
+    if (whole == 0) text += '0';
     if (length(digits) > point) {
-        text += u'.';
-        for (int i = point; i < 0; ++i)
-            text += u'0';
-        text += QLatin1StringView(digits.data() + std::max(point, 0), length(digits) - std::max(point, 0));
+        text += '.';
+        text.append(static_cast<std::size_t>(whole - point), '0');
+        text.append(digits, static_cast<std::size_t>(given));
     }
-    return text;
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 QString Decimal::generalText(int significant) const {

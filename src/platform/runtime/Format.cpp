@@ -1,5 +1,6 @@
 #include "platform/runtime/Format.h"
 
+#include <QHash>
 #include <array>
 #include <optional>
 
@@ -51,6 +52,39 @@ QString namedMask(const Table& table, const QString& name) {
     return {};
 }
 
+enum class Rule { GeneralNumber, Number, Date, Text };
+
+/// What a mask asks for; a named one stands for another.
+struct ReadMask {
+    Rule rule;
+    QString mask;
+};
+
+ReadMask readMask(const QString& mask) {
+    if (mask.compare(u"General Number", Qt::CaseInsensitive) == 0) return {Rule::GeneralNumber, mask};
+    if (const QString named = namedMask(kNumberFormats, mask); !named.isEmpty()) return {Rule::Number, named};
+    if (const QString named = namedMask(kDateFormats, mask); !named.isEmpty()) return {Rule::Date, named};
+    switch (maskKind(mask)) {
+        case MaskKind::Number:
+            return {Rule::Number, mask};
+        case MaskKind::Date:
+            return {Rule::Date, mask};
+        case MaskKind::Text:
+            break;
+    }
+    return {Rule::Text, mask};
+}
+
+/// Remembered, since a grid asks for the same few masks cell after cell.
+ReadMask readOnce(const QString& mask) {
+    constexpr qsizetype kMost = 200;
+    static QHash<QString, ReadMask> known;
+    const auto found = known.constFind(mask);
+    if (found != known.constEnd()) return *found;
+    if (known.size() >= kMost) known.clear();
+    return *known.insert(mask, readMask(mask));
+}
+
 bool isMissing(const Variant& value) {
     return value.IsNull() || value.IsEmpty();
 }
@@ -88,17 +122,15 @@ QString Format(const Variant& value) {
 
 QString Format(const Variant& value, const QString& mask) {
     if (mask.isEmpty()) return Format(value);
-    if (mask.compare(u"General Number", Qt::CaseInsensitive) == 0) return generalNumber(value);
-    if (const QString named = namedMask(kNumberFormats, mask); !named.isEmpty())
-        return underNumberMask(value, named);
-    if (const QString named = namedMask(kDateFormats, mask); !named.isEmpty())
-        return underDateMask(value, named);
-    switch (maskKind(mask)) {
-        case MaskKind::Number:
-            return underNumberMask(value, mask);
-        case MaskKind::Date:
-            return underDateMask(value, mask);
-        case MaskKind::Text:
+    const ReadMask read = readOnce(mask);
+    switch (read.rule) {
+        case Rule::GeneralNumber:
+            return generalNumber(value);
+        case Rule::Number:
+            return underNumberMask(value, read.mask);
+        case Rule::Date:
+            return underDateMask(value, read.mask);
+        case Rule::Text:
             break;
     }
     if (value.IsNull() && maskSections(mask).size() < 2) return {};

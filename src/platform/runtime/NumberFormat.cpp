@@ -3,6 +3,9 @@
 #include <QList>
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
+#include <unordered_map>
+#include <vector>
 
 #include "platform/runtime/FormatMask.h"
 
@@ -197,16 +200,37 @@ class NumberMask {
     bool hasExponent_ = false;
 };
 
+/// A mask taken apart: one entry for each section that says something of its own.
+struct MaskParts {
+    explicit MaskParts(const QString& mask) {
+        for (const QString& section : maskSections(mask)) {
+            sections.push_back(section.isEmpty() && !sections.empty() ? std::nullopt
+                                                                      : std::optional<NumberMask>(section));
+        }
+    }
+    std::vector<std::optional<NumberMask>> sections;
+};
+
+/// The program's masks are few and each is used for thousands of cells.
+const MaskParts& partsOf(const QString& mask) {
+    constexpr std::size_t kMost = 200;
+    static std::unordered_map<QString, MaskParts> known;
+    const auto found = known.find(mask);
+    if (found != known.end()) return found->second;
+    if (known.size() >= kMost) known.clear();
+    return known.try_emplace(mask, mask).first->second;
+}
+
 }  // namespace
 
 QString formatNumber(const Decimal& number, const QString& mask) {
-    const QStringList sections = maskSections(mask);
-    const qsizetype wanted = number.negative ? 1 : number.isZero() ? 2 : 0;
-    const bool own = wanted > 0 && wanted < sections.size() && !sections[wanted].isEmpty();
+    const auto& sections = partsOf(mask).sections;
+    const std::size_t wanted = number.negative ? 1 : number.isZero() ? 2 : 0;
+    const bool own = wanted > 0 && wanted < sections.size() && sections[wanted];
     Decimal magnitude = number;
     magnitude.negative = false;
     bool isZero = false;
-    const QString text = NumberMask(sections[own ? wanted : 0]).apply(magnitude, isZero);
+    const QString text = sections[own ? wanted : 0]->apply(magnitude, isZero);
     return number.negative && !own && !isZero ? u'-' + text : text;
 }
 
