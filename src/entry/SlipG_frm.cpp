@@ -261,13 +261,17 @@ void SlipG_frm::fill(Recordset& rows) {
     const std::int16_t count = CInt(rows.RecordCount());
     rows.MoveFirst();
     List_->SetRows(count + 1);
+    std::array<const Field*, kColumns> sources{};  // found once, not for each of the rows
+    for (std::size_t column = kColZenkaiMeter; column < kColumns; ++column) {
+        sources[column] = &rows.Fields(QString::fromUtf16(kPlan[column].source));
+    }
     for (int row = 1; row <= count; ++row, rows.MoveNext()) {
         const std::int32_t deal = longOf(rows[QStringLiteral("Deal")]);
         List_->SetTextMatrix(row, kColDeal, NumStr(deal));
         List_->SetTextMatrix(row, kColNamae, GetName(QStringLiteral("Deal"), deal));
         for (int column = kColZenkaiMeter; column < kColumns; ++column) {
-            const QString source = QString::fromUtf16(kPlan[static_cast<std::size_t>(column)].source);
-            List_->SetTextMatrix(row, column, Format(moneyOf(rows[source]), gCols[column].Fmt));
+            const Variant value = sources[static_cast<std::size_t>(column)]->Value();
+            List_->SetTextMatrix(row, column, Format(moneyOf(value), gCols[column].Fmt));
         }
     }
 }

@@ -90,12 +90,17 @@ const ColumnDef& Recordset::Impl::storedColumn(int index) const {
 
 int Recordset::Impl::indexOf(const QString& name) const {
     const auto& columns = statement.plan->columns;
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        const QString& column = columns[i].name;
-        if (column.size() == name.size() && column.compare(name, Qt::CaseInsensitive) == 0) {
-            return static_cast<int>(i);
-        }
-    }
+    const auto at = [&](Qt::CaseSensitivity sensitivity) {
+        const auto found = std::find_if(columns.begin(), columns.end(), [&](const ResultColumn& column) {
+            return sensitivity == Qt::CaseSensitive ? column.name == name
+                                                    : column.name.compare(name, Qt::CaseInsensitive) == 0;
+        });
+        return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
+    };
+    // Most callers spell a column as its table does, which is quickly told.
+    int index = at(Qt::CaseSensitive);
+    if (index < 0) index = at(Qt::CaseInsensitive);
+    if (index >= 0) return index;
     Raise(3265, name);
 }
 

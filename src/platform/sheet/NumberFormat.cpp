@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <unordered_map>
 
 #include "platform/sheet/FormatCode.h"
 
@@ -330,6 +331,16 @@ Chosen chooseSection(const std::vector<FormatSection>& sections, double value) {
     return {count > 2 ? &sections[2] : nullptr, false};
 }
 
+/// A sheet has few codes and many cells: each code is taken apart once.
+const std::vector<FormatSection>& sectionsOf(const QString& code) {
+    constexpr std::size_t most = 500;
+    static std::unordered_map<QString, std::vector<FormatSection>> known;
+    const auto found = known.find(code);
+    if (found != known.end()) return found->second;
+    if (known.size() >= most) known.clear();
+    return known.emplace(code, ParseFormatCode(code)).first->second;
+}
+
 }  // namespace
 
 FormattedNumber FormatNumber(double value, const QString& code) {
@@ -338,7 +349,7 @@ FormattedNumber FormatNumber(double value, const QString& code) {
     const QString minus = value < 0 ? QStringLiteral("-") : QString();
     if (isGeneral(code)) return {minus + generalText(magnitude), {}};
 
-    const auto sections = ParseFormatCode(code);
+    const auto& sections = sectionsOf(code);
     const auto [section, bare] = chooseSection(sections, value);
     if (!section) return {QStringLiteral("########"), {}};
     if (section->date) return {FormatSerial(value, *section), section->color};
@@ -354,7 +365,7 @@ FormattedNumber FormatNumber(double value, const QString& code) {
 
 QString FormatText(const QString& text, const QString& code) {
     if (text.isEmpty() || isGeneral(code) || code == u"@") return text;
-    const auto sections = ParseFormatCode(code);
+    const auto& sections = sectionsOf(code);
     const bool hasTextSection = sections.size() >= 4 || sections.back().text;
     if (!hasTextSection) return text;
     const FormatSection& section = sections.size() >= 4 ? sections[3] : sections.back();
@@ -367,7 +378,7 @@ QString FormatText(const QString& text, const QString& code) {
 
 bool IsDateFormat(const QString& code) {
     if (isGeneral(code) || code == u"@") return false;
-    return ParseFormatCode(code).front().date;
+    return sectionsOf(code).front().date;
 }
 
 }  // namespace akarix
