@@ -44,7 +44,8 @@ Decimal Decimal::shortest(double value) {
 
 Decimal Decimal::of(std::int64_t value) {
     std::array<char, 20> text{};
-    const auto magnitude = value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
+    const auto magnitude =
+        value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
     const auto written = std::to_chars(text.begin(), text.end(), magnitude);
     Decimal d;
     d.negative = value < 0;
