@@ -2,12 +2,13 @@
 
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Str.h"
-#include "values/Text.h"
 
 namespace akarix {
 
 QString NumStr(const Variant& value) {
-    return Trim(Str(value));
+    QString text = Str(value);
+    if (text.startsWith(u' ')) text.remove(0, 1);  // the place of the sign
+    return text;
 }
 
 QString PadFormat(const Variant& value, const QString& mask) {

@@ -1,5 +1,7 @@
 #include "platform/jet/Scanning.h"
 
+#include <array>
+
 #include "platform/jet/DateLiteral.h"
 
 namespace akarix {
@@ -9,18 +11,29 @@ bool isDigit(QChar c) {
     return c >= u'0' && c <= u'9';
 }
 
-bool isAsciiLetter(QChar c) {
-    const char16_t lower = c.unicode() | 0x20;
-    return lower >= u'a' && lower <= u'z';
-}
+// What each character of the first 128 can be; nearly all of a statement is made of them.
+enum : std::uint8_t { kNothing, kNamePart = 1, kNameStart = 2, kLiteralStart = 4 };
+
+constexpr std::array<std::uint8_t, 128> kRoles = [] {
+    std::array<std::uint8_t, 128> roles{};
+    for (std::size_t c = 'a'; c <= 'z'; ++c) {
+        roles[c] = roles[c - 'a' + 'A'] = kNameStart | kNamePart;
+    }
+    for (std::size_t c = '0'; c <= '9'; ++c)
+        roles[c] = kNamePart | kLiteralStart;
+    roles['_'] = kNameStart | kNamePart;
+    roles['$'] = kNamePart;
+    roles['\''] = roles['"'] = roles['#'] = kLiteralStart;
+    return roles;
+}();
 
 bool isNameStart(QChar c) {
-    if (c.unicode() < 0x80) return isAsciiLetter(c) || c == u'_';
+    if (c.unicode() < kRoles.size()) return (kRoles[c.unicode()] & kNameStart) != 0;
     return c.isLetter() || c.isSurrogate();
 }
 
 bool isNamePart(QChar c) {
-    if (c.unicode() < 0x80) return isAsciiLetter(c) || isDigit(c) || c == u'_' || c == u'$';
+    if (c.unicode() < kRoles.size()) return (kRoles[c.unicode()] & kNamePart) != 0;
     return isNameStart(c) || c.isDigit() || c.isMark();
 }
 
@@ -103,8 +116,8 @@ qsizetype nameEnd(QStringView sql, qsizetype place) {
 
 bool beginsLiteral(QStringView sql, qsizetype place) {
     const QChar c = sql[place];
-    return isDigit(c) || c == u'\'' || c == u'"' || c == u'#' ||
-           (c == u'.' && place + 1 < sql.size() && isDigit(sql[place + 1]));
+    if (c == u'.') return place + 1 < sql.size() && isDigit(sql[place + 1]);
+    return c.unicode() < kRoles.size() && (kRoles[c.unicode()] & kLiteralStart) != 0;
 }
 
 std::optional<ScannedLiteral> scanLiteral(QStringView sql, qsizetype place) {

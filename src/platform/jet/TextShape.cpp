@@ -20,7 +20,9 @@ bool TextShape::read(QStringView sql) {
         place = end;
     };
     while (place < sql.size()) {
-        if (const qsizetype end = nameEnd(sql, place); end > place) {
+        if (sql[place] == u' ') {
+            *out++ = sql[place++];
+        } else if (const qsizetype end = nameEnd(sql, place); end > place) {
             copyTo(end);
         } else if (beginsLiteral(sql, place)) {
             std::optional<ScannedLiteral> scanned = scanLiteral(sql, place);
