@@ -4,9 +4,9 @@ namespace akarix {
 
 int TableDef::indexOf(const QString& column) const {
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        const QString& name = columns[i].name;
+        const QString& own = columns[i].name;
         // Another length is another name: case alone never changes it.
-        if (name.size() == column.size() && name.compare(column, Qt::CaseInsensitive) == 0) {
+        if (own.size() == column.size() && own.compare(column, Qt::CaseInsensitive) == 0) {
             return static_cast<int>(i);
         }
     }
