@@ -17,6 +17,7 @@ namespace {
 // screen of thirty fields, and after eight hours nothing glares.
 const QColor window(0xee, 0xf1, 0xf3);
 const QColor ink(0x1f, 0x27, 0x2e);
+const QColor quiet(0x56, 0x62, 0x6c);  // notes: behind the fields, yet read without effort
 const QColor faint(0x8b, 0x95, 0x9d);
 const QColor border(0x9c, 0xa8, 0xb1);
 const QColor accent(0x1f, 0x6f, 0xa8);
@@ -40,7 +41,7 @@ QPalette screenPalette() {
     p.setColor(QPalette::ButtonText, ink);
     p.setColor(QPalette::Highlight, accent);
     p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::PlaceholderText, faint);
+    p.setColor(QPalette::PlaceholderText, quiet);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         p.setColor(QPalette::Disabled, role, faint);
     }
