@@ -150,8 +150,14 @@ TEST_F(ReadingSheet, AnExchangedMeterCountsWhenTheReadingIsConfirmed) {
     typeInto(3, KonkaiMeter, "805.5");
     EXPECT_EQ(shown(ZenkaiMeter).at(2), "800|.|100|805.5|5.5|1,800|25");
     clerk.click("Btn(2)");
-    EXPECT_EQ(stored().mid(1, 2),
-              (QStringList{"2|800|0|100|805.5|5.5|1800|25", "3|50|90|5|27.3|62.3|22265|25"}));
+    const QStringList saved{"2|800|0|100|805.5|5.5|1800|25", "3|50|90|5|27.3|62.3|22265|25"};
+    EXPECT_EQ(stored().mid(1, 2), saved);
+
+    showMonth();
+    EXPECT_EQ(shown(KoukanMeter).at(0), "90.|5.|27.3|62.3|22,265|25");
+    clerk.enter();
+    clerk.click("Btn(2)");
+    EXPECT_EQ(stored().mid(1, 2), saved) << "the bare point of a whole reading does no harm";
 }
 
 TEST_F(ReadingSheet, WhatEachColumnTakes) {
@@ -234,6 +240,11 @@ TEST_F(ReadingSheet, TheHeadChecksOnEnter) {
         clerk.fill(text);
         EXPECT_EQ(clerk.focusedName(), QString("ebox(%1)").arg(goesOn ? field + 1 : field)) << text;
     }
+    clerk.click("Btn(0)");
+    clerk.find<TextBox>("ebox(1)").SetText("32");
+    clerk.find<TextBox>("ebox(2)").setFocus();
+    clerk.fill("10");
+    EXPECT_EQ(clerk.focusedName(), "ebox(2)") << "a good day is held back by the month";
     for (const auto& [year, month, back] : {std::tuple{"1999", "4", "ebox(0)"}, {"2023", "13", "ebox(1)"}}) {
         clerk.find<TextBox>("ebox(0)").SetText(year);
         clerk.find<TextBox>("ebox(1)").SetText(month);
