@@ -7,6 +7,7 @@
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
+#include "values/Text.h"
 
 namespace akarix {
 
@@ -38,6 +39,19 @@ void MonthReadings::open(const QString& filter, const QString& day) const {
         add(NumStr(deal), NumStr(PrevKonkaiMeter(nendo, getudo, deal)), unread);
     }
     customers.Close();
+}
+
+QHash<std::int32_t, QString> MonthReadings::names(const QString& filter) const {
+    QHash<std::int32_t, QString> names;
+    Recordset customers =
+        gDb->OpenRecordset(QStringLiteral("SELECT Code,Namae FROM Deal  WHERE Code>0") + filter);
+    if (customers.Eof()) return names;
+    const Field& code = customers.Fields(QStringLiteral("Code"));
+    const Field& name = customers.Fields(QStringLiteral("Namae"));
+    for (; !customers.Eof(); customers.MoveNext()) {
+        names.insert(longOf(code.Value()), NullToEmpty(name.Value()));
+    }
+    return names;
 }
 
 void MonthReadings::clear() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QStringList>
 
 #include "platform/jet/Recordset.h"
@@ -15,6 +16,10 @@ class MonthReadings {
     /// The filter's rows in the order of the round. Looking at a month opens it: where the filter finds no
     /// row at all, its customers get one each, read on `day` with nothing used yet.
     Recordset show(const QString& filter, const QString& day) const;
+
+    /// The names of the filter's customers by code; asking once for a whole sheet is many times quicker than
+    /// by row.
+    QHash<std::int32_t, QString> names(const QString& filter) const;
 
     /// Takes the month away, every route of it.
     void clear() const;

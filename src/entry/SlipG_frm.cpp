@@ -250,13 +250,13 @@ void SlipG_frm::showMonth() {
     List_->Refresh();
     Recordset rows = month().show(filter(), KeepNumeric(ebox(kDay).Text()));
     if (rows.Eof()) return;
-    fill(rows);
+    fill(rows, month().names(filter()));
     List_->SetRow(1);
     List_->SetCol(kColKonkaiMeter);
     GridEdit();
 }
 
-void SlipG_frm::fill(Recordset& rows) {
+void SlipG_frm::fill(Recordset& rows, const QHash<std::int32_t, QString>& names) {
     rows.MoveLast();
     const std::int16_t count = CInt(rows.RecordCount());
     rows.MoveFirst();
@@ -268,7 +268,7 @@ void SlipG_frm::fill(Recordset& rows) {
     for (int row = 1; row <= count; ++row, rows.MoveNext()) {
         const std::int32_t deal = longOf(rows[QStringLiteral("Deal")]);
         List_->SetTextMatrix(row, kColDeal, NumStr(deal));
-        List_->SetTextMatrix(row, kColNamae, GetName(QStringLiteral("Deal"), deal));
+        List_->SetTextMatrix(row, kColNamae, names.value(deal, QStringLiteral(" ")));
         for (int column = kColZenkaiMeter; column < kColumns; ++column) {
             const Variant value = sources[static_cast<std::size_t>(column)]->Value();
             List_->SetTextMatrix(row, column, Format(moneyOf(value), gCols[column].Fmt));

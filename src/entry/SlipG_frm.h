@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QHash>
+
 #include "entry/MonthReadings.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Label.h"
@@ -33,7 +35,7 @@ class SlipG_frm : public EntryForm, public GridForm {
     QString filter() const;
     MonthReadings month() const;
     void showMonth();
-    void fill(Recordset& rows);
+    void fill(Recordset& rows, const QHash<std::int32_t, QString>& names);
     void save();
     void askAndDelete();
     void exportGrid();
