@@ -35,6 +35,7 @@ Recordset Database::OpenRecordset(const QString& sql) {
 }
 
 std::int64_t Database::RecordsAffected() const {
+    impl_->session->engine();  // raises once closed
     return impl_->affected;
 }
 

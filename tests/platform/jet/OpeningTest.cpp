@@ -116,6 +116,7 @@ TEST_F(OpeningTest, ClosingLetsGoAndEndsAllUse) {
     EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files),
               QStringList{QStringLiteral("Store.MDB")});
     EXPECT_EQ(ErrorOf([&] { database.Execute(QStringLiteral("DELETE * FROM Goods")); }), 3420);
+    EXPECT_EQ(ErrorOf([&] { database.RecordsAffected(); }), 3420);
     EXPECT_EQ(ErrorOf([&] { rows.Eof(); }), 3420);
     EXPECT_EQ(ErrorOf([&] { database.Close(); }), 3420);
     ASSERT_TRUE(QFile::copy(path(), path(QStringLiteral("Copy.MDB"))));
