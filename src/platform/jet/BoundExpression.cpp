@@ -18,7 +18,6 @@ struct Operands {
     std::vector<BoundPtr> operator()(const BoundComparison& n) const { return {n.left, n.right}; }
     std::vector<BoundPtr> operator()(const BoundIsNull& n) const { return {n.operand}; }
     std::vector<BoundPtr> operator()(const BoundLike& n) const { return {n.operand, n.pattern}; }
-    std::vector<BoundPtr> operator()(const BoundBetween& n) const { return {n.operand, n.low, n.high}; }
     std::vector<BoundPtr> operator()(const BoundInList& n) const {
         std::vector<BoundPtr> all{n.operand};
         all.insert(all.end(), n.items.begin(), n.items.end());
@@ -56,7 +55,6 @@ struct SameHead {
     bool operator()(const BoundComparison& a, const BoundComparison& b) const { return a.op == b.op; }
     bool operator()(const BoundIsNull& a, const BoundIsNull& b) const { return a.negated == b.negated; }
     bool operator()(const BoundLike& a, const BoundLike& b) const { return a.negated == b.negated; }
-    bool operator()(const BoundBetween& a, const BoundBetween& b) const { return a.negated == b.negated; }
     bool operator()(const BoundInList& a, const BoundInList& b) const { return a.negated == b.negated; }
     bool operator()(const BoundInQuery&, const BoundInQuery&) const { return false; }
     bool operator()(const BoundExists&, const BoundExists&) const { return false; }

@@ -96,13 +96,6 @@ struct BoundLike {
     bool negated;
 };
 
-struct BoundBetween {
-    BoundPtr operand;
-    BoundPtr low;
-    BoundPtr high;
-    bool negated;
-};
-
 struct BoundInList {
     BoundPtr operand;
     std::vector<BoundPtr> items;
@@ -138,7 +131,7 @@ struct BoundAggregate {
 
 using BoundNode = std::variant<BoundColumn, BoundLiteral, BoundNull, BoundBoolean, BoundNegation,
                                BoundArithmetic, BoundConversion, BoundCall, BoundNot, BoundLogic,
-                               BoundComparison, BoundIsNull, BoundLike, BoundBetween, BoundInList,
+                               BoundComparison, BoundIsNull, BoundLike, BoundInList,
                                BoundInQuery, BoundExists, BoundScalarQuery, BoundChoice, BoundAggregate>;
 
 struct BoundExpression {

@@ -165,12 +165,6 @@ struct Evaluator {
         if (isNull(text) || isNull(pattern)) return std::monostate();
         return asValue(likeMatches(std::get<QString>(pattern), std::get<QString>(text)) != n.negated);
     }
-    StoreValue operator()(const BoundBetween& n) const {
-        const StoreValue middle = value(n.operand);
-        const Truth inside = bothOf(compared(CompareOp::GreaterEqual, middle, value(n.low)),
-                                    compared(CompareOp::LessEqual, middle, value(n.high)));
-        return asValue(negatedIf(n.negated, inside));
-    }
     StoreValue operator()(const BoundInList& n) const {
         const StoreValue wanted = value(n.operand);
         Truth found = false;

@@ -205,9 +205,12 @@ BoundPtr ExpressionBinder::like(const ParsedLike& node) {
 }
 
 BoundPtr ExpressionBinder::between(const ParsedBetween& node) {
-    BoundBetween bound{bind(*node.operand), bind(*node.low), bind(*node.high), node.negated};
-    makeComparable({&bound.operand, &bound.low, &bound.high});
-    return makeBound(std::move(bound), Kind::Boolean);
+    BoundPtr operand = bind(*node.operand);
+    BoundPtr low = bind(*node.low);
+    BoundPtr high = bind(*node.high);
+    makeComparable({&operand, &low, &high});
+    BoundPtr inside = called("akarix_between", {operand, low, high}, Kind::Boolean);
+    return node.negated ? makeBound(BoundNot{std::move(inside)}, Kind::Boolean) : inside;
 }
 
 BoundPtr ExpressionBinder::inList(const ParsedInList& node) {

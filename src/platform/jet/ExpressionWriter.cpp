@@ -90,7 +90,7 @@ template <class Node>
 constexpr bool isTest = std::is_same_v<Node, BoundBoolean> || std::is_same_v<Node, BoundNot> ||
                         std::is_same_v<Node, BoundLogic> || std::is_same_v<Node, BoundComparison> ||
                         std::is_same_v<Node, BoundIsNull> || std::is_same_v<Node, BoundLike> ||
-                        std::is_same_v<Node, BoundBetween> || std::is_same_v<Node, BoundInList> ||
+                        std::is_same_v<Node, BoundInList> ||
                         std::is_same_v<Node, BoundInQuery> || std::is_same_v<Node, BoundExists>;
 
 }  // namespace
@@ -296,14 +296,6 @@ void Writer::test(const BoundLike& n) {
 void Writer::foldCase(const BoundExpression& expression) {
     value(expression);
     if (expression.kind == Kind::Text) out_ += kFold;
-}
-
-void Writer::test(const BoundBetween& n) {
-    foldCase(*n.operand);
-    out_ += n.negated ? " NOT BETWEEN " : " BETWEEN ";
-    value(*n.low);
-    out_ += " AND ";
-    value(*n.high);
 }
 
 void Writer::test(const BoundInList& n) {

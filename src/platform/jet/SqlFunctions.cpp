@@ -147,6 +147,21 @@ StoreValue absolute(const StoreValue* a) {
     return *number < 0 ? -*number : *number;
 }
 
+bool isBefore(const StoreValue& a, const StoreValue& b) {
+    if (const auto* left = std::get_if<QString>(&a)) return left->compare(text(b), Qt::CaseInsensitive) < 0;
+    const auto* left = std::get_if<std::int64_t>(&a);
+    const auto* right = std::get_if<std::int64_t>(&b);
+    return left && right ? *left < *right : real(a) < real(b);
+}
+
+/// The bounds of BETWEEN may come in either order.
+StoreValue between(const StoreValue* a) {
+    const bool turned = isBefore(a[2], a[1]);
+    const StoreValue& low = a[turned ? 2 : 1];
+    const StoreValue& high = a[turned ? 1 : 2];
+    return std::int64_t{isBefore(a[0], low) || isBefore(high, a[0]) ? 0 : -1};
+}
+
 StoreValue sign(const StoreValue* a) {
     const double number = real(a[0]);
     return std::int64_t{number > 0 ? 1 : number < 0 ? -1 : 0};
@@ -206,6 +221,7 @@ const std::array kFunctions = {
                 [](Values a) -> StoreValue { return roundedTo(real(a[0]), whole(a[1])); }},
     SqlFunction{"akarix_abs", 1, false, true, absolute},
     SqlFunction{"akarix_nz", 2, true, true, [](Values a) { return isNull(a[0]) ? a[1] : a[0]; }},
+    SqlFunction{"akarix_between", 3, false, true, between},
     SqlFunction{"akarix_sign", 1, false, true, sign},
     SqlFunction{"akarix_val", 1, false, true, [](Values a) -> StoreValue { return Val(text(a[0])); }},
     // Dates

@@ -67,7 +67,6 @@ class Writer {
     void test(const BoundComparison& n);
     void test(const BoundIsNull& n);
     void test(const BoundLike& n);
-    void test(const BoundBetween& n);
     void test(const BoundInList& n);
     void test(const BoundInQuery& n);
     void test(const BoundExists& n);

@@ -40,6 +40,7 @@ TEST(Criteria, JudgesRowsAsAWhereWould) {
         {"Code IN (1,2,NULL)", false, true},
         {"Code NOT IN (1,NULL)", false, false},
         {"Gaku BETWEEN 1 AND 2 OR Code NOT BETWEEN 3 AND 200", true, true},
+        {"Code BETWEEN 200 AND 100 AND Namae BETWEEN 'b' AND 'A'", true, false},
         {"Hi=#3/5/2011#", true, false},
         {"Hi>CDATE('2011/03/04') XOR Code=123", false, false},
         {"Len(Namae)=3 AND Code MOD 2=1", true, false},
