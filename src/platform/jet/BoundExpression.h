@@ -129,10 +129,10 @@ struct BoundAggregate {
     BoundPtr operand;  ///< none: Count(*)
 };
 
-using BoundNode = std::variant<BoundColumn, BoundLiteral, BoundNull, BoundBoolean, BoundNegation,
-                               BoundArithmetic, BoundConversion, BoundCall, BoundNot, BoundLogic,
-                               BoundComparison, BoundIsNull, BoundLike, BoundInList,
-                               BoundInQuery, BoundExists, BoundScalarQuery, BoundChoice, BoundAggregate>;
+using BoundNode =
+    std::variant<BoundColumn, BoundLiteral, BoundNull, BoundBoolean, BoundNegation, BoundArithmetic,
+                 BoundConversion, BoundCall, BoundNot, BoundLogic, BoundComparison, BoundIsNull, BoundLike,
+                 BoundInList, BoundInQuery, BoundExists, BoundScalarQuery, BoundChoice, BoundAggregate>;
 
 struct BoundExpression {
     BoundNode node;

@@ -90,8 +90,8 @@ template <class Node>
 constexpr bool isTest = std::is_same_v<Node, BoundBoolean> || std::is_same_v<Node, BoundNot> ||
                         std::is_same_v<Node, BoundLogic> || std::is_same_v<Node, BoundComparison> ||
                         std::is_same_v<Node, BoundIsNull> || std::is_same_v<Node, BoundLike> ||
-                        std::is_same_v<Node, BoundInList> ||
-                        std::is_same_v<Node, BoundInQuery> || std::is_same_v<Node, BoundExists>;
+                        std::is_same_v<Node, BoundInList> || std::is_same_v<Node, BoundInQuery> ||
+                        std::is_same_v<Node, BoundExists>;
 
 }  // namespace
 
