@@ -3,6 +3,7 @@
 #include <QScopeGuard>
 #include <QVBoxLayout>
 #include <array>
+#include <vector>
 
 #include "billing/Sub.h"
 #include "dialogs/AskConfirm.h"
@@ -69,6 +70,30 @@ constexpr int kEarliestYear = 2000;
 QString slashed(const QString& year, const QString& month, const QString& day) {
     return year + u'/' + month + u'/' + day;
 }
+
+/// A column of figures through its mask. A sheet is full of equal figures (nothing read, the same day), so
+/// the last text is kept.
+class FigureColumn {
+ public:
+    FigureColumn(const Field& source, const QString& mask) : source_(&source), mask_(mask) {}
+
+    const QString& text() {
+        const Currency value = moneyOf(source_->Value());
+        if (!known_ || value != value_) {
+            text_ = Format(value, mask_);
+            value_ = value;
+            known_ = true;
+        }
+        return text_;
+    }
+
+ private:
+    const Field* source_;  // found once, not for each of the rows
+    QString mask_;
+    QString text_;
+    Currency value_;
+    bool known_ = false;
+};
 
 }  // namespace
 
@@ -261,17 +286,18 @@ void SlipG_frm::fill(Recordset& rows, const QHash<std::int32_t, QString>& names)
     const std::int16_t count = CInt(rows.RecordCount());
     rows.MoveFirst();
     List_->SetRows(count + 1);
-    std::array<const Field*, kColumns> sources{};  // found once, not for each of the rows
-    for (std::size_t column = kColZenkaiMeter; column < kColumns; ++column) {
-        sources[column] = &rows.Fields(QString::fromUtf16(kPlan[column].source));
+    std::vector<FigureColumn> figures;
+    for (int column = kColZenkaiMeter; column < kColumns; ++column) {
+        figures.emplace_back(rows.Fields(QString::fromUtf16(kPlan[static_cast<std::size_t>(column)].source)),
+                             gCols[column].Fmt);
     }
     for (int row = 1; row <= count; ++row, rows.MoveNext()) {
         const std::int32_t deal = longOf(rows[QStringLiteral("Deal")]);
         List_->SetTextMatrix(row, kColDeal, NumStr(deal));
         List_->SetTextMatrix(row, kColNamae, names.value(deal, QStringLiteral(" ")));
-        for (int column = kColZenkaiMeter; column < kColumns; ++column) {
-            const Variant value = sources[static_cast<std::size_t>(column)]->Value();
-            List_->SetTextMatrix(row, column, Format(moneyOf(value), gCols[column].Fmt));
+        int column = kColZenkaiMeter;
+        for (FigureColumn& figure : figures) {
+            List_->SetTextMatrix(row, column++, figure.text());
         }
     }
 }
