@@ -25,9 +25,11 @@ BoundPtr literalAs(const BoundPtr& expression, LiteralUse use, Kind kind) {
     return makeBound(changed, kind, expression.get());
 }
 
-bool isTextLiteral(const BoundExpression& expression) {
-    const auto* literal = std::get_if<BoundLiteral>(&expression.node);
-    return literal && literal->literal.kind == Literal::Kind::Text;
+/// The same for a literal that is no text: what a text says is found out when the statement runs.
+BoundPtr numberLiteralAs(const BoundPtr& expression, LiteralUse use, Kind kind) {
+    const auto* literal = std::get_if<BoundLiteral>(&expression->node);
+    if (!literal || literal->literal.kind == Literal::Kind::Text) return nullptr;
+    return literalAs(expression, use, kind);
 }
 
 /// For comparisons: exact, whatever the other side has behind its fourth decimal.
@@ -48,9 +50,7 @@ BoundPtr toScaled(const BoundPtr& expression) {
 }  // namespace
 
 BoundPtr toReal(const BoundPtr& expression) {
-    if (!isTextLiteral(*expression)) {
-        if (auto literal = literalAs(expression, LiteralUse::Real, Kind::Double)) return literal;
-    }
+    if (auto literal = numberLiteralAs(expression, LiteralUse::Real, Kind::Double)) return literal;
     switch (expression->kind) {
         case Kind::Boolean:
         case Kind::Integer:
@@ -65,9 +65,7 @@ BoundPtr toReal(const BoundPtr& expression) {
 }
 
 BoundPtr toWhole(const BoundPtr& expression) {
-    if (!isTextLiteral(*expression)) {
-        if (auto literal = literalAs(expression, LiteralUse::IntegerStored, Kind::Integer)) return literal;
-    }
+    if (auto literal = numberLiteralAs(expression, LiteralUse::IntegerStored, Kind::Integer)) return literal;
     switch (expression->kind) {
         case Kind::Currency:
             return called("akarix_whole_from_currency", expression, Kind::Integer);
@@ -82,9 +80,8 @@ BoundPtr toWhole(const BoundPtr& expression) {
 }
 
 BoundPtr toCurrency(const BoundPtr& expression) {
-    if (!isTextLiteral(*expression)) {
-        if (auto literal = literalAs(expression, LiteralUse::CurrencyStored, Kind::Currency)) return literal;
-    }
+    if (auto literal = numberLiteralAs(expression, LiteralUse::CurrencyStored, Kind::Currency))
+        return literal;
     switch (expression->kind) {
         case Kind::Boolean:
         case Kind::Integer:

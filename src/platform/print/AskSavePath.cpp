@@ -3,24 +3,23 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QVBoxLayout>
 #include <memory>
 
 #include "platform/forms/CommandButton.h"
-#include "platform/forms/Form.h"
 #include "platform/forms/Label.h"
 #include "platform/forms/TextBox.h"
+#include "platform/print/EscapableForm.h"
 #include "platform/print/FileField.h"
 #include "platform/print/FileName.h"
 
 namespace akarix {
 namespace {
 
-class SaveAs_frm : public Form {
+class SaveAs_frm : public EscapableForm {
  public:
     SaveAs_frm(const QString& caption, const QString& path, std::shared_ptr<QString> answer)
-        : Form(QStringLiteral("SaveAs_frm"), caption), answer_(std::move(answer)) {
+        : EscapableForm(QStringLiteral("SaveAs_frm"), caption), answer_(std::move(answer)) {
         file_ = new FileField(path, QFileInfo(path).suffix(), this);
         auto* save = new CommandButton(QStringLiteral("保存"), this);
         auto* cancel = new CommandButton(QStringLiteral("キャンセル"), this);
@@ -47,15 +46,6 @@ class SaveAs_frm : public Form {
         on(cancel, &CommandButton::Click, [this] { Unload(); });
         file_->box()->setFocus();
         file_->box()->selectAll();
-    }
-
- protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Escape) {
-            Unload();
-        } else {
-            Form::keyPressEvent(event);
-        }
     }
 
  private:

@@ -1,21 +1,20 @@
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/CommandButton.h"
-#include "platform/forms/Form.h"
 #include "platform/forms/Label.h"
+#include "platform/print/EscapableForm.h"
 #include "platform/print/PreviewPages.h"
 #include "platform/print/PrintJob.h"
 
 namespace akarix {
 namespace {
 
-class Preview_frm : public Form {
+class Preview_frm : public EscapableForm {
  public:
     Preview_frm(const QString& title, const std::vector<PrintPage>& pages)
-        : Form(QStringLiteral("Preview_frm"), QStringLiteral("印刷プレビュー - ") + title) {
+        : EscapableForm(QStringLiteral("Preview_frm"), QStringLiteral("印刷プレビュー - ") + title) {
         pages_ = new PreviewPages(pages, this);
         pages_->setObjectName(QStringLiteral("Pages"));
         previous_ = button(QStringLiteral("前頁"), QStringLiteral("Previous"));
@@ -49,15 +48,6 @@ class Preview_frm : public Form {
         on(pages_, &PreviewPages::currentPageChanged, [this](int page) { showPlace(page); });
         showPlace(0);
         pages_->setFocus();
-    }
-
- protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Escape) {
-            Unload();
-        } else {
-            Form::keyPressEvent(event);
-        }
     }
 
  private:

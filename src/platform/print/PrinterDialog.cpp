@@ -4,15 +4,14 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QListWidget>
 #include <QSpinBox>
 #include <memory>
 
 #include "platform/forms/CommandButton.h"
-#include "platform/forms/Form.h"
 #include "platform/forms/Label.h"
 #include "platform/forms/TextBox.h"
+#include "platform/print/EscapableForm.h"
 #include "platform/print/FileField.h"
 #include "platform/print/FileName.h"
 #include "platform/print/Printer.h"
@@ -21,10 +20,11 @@
 namespace akarix {
 namespace {
 
-class Printer_frm : public Form {
+class Printer_frm : public EscapableForm {
  public:
     explicit Printer_frm(std::shared_ptr<bool> accepted)
-        : Form(QStringLiteral("Printer_frm"), QStringLiteral("印刷")), accepted_(std::move(accepted)) {
+        : EscapableForm(QStringLiteral("Printer_frm"), QStringLiteral("印刷")),
+          accepted_(std::move(accepted)) {
         build();
         fill();
         on(printers_, &QListWidget::currentRowChanged, [this](int) { showChoice(); });
@@ -39,12 +39,10 @@ class Printer_frm : public Form {
 
  protected:
     void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Escape) {
-            Unload();
-        } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
             print();
         } else {
-            Form::keyPressEvent(event);
+            EscapableForm::keyPressEvent(event);
         }
     }
 
