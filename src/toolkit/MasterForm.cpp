@@ -1,6 +1,5 @@
 #include "toolkit/MasterForm.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "dialogs/AskConfirm.h"
@@ -18,7 +17,6 @@ namespace akarix {
 
 namespace {
 
-constexpr int kCode = 0;
 constexpr int kNameBytes = 30;
 
 Variant storedValue(const MasterField& field, const QString& text) {
@@ -43,22 +41,14 @@ QString shownText(const MasterField& field, const Variant& value) {
 }  // namespace
 
 MasterForm::MasterForm(const QString& name, const QString& caption, MasterTexts texts)
-    : EntryForm(name, caption),
-      texts_(std::move(texts)),
-      body_(new QVBoxLayout(this)),
-      rows_(*this),
-      buttonRow_(new QHBoxLayout),
-      cmdLeft_(&Named(new CommandButton(QStringLiteral("←")), QStringLiteral("cmdLeft"))),
-      cmdRight_(&Named(new CommandButton(QStringLiteral("→")), QStringLiteral("cmdRight"))) {
-    constexpr int kWalkerWidth = 48;
-    cmdLeft_->setFixedWidth(kWalkerWidth);
-    cmdRight_->setFixedWidth(kWalkerWidth);
-    body_->setSpacing(16);
-    body_->addLayout(rows_.layout());
+    : KeyedForm(name, caption), rows_(*this) {
+    setTexts(std::move(texts));
+    body().addLayout(rows_.layout());
 }
 
-void MasterForm::init() {
-    clear();
+void MasterForm::setTexts(MasterTexts texts) {
+    texts_ = std::move(texts);
+    setWalk(texts_.left, texts_.right);
 }
 
 // ---- layout
@@ -83,27 +73,8 @@ void MasterForm::addField(const MasterField& field) {
 
 void MasterForm::addButtons() {
     // Save comes first in the walk: Enter in the last field and Enter again store the row.
-    for (CommandButton* button :
-         {&Btn.add(2, new CommandButton(QStringLiteral("保存"))),
-          &Btn.add(0, new CommandButton(QStringLiteral("画面クリア"))),
-          &Btn.add(1, new CommandButton(QStringLiteral("削除"))), cmdLeft_, cmdRight_}) {
-        if (button == cmdLeft_) buttonRow_->addStretch();
-        JoinWalk(*this, *button);
-        buttonRow_->addWidget(button);
-    }
-    body_->addStretch();
-    body_->addLayout(buttonRow_);
+    addBar({{2, QStringLiteral("保存")}, {0, QStringLiteral("画面クリア")}, {1, QStringLiteral("削除")}});
     wire();
-}
-
-Label& MasterForm::addName(const QString& name) {
-    Label& label = Named(new Label(QString(), this), name);
-    names_[name] = &label;
-    return label;
-}
-
-Label& MasterForm::nameLabel(const QString& name) const {
-    return *names_.at(name);
 }
 
 void MasterForm::wire() {
@@ -116,15 +87,9 @@ void MasterForm::wire() {
     on(&Btn(0), &CommandButton::Click, [this] { clear(); });
     on(&Btn(1), &CommandButton::Click, [this] { remove(); });
     on(&Btn(2), &CommandButton::Click, [this] { save(); });
-    on(cmdLeft_, &CommandButton::Click, [this] { walk(texts_.left); });
-    on(cmdRight_, &CommandButton::Click, [this] { walk(texts_.right); });
 }
 
 // ---- the row on the screen
-
-QString MasterForm::codeText() const {
-    return NumStr(NumVal(ebox(kCode).Text()));
-}
 
 bool MasterForm::enter(int index) {
     if (index == kCode) load();
@@ -132,16 +97,6 @@ bool MasterForm::enter(int index) {
         if (field.index == index) showName(field);
     }
     return true;
-}
-
-void MasterForm::clear() {
-    ClearControls(*this);
-    for (const auto& [name, label] : names_) {
-        label->SetCaption({});
-    }
-    showDefaults();
-    ebox(kCode).SetText(proposedCode());
-    FocusSelect(ebox(kCode));
 }
 
 QString MasterForm::proposedCode() {
@@ -154,13 +109,13 @@ void MasterForm::keepUnknownCode(const QString& typed) {
 
 void MasterForm::load() {
     Recordset row = gDb->OpenRecordset(texts_.load.arg(codeText()));
-    if (!row.Eof()) return show(row);
+    if (!row.Eof()) return showRow(row);
     const QString typed = ebox(kCode).Text();
     clear();
     keepUnknownCode(typed);
 }
 
-void MasterForm::show(Recordset& row) {
+void MasterForm::showRow(Recordset& row) {
     for (const MasterField& field : fields_) {
         if (field.column.isEmpty()) continue;
         ebox(field.index).SetText(shownText(field, row[field.column]));
@@ -171,12 +126,6 @@ void MasterForm::show(Recordset& row) {
 
 void MasterForm::showName(const MasterField& field) {
     if (field.nameOf) nameLabel(field.nameLabel).SetCaption(field.nameOf(NumVal(ebox(field.index).Text())));
-}
-
-void MasterForm::walk(const QString& sql) {
-    Recordset rows = gDb->OpenRecordset(sql.arg(codeText()));
-    if (rows.Eof()) return clear();
-    show(rows);
 }
 
 // ---- the row in the store

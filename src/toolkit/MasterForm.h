@@ -1,15 +1,8 @@
 #pragma once
 
-#include <map>
-#include <vector>
-
-#include "platform/forms/CommandButton.h"
 #include "platform/forms/FieldLayout.h"
-#include "platform/jet/Recordset.h"
-#include "toolkit/EntryForm.h"
 #include "toolkit/FieldTable.h"
-
-class QVBoxLayout;
+#include "toolkit/KeyedForm.h"
 
 namespace akarix {
 
@@ -29,40 +22,27 @@ struct MasterTexts {
 /// A screen's constructor calls addFields, adds what it has besides (whose controls are then walked between
 /// the fields and the buttons), and calls addButtons. What differs is said by overriding the small steps
 /// below.
-class MasterForm : public EntryForm {
- public:
-    virtual void init();
-
+class MasterForm : public KeyedForm {
  protected:
     MasterForm(const QString& name, const QString& caption, MasterTexts texts);
 
     void addFields(const FieldTable& fields);
     void addButtons();
 
-    /// Where a screen puts what it has besides its fields: rows after theirs; anything below them; and
-    /// further buttons, when the usual ones stand.
+    /// Where a screen puts what it has besides its fields: rows after theirs; anything below them goes to
+    /// body(), further buttons to buttonRow() when the usual ones stand.
     FieldLayout& layoutOfFields() { return rows_; }
-    QVBoxLayout& body() { return *body_; }
-    QHBoxLayout& buttonRow() { return *buttonRow_; }
-    Label& nameLabel(const QString& name) const;
-    /// A name label beside a field the screen adds itself; emptied with the others.
-    Label& addName(const QString& name);
 
-    void clear();
     /// Does what Enter does in a field.
     void pressEnter(int index) { press_(index); }
-    QString codeText() const;
     /// For a screen that keeps one of several tables, chosen when it is opened.
-    void setTexts(MasterTexts texts) { texts_ = std::move(texts); }
+    void setTexts(MasterTexts texts);
     /// A field that must hold text: when it does not, tells the message, goes to the field, gives False.
     bool require(int index, const QString& message);
 
     /// What Enter asks of a field. The base loads at the code and shows the names beside codes.
     virtual bool enter(int index);
-    /// The code a cleared screen proposes.
-    virtual QString proposedCode();
-    /// Fills what an empty screen holds from the start, after every clearing.
-    virtual void showDefaults() {}
+    QString proposedCode() override;
     /// The typed code has no row.
     virtual void keepUnknownCode(const QString& typed);
     /// Shows and stores what is no field of the table.
@@ -74,28 +54,18 @@ class MasterForm : public EntryForm {
     virtual bool mayRemove() { return true; }
     virtual QString removeSql();
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
-    ControlArray<Image> F6{QStringLiteral("F6")};
-
  private:
     void addField(const MasterField& field);
     void wire();
     void load();
-    void show(Recordset& row);
+    void showRow(Recordset& row) override;
     void showName(const MasterField& field);
-    void walk(const QString& sql);
     void save();
     void remove();
 
     MasterTexts texts_;
     FieldTable fields_;
-    QVBoxLayout* body_;
     FieldLayout rows_;
-    QHBoxLayout* buttonRow_;
-    std::map<QString, Label*> names_;
-    CommandButton* cmdLeft_;
-    CommandButton* cmdRight_;
     PressEnter press_;
 };
 

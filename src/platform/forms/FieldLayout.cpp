@@ -12,6 +12,21 @@ constexpr int columnsPerBlock = 3;  // caption, fields, the room between two blo
 constexpr int blockGap = 24;
 constexpr int lookupIconSize = 16;
 
+/// A line whose fields keep to the left.
+QHBoxLayout* fieldRow() {
+    auto* line = new QHBoxLayout;
+    line->setSpacing(6);
+    line->addStretch();
+    return line;
+}
+
+QGridLayout* fieldGrid() {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(5);
+    return grid;
+}
+
 }  // namespace
 
 FieldLine& FieldLine::text(TextBox& box, int bytes, int shownBytes) {
@@ -56,17 +71,12 @@ FieldLine& FieldLine::widget(QWidget* widget) {
     return *this;
 }
 
-FieldLayout::FieldLayout(Form& form) : form_(form), grid_(new QGridLayout) {
-    grid_->setHorizontalSpacing(8);
-    grid_->setVerticalSpacing(5);
-}
+FieldLayout::FieldLayout(Form& form) : form_(form), grid_(fieldGrid()) {}
 
 FieldLine FieldLayout::row(const QString& caption) {
     auto* label = new Label(caption);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    auto* line = new QHBoxLayout;
-    line->setSpacing(6);
-    line->addStretch();
+    QHBoxLayout* line = fieldRow();
     grid_->addWidget(label, line_, column_);
     grid_->addLayout(line, line_, column_ + 1);
     ++line_;
@@ -81,6 +91,20 @@ void FieldLayout::nextColumn() {
 
 void FieldLayout::gap() {
     grid_->setRowMinimumHeight(line_++, QFontMetrics(form_.font()).height() / 2);
+}
+
+LineLayout::LineLayout(Form& form) : form_(form), grid_(fieldGrid()) {}
+
+void LineLayout::head(const QString& caption, Qt::Alignment alignment) {
+    auto* label = new Label(caption);
+    label->setAlignment(alignment | Qt::AlignVCenter);
+    grid_->addWidget(label, 0, heads_++);
+}
+
+FieldLine LineLayout::cell(int line, int column) {
+    QHBoxLayout* row = fieldRow();
+    grid_->addLayout(row, line + 1, column);
+    return FieldLine(form_, row);
 }
 
 QHBoxLayout* ButtonBar(Form& form, ControlArray<CommandButton>& buttons, const QStringList& captions) {

@@ -52,6 +52,23 @@ class FieldLayout {
     int column_ = 0;
 };
 
+/// Equal lines of fields one below the other, each column under its head.
+class LineLayout {
+ public:
+    explicit LineLayout(Form& form);
+
+    /// Names the next column. \param alignment of the head: over figures Qt::AlignRight.
+    void head(const QString& caption, Qt::Alignment alignment = Qt::AlignLeft);
+    /// Counted from 0, the heads apart.
+    FieldLine cell(int line, int column);
+    QGridLayout* layout() const { return grid_; }
+
+ private:
+    Form& form_;
+    QGridLayout* grid_;
+    int heads_ = 0;
+};
+
 /// A row of buttons, made in the order of their captions with the indices 0, 1, ... and put into the walk.
 QHBoxLayout* ButtonBar(Form& form, ControlArray<CommandButton>& buttons, const QStringList& captions);
 

@@ -1,0 +1,91 @@
+#include "toolkit/KeyedForm.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "platform/forms/FieldLayout.h"
+#include "store/dbAccess.h"
+#include "toolkit/FieldWalk.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+
+namespace akarix {
+
+namespace {
+
+CommandButton* walker(const QString& caption, const QString& name) {
+    constexpr int kWidth = 48;
+    CommandButton& button = Named(new CommandButton(caption), name);
+    button.setFixedWidth(kWidth);
+    return &button;
+}
+
+}  // namespace
+
+KeyedForm::KeyedForm(const QString& name, const QString& caption)
+    : EntryForm(name, caption),
+      body_(new QVBoxLayout(this)),
+      buttonRow_(new QHBoxLayout),
+      cmdLeft_(walker(QStringLiteral("←"), QStringLiteral("cmdLeft"))),
+      cmdRight_(walker(QStringLiteral("→"), QStringLiteral("cmdRight"))) {
+    constexpr int kBetweenGroups = 16;
+    body_->setSpacing(kBetweenGroups);
+}
+
+void KeyedForm::init() {
+    clear();
+}
+
+void KeyedForm::addBar(const std::vector<BarButton>& buttons) {
+    const auto add = [this](CommandButton* button) {
+        JoinWalk(*this, *button);
+        buttonRow_->addWidget(button);
+    };
+    for (const BarButton& button : buttons) {
+        add(&Btn.add(button.index, new CommandButton(button.caption)));
+    }
+    buttonRow_->addStretch();
+    add(cmdLeft_);
+    add(cmdRight_);
+    body_->addStretch();
+    body_->addLayout(buttonRow_);
+    on(cmdLeft_, &CommandButton::Click, [this] { walk(left_); });
+    on(cmdRight_, &CommandButton::Click, [this] { walk(right_); });
+}
+
+void KeyedForm::setWalk(const QString& left, const QString& right) {
+    left_ = left;
+    right_ = right;
+}
+
+Label& KeyedForm::addName(const QString& name) {
+    Label& label = Named(new Label(QString(), this), name);
+    names_[name] = &label;
+    return label;
+}
+
+Label& KeyedForm::nameLabel(const QString& name) const {
+    return *names_.at(name);
+}
+
+QString KeyedForm::codeText() const {
+    return NumStr(NumVal(ebox(kCode).Text()));
+}
+
+void KeyedForm::clear() {
+    ClearControls(*this);
+    for (const auto& [name, label] : names_) {
+        label->SetCaption({});
+    }
+    showDefaults();
+    ebox(kCode).SetText(proposedCode());
+    FocusSelect(ebox(kCode));
+}
+
+void KeyedForm::walk(const QString& sql) {
+    Recordset rows = gDb->OpenRecordset(sql.arg(codeText()));
+    if (rows.Eof()) return clear();
+    showRow(rows);
+}
+
+}  // namespace akarix
