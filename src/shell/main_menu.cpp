@@ -11,6 +11,7 @@
 #include "entry/SlipG_frm.h"
 #include "masters/GTanka_frm.h"
 #include "masters/MstDeal_frm.h"
+#include "masters/MstHin_frm.h"
 #include "masters/MstRte_frm.h"
 #include "output/EX.h"
 #include "platform/forms/MsgBox.h"
@@ -56,7 +57,7 @@ constexpr std::array<BoardButton, 19> kBoard{{
     {13, 2, u"得意先", &OpenScreen<MstDeal_frm>},
     {17, 2, u"得意先初期残"},
     {3, 2, u"料金表", &OpenScreen<GTanka_frm>},
-    {4, 2, u"商品"},
+    {4, 2, u"商品", &OpenScreen<MstHin_frm>},
     {9, 2, u"リース料金"},
     {12, 2, u"地区", &OpenScreen<MstRte_frm>},
     {kChangePassword, 3, u"パスワード"},

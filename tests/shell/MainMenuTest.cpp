@@ -183,6 +183,7 @@ TEST_F(MainMenu, WithoutAPasswordsRowTheChangeFails) {
 TEST_F(MainMenu, EachButtonOpensItsScreenOnce) {
     ASSERT_TRUE(start());
     for (const auto& [button, screen] : std::map<int, QString>{{3, u"GTanka_frm"_qs},
+                                                               {4, u"MstHin_frm"_qs},
                                                                {7, u"RepoSeikyu_frm"_qs},
                                                                {12, u"MstRte_frm"_qs},
                                                                {13, u"MstDeal_frm"_qs},
@@ -199,7 +200,7 @@ TEST_F(MainMenu, EachButtonOpensItsScreenOnce) {
         EXPECT_NE(clerk.text("ebox(0)"), cleared) << "and made ready again";
     }
     press(10);
-    EXPECT_EQ(shownForms().size(), 6) << "the dead button";
+    EXPECT_EQ(shownForms().size(), 7) << "the dead button";
 }
 
 TEST_F(MainMenu, AllShiftKeysOnAButtonAreAPressOnTheButton) {
