@@ -77,10 +77,10 @@ TEST_F(ItemMaster, SavesNothingWithoutCodeAndName) {
 TEST_F(ItemMaster, WalksToBothEnds) {
     clerk.fill(u"3"_qs);
     EXPECT_EQ(shown(), u"3///"_qs);
-    for (const auto& [button, screen] : std::vector<std::pair<QString, QString>>{
-             {u"cmdRight"_qs, u"70000/ｶﾝｷ/換気扇/1,234,568"_qs},
-             {u"cmdLeft"_qs, u"2/ﾎｰｽ/ゴムホース/1,280"_qs},
-             {u"cmdLeft"_qs, u"70001///"_qs}}) {
+    for (const auto& [button, screen] :
+         std::vector<std::pair<QString, QString>>{{u"cmdRight"_qs, u"70000/ｶﾝｷ/換気扇/1,234,568"_qs},
+                                                  {u"cmdLeft"_qs, u"2/ﾎｰｽ/ゴムホース/1,280"_qs},
+                                                  {u"cmdLeft"_qs, u"70001///"_qs}}) {
         clerk.click(button);
         EXPECT_EQ(shown(), screen) << button.toStdString();
     }
