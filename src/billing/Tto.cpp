@@ -21,12 +21,6 @@ QString ofMonth(int nendo, int getudo) {
            NumStr(getudo);
 }
 
-/// The same for what one customer has in the month.
-QString ofCustomerMonth(std::int32_t deal, int nendo, int getudo) {
-    return QStringLiteral(" WHERE Deal  =") + NumStr(deal) + QStringLiteral(" AND   Nendo =") +
-           NumStr(nendo) + QStringLiteral(" AND   Getudo=") + NumStr(getudo);
-}
-
 /// The condition that picks one row of the ledger.
 QString ofLedgerRow(std::int32_t deal, int nendo, int getudo) {
     return QStringLiteral(" WHERE Deal=") + NumStr(deal) + QStringLiteral(" AND   Nendo=") + NumStr(nendo) +
@@ -56,7 +50,7 @@ void putAmount(const QString& column, int nendo, int getudo, std::int32_t deal, 
                  QStringLiteral(") VALUES(") + NumStr(deal) + u',' + NumStr(nendo) + u',' + NumStr(getudo) +
                  u',' + initial + u')');
     gDb->Execute(QStringLiteral(" UPDATE TtoD  SET   ") + column + QStringLiteral(" =") + amount +
-                 ofCustomerMonth(deal, nendo, getudo));
+                 OfCustomerMonth(deal, nendo, getudo));
 }
 
 /// Sales of months that lost their slips.
@@ -103,7 +97,7 @@ LeaseFees readLeaseFees() {
 /// Removes the slip that an earlier run made for the customer and month; gives its number, or 0.
 std::int32_t removeLeaseSlip(int nendo, int getudo, std::int32_t deal) {
     const std::int32_t dno =
-        longOf(FirstValue(QStringLiteral("SELECT * FROM Dud ") + ofCustomerMonth(deal, nendo, getudo) +
+        longOf(FirstValue(QStringLiteral("SELECT * FROM Dud ") + OfCustomerMonth(deal, nendo, getudo) +
                               QStringLiteral(" AND   CreateAuto=1"),
                           QStringLiteral("Dno")));
     if (dno != 0) gDb->Execute(QStringLiteral("DELETE FROM Dud WHERE Dno=") + NumStr(dno));
@@ -111,6 +105,11 @@ std::int32_t removeLeaseSlip(int nendo, int getudo, std::int32_t deal) {
 }
 
 }  // namespace
+
+QString OfCustomerMonth(std::int32_t deal, int nendo, int getudo) {
+    return QStringLiteral(" WHERE Deal  =") + NumStr(deal) + QStringLiteral(" AND   Nendo =") +
+           NumStr(nendo) + QStringLiteral(" AND   Getudo=") + NumStr(getudo);
+}
 
 void BuildMonthLedger(int nendo, int getudo, Date creation) {
     clearSalesWithoutSlips(nendo, getudo);

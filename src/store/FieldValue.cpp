@@ -1,8 +1,10 @@
 #include "store/FieldValue.h"
 
 #include "platform/runtime/CCur.h"
+#include "platform/runtime/CDate.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
+#include "values/Dates.h"
 
 namespace akarix {
 
@@ -19,6 +21,10 @@ std::int32_t longOf(const Variant& value) {
 std::int16_t integerOf(const Variant& value) {
     if (const std::int16_t* number = value.If<std::int16_t>()) return *number;
     return value.IsNull() ? std::int16_t{0} : CInt(value);
+}
+
+Date dateOf(const Variant& value) {
+    return IsDateSet(value) ? CDate(value) : Date();
 }
 
 }  // namespace akarix

@@ -10,5 +10,7 @@ namespace akarix {
 Currency moneyOf(const Variant& value);
 std::int32_t longOf(const Variant& value);
 std::int16_t integerOf(const Variant& value);
+/// A column's date; date 0 where there is none.
+Date dateOf(const Variant& value);
 
 }  // namespace akarix

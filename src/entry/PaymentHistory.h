@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+
+namespace akarix {
+
+class FlexGrid;
+
+/// Gives the grid its six columns and empties it down to its head row.
+void EmptyHistory(FlexGrid& list);
+
+/// A customer's ledger months from the given one on, in the store's order, with the running balance. The
+/// balance carried in stands before the first of them.
+void ShowLedgerHistory(FlexGrid& list, std::int32_t deal, int nendo, int getudo);
+
+/// The charges of the customer's ledger months from the given one on, merged with each payment line of those
+/// billing months under the month of its own date. A year and month stand where the year changes.
+void ShowPaymentHistory(FlexGrid& list, std::int32_t deal, int nendo, int getudo);
+
+}  // namespace akarix
