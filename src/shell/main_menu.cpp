@@ -18,6 +18,7 @@
 #include "platform/forms/SingleInstance.h"
 #include "platform/jet/Action.h"
 #include "platform/runtime/CInt.h"
+#include "reports/RepoDaichou_frm.h"
 #include "reports/RepoSeikyu_frm.h"
 #include "shell/Opening_frm.h"
 #include "store/Settings.h"
@@ -53,7 +54,7 @@ constexpr std::array<BoardButton, 19> kBoard{{
     {16, 1, u"請求処理", &OpenScreen<Seikyu_frm>},
     {5, 1, u"請求書印刷"},
     {7, 1, u"請求一覧表", &OpenScreen<RepoSeikyu_frm>},
-    {8, 1, u"消費先台帳"},
+    {8, 1, u"消費先台帳", &OpenScreen<RepoDaichou_frm>},
     {13, 2, u"得意先", &OpenScreen<MstDeal_frm>},
     {17, 2, u"得意先初期残"},
     {3, 2, u"料金表", &OpenScreen<GTanka_frm>},

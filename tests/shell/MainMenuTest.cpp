@@ -185,6 +185,7 @@ TEST_F(MainMenu, EachButtonOpensItsScreenOnce) {
     for (const auto& [button, screen] : std::map<int, QString>{{3, u"GTanka_frm"_qs},
                                                                {4, u"MstHin_frm"_qs},
                                                                {7, u"RepoSeikyu_frm"_qs},
+                                                               {8, u"RepoDaichou_frm"_qs},
                                                                {12, u"MstRte_frm"_qs},
                                                                {13, u"MstDeal_frm"_qs},
                                                                {16, u"Seikyu_frm"_qs}}) {

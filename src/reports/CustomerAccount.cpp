@@ -1,0 +1,50 @@
+#include "reports/CustomerAccount.h"
+
+#include "billing/Tto.h"
+#include "platform/runtime/CLng.h"
+#include "store/FieldValue.h"
+#include "store/dbAccess.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+
+namespace akarix {
+
+CustomerAccount::CustomerAccount(const QString& year, const QString& month, const QString& customer)
+    : year_(CLng(KeepNumeric(year))), month_(CLng(KeepNumeric(month))), customer_(KeepNumeric(customer)) {}
+
+std::int32_t CustomerAccount::customer() const {
+    return CLng(customer_);
+}
+
+void CustomerAccount::gather() const {
+    const QString ym = NumStr(year_ * 100 + month_);
+    const QString ofCustomer = ym + QStringLiteral(" AND    Deal = ") + customer_;
+    gDb->Execute(QStringLiteral("DELETE FROM TempD"));
+    gDb->Execute(QStringLiteral("INSERT INTO TempD ( Nendo, Getudo, Kubun, KonkaiMeter, HinNamae, Gaku ) "
+                                " SELECT Nendo, Getudo, 1, KonkaiMeter, 'LPガス', Gaku "
+                                " FROM   Dgd "
+                                " WHERE  Nendo*100+Getudo>=") +
+                 ofCustomer);
+    gDb->Execute(QStringLiteral("INSERT INTO TempD ( Dno,Nendo, Getudo, Kubun, Hizuke, HinNamae, Suu, Tanka, "
+                                "Gaku ) "
+                                " SELECT Dno,Nendo, Getudo, 2, Hizuke, HinNamae, Suu, Tanka, Gaku "
+                                " FROM   Dud "
+                                " WHERE  Nendo*100+Getudo>=") +
+                 ofCustomer);
+    gDb->Execute(QStringLiteral("INSERT INTO TempD ( Dno,Nendo, Getudo, Kubun,HinNamae, Gaku,NFLG )"
+                                " SELECT Dny.Dno,Dny.Nendo, Dny.Getudo, 3,'入金', Sum(Dny.Gaku) AS tGaku,1"
+                                " From Dny"
+                                " Where [Nendo] * 100 + [Getudo] >=") +
+                 ofCustomer + QStringLiteral(" GROUP BY Dny.Dno,Dny.Nendo, Dny.Getudo"));
+}
+
+Currency CustomerAccount::opening() const {
+    return moneyOf(PriorBalance(customer(), year_, month_));
+}
+
+Recordset CustomerAccount::lines() const {
+    return gDb->OpenRecordset(QStringLiteral("SELECT * FROM TempD "
+                                             " ORDER BY Nendo*100+Getudo,Kubun,Hizuke "));
+}
+
+}  // namespace akarix
