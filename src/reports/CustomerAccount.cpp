@@ -43,8 +43,9 @@ Currency CustomerAccount::opening() const {
 }
 
 Recordset CustomerAccount::lines() const {
-    return gDb->OpenRecordset(QStringLiteral("SELECT * FROM TempD "
-                                             " ORDER BY Nendo*100+Getudo,Kubun,Hizuke "));
+    return gDb->OpenRecordset(
+        QStringLiteral("SELECT * FROM TempD "
+                       " ORDER BY Nendo*100+Getudo,Kubun,Hizuke "));
 }
 
 }  // namespace akarix
