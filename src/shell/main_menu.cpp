@@ -9,6 +9,7 @@
 #include "dialogs/AskText.h"
 #include "dialogs/ShowAlert.h"
 #include "entry/SlipG_frm.h"
+#include "entry/Slip_frm.h"
 #include "masters/GTanka_frm.h"
 #include "masters/MstDeal_frm.h"
 #include "masters/MstHin_frm.h"
@@ -47,7 +48,7 @@ constexpr int kUnreachableConsignor = 10;
 
 // In the order of the walk: column by column, from the top.
 constexpr std::array<BoardButton, 19> kBoard{{
-    {0, 0, u"売上入力"},
+    {0, 0, u"売上入力", &OpenScreen<Slip_frm>},
     {1, 0, u"検針入力", &OpenScreen<SlipG_frm>},
     {2, 0, u"入金入力"},
     {kUnreachableConsignor, 0, u"銀行委託者設定"},

@@ -98,7 +98,9 @@ LineLayout::LineLayout(Form& form) : form_(form), grid_(fieldGrid()) {}
 void LineLayout::head(const QString& caption, Qt::Alignment alignment) {
     auto* label = new Label(caption);
     label->setAlignment(alignment | Qt::AlignVCenter);
-    grid_->addWidget(label, 0, heads_++);
+    grid_->addWidget(label, 0, heads_);
+    grid_->setColumnStretch(heads_++, 0);
+    grid_->setColumnStretch(heads_, 1);  // room to spare stands behind the last column
 }
 
 FieldLine LineLayout::cell(int line, int column) {

@@ -1,0 +1,314 @@
+#include "entry/Slip_frm.h"
+
+#include <QVBoxLayout>
+
+#include "dialogs/AskConfirm.h"
+#include "dialogs/ShowAlert.h"
+#include "platform/forms/FieldLayout.h"
+#include "platform/runtime/CLng.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/Fix.h"
+#include "platform/runtime/Format.h"
+#include "store/FieldValue.h"
+#include "store/Lookup.h"
+#include "store/dbAccess.h"
+#include "toolkit/DateBox.h"
+#include "toolkit/FieldTable.h"
+#include "toolkit/FieldWalk.h"
+#include "toolkit/Lookups.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+namespace {
+
+enum Box { kNumber, kDate, kDeal };
+enum Picture { kPickSlip, kPickDeal, kPickItem };
+enum Button { kClear, kDelete, kSave };
+
+constexpr int kLines = 6;
+
+struct LineBoxes {
+    int code;
+    int name;
+    int suu;
+    int tanka;
+    int gaku;
+};
+
+constexpr LineBoxes boxesOf(int line) {
+    return {3 + 3 * line, 4 + 3 * line, 21 + line, 27 + line, 5 + 3 * line};
+}
+
+constexpr int kCodeBytes = 8;
+constexpr int kNameBytes = 40;
+
+QString yen(Currency amount) {
+    return Format(amount, QStringLiteral("###,###"));
+}
+
+DocumentTexts texts() {
+    return {.highest = QStringLiteral("SELECT MAX(Dno) AS tDno FROM Dud"),
+            .left = QStringLiteral("SELECT * FROM Dud WHERE Dno<%1 ORDER BY Dno DESC,Hizuke DESC"),
+            .right = QStringLiteral("SELECT * FROM Dud WHERE Dno>%1 ORDER BY Dno ,Hizuke DESC")};
+}
+
+QString slipSql(const QString& number) {
+    return QStringLiteral("SELECT * FROM Dud  WHERE Dno=%1 ORDER BY Eda").arg(number);
+}
+
+}  // namespace
+
+Slip_frm::Slip_frm() : DocumentForm(QStringLiteral("Slip_frm"), QStringLiteral("売上伝票"), texts()) {
+    layOutHead();
+    layOutLines();
+    addBar({{kSave, QStringLiteral("保存")},
+            {kClear, QStringLiteral("画面クリア")},
+            {kDelete, QStringLiteral("削除")}});
+    wire();
+}
+
+// ---- layout
+
+void Slip_frm::layOutHead() {
+    constexpr int kDateBytes = 10;
+    FieldLayout head(*this);
+    head.row(QStringLiteral("伝票番号"))
+        .text(addBox(ebox, kNumber, ImeMode::Off), kCodeBytes)
+        .lookup(F6.add(kPickSlip, new Image));
+    head.nextColumn();
+    head.row(QStringLiteral("日付")).text(addBox(ebox, kDate, ImeMode::Off), kDateBytes);
+    head.nextColumn();
+    head.row(QStringLiteral("得意先"))
+        .text(addBox(ebox, kDeal, ImeMode::Off), kCodeBytes)
+        .lookup(F6.add(kPickDeal, new Image))
+        .name(addName(QStringLiteral("sNamae")), kNameBytes);
+    body().addLayout(head.layout());
+}
+
+void Slip_frm::layOutLines() {
+    // No figure of the store is longer: leaving a field never cuts one.
+    constexpr int kFigureBytes = 20;
+    constexpr int kSuuShown = 11;
+    constexpr int kTankaShown = 14;
+    constexpr int kGakuShown = 17;
+    LineLayout lines(*this);
+    for (const char16_t* caption : {u"コード", u"名称"}) {
+        lines.head(QString::fromUtf16(caption));
+    }
+    for (const char16_t* caption : {u"数量", u"単価", u"金額"}) {
+        lines.head(QString::fromUtf16(caption), Qt::AlignRight);
+    }
+    for (int line = 0; line < kLines; ++line) {
+        const LineBoxes boxes = boxesOf(line);
+        const auto figure = [&](int column, int index, int shownBytes) {
+            TextBox& box = addBox(ebox, index, ImeMode::Off);
+            box.setAlignment(Qt::AlignRight);
+            lines.cell(line, column).text(box, kFigureBytes, shownBytes);
+        };
+        lines.cell(line, 0)
+            .text(addBox(ebox, boxes.code, ImeMode::Off), kCodeBytes)
+            .lookup(F6.add(kPickItem + line, new Image));
+        lines.cell(line, 1).text(addBox(ebox, boxes.name, ImeMode::Hiragana), kNameBytes);
+        figure(2, boxes.suu, kSuuShown);
+        figure(3, boxes.tanka, kTankaShown);
+        figure(4, boxes.gaku, kGakuShown);
+    }
+    body().addLayout(lines.layout());
+    body().addWidget(new Label(QStringLiteral("消費税 : 売上の次の行 金額欄　* 税率　Enter")));
+}
+
+void Slip_frm::wire() {
+    press_ = wireKeys(ebox, [this](int index) { return enter(index); });
+    WireLookup(*this, F6(kPickSlip), &PickSlip, ebox(kNumber), [this] { press_(kNumber); });
+    wireLookup(F6(kPickDeal), QStringLiteral("Deal"), {}, ebox(kDeal), press_, kDeal);
+    for (int line = 0; line < kLines; ++line) {
+        const int code = boxesOf(line).code;
+        wireLookup(F6(kPickItem + line), QStringLiteral("Hin"), {}, ebox(code), press_, code);
+    }
+    on(&Btn(kClear), &CommandButton::Click, [this] { clear(); });
+    on(&Btn(kDelete), &CommandButton::Click, [this] { askAndRemove(); });
+    on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
+}
+
+// ---- the slip on the screen
+
+void Slip_frm::init() {
+    today_ = Today();
+    clear();
+}
+
+void Slip_frm::fromexe(std::int32_t& Dno) {
+    openDocument(Dno);
+}
+
+void Slip_frm::showDefaults() {
+    ShowDate(today_, ebox(kDate));
+}
+
+void Slip_frm::load() {
+    Recordset rows = gDb->OpenRecordset(slipSql(codeText()));
+    const QString typed = ebox(kNumber).Text();
+    if (rows.Eof()) {
+        clear();
+        ebox(kNumber).SetText(typed);
+        return;
+    }
+    ClearControls(*this);
+    ebox(kNumber).SetText(typed);
+    ShowDateVar(rows[QStringLiteral("Hizuke")], ebox(kDate));
+    ebox(kDeal).SetText(NumStr(longOf(rows[QStringLiteral("Deal")])));
+    showCustomer();
+    for (int line = 0; line < kLines && !rows.Eof(); ++line, rows.MoveNext()) {
+        showLine(line, rows);
+    }
+}
+
+void Slip_frm::showLine(int line, Recordset& row) {
+    static const DisplayRule suuText = MaskedUnlessZero(QStringLiteral("#,###.0"));
+    const LineBoxes boxes = boxesOf(line);
+    const std::int32_t code = longOf(row[QStringLiteral("HinCode")]);
+    if (code != 0) ebox(boxes.code).SetText(NumStr(code));
+    ebox(boxes.name).SetText(NullToEmpty(row[QStringLiteral("HinNamae")]));
+    ebox(boxes.suu).SetText(suuText(moneyOf(row[QStringLiteral("Suu")])));
+    ebox(boxes.tanka).SetText(yen(moneyOf(row[QStringLiteral("Tanka")])));
+    ebox(boxes.gaku).SetText(yen(moneyOf(row[QStringLiteral("Gaku")])));
+}
+
+void Slip_frm::showCustomer() {
+    nameLabel(QStringLiteral("sNamae")).SetCaption(GetDealName(NumVal(ebox(kDeal).Text())));
+}
+
+// ---- Enter
+
+bool Slip_frm::enter(int index) {
+    switch (index) {
+        case kNumber:
+            load();
+            break;
+        case kDate:
+            ShowDate(ReadDate(ebox(kDate)), ebox(kDate));
+            break;
+        case kDeal:
+            showCustomer();
+            break;
+        default:
+            for (int line = 0; line < kLines; ++line) {
+                enterLine(line, index);
+            }
+            break;
+    }
+    return true;
+}
+
+void Slip_frm::enterLine(int line, int index) {
+    const LineBoxes boxes = boxesOf(line);
+    if (index == boxes.code) {
+        takeItem(line);
+    } else if (index == boxes.tanka) {
+        putAmount(line, figure(boxes.suu) * figure(boxes.tanka));
+    } else if (index == boxes.gaku && line > 0) {
+        const QString typed = ebox(boxes.gaku).Text().trimmed();
+        if (!typed.startsWith(u'*')) return;
+        const Currency rate = ToCurrency(typed.mid(1)) / 100;
+        putAmount(line, figure(boxesOf(line - 1).gaku) * rate);
+    }
+}
+
+void Slip_frm::takeItem(int line) {
+    const LineBoxes boxes = boxesOf(line);
+    const double code = NumVal(ebox(boxes.code).Text());
+    if (code == 0.0) return;  // a line of free text keeps what is typed
+    ebox(boxes.name).SetText(GetName(QStringLiteral("Hin"), code));
+    ebox(boxes.tanka).SetText(yen(GetHinTanka(code)));
+}
+
+void Slip_frm::putAmount(int line, Currency amount) {
+    ebox(boxesOf(line).gaku).SetText(yen(Fix(amount)));
+}
+
+Currency Slip_frm::figure(int index) const {
+    return ToCurrency(ebox(index).Text());
+}
+
+// ---- the slip in the store
+
+bool Slip_frm::maySave(Date date) {
+    const auto refuse = [this](const QString& message, Box box) {
+        ShowAlert(message);
+        FocusSelect(ebox(box));
+        return false;
+    };
+    if (NumVal(ebox(kNumber).Text()) == 0.0) {
+        return refuse(QStringLiteral("伝票番号は不正です。"), kNumber);
+    }
+    if (!IsDateSet(date)) return refuse(QStringLiteral("日付が不正です。"), kDate);
+    if (NumVal(ebox(kDeal).Text()) == 0.0) {
+        return refuse(QStringLiteral("得意先が選択されていません。"), kNumber);
+    }
+    if (integerOf(FirstValue(slipSql(codeText()), QStringLiteral("CreateAuto"))) == 1) {
+        ShowAlert(QStringLiteral("自動で作成された伝票は修正できません。"));
+        return false;
+    }
+    return true;
+}
+
+void Slip_frm::save() {
+    const Date date = ReadStrictDate(ebox(kDate));
+    if (!maySave(date)) return;
+    int nendo = 0;
+    int getudo = 0;
+    DateToGetudo(CLng(NumVal(ebox(kDeal).Text())), date, nendo, getudo);
+    removeRows();
+    int eda = 0;
+    for (int line = 0; line < kLines; ++line) {
+        if (isUsed(line)) storeLine(line, ++eda, date, nendo, getudo);
+    }
+    clear();
+}
+
+bool Slip_frm::isUsed(int line) const {
+    const LineBoxes boxes = boxesOf(line);
+    return NumVal(ebox(boxes.code).Text()) != 0.0 || HasText(ebox(boxes.name).Text());
+}
+
+void Slip_frm::storeLine(int line, int eda, Date date, int nendo, int getudo) {
+    const LineBoxes boxes = boxesOf(line);
+    const auto number = [this](int index) { return KeepNumeric(ebox(index).Text()); };
+    // The date goes in with its western year, whatever years the screen shows.
+    gDb->Execute(QStringLiteral("INSERT INTO Dud(Dno, Eda, Hizuke, Deal, HinCode, HinNamae, Suu, Tanka, Gaku,"
+                                " Nendo, Getudo, CreateAuto) "
+                                " SELECT %1"
+                                "      , %2"
+                                "      , CDATE('%3') "
+                                "      , %4"
+                                "      , %5"
+                                "      ,'%6'"
+                                "      , %7"
+                                "      , %8"
+                                "      , %9"
+                                "      , %10"
+                                "      , %11"
+                                "      , 0")
+                     .arg(codeText(), NumStr(eda), Format(date, QStringLiteral("yyyy/mm/dd")),
+                          NumStr(NumVal(ebox(kDeal).Text())), number(boxes.code),
+                          EmptyToBlank(ebox(boxes.name).Text()), number(boxes.suu), number(boxes.tanka),
+                          number(boxes.gaku), NumStr(nendo), NumStr(getudo)));
+}
+
+void Slip_frm::removeRows() {
+    gDb->Execute(QStringLiteral("DELETE FROM Dud WHERE Dno=%1").arg(codeText()));
+}
+
+void Slip_frm::askAndRemove() {
+    if (!AskConfirm(QStringLiteral("この売上伝票を削除します。"), QStringLiteral("はい"),
+                    QStringLiteral("いいえ"))) {
+        return;
+    }
+    removeRows();
+    clear();
+}
+
+}  // namespace akarix

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "entry/DocumentForm.h"
+#include "platform/runtime/Date.h"
+
+namespace akarix {
+
+/// Enters what is sold besides metered gas: slips (Dud) of up to six lines, each booked to the billing month
+/// of its date. A slip is written whole and replaced whole.
+class Slip_frm : public DocumentForm {
+ public:
+    Slip_frm();
+    void init() override;
+    /// Opens the screen on a slip; a number below 1 changes nothing.
+    void fromexe(std::int32_t& Dno);
+
+ private:
+    void layOutHead();
+    void layOutLines();
+    void wire();
+
+    void showDefaults() override;
+    void load() override;
+    void showLine(int line, Recordset& row);
+    void showCustomer();
+
+    bool enter(int index);
+    void enterLine(int line, int index);
+    void takeItem(int line);
+    void putAmount(int line, Currency amount);
+    Currency figure(int index) const;
+
+    bool maySave(Date date);
+    void save();
+    void storeLine(int line, int eda, Date date, int nendo, int getudo);
+    bool isUsed(int line) const;
+    void removeRows();
+    void askAndRemove();
+
+    Date today_;
+    PressEnter press_;
+};
+
+}  // namespace akarix
