@@ -182,14 +182,11 @@ TEST_F(MainMenu, WithoutAPasswordsRowTheChangeFails) {
 
 TEST_F(MainMenu, EachButtonOpensItsScreenOnce) {
     ASSERT_TRUE(start());
-    for (const auto& [button, screen] : std::map<int, QString>{{0, u"Slip_frm"_qs},
-                                                               {3, u"GTanka_frm"_qs},
-                                                               {4, u"MstHin_frm"_qs},
-                                                               {7, u"RepoSeikyu_frm"_qs},
-                                                               {8, u"RepoDaichou_frm"_qs},
-                                                               {12, u"MstRte_frm"_qs},
-                                                               {13, u"MstDeal_frm"_qs},
-                                                               {16, u"Seikyu_frm"_qs}}) {
+    const std::map<int, QString> screens{{0, u"Slip_frm"_qs},        {3, u"GTanka_frm"_qs},
+                                         {4, u"MstHin_frm"_qs},      {7, u"RepoSeikyu_frm"_qs},
+                                         {8, u"RepoDaichou_frm"_qs}, {12, u"MstRte_frm"_qs},
+                                         {13, u"MstDeal_frm"_qs},    {16, u"Seikyu_frm"_qs}};
+    for (const auto& [button, screen] : screens) {
         press(button);
         ASSERT_TRUE(clerk.isOpen(screen)) << screen.toStdString();
         const QList<QWidget*> shown = shownForms();
@@ -202,7 +199,7 @@ TEST_F(MainMenu, EachButtonOpensItsScreenOnce) {
         EXPECT_NE(clerk.text("ebox(0)"), cleared) << "and made ready again";
     }
     press(10);
-    EXPECT_EQ(shownForms().size(), 8) << "the dead button";
+    EXPECT_EQ(static_cast<std::size_t>(shownForms().size()), screens.size() + 1) << "the dead button";
 }
 
 TEST_F(MainMenu, AllShiftKeysOnAButtonAreAPressOnTheButton) {
