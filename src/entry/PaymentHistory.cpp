@@ -107,6 +107,17 @@ void gatherPayments(std::int32_t deal, int nendo, int getudo) {
 
 }  // namespace
 
+LedgerMonth LatestLedgerMonth() {
+    LedgerMonth month;
+    Recordset latest =
+        gDb->OpenRecordset(QStringLiteral("SELECT TOP 1 * FROM TtoD ORDER BY Nendo*100+Getudo DESC"));
+    if (!latest.Eof()) {
+        month = {integerOf(latest[QStringLiteral("Nendo")]), integerOf(latest[QStringLiteral("Getudo")])};
+    }
+    latest.Close();
+    return month;
+}
+
 void EmptyHistory(FlexGrid& list) {
     list.SetCols(static_cast<int>(kHeads.size()));
     list.SetFixedRows(1);

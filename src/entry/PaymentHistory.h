@@ -6,6 +6,15 @@ namespace akarix {
 
 class FlexGrid;
 
+/// A billing month; 0 and 0 where there is none.
+struct LedgerMonth {
+    std::int16_t Nendo = 0;
+    std::int16_t Getudo = 0;
+};
+
+/// The month up to which the ledger reaches, of whichever customer: where a history ends.
+LedgerMonth LatestLedgerMonth();
+
 /// Gives the grid its six columns and empties it down to its head row.
 void EmptyHistory(FlexGrid& list);
 

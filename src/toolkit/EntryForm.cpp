@@ -37,6 +37,19 @@ EntryForm::PressEnter EntryForm::wireKeys(const ControlArray<TextBox>& boxes, En
     return press;
 }
 
+void EntryForm::wireKeys(const ControlArray<ComboBox>& lists) {
+    on(lists, &ComboBox::KeyDown, [this, lists](int index, KeyEvent& event) {
+        if (event.KeyCode != key::Return && event.KeyCode != key::Tab) return;  // Up chooses here
+        const int place = TabIndex(&lists(index));
+        if (MapEditKey(event.KeyCode, event.Shift) == key::Return) {
+            NextField(*this, place);
+        } else {
+            PrevField(*this, place);
+        }
+        event.KeyCode = 0;
+    });
+}
+
 void EntryForm::wireLookup(Image& picture, const QString& table, const QString& mode, TextBox& box,
                            const PressEnter& press, int field) {
     WireLookup(*this, picture, table, mode, box, [press, field] { press(field); });

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "platform/forms/ComboBox.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/Label.h"
 #include "platform/forms/TextBox.h"
@@ -25,6 +26,8 @@ class EntryForm : public Form {
 
     /// Wires the keys of an array of fields. May be called for each array of a form.
     PressEnter wireKeys(const ControlArray<TextBox>& boxes, EnterRule enter);
+    /// The same for lists, which ask nothing: Enter and Tab go on, Shift+Tab goes back, the arrows choose.
+    void wireKeys(const ControlArray<ComboBox>& lists);
 
     /// Wires a lookup picture: the code picked there goes into `box`, then Enter is pressed in field `field`.
     void wireLookup(Image& picture, const QString& table, const QString& mode, TextBox& box,

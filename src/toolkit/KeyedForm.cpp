@@ -36,7 +36,7 @@ void KeyedForm::init() {
     clear();
 }
 
-void KeyedForm::addBar(const std::vector<BarButton>& buttons) {
+void KeyedForm::addBar(const std::vector<BarButton>& buttons, QVBoxLayout* place) {
     const auto add = [this](CommandButton* button) {
         JoinWalk(*this, *button);
         buttonRow_->addWidget(button);
@@ -47,8 +47,9 @@ void KeyedForm::addBar(const std::vector<BarButton>& buttons) {
     buttonRow_->addStretch();
     add(cmdLeft_);
     add(cmdRight_);
-    body_->addStretch();
-    body_->addLayout(buttonRow_);
+    QVBoxLayout* around = place ? place : body_;
+    around->addStretch();
+    around->addLayout(buttonRow_);
     on(cmdLeft_, &CommandButton::Click, [this] { walk(left_); });
     on(cmdRight_, &CommandButton::Click, [this] { walk(right_); });
 }

@@ -26,7 +26,8 @@ class KeyedForm : public EntryForm {
         QString caption;
     };
     /// The buttons in the order of the walk, the walkers behind them at the right. The screen wires Btn.
-    void addBar(const std::vector<BarButton>& buttons);
+    /// \param place where the bar stands; below everything else where none is given.
+    void addBar(const std::vector<BarButton>& buttons, QVBoxLayout* place = nullptr);
     /// The statements whose first row is the neighbour; %1 stands for the code.
     void setWalk(const QString& left, const QString& right);
 

@@ -1,0 +1,356 @@
+#include "entry/SlipN2_frm.h"
+
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+#include "dialogs/ShowAlert.h"
+#include "entry/OpeningBalance.h"
+#include "entry/PaymentHistory.h"
+#include "entry/PaymentLedger.h"
+#include "platform/forms/FieldLayout.h"
+#include "platform/forms/FlexGrid.h"
+#include "platform/runtime/CInt.h"
+#include "platform/runtime/CLng.h"
+#include "platform/runtime/DatePart.h"
+#include "platform/runtime/Format.h"
+#include "store/Lookup.h"
+#include "toolkit/DateBox.h"
+#include "toolkit/FieldWalk.h"
+#include "toolkit/Lookups.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+
+namespace akarix {
+
+namespace {
+
+enum Box {
+    kNumber,
+    kCustomer,
+    kDate,
+    kOpeningYear = 4,
+    kOpeningMonth,
+    kOpeningAmount,
+    kHistoryYear,
+    kHistoryMonth
+};
+enum Button { kClear, kDelete, kSave, kSaveOpening, kShow };
+enum Picture { kPickSlip, kPickCustomer };
+
+constexpr int kCodeBytes = 8;
+constexpr int kDateBytes = 10;
+constexpr int kYearBytes = 4;
+constexpr int kMonthBytes = 2;
+// No figure of the store is longer: leaving a field never cuts one.
+constexpr int kFigureBytes = 20;
+constexpr int kFigureShown = 12;
+
+DocumentTexts texts() {
+    return {.highest = QStringLiteral("SELECT MAX(Dno) AS tDno FROM Dny"),
+            .left = QStringLiteral("SELECT * FROM Dny WHERE Dno<%1 ORDER BY Dno DESC,Hizuke DESC"),
+            .right = QStringLiteral("SELECT * FROM Dny WHERE Dno>%1 ORDER BY Dno ,Hizuke DESC")};
+}
+
+QString yen(Currency amount) {
+    return Format(amount, QStringLiteral("###,###,###"));
+}
+
+bool isMonth(double value) {
+    return value >= 1 && value <= 12;
+}
+
+}  // namespace
+
+SlipN2_frm::SlipN2_frm() : DocumentForm(QStringLiteral("SlipN2_frm"), QStringLiteral("入金入力"), texts()) {
+    constexpr int kBetweenColumns = 24;
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(kBetweenColumns);
+    columns->addLayout(layOutSlip());
+    columns->addLayout(layOutHistory(), 1);
+    body().addLayout(columns, 1);
+    // Last in the walk: its month holds the keyboard until it is one.
+    body().addWidget(layOutOpening());
+    wire();
+}
+
+// ---- layout
+
+QVBoxLayout* SlipN2_frm::layOutSlip() {
+    constexpr int kBetweenGroups = 12;
+    auto* column = new QVBoxLayout;
+    column->setSpacing(kBetweenGroups);
+    layOutHead(*column);
+    layOutLines(*column);
+    addBar({{kSave, QStringLiteral("入金保存")},
+            {kClear, QStringLiteral("画面クリア")},
+            {kDelete, QStringLiteral("削除")}},
+           column);
+    return column;
+}
+
+void SlipN2_frm::layOutHead(QVBoxLayout& column) {
+    constexpr int kNameBytes = 30;
+    FieldLayout head(*this);
+    head.row(QStringLiteral("伝票番号"))
+        .text(addBox(ebox, kNumber, ImeMode::Off), kCodeBytes)
+        .lookup(F6.add(kPickSlip, new Image));
+    head.row(QStringLiteral("得意先"))
+        .text(addBox(ebox, kCustomer, ImeMode::Off), kCodeBytes)
+        .lookup(F6.add(kPickCustomer, new Image))
+        .name(addName(QStringLiteral("sNamae")), kNameBytes);
+    head.row(QStringLiteral("入金日")).text(addBox(ebox, kDate, ImeMode::Off), kDateBytes);
+    column.addLayout(head.layout());
+}
+
+void SlipN2_frm::layOutLines(QVBoxLayout& column) {
+    constexpr int kClassShown = 12;
+    constexpr int kTextBytes = 40;
+    constexpr int kTextShown = 24;
+    LineLayout lines(*this);
+    lines.head(QStringLiteral("区分"));
+    lines.head(QStringLiteral("金額"), Qt::AlignRight);
+    lines.head(QStringLiteral("内容"));
+    for (int line = 0; line < PaymentSlip::kLines; ++line) {
+        lines.cell(line, 0).combo(dKubun.add(line, new ComboBox), kClassShown);
+        TextBox& amount = addBox(eGaku, line, ImeMode::Off);
+        amount.setAlignment(Qt::AlignRight);
+        lines.cell(line, 1).text(amount, kFigureBytes, kFigureShown);
+        lines.cell(line, 2).text(addBox(eNaiyo, line, ImeMode::Hiragana), kTextBytes, kTextShown);
+    }
+    Label& total = addName(QStringLiteral("sTotal"));
+    total.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    constexpr int kUnderFigures = 6;  // the amounts above stand that far from their frames
+    total.setIndent(kUnderFigures);
+    auto* caption = new Label(QStringLiteral("合計"));
+    caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lines.layout()->addWidget(caption, PaymentSlip::kLines + 1, 0);
+    lines.layout()->addWidget(&total, PaymentSlip::kLines + 1, 1);
+    column.addLayout(lines.layout());
+}
+
+QVBoxLayout* SlipN2_frm::layOutHistory() {
+    FieldLayout start(*this);
+    ledgerEnd_ = &Named(new Label({}, this), QStringLiteral("ledgerEnd"));
+    ledgerEnd_->setForegroundRole(QPalette::PlaceholderText);
+    start.row(QStringLiteral("売掛表示年月"))
+        .text(addBox(ebox, kHistoryYear, ImeMode::Off), kYearBytes)
+        .note(QStringLiteral("年"))
+        .text(addBox(ebox, kHistoryMonth, ImeMode::Off), kMonthBytes)
+        .note(QStringLiteral("月から"))
+        .button(Btn.add(kShow, new CommandButton(QStringLiteral("表示"))))
+        .widget(ledgerEnd_);
+
+    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    EmptyHistory(*List_);
+    int width = 0;
+    for (int col = 0; col < List_->Cols(); ++col) {
+        width += Twips(List_->ColWidth(col));
+    }
+    constexpr int kScrollBar = 24;
+    constexpr int kHeight = 300;
+    List_->setMinimumSize(width + kScrollBar, kHeight);
+
+    auto* column = new QVBoxLayout;
+    column->addLayout(start.layout());
+    column->addWidget(List_, 1);
+    return column;
+}
+
+QGroupBox* SlipN2_frm::layOutOpening() {
+    auto* group = new QGroupBox(QStringLiteral("初期繰越の作成"), this);
+    auto* line = new QHBoxLayout(group);
+    line->addStretch();
+    TextBox& amount = addBox(ebox, kOpeningAmount, ImeMode::Off);
+    amount.setAlignment(Qt::AlignRight);
+    FieldLine(*this, line)
+        .text(addBox(ebox, kOpeningYear, ImeMode::Off), kYearBytes)
+        .note(QStringLiteral("年"))
+        .text(addBox(ebox, kOpeningMonth, ImeMode::Off), kMonthBytes)
+        .note(QStringLiteral("月請求の前回請求額"))
+        .text(amount, kFigureBytes, kFigureShown)
+        .button(Btn.add(kSaveOpening, new CommandButton(QStringLiteral("繰越保存"))))
+        .note(QStringLiteral("初期繰り越しの削除は0でエンター"));
+    return group;
+}
+
+void SlipN2_frm::wire() {
+    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
+    const auto goOn = [](int) { return true; };
+    wireKeys(eGaku, goOn);
+    wireKeys(eNaiyo, goOn);
+    wireKeys(dKubun);
+    on(eGaku, &TextBox::LostFocus, [this](int line) {
+        eGaku(line).SetText(yen(ToCurrency(eGaku(line).Text())));
+        showTotal();
+    });
+    WireLookup(
+        *this, F6(kPickSlip),
+        [this] { return requireCustomer() ? PickPayment(number(kCustomer)) : QString(); }, ebox(kNumber),
+        [press] { press(kNumber); });
+    wireLookup(F6(kPickCustomer), QStringLiteral("Deal"), {}, ebox(kCustomer), press, kCustomer);
+    const auto onPress = [this](Button button, void (SlipN2_frm::*action)()) {
+        on(&Btn(button), &CommandButton::Click, [this, action] { (this->*action)(); });
+    };
+    onPress(kClear, &SlipN2_frm::clear);
+    onPress(kDelete, &SlipN2_frm::remove);
+    onPress(kSave, &SlipN2_frm::save);
+    onPress(kSaveOpening, &SlipN2_frm::saveOpening);
+    onPress(kShow, &SlipN2_frm::showHistory);
+}
+
+// ---- the slip on the screen
+
+void SlipN2_frm::init() {
+    for (const auto& [line, list] : dKubun) {
+        FillCombo(QStringLiteral("SELECT Code,Namae FROM NyukinKubun ORDER BY Code"), *list, true);
+    }
+    showLedgerEnd();
+    clear();
+}
+
+void SlipN2_frm::fromexe(std::int32_t& Dno) {
+    openDocument(Dno);
+}
+
+void SlipN2_frm::showDefaults() {
+    EmptyHistory(*List_);
+}
+
+void SlipN2_frm::load() {
+    const PaymentSlip slip = LoadPayment(number(kNumber));
+    const QString typed = ebox(kNumber).Text();
+    const QString customer = ebox(kCustomer).Text();
+    if (slip.Dno != 0) {
+        ClearControls(*this);
+        ebox(kNumber).SetText(typed);
+        return show(slip);
+    }
+    clear();
+    ebox(kNumber).SetText(typed);
+    ebox(kCustomer).SetText(customer);
+    if (number(kCustomer) != 0) showCustomer();
+}
+
+void SlipN2_frm::show(const PaymentSlip& slip) {
+    ebox(kCustomer).SetText(NumStr(slip.Deal));
+    showCustomer();
+    ShowDate(slip.Hizuke, ebox(kDate));
+    for (const auto& [line, list] : dKubun) {
+        const PaymentLine& paid = slip.lines[static_cast<std::size_t>(line)];
+        ComboSelect(*list, paid.Kubun);
+        eGaku(line).SetText(yen(paid.Gaku));
+        eNaiyo(line).SetText(paid.Naiyo);
+    }
+    showTotal();
+    const int year = Year(slip.Hizuke);
+    const int month = Month(slip.Hizuke);
+    ebox(kHistoryYear).SetText(NumStr(year));
+    ebox(kHistoryMonth).SetText(NumStr(month));
+    ShowPaymentHistory(*List_, slip.Deal, year, month);
+}
+
+void SlipN2_frm::showCustomer() {
+    nameLabel(QStringLiteral("sNamae")).SetCaption(GetDealName(number(kCustomer)));
+}
+
+void SlipN2_frm::showTotal() {
+    Currency total;
+    for (const auto& [line, box] : eGaku) {
+        total += ToCurrency(box->Text());
+    }
+    nameLabel(QStringLiteral("sTotal")).SetCaption(yen(total));
+}
+
+void SlipN2_frm::showLedgerEnd() {
+    const LedgerMonth end = LatestLedgerMonth();
+    ledgerEnd_->SetCaption(
+        end.Nendo == 0 ? QString()
+                       : QStringLiteral("売掛は%1年%2月まで").arg(NumStr(end.Nendo), NumStr(end.Getudo)));
+}
+
+bool SlipN2_frm::enter(int index) {
+    switch (index) {
+        case kNumber:
+            load();
+            return true;
+        case kCustomer:
+            showCustomer();
+            return true;
+        case kDate:
+            ShowDate(ReadDate(ebox(kDate)), ebox(kDate));
+            return true;
+        case kOpeningMonth:
+            return isMonth(NumVal(ebox(kOpeningMonth).Text()));
+        default:
+            return true;
+    }
+}
+
+// ---- the slip in the store
+
+std::int32_t SlipN2_frm::number(int index) const {
+    return CLng(NumVal(ebox(index).Text()));
+}
+
+PaymentSlip SlipN2_frm::slipOnScreen() const {
+    PaymentSlip slip{number(kNumber), number(kCustomer), ReadDate(ebox(kDate)), {}};
+    for (const auto& [line, list] : dKubun) {
+        slip.lines[static_cast<std::size_t>(line)] = {CInt(ComboValue(*list)), ToCurrency(eGaku(line).Text()),
+                                                      eNaiyo(line).Text()};
+    }
+    return slip;
+}
+
+bool SlipN2_frm::refuse(const QString& message, int index) {
+    ShowAlert(message);
+    FocusSelect(ebox(index));
+    return false;
+}
+
+bool SlipN2_frm::requireCustomer() {
+    return number(kCustomer) != 0 || refuse(QStringLiteral("得意先を入れてください。"), kCustomer);
+}
+
+bool SlipN2_frm::maySave() {
+    if (number(kNumber) == 0) return refuse(QStringLiteral("伝票番号を入れてください。"), kNumber);
+    if (!requireCustomer()) return false;
+    return ReadDate(ebox(kDate)) != Date() || refuse(QStringLiteral("入金日を入れてください。"), kDate);
+}
+
+void SlipN2_frm::save() {
+    if (!maySave()) return;
+    // The screen is read whole before anything is written: a text that is no amount costs no stored line.
+    SavePayment(slipOnScreen());
+    showLedgerEnd();
+    clear();
+}
+
+void SlipN2_frm::remove() {
+    const std::int32_t dno = number(kNumber);
+    if (dno == 0) return;
+    DeletePayment(dno, number(kCustomer), ReadDate(ebox(kDate)));
+    clear();
+}
+
+// ---- the customer's ledger
+
+void SlipN2_frm::saveOpening() {
+    const std::int16_t year = CInt(NumVal(ebox(kOpeningYear).Text()));
+    const std::int16_t month = CInt(NumVal(ebox(kOpeningMonth).Text()));
+    if (year == 0 || !isMonth(month) || !requireCustomer()) return;
+    const Currency amount = ToCurrency(ebox(kOpeningAmount).Text());
+    if (amount.IsZero()) {
+        RemoveOpeningBalance(number(kCustomer), year, month);
+    } else {
+        SetOpeningBalance(number(kCustomer), year, month, amount);
+    }
+    showLedgerEnd();
+    clear();
+}
+
+void SlipN2_frm::showHistory() {
+    ShowLedgerHistory(*List_, number(kCustomer), CInt(NumVal(ebox(kHistoryYear).Text())),
+                      CInt(NumVal(ebox(kHistoryMonth).Text())));
+}
+
+}  // namespace akarix

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "entry/DocumentForm.h"
+#include "platform/forms/ComboBox.h"
+
+class QGroupBox;
+class QVBoxLayout;
+
+namespace akarix {
+
+class FlexGrid;
+struct PaymentSlip;
+
+/// Takes a customer's payments, a slip of up to five lines at a time, beside what the customer owed from
+/// month to month; and keeps the balance with which a customer joins the ledger.
+class SlipN2_frm : public DocumentForm {
+ public:
+    SlipN2_frm();
+    void init() override;
+    /// Opens the screen on a slip; a number below 1 changes nothing.
+    void fromexe(std::int32_t& Dno);
+
+ private:
+    QVBoxLayout* layOutSlip();
+    void layOutHead(QVBoxLayout& column);
+    void layOutLines(QVBoxLayout& column);
+    QVBoxLayout* layOutHistory();
+    QGroupBox* layOutOpening();
+    void wire();
+
+    void showDefaults() override;
+    void load() override;
+    void show(const PaymentSlip& slip);
+    void showCustomer();
+    void showTotal();
+    void showLedgerEnd();
+    bool enter(int index);
+
+    std::int32_t number(int index) const;
+    PaymentSlip slipOnScreen() const;
+    bool maySave();
+    bool requireCustomer();
+    bool refuse(const QString& message, int index);
+
+    void save();
+    void remove();
+    void saveOpening();
+    void showHistory();
+
+    ControlArray<ComboBox> dKubun{QStringLiteral("dKubun")};
+    ControlArray<TextBox> eGaku{QStringLiteral("eGaku")};
+    ControlArray<TextBox> eNaiyo{QStringLiteral("eNaiyo")};
+    FlexGrid* List_ = nullptr;
+    Label* ledgerEnd_ = nullptr;
+};
+
+}  // namespace akarix
