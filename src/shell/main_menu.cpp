@@ -9,6 +9,7 @@
 #include "dialogs/AskText.h"
 #include "dialogs/ShowAlert.h"
 #include "entry/SlipG_frm.h"
+#include "entry/SlipN2_frm.h"
 #include "entry/Slip_frm.h"
 #include "masters/GTanka_frm.h"
 #include "masters/MstDeal_frm.h"
@@ -50,7 +51,7 @@ constexpr int kUnreachableConsignor = 10;
 constexpr std::array<BoardButton, 19> kBoard{{
     {0, 0, u"売上入力", &OpenScreen<Slip_frm>},
     {1, 0, u"検針入力", &OpenScreen<SlipG_frm>},
-    {2, 0, u"入金入力"},
+    {2, 0, u"入金入力", &OpenScreen<SlipN2_frm>},
     {kUnreachableConsignor, 0, u"銀行委託者設定"},
     {16, 1, u"請求処理", &OpenScreen<Seikyu_frm>},
     {5, 1, u"請求書印刷"},
