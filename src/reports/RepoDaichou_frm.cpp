@@ -4,6 +4,8 @@
 
 #include "dialogs/AskConfirm.h"
 #include "entry/SlipG_frm.h"
+#include "entry/SlipN2_frm.h"
+#include "entry/Slip_frm.h"
 #include "output/EX.h"
 #include "platform/forms/Choice.h"
 #include "platform/forms/FieldLayout.h"
@@ -152,6 +154,12 @@ void RepoDaichou_frm::openLine() {
     switch (row.kind) {
         case CustomerAccount::kGas:
             openReadings(row.date, shownCustomer_);
+            break;
+        case CustomerAccount::kSlip:
+            openDocument<Slip_frm>(row.number);
+            break;
+        case CustomerAccount::kPayment:
+            openDocument<SlipN2_frm>(row.number);
             break;
         default:
             break;

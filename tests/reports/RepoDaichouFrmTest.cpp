@@ -171,6 +171,23 @@ TEST_F(CustomerLedger, AGasLineOpensItsMonthsReading) {
     EXPECT_EQ(clerk.text("SlipG_frm/ebox(1)"), "3");
 }
 
+TEST_F(CustomerLedger, ASlipAndAPaymentOpenTheirDocuments) {
+    slip("0,1,CDATE('2023/03/06'),1,'番号なし',1,1,1,2023,3");
+    showAccount("3", "1");
+    ASSERT_EQ(list().TextMatrix(5, 2), "番号なし");
+    clerk.clickCell(list(), 5, 0);
+    EXPECT_EQ(clerk.window(), &clerk.form("RepoDaichou_frm")) << "a line without a number leads nowhere";
+
+    clerk.clickCell(list(), 6, 0);
+    EXPECT_EQ(clerk.window(), &clerk.form("Slip_frm"));
+    EXPECT_EQ(clerk.text("ebox(0)") + clerk.text("ebox(4)"), "12ホース");
+
+    clerk.bringToFront("RepoDaichou_frm");
+    clerk.clickCell(list(), 7, 0);
+    EXPECT_EQ(clerk.window(), &clerk.form("SlipN2_frm"));
+    EXPECT_EQ(clerk.text("ebox(0)") + "/" + clerk.text("sTotal"), "21/1,234");
+}
+
 // ---- to a workbook
 
 TEST_F(CustomerLedger, TheGridGoesToAWorkbook) {
