@@ -15,8 +15,6 @@
 
 namespace akarix {
 
-bool gPrintPreview = false;
-
 namespace {
 
 struct Workbook {

@@ -3,13 +3,11 @@
 #include <QString>
 
 #include "platform/jet/Recordset.h"
+#include "store/Settings.h"
 
 namespace akarix {
 
 class FlexGrid;
-
-/// True: pages are shown on the screen and go no further. False: they go to the current printer.
-extern bool gPrintPreview;
 
 /// The screen behind a paged report: it writes the cells.
 class ReportForm {

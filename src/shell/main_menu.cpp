@@ -15,7 +15,6 @@
 #include "masters/MstDeal_frm.h"
 #include "masters/MstHin_frm.h"
 #include "masters/MstRte_frm.h"
-#include "output/EX.h"
 #include "platform/forms/MsgBox.h"
 #include "platform/forms/SingleInstance.h"
 #include "platform/jet/Action.h"

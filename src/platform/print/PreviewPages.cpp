@@ -31,23 +31,33 @@ double PreviewPages::pixelsPerPoint() const {
     return std::max(0.05, (viewport()->width() - 2.0 * Gap) / widest);
 }
 
+QSize PreviewPages::documentSize() const {
+    const double scale = pixelsPerPoint();
+    double height = Gap;
+    double widest = 0;
+    for (const PrintPage& page : pages_) {
+        height += page.paper.height() * scale + Gap;
+        widest = std::max(widest, page.paper.width() * scale + 2 * Gap);
+    }
+    return QSizeF(widest, height).toSize();
+}
+
 void PreviewPages::layOut() {
     const double scale = pixelsPerPoint();
     tops_.clear();
     double y = Gap;
-    double widest = 0;
     for (const PrintPage& page : pages_) {
         tops_.push_back(y);
         y += page.paper.height() * scale + Gap;
-        widest = std::max(widest, page.paper.width() * scale + 2 * Gap);
     }
-    const auto setRange = [](QScrollBar* bar, double content, int view) {
-        bar->setRange(0, std::max(0, static_cast<int>(content) - view));
+    const QSize document = documentSize();
+    const auto setRange = [](QScrollBar* bar, int content, int view) {
+        bar->setRange(0, std::max(0, content - view));
         bar->setPageStep(view);
         bar->setSingleStep(40);
     };
-    setRange(verticalScrollBar(), y, viewport()->height());
-    setRange(horizontalScrollBar(), widest, viewport()->width());
+    setRange(verticalScrollBar(), document.height(), viewport()->height());
+    setRange(horizontalScrollBar(), document.width(), viewport()->width());
     viewport()->update();
 }
 
@@ -94,6 +104,10 @@ void PreviewPages::scrollContentsBy(int, int) {
 }
 
 void PreviewPages::keyPressEvent(QKeyEvent* event) {
+    if (pageCount() == 1) {  // there is no page to go to: the keys move on the one that is there
+        QAbstractScrollArea::keyPressEvent(event);
+        return;
+    }
     switch (event->key()) {
         case Qt::Key_PageDown:
             goTo(currentPage() + 1);

@@ -21,6 +21,8 @@ class PreviewPages : public QAbstractScrollArea {
     void goTo(int page);
     /// In percent of the paper's size; 0 fits the width of the window.
     void setZoom(int percent);
+    /// What all pages and the gaps around them take at the present zoom, in pixels.
+    QSize documentSize() const;
 
  signals:
     void currentPageChanged(int page);

@@ -1,0 +1,18 @@
+#include "platform/print/PrinterSurface.h"
+
+namespace akarix {
+
+PrinterSurface& PrinterSurface::Current() {
+    static PrinterSurface current;
+    return current;
+}
+
+void PrinterSurface::EndDoc() {
+    if (blank()) return;
+    PrintPage page = takePage();
+    const auto job = OpenPrinterSink(QStringLiteral("Akarix"));
+    job->add({std::move(page)});
+    job->finish();
+}
+
+}  // namespace akarix
