@@ -105,7 +105,7 @@ void SlipN2_frm::layOutHead(QVBoxLayout& column) {
 void SlipN2_frm::layOutLines(QVBoxLayout& column) {
     constexpr int kClassShown = 12;
     constexpr int kTextBytes = 40;
-    constexpr int kTextShown = 24;
+    constexpr int kTextShown = 32;
     LineLayout lines(*this);
     lines.head(QStringLiteral("区分"));
     lines.head(QStringLiteral("金額"), Qt::AlignRight);
