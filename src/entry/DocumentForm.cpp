@@ -3,6 +3,7 @@
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "values/NumStr.h"
+#include "values/NumVal.h"
 
 namespace akarix {
 
@@ -18,6 +19,10 @@ QString DocumentForm::proposedCode() {
 void DocumentForm::showRow(Recordset& row) {
     ebox(kCode).SetText(NumStr(longOf(row[QStringLiteral("Dno")])));
     load();
+}
+
+void DocumentForm::showCustomer(int index) {
+    nameLabel(QStringLiteral("sNamae")).SetCaption(GetDealName(NumVal(ebox(index).Text())));
 }
 
 void DocumentForm::openDocument(std::int32_t dno) {

@@ -3,7 +3,6 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
-#include "dialogs/ShowAlert.h"
 #include "entry/OpeningBalance.h"
 #include "entry/PaymentHistory.h"
 #include "entry/PaymentLedger.h"
@@ -13,7 +12,6 @@
 #include "platform/runtime/CLng.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
-#include "store/Lookup.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/FieldWalk.h"
 #include "toolkit/Lookups.h"
@@ -228,12 +226,12 @@ void SlipN2_frm::load() {
     clear();
     ebox(kNumber).SetText(typed);
     ebox(kCustomer).SetText(customer);
-    if (number(kCustomer) != 0) showCustomer();
+    if (number(kCustomer) != 0) showCustomer(kCustomer);
 }
 
 void SlipN2_frm::show(const PaymentSlip& slip) {
     ebox(kCustomer).SetText(NumStr(slip.Deal));
-    showCustomer();
+    showCustomer(kCustomer);
     ShowDate(slip.Hizuke, ebox(kDate));
     for (const auto& [line, list] : dKubun) {
         const PaymentLine& paid = slip.lines[static_cast<std::size_t>(line)];
@@ -247,10 +245,6 @@ void SlipN2_frm::show(const PaymentSlip& slip) {
     ebox(kHistoryYear).SetText(NumStr(year));
     ebox(kHistoryMonth).SetText(NumStr(month));
     ShowPaymentHistory(*List_, slip.Deal, year, month);
-}
-
-void SlipN2_frm::showCustomer() {
-    nameLabel(QStringLiteral("sNamae")).SetCaption(GetDealName(number(kCustomer)));
 }
 
 void SlipN2_frm::showTotal() {
@@ -274,7 +268,7 @@ bool SlipN2_frm::enter(int index) {
             load();
             return true;
         case kCustomer:
-            showCustomer();
+            showCustomer(kCustomer);
             return true;
         case kDate:
             ShowDate(ReadDate(ebox(kDate)), ebox(kDate));
@@ -299,12 +293,6 @@ PaymentSlip SlipN2_frm::slipOnScreen() const {
                                                       eNaiyo(line).Text()};
     }
     return slip;
-}
-
-bool SlipN2_frm::refuse(const QString& message, int index) {
-    ShowAlert(message);
-    FocusSelect(ebox(index));
-    return false;
 }
 
 bool SlipN2_frm::requireCustomer() {

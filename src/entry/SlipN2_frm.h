@@ -31,7 +31,6 @@ class SlipN2_frm : public DocumentForm {
     void showDefaults() override;
     void load() override;
     void show(const PaymentSlip& slip);
-    void showCustomer();
     void showTotal();
     void showLedgerEnd();
     bool enter(int index);
@@ -40,7 +39,6 @@ class SlipN2_frm : public DocumentForm {
     PaymentSlip slipOnScreen() const;
     bool maySave();
     bool requireCustomer();
-    bool refuse(const QString& message, int index);
 
     void save();
     void remove();

@@ -160,7 +160,7 @@ void Slip_frm::load() {
     ebox(kNumber).SetText(typed);
     ShowDateVar(rows[QStringLiteral("Hizuke")], ebox(kDate));
     ebox(kDeal).SetText(NumStr(longOf(rows[QStringLiteral("Deal")])));
-    showCustomer();
+    showCustomer(kDeal);
     for (int line = 0; line < kLines && !rows.Eof(); ++line, rows.MoveNext()) {
         showLine(line, rows);
     }
@@ -177,10 +177,6 @@ void Slip_frm::showLine(int line, Recordset& row) {
     ebox(boxes.gaku).SetText(yen(moneyOf(row[QStringLiteral("Gaku")])));
 }
 
-void Slip_frm::showCustomer() {
-    nameLabel(QStringLiteral("sNamae")).SetCaption(GetDealName(NumVal(ebox(kDeal).Text())));
-}
-
 // ---- Enter
 
 bool Slip_frm::enter(int index) {
@@ -192,7 +188,7 @@ bool Slip_frm::enter(int index) {
             ShowDate(ReadDate(ebox(kDate)), ebox(kDate));
             break;
         case kDeal:
-            showCustomer();
+            showCustomer(kDeal);
             break;
         default:
             for (int line = 0; line < kLines; ++line) {
@@ -236,11 +232,6 @@ Currency Slip_frm::figure(int index) const {
 // ---- the slip in the store
 
 bool Slip_frm::maySave(Date date) {
-    const auto refuse = [this](const QString& message, Box box) {
-        ShowAlert(message);
-        FocusSelect(ebox(box));
-        return false;
-    };
     if (NumVal(ebox(kNumber).Text()) == 0.0) {
         return refuse(QStringLiteral("伝票番号は不正です。"), kNumber);
     }

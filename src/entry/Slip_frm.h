@@ -22,7 +22,6 @@ class Slip_frm : public DocumentForm {
     void showDefaults() override;
     void load() override;
     void showLine(int line, Recordset& row);
-    void showCustomer();
 
     bool enter(int index);
     void enterLine(int line, int index);

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "dialogs/ShowAlert.h"
 #include "platform/forms/FieldLayout.h"
 #include "store/dbAccess.h"
 #include "toolkit/FieldWalk.h"
@@ -81,6 +82,12 @@ void KeyedForm::clear() {
     showDefaults();
     ebox(kCode).SetText(proposedCode());
     FocusSelect(ebox(kCode));
+}
+
+bool KeyedForm::refuse(const QString& message, int index) {
+    ShowAlert(message);
+    FocusSelect(ebox(index));
+    return false;
 }
 
 void KeyedForm::walk(const QString& sql) {

@@ -41,6 +41,8 @@ class KeyedForm : public EntryForm {
     /// The code as it goes into a statement.
     QString codeText() const;
     void clear();
+    /// Tells what a field lacks and goes there; gives False.
+    bool refuse(const QString& message, int index);
 
     /// The code a cleared screen proposes.
     virtual QString proposedCode() = 0;

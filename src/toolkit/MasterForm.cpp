@@ -3,7 +3,6 @@
 #include <QVBoxLayout>
 
 #include "dialogs/AskConfirm.h"
-#include "dialogs/ShowAlert.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
 #include "store/Lookup.h"
@@ -131,17 +130,11 @@ void MasterForm::showName(const MasterField& field) {
 // ---- the row in the store
 
 bool MasterForm::require(int index, const QString& message) {
-    if (HasText(ebox(index).Text())) return true;
-    ShowAlert(message);
-    FocusSelect(ebox(index));
-    return false;
+    return HasText(ebox(index).Text()) || refuse(message, index);
 }
 
 bool MasterForm::maySave() {
-    if (NumVal(ebox(kCode).Text()) != 0.0) return true;
-    ShowAlert(QStringLiteral("コード番号は不正です。"));
-    FocusSelect(ebox(kCode));
-    return false;
+    return NumVal(ebox(kCode).Text()) != 0.0 || refuse(QStringLiteral("コード番号は不正です。"), kCode);
 }
 
 void MasterForm::save() {
