@@ -17,7 +17,8 @@ void Clear(Totals& totals) {
     std::fill_n(totals.begin(), TotalledColumns, Currency());
 }
 
-/// The caption stands where the first column does, which prints over it when it has a total.
+/// The caption stands where the first column does, which prints over it when it has a total. A total moves
+/// the pen on like any text, and the column's width comes on top of that.
 void PrintTotals(PrintReport& report, PrintSurface& surface, const QString& caption, const Totals& totals) {
     Pen& pen = report.pen;
     pen.PenX = report.DetailLeft;

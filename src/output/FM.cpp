@@ -21,9 +21,11 @@ FM::FM(PrintPage page, int number)
     // The title bar and the desk's own bars need some of the screen's height.
     constexpr int titleBar = 48;
     const QSize room = screen()->availableGeometry().size() - QSize(0, titleBar);
-    resize(shown->documentSize()
-               .grownBy({0, 0, shown->verticalScrollBar()->sizeHint().width(), 0})
-               .boundedTo(room));
+    const int scrollBar = shown->verticalScrollBar()->sizeHint().width();
+    const QSize whole = shown->documentSize() + QSize(scrollBar, 0);
+    if (whole.width() > room.width())
+        shown->setZoom(0);  // a page is read line by line: its width must be seen
+    resize(whole.boundedTo(room));
     shown->setFocus();
 }
 

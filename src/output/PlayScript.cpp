@@ -134,8 +134,9 @@ Handler HandlerOf(const QString& tag) {
 }  // namespace
 
 void PlayScript(PrintReport& report, PrintSurface& surface) {
-    for (const QString& text : report.ScriptLines) {
-        const ScriptLine line(text);
+    // Counted, since an owner may add lines from its background.
+    for (size_t i = 0; i < report.ScriptLines.size(); ++i) {
+        const ScriptLine line(report.ScriptLines[i]);
         HandlerOf(line.tag)(report, surface, line.argument);
     }
 }

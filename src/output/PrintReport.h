@@ -12,6 +12,7 @@
 
 namespace akarix {
 
+class PrintSurface;
 class ReportOwner;
 
 /// All that the print engine knows of a report: filled by the caller before the run, moved on by it.
@@ -20,7 +21,8 @@ struct PrintReport {
     static constexpr int MaxColumns = 100;
 
     std::vector<QString> ScriptLines;
-    ReportOwner* Owner = nullptr;  ///< stays from report to report
+    ReportOwner* Owner = nullptr;     ///< stays from report to report
+    PrintSurface* Surface = nullptr;  ///< of the run under way, for the owner to draw on
     Pen pen;
     Int16 PageNo = 1;
 

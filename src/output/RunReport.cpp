@@ -10,6 +10,7 @@ namespace {
 
 void RunPages(PrintReport& report, PrintSurface& surface) {
     DetailRows rows(report, surface);
+    report.Surface = &surface;
     report.RowsOnPage = 0;
     for (bool ended = false; !ended;) {
         PlayScript(report, surface);
@@ -26,7 +27,9 @@ void RunPages(PrintReport& report, PrintSurface& surface) {
 void RunReport(PrintReport& report, PrintSurface& surface) {
     try {
         RunPages(report, surface);
+        report.Surface = nullptr;
     } catch (...) {
+        report.Surface = nullptr;
         surface.Cls();  // half a page would come out with the next report
         throw;
     }

@@ -294,6 +294,15 @@ TEST_F(PbDetailTest, MoreColumnsThanThereAreAreAnError) {
     EXPECT_EQ(run(), 9);
 }
 
+TEST_F(PbDetailTest, ATotalMovesTheNextOneByItsOwnWidth) {
+    column("後", "Gaku", "N", "#,##0").WithTotal = true;
+    rows({"1,'a',1500"});
+    EXPECT_EQ(run(), 0);
+    EXPECT_TRUE(surface.calls.contains("text 1250,1300 1,500"));
+    EXPECT_TRUE(surface.calls.contains("text 650,1600 1,500"));
+    EXPECT_TRUE(surface.calls.contains("text 1750,1600 1,500"));
+}
+
 TEST_F(PbDetailTest, OnlyTwentyColumnsAreTotalled) {
     report.ColCount = 0;
     for (int i = 0; i < 21; ++i) {

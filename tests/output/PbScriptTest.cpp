@@ -119,19 +119,27 @@ TEST_F(PbScriptTest, AScriptHolds3001Lines) {
 }
 
 TEST_F(PbScriptTest, AnOwnerDrawsTheBackgroundAndStaysWithTheNextReport) {
+    PrintReport report;
     class Owner : public ReportOwner {
      public:
-        void BKGRD() override { ++backgrounds; }
+        explicit Owner(PrintReport& report) : report_(report) {}
+        void BKGRD() override {
+            report_.Surface->Line(1, 2, 3, 4);
+            report_.AddLine("added");
+        }
         void NoTotalAction() override {}
         QString alpha(Int16) override { return {}; }
-        int backgrounds = 0;
-    } owner;
-    PrintReport report;
+
+     private:
+        PrintReport& report_;
+    } owner(report);
     RecordingSurface surface;
     report.Owner = &owner;
-    Print(report, surface, {"<BKGRD>x"});
-    Print(report, surface, {"<BKGRD>"});
-    EXPECT_EQ(owner.backgrounds, 2);
+    Print(report, surface, {"<FREE>0,100,x"});
+    const QStringList drawn = {"line 1,2 3,4", "text 0,0 added", "end"};
+    EXPECT_EQ(Print(report, surface, {"<BKGRD>x"}), drawn);
+    EXPECT_EQ(Print(report, surface, {"<BKGRD>"}), drawn);
+    EXPECT_EQ(report.Surface, nullptr);
 }
 
 }  // namespace

@@ -1,8 +1,12 @@
 #pragma once
 
 #include <QProcess>
+#include <QRectF>
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
+#include <utility>
+#include <vector>
 
 namespace akarix {
 
@@ -17,6 +21,24 @@ inline QStringList PdfPages(const QString& path) {
         page.remove(QLatin1Char(' ')).remove(QLatin1Char('\n'));
     }
     return pages;
+}
+
+/// The words of a PDF file with their boxes in points from the paper's corner.
+inline std::vector<std::pair<QString, QRectF>> PdfWords(const QString& path) {
+    QProcess tool;
+    tool.start(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), path, QStringLiteral("-")});
+    tool.waitForFinished();
+    static const QRegularExpression word(QStringLiteral(
+        "<word xMin=\"([\\d.]+)\" yMin=\"([\\d.]+)\" xMax=\"([\\d.]+)\" yMax=\"([\\d.]+)\">(.*)</word>"));
+    auto found = word.globalMatch(QString::fromUtf8(tool.readAllStandardOutput()));
+    std::vector<std::pair<QString, QRectF>> words;
+    while (found.hasNext()) {
+        const auto match = found.next();
+        const auto number = [&](int n) { return match.captured(n).toDouble(); };
+        words.emplace_back(match.captured(5),
+                           QRectF(QPointF(number(1), number(2)), QPointF(number(3), number(4))));
+    }
+    return words;
 }
 
 }  // namespace akarix

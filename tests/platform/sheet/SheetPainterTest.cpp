@@ -4,8 +4,6 @@
 
 #include <QImage>
 #include <QPdfWriter>
-#include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "platform/print/PdfText.h"
@@ -30,18 +28,7 @@ class PaintedPage {
                        static_cast<int>(pages.size()));
         }
         text = PdfPages(path).value(0);
-        QProcess tool;
-        tool.start("pdftotext", {"-bbox", path, "-"});
-        tool.waitForFinished();
-        static const QRegularExpression word(
-            "<word xMin=\"([\\d.]+)\" yMin=\"([\\d.]+)\" xMax=\"([\\d.]+)\" yMax=\"([\\d.]+)\">(.*)</word>");
-        auto found = word.globalMatch(QString::fromUtf8(tool.readAllStandardOutput()));
-        while (found.hasNext()) {
-            const auto match = found.next();
-            const auto number_ = [&](int n) { return match.captured(n).toDouble(); };
-            words_.push_back({match.captured(5),
-                              QRectF(QPointF(number_(1), number_(2)), QPointF(number_(3), number_(4)))});
-        }
+        words_ = PdfWords(path);
     }
 
     QRectF box(const QString& word) const {
