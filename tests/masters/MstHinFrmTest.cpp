@@ -61,7 +61,7 @@ TEST_F(ItemMaster, SavesNothingWithoutCodeAndName) {
     for (const Case& c : {Case{"0", u"", u"コード番号は不正です。", u"ebox(0)"},
                           {"0", u"名", u"コード番号は不正です。", u"ebox(0)"},
                           {"5", u"", u"商品名を入れて下さい。", u"ebox(2)"},
-                          {"5", u"　", u"商品名を入れて下さい。", u"ebox(2)"}}) {
+                          {"5", u"  ", u"商品名を入れて下さい。", u"ebox(2)"}}) {
         clerk.click(u"Btn(0)"_qs);
         clerk.fill(c.code);
         clerk.enter();
