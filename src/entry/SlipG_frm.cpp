@@ -20,7 +20,9 @@
 #include "platform/runtime/IsDate.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
+#include "toolkit/CellBox.h"
 #include "toolkit/FieldWalk.h"
+#include "toolkit/FilterTerms.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 
@@ -109,7 +111,8 @@ SlipG_frm::SlipG_frm() : EntryForm(QStringLiteral("SlipG_frm"), QStringLiteral("
     on(&Btn(kDelete), &CommandButton::Click, [this] { askAndDelete(); });
     on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
     on(&Btn(kExport), &CommandButton::Click, [this] { exportGrid(); });
-    wireGrid();
+    WireCellBox(
+        *this, *List_, *tBox_, [this] { openEditor(); }, [this](KeyEvent& event) { cellKey(event); });
 }
 
 SlipG_frm::~SlipG_frm() {
@@ -160,17 +163,6 @@ void SlipG_frm::layOut() {
     body->addLayout(ButtonBar(*this, Btn,
                               {QStringLiteral("画面クリア"), QStringLiteral("削除"), QStringLiteral("保存"),
                                QStringLiteral("Excel")}));
-}
-
-void SlipG_frm::wireGrid() {
-    on(List_, &FlexGrid::Click, [this] { openEditor(); });
-    on(List_, &FlexGrid::RowColChange, [this] { openEditor(); });
-    on(List_, &FlexGrid::Scroll, [this] { closeEditor(); });
-    on(List_, &FlexGrid::KeyDown, [this](KeyEvent& event) {
-        if (event.KeyCode == key::Return) openEditor();
-    });
-    on(tBox_, &TextBox::KeyDown, [this](KeyEvent& event) { cellKey(event); });
-    on(tBox_, &TextBox::LostFocus, [this] { tBox_->hide(); });
 }
 
 void SlipG_frm::defineColumns() {
@@ -244,12 +236,7 @@ void SlipG_frm::takeRouteDay() {
 }
 
 QString SlipG_frm::filter() const {
-    QString terms;
-    const double route = NumVal(ebox(kRoute).Text());
-    if (route > 0) terms += QStringLiteral(" AND Deal.Rte=") + NumStr(route);
-    const double customer = NumVal(ebox(kCustomer).Text());
-    if (customer > 0) terms += QStringLiteral(" AND Deal.Code=") + NumStr(customer);
-    return terms;
+    return FilterTerms({{ebox(kRoute), u" AND Deal.Rte="}, {ebox(kCustomer), u" AND Deal.Code="}});
 }
 
 MonthReadings SlipG_frm::month() const {
@@ -345,14 +332,8 @@ void SlipG_frm::exportGrid() {
 
 void SlipG_frm::openEditor() {
     if (List_->Rows() <= 1) return;
-    if (!gCols[List_->Col()].Editable) closeEditor();
+    if (!gCols[List_->Col()].Editable) LeaveCell(*List_, *tBox_);
     GridEdit();
-}
-
-/// Hands the keyboard back to the grid; the box hides as it loses it, and with it what was not confirmed.
-void SlipG_frm::closeEditor() {
-    if (tBox_->isVisible()) SetFocus(List_);
-    tBox_->hide();
 }
 
 void SlipG_frm::cellKey(KeyEvent& event) {
@@ -361,7 +342,7 @@ void SlipG_frm::cellKey(KeyEvent& event) {
         confirmCell();
     } else if (event.KeyCode == key::Escape) {
         event.KeyCode = 0;
-        closeEditor();
+        LeaveCell(*List_, *tBox_);
     }
 }
 
@@ -373,7 +354,7 @@ void SlipG_frm::confirmCell() {
         case kColKoukanGoMeter:
         case kColGaku:
             List_->SetText(tBox_->Text());
-            closeEditor();
+            LeaveCell(*List_, *tBox_);
             break;
         case kColKonkaiMeter:
             List_->SetText(tBox_->Text());
@@ -387,7 +368,7 @@ void SlipG_frm::confirmCell() {
         case kColHi:
             if (!isDayOfMonth(tBox_->Text())) break;
             List_->SetText(tBox_->Text());
-            closeEditor();
+            LeaveCell(*List_, *tBox_);
             break;
         default:
             break;

@@ -26,7 +26,6 @@ class SlipG_frm : public EntryForm, public GridForm {
 
  private:
     void layOut();
-    void wireGrid();
     void defineColumns();
     bool enter(int index);
     void takeRouteDay();
@@ -41,7 +40,6 @@ class SlipG_frm : public EntryForm, public GridForm {
     void exportGrid();
 
     void openEditor();
-    void closeEditor();
     void cellKey(KeyEvent& event);
     void confirmCell();
     void calculateRow(int row);

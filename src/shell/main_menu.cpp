@@ -11,6 +11,7 @@
 #include "entry/SlipG_frm.h"
 #include "entry/SlipN2_frm.h"
 #include "entry/Slip_frm.h"
+#include "entry/TorZan_frm.h"
 #include "masters/GTanka_frm.h"
 #include "masters/MstDeal_frm.h"
 #include "masters/MstHin_frm.h"
@@ -57,7 +58,7 @@ constexpr std::array<BoardButton, 19> kBoard{{
     {7, 1, u"請求一覧表", &OpenScreen<RepoSeikyu_frm>},
     {8, 1, u"消費先台帳", &OpenScreen<RepoDaichou_frm>},
     {13, 2, u"得意先", &OpenScreen<MstDeal_frm>},
-    {17, 2, u"得意先初期残"},
+    {17, 2, u"得意先初期残", &OpenScreen<TorZan_frm>},
     {3, 2, u"料金表", &OpenScreen<GTanka_frm>},
     {4, 2, u"商品", &OpenScreen<MstHin_frm>},
     {9, 2, u"リース料金"},

@@ -6,7 +6,7 @@
 
 #include "platform/forms/Control.h"
 #include "platform/runtime/RuntimeError.h"
-#include "toolkit/FieldWalk.h"
+#include "toolkit/CellBox.h"
 
 namespace akarix {
 
@@ -37,26 +37,14 @@ void tried(const std::function<void()>& step) {
     }
 }
 
-QPoint placeOf(const QRect& cell, const QWidget& overlay) {
-    const QPoint place = gGrid->mapToGlobal(cell.topLeft());
-    return overlay.parentWidget() ? overlay.parentWidget()->mapFromGlobal(place) : place;
-}
-
 void editInBox(TextBox& box, const GridColumn& kind) {
-    const QRect cell = gGrid->CellRect();
-    box.setFont(gGrid->font());
-    box.setGeometry(QRect(placeOf(cell, box), cell.size()));
-    box.show();
-    box.raise();
-    box.SetText(gGrid->TextMatrix(gGrid->Row(), gGrid->Col()));
     box.SetIMEMode(static_cast<ImeMode>(kind.Ime));
-    FocusSelect(box);
+    EditCell(*gGrid, box);
 }
 
 void editInCombo(ComboBox& combo) {
-    const QRect cell = gGrid->CellRect();
-    combo.move(placeOf(cell, combo));
-    combo.resize(cell.width(), combo.height());
+    const QRect cell = CellUnder(*gGrid, combo);
+    combo.setGeometry(QRect(cell.topLeft(), QSize(cell.width(), combo.height())));
     combo.show();
     combo.raise();
     tried([] { gGridForm->SetCombo(gGridName); });

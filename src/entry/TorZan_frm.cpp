@@ -1,0 +1,226 @@
+#include "entry/TorZan_frm.h"
+
+#include <QVBoxLayout>
+#include <array>
+
+#include "entry/OpeningBalance.h"
+#include "platform/forms/FieldLayout.h"
+#include "platform/forms/FlexGrid.h"
+#include "platform/forms/GridHead.h"
+#include "platform/runtime/CCur.h"
+#include "platform/runtime/CInt.h"
+#include "platform/runtime/CLng.h"
+#include "platform/runtime/Format.h"
+#include "store/FieldValue.h"
+#include "store/Lookup.h"
+#include "store/dbAccess.h"
+#include "toolkit/CellBox.h"
+#include "toolkit/FieldWalk.h"
+#include "toolkit/FilterTerms.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+namespace {
+
+enum Box { kYear, kMonth, kRoute, kCustomer };
+enum Picture { kPickRoute, kPickCustomer };
+enum Button { kClose, kClear, kShow, kSave = 10 };
+enum Column { kColCode, kColNamae, kColMonth, kColZan, kColumns };
+
+constexpr std::array<GridHead, kColumns> kHeads{{
+    {u"ｺｰﾄﾞ", 1000},
+    {u"得意先名", 4000, AlignLeftCenter},
+    {u"年月", 1200, AlignCenterCenter},
+    {u"繰越金額", 1800},
+}};
+
+}  // namespace
+
+TorZan_frm::TorZan_frm() : EntryForm(QStringLiteral("TorZan_frm"), QStringLiteral("得意先残設定")) {
+    layOut();
+    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
+    wireLookup(F6(kPickRoute), QStringLiteral("Rte"), QStringLiteral("ALL"), ebox(kRoute), press, kRoute);
+    wireLookup(F6(kPickCustomer), QStringLiteral("Deal"), {}, ebox(kCustomer), press, kCustomer);
+    on(&Btn(kClose), &CommandButton::Click, [this] { Unload(); });
+    on(&Btn(kClear), &CommandButton::Click, [this] { clear(); });
+    on(&Btn(kShow), &CommandButton::Click, [this] { show(); });
+    on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
+    WireCellBox(
+        *this, *List_, *tBox_, [this] { openBox(); }, [this](KeyEvent& event) { boxKey(event); });
+}
+
+void TorZan_frm::layOut() {
+    constexpr int kRouteBytes = 5;
+    constexpr int kCodeBytes = 8;
+    constexpr int kNameBytes = 30;
+    constexpr int kGridHeight = 420;
+    const auto button = [this](Button index, const char16_t* caption) -> CommandButton& {
+        return Btn.add(index, new CommandButton(QString::fromUtf16(caption)));
+    };
+    sRte_ = &Named(new Label({}, this), QStringLiteral("sRte"));
+    sNamae_ = &Named(new Label({}, this), QStringLiteral("sNamae"));
+
+    FieldLayout fields(*this);
+    fields.row(QStringLiteral("初期残設定年月"))
+        .text(addBox(ebox, kYear, ImeMode::Off), 4)
+        .note(QStringLiteral("年"))
+        .text(addBox(ebox, kMonth, ImeMode::Off), 2)
+        .note(QStringLiteral("月度"));
+    fields.row(QStringLiteral("地区"))
+        .text(addBox(ebox, kRoute, ImeMode::Off), kRouteBytes, kCodeBytes)
+        .lookup(F6.add(kPickRoute, new Image))
+        .name(*sRte_, kNameBytes);
+    fields.row(QStringLiteral("コード"))
+        .text(addBox(ebox, kCustomer, ImeMode::Off), kCodeBytes)
+        .lookup(F6.add(kPickCustomer, new Image))
+        .name(*sNamae_, kNameBytes)
+        .button(button(kShow, u"表示"));
+
+    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    SetHeads(*List_, kHeads);
+    ReserveRoom(*List_, kGridHeight);
+    tBox_ = &Named(new TextBox(this), QStringLiteral("tBox"));
+    tBox_->SetIMEMode(ImeMode::Off);
+    tBox_->setAlignment(Qt::AlignRight);
+    tBox_->hide();
+
+    auto* bar = new QHBoxLayout;
+    bar->addStretch();
+    for (CommandButton* each :
+         {&button(kSave, u"保存"), &button(kClear, u"画面ｸﾘｱ"), &button(kClose, u"閉じる")}) {
+        JoinWalk(*this, *each);
+        bar->addWidget(each);
+    }
+    auto* body = new QVBoxLayout(this);
+    body->addLayout(fields.layout());
+    body->addWidget(List_, 1);
+    body->addLayout(bar);
+}
+
+void TorZan_frm::init() {
+    clear();
+}
+
+void TorZan_frm::clear() {
+    ClearControls(*this);
+    sRte_->SetCaption({});
+    sNamae_->SetCaption({});
+    List_->SetRows(1);
+    tBox_->hide();
+    FocusSelect(ebox(kYear));
+}
+
+bool TorZan_frm::enter(int index) {
+    const double code = NumVal(ebox(index).Text());
+    if (index == kRoute) sRte_->SetCaption(GetName(QStringLiteral("Rte"), code));
+    if (index == kCustomer) sNamae_->SetCaption(GetDealName(code));
+    return true;
+}
+
+/// None where the fields hold no month.
+std::optional<TorZan_frm::Month> TorZan_frm::month() const {
+    const Month month{CInt(NumVal(ebox(kYear).Text())), CInt(NumVal(ebox(kMonth).Text()))};
+    if (month.nendo == 0 || month.getudo < 1 || month.getudo > 12) return std::nullopt;
+    return month;
+}
+
+// ---- the balances
+
+void TorZan_frm::show() {
+    const std::optional<Month> wanted = month();
+    if (!wanted) return;
+    List_->SetRows(1);
+    gDb->Execute(QStringLiteral("DELETE *.* From TempZan"));
+    gDb->Execute(
+        QStringLiteral("INSERT INTO TempZan ( Code, Zan ) SELECT Code, 0 From Deal WHERE Deal.Code>0") +
+        FilterTerms({{ebox(kCustomer), u" AND Deal.Code="}, {ebox(kRoute), u" AND Deal.Rte="}}));
+    gDb->Execute(QStringLiteral("UPDATE TempZan INNER JOIN TtoD ON TempZan.Code = TtoD.Deal SET TempZan.Zan "
+                                "= [TtoD].[ZenkaiGaku] WHERE TtoD.Nendo=") +
+                 NumStr(wanted->nendo) + QStringLiteral(" AND TtoD.Getudo=") + NumStr(wanted->getudo));
+    fill(*wanted);
+    if (List_->Rows() <= 1) return;
+    List_->SetRow(1);
+    List_->SetCol(kColZan);
+    openBox();  // the cursor may have stood there before
+}
+
+void TorZan_frm::fill(Month month) {
+    Recordset rows =
+        gDb->OpenRecordset(QStringLiteral("SELECT Deal.*, TempZan.Zan FROM TempZan INNER JOIN Deal ON "
+                                          "TempZan.Code = Deal.Code ORDER BY Deal.Code"));
+    if (rows.Eof()) return;
+    rows.MoveLast();
+    List_->SetRows(rows.RecordCount() + 1);
+    rows.MoveFirst();
+    const Field& code = rows.Fields(QStringLiteral("Code"));
+    const Field& namae = rows.Fields(QStringLiteral("Namae"));
+    const Field& zan = rows.Fields(QStringLiteral("Zan"));
+    const QString monthText = NumStr(month.nendo) + u'/' + NumStr(month.getudo);
+    for (int row = 1; !rows.Eof(); ++row, rows.MoveNext()) {
+        List_->SetTextMatrix(row, kColCode, NumStr(code.Value()));
+        List_->SetTextMatrix(row, kColNamae, NullToEmpty(namae.Value()));
+        List_->SetTextMatrix(row, kColMonth, monthText);
+        List_->SetTextMatrix(row, kColZan, Format(moneyOf(zan.Value()), QStringLiteral("###,###,##0")));
+    }
+    rows.Close();
+}
+
+void TorZan_frm::save() {
+    if (List_->Rows() <= 1) return;
+    const std::optional<Month> wanted = month();
+    if (!wanted) return;
+    for (int row = 1; row < List_->Rows(); ++row) {
+        SetOpeningBalance(CLng(NumVal(List_->TextMatrix(row, kColCode))), wanted->nendo, wanted->getudo,
+                          CCur(KeepNumeric(List_->TextMatrix(row, kColZan))));
+    }
+    clear();
+}
+
+// ---- the cells
+
+void TorZan_frm::openBox() {
+    if (List_->Rows() > 1 && List_->Col() == kColZan) {
+        EditCell(*List_, *tBox_);
+    } else {
+        LeaveCell(*List_, *tBox_);
+    }
+}
+
+void TorZan_frm::boxKey(KeyEvent& event) {
+    switch (event.KeyCode) {
+        case key::Return:
+            confirm();
+            break;
+        // Going up and down passes a balance by: what was typed over it is dropped.
+        case key::Down:
+            moveTo(List_->Row() + 1);
+            break;
+        case key::Up:
+            moveTo(List_->Row() - 1);
+            break;
+        case key::Escape:
+            LeaveCell(*List_, *tBox_);
+            break;
+        default:
+            return;
+    }
+    event.KeyCode = 0;
+}
+
+void TorZan_frm::confirm() {
+    if (List_->Col() != kColZan) return;
+    List_->SetText(tBox_->Text());
+    if (List_->Row() + 1 < List_->Rows()) return moveTo(List_->Row() + 1);
+    tBox_->hide();
+    SetFocus(&Btn(kSave));
+}
+
+/// The box follows the grid's cursor.
+void TorZan_frm::moveTo(int row) {
+    if (List_->Col() == kColZan && row >= 1 && row < List_->Rows()) List_->SetRow(row);
+}
+
+}  // namespace akarix

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/KeyEvent.h"
+#include "platform/forms/Label.h"
+#include "toolkit/EntryForm.h"
+
+namespace akarix {
+
+class FlexGrid;
+
+/// Sets the balances with which many customers come into a month, typed one under the other into a grid. The
+/// billing run then leaves the carried balance of every saved row alone, those left at 0 too: whoever sets
+/// balances route by route shows only that route.
+class TorZan_frm : public EntryForm {
+ public:
+    TorZan_frm();
+    void init();
+
+ private:
+    struct Month {
+        std::int16_t nendo;
+        std::int16_t getudo;
+    };
+
+    void layOut();
+    bool enter(int index);
+    void clear();
+
+    std::optional<Month> month() const;
+    void show();
+    void fill(Month month);
+    void save();
+
+    void openBox();
+    void boxKey(KeyEvent& event);
+    void confirm();
+    void moveTo(int row);
+
+    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
+    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
+    ControlArray<Image> F6{QStringLiteral("F6")};
+    Label* sRte_ = nullptr;
+    Label* sNamae_ = nullptr;
+    FlexGrid* List_ = nullptr;
+    TextBox* tBox_ = nullptr;
+};
+
+}  // namespace akarix
