@@ -4,7 +4,6 @@
 
 #include "platform/jet/CatalogueReader.h"
 #include "platform/jet/Definitions.h"
-#include "platform/jet/Identifier.h"
 #include "platform/jet/RawFile.h"
 #include "platform/jet/SchemaCopy.h"
 #include "platform/jet/StoreError.h"
@@ -16,31 +15,6 @@ void BindAll(sqlite3_stmt* statement, const StoreRow& values) {
     for (std::size_t i = 0; i < values.size(); ++i) {
         Bind(statement, static_cast<int>(i) + 1, values[i]);
     }
-}
-
-QByteArray InsertText(const TableDef& table, const std::vector<QString>& columns) {
-    QByteArray text = "INSERT INTO " + Quoted(table.name);
-    if (columns.empty()) {
-        return text + " DEFAULT VALUES";
-    }
-    QByteArray names;
-    QByteArray places;
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        const char* comma = i == 0 ? "" : ",";
-        names += comma + Quoted(columns[i]);
-        places += comma + ("?" + QByteArray::number(static_cast<int>(i) + 1));
-    }
-    return text + '(' + names + ") VALUES(" + places + ')';
-}
-
-QByteArray UpdateText(const TableDef& table, const std::vector<QString>& columns) {
-    // One row is changed or none, so there is nothing to take back when a rule is broken; the engine need not
-    // keep the page as it was for that, encrypted once more.
-    QByteArray text = "UPDATE OR FAIL " + Quoted(table.name) + " SET ";
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        text += (i == 0 ? "" : ",") + Quoted(columns[i]) + "=?" + QByteArray::number(static_cast<int>(i) + 1);
-    }
-    return text + " WHERE rowid=?" + QByteArray::number(static_cast<int>(columns.size()) + 1);
 }
 
 // Holds the file against writers, not against readers, while it lives.
@@ -137,7 +111,7 @@ void CipherEngine::define(const BoundStatement& statement) {
 std::int64_t CipherEngine::insertRow(const TableDef& table, const std::vector<QString>& columns,
                                      const StoreRow& values) {
     sqlite3* open = connection();
-    write(statements_->of(InsertText(table, columns)), values);
+    write(statements_->of(RowWrite::Insert, table, columns), values);
     const std::int64_t row = sqlite3_last_insert_rowid(open);
     group_->end();
     return row;
@@ -151,7 +125,7 @@ void CipherEngine::updateRow(const TableDef& table, std::int64_t row, const std:
     }
     StoreRow arguments = values;
     arguments.emplace_back(row);
-    write(statements_->of(UpdateText(table, columns)), arguments);
+    write(statements_->of(RowWrite::Update, table, columns), arguments);
     const int changed = sqlite3_changes(open);
     group_->end();
     if (changed == 0) {

@@ -24,18 +24,30 @@ class PlanCache {
  public:
     static constexpr std::size_t kMost = 256;
 
-    /// Nothing when the key is not kept. The pointer holds until the next change of the cache.
-    const CachedPlan* find(const QString& key);
-    const CachedPlan& keep(const QString& key, CachedPlan plan);
-    void clear();
-
- private:
     struct Entry {
         QString key;
         CachedPlan plan;
+        Entry* next;  ///< the one that was used after it the last time
     };
+
+    /// Nothing when the key is not kept. The pointer holds until the next change of the cache.
+    const CachedPlan* find(const QString& key);
+    const CachedPlan& keep(const QString& key, CachedPlan plan);
+    /// A run asks its few statements in the same order over and over: the entry that followed the last one
+    /// before, if any.
+    const Entry* expected() const { return last_ ? last_->next : nullptr; }
+    /// Takes the expected entry for the one asked for.
+    void takeExpected();
+    void clear();
+
+ private:
+    using Place = std::list<Entry>::iterator;
+
+    void use(Place place);
+
     std::list<Entry> entries_;  // the one used last in front
-    QHash<QString, std::list<Entry>::iterator> places_;
+    QHash<QString, Place> places_;
+    Entry* last_ = nullptr;
 };
 
 }  // namespace akarix

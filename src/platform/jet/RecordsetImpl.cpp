@@ -69,23 +69,27 @@ void Recordset::Impl::moveTo(int index) {
     seen = std::max(seen, std::min(position + 1, count()));
 }
 
-const TableDef& Recordset::Impl::table() const {
-    const QString& name = statement.plan->updatableTable;
-    const TableDef* found = name.isEmpty() ? nullptr : session->engine().catalogue().find(name);
-    if (!found) {
+const TableDef& Recordset::Impl::table() {
+    const Engine& engine = session->engine();
+    if (!behind || behindVersion != engine.catalogueVersion()) {
+        const QString& name = statement.plan->updatableTable;
+        behind = name.isEmpty() ? nullptr : engine.catalogue().find(name);
+        behindVersion = engine.catalogueVersion();
+    }
+    if (!behind) {
         Raise(3027);
     }
-    return *found;
+    return *behind;
 }
 
-const ColumnDef& Recordset::Impl::storedColumn(int index) const {
+const ColumnDef& Recordset::Impl::storedColumn(int index) {
     const QString& name = column(index).column;
-    const TableDef& behind = table();
-    const int stored = name.isEmpty() ? -1 : behind.indexOf(name);
+    const TableDef& definition = table();
+    const int stored = name.isEmpty() ? -1 : definition.indexOf(name);
     if (stored < 0) {
         Raise(3164, column(index).name);
     }
-    return behind.columns[static_cast<std::size_t>(stored)];
+    return definition.columns[static_cast<std::size_t>(stored)];
 }
 
 int Recordset::Impl::indexOf(const QString& name) const {
@@ -125,12 +129,12 @@ void Recordset::Impl::setValue(int index, const Variant& value) {
 }
 
 void Recordset::Impl::startNew() {
-    const TableDef& behind = table();
+    const TableDef& definition = table();
     const auto& columns = statement.plan->columns;
     buffer.assign(columns.size() + 1, StoreValue());
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        const int stored = behind.indexOf(columns[i].column);
-        if (stored >= 0 && behind.columns[static_cast<std::size_t>(stored)].zeroDefault) {
+        const int stored = definition.indexOf(columns[i].column);
+        if (stored >= 0 && definition.columns[static_cast<std::size_t>(stored)].zeroDefault) {
             buffer[i] = std::int64_t{0};
         }
     }

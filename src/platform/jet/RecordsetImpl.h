@@ -25,8 +25,8 @@ struct Recordset::Impl {
     void moveTo(int index);
 
     /// The table behind, when the rows can be written; 3027 when they cannot.
-    const TableDef& table() const;
-    const ColumnDef& storedColumn(int index) const;
+    const TableDef& table();
+    const ColumnDef& storedColumn(int index);
     int indexOf(const QString& name) const;
     const ResultColumn& column(int index) const {
         return statement.plan->columns[static_cast<std::size_t>(index)];
@@ -42,6 +42,8 @@ struct Recordset::Impl {
     BoundStatement statement;
     bool open = true;
     bool loaded = false;
+    const TableDef* behind = nullptr;  ///< as found in the catalogue of that version
+    int behindVersion = 0;
     std::vector<StoreRow> rows;
     int position = 0;
     int seen = 0;  ///< rows the caller has come past, as RecordCount tells them

@@ -7,12 +7,15 @@
 namespace akarix {
 namespace {
 
+constexpr qsizetype kSurelyFits = 18;  // digits in 64 bits
+
 bool isDigit(QChar c) {
     return c >= u'0' && c <= u'9';
 }
 
-// What each character of the first 128 can be; nearly all of a statement is made of them.
-enum : std::uint8_t { kNothing, kNamePart = 1, kNameStart = 2, kLiteralStart = 4 };
+// What each character of the first 128 can be; nearly all of a statement is made of them. A point may begin a
+// literal.
+enum : std::uint8_t { kNothing, kNamePart = 1, kNameStart = 2, kLiteralStart = 4, kBracket = 8, kPoint = 16 };
 
 constexpr std::array<std::uint8_t, 128> kRoles = [] {
     std::array<std::uint8_t, 128> roles{};
@@ -23,6 +26,8 @@ constexpr std::array<std::uint8_t, 128> kRoles = [] {
         roles[c] = kNamePart | kLiteralStart;
     roles['_'] = kNameStart | kNamePart;
     roles['$'] = kNamePart;
+    roles['['] = kBracket;
+    roles['.'] = kPoint;
     roles['\''] = roles['"'] = roles['#'] = kLiteralStart;
     return roles;
 }();
@@ -59,7 +64,9 @@ Literal readFraction(QStringView text, bool exponent) {
 }
 
 ScannedLiteral scanNumeral(QStringView sql, qsizetype from) {
-    constexpr qsizetype kSurelyFits = 18;
+    if (const auto whole = scanWholeNumeral(sql, from)) {
+        return {{Literal::Kind::Integer, whole->value}, sql.sliced(from, whole->end - from), whole->end};
+    }
     qsizetype end = digitsEnd(sql, from);
     const bool point = end < sql.size() && sql[end] == u'.';
     if (point) end = digitsEnd(sql, end + 1);
@@ -72,10 +79,7 @@ ScannedLiteral scanNumeral(QStringView sql, qsizetype from) {
     }
     const QStringView text = sql.sliced(from, end - from);
     if (point || exponent || text.size() > kSurelyFits) return {readFraction(text, exponent), text, end};
-    std::int64_t value = 0;
-    for (const QChar digit : text)
-        value = value * 10 + (digit.unicode() - u'0');
-    return {{Literal::Kind::Integer, value}, text, end};
+    return {{Literal::Kind::Integer, std::int64_t{text.toLongLong()}}, text, end};
 }
 
 std::optional<ScannedLiteral> scanText(QStringView sql, qsizetype from) {
@@ -108,16 +112,49 @@ std::optional<ScannedLiteral> scanDate(QStringView sql, qsizetype from) {
 }  // namespace
 
 qsizetype nameEnd(QStringView sql, qsizetype place) {
-    if (place >= sql.size() || !isNameStart(sql[place])) return place;
-    while (place < sql.size() && isNamePart(sql[place]))
-        ++place;
-    return place;
+    const QChar* const end = sql.end();
+    const QChar* c = sql.begin() + place;
+    if (c >= end || !isNameStart(*c)) return place;
+    while (c < end && isNamePart(*c))
+        ++c;
+    return c - sql.begin();
 }
 
 bool beginsLiteral(QStringView sql, qsizetype place) {
     const QChar c = sql[place];
     if (c == u'.') return place + 1 < sql.size() && isDigit(sql[place + 1]);
     return c.unicode() < kRoles.size() && (kRoles[c.unicode()] & kLiteralStart) != 0;
+}
+
+QChar* copyPlain(QStringView sql, qsizetype& place, QChar* to) {
+    const QChar* const end = sql.end();
+    const QChar* c = sql.begin() + place;
+    while (c < end) {
+        const char16_t character = c->unicode();
+        const std::uint8_t role = character < kRoles.size() ? kRoles[character] : std::uint8_t{kNothing};
+        if (role == kNothing ? isNameStart(*c) : (role & kNameStart) != 0) {
+            do {
+                *to++ = *c++;
+            } while (c < end && isNamePart(*c));
+            continue;
+        }
+        if ((role & kBracket) != 0 || (role != kNothing && beginsLiteral(sql, c - sql.begin()))) break;
+        *to++ = *c++;
+    }
+    place = c - sql.begin();
+    return to;
+}
+
+std::optional<WholeNumeral> scanWholeNumeral(QStringView sql, qsizetype from) {
+    const QChar* const end = sql.end();
+    const QChar* c = sql.begin() + from;
+    std::int64_t value = 0;
+    for (; c < end && isDigit(*c); ++c)
+        value = static_cast<std::int64_t>(static_cast<std::uint64_t>(value) * 10 + (c->unicode() - u'0'));
+    const qsizetype length = c - sql.begin() - from;
+    const bool goesOn = c < end && (*c == u'.' || *c == u'e' || *c == u'E');
+    if (length == 0 || length > kSurelyFits || goesOn) return std::nullopt;
+    return WholeNumeral{value, from + length};
 }
 
 std::optional<ScannedLiteral> scanLiteral(QStringView sql, qsizetype place) {

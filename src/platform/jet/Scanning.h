@@ -15,6 +15,18 @@ qsizetype nameEnd(QStringView sql, qsizetype place);
 /// Whether a literal begins at `place`: a numeral, a quote, a date's "#".
 bool beginsLiteral(QStringView sql, qsizetype place);
 
+/// Copies the text from `place` on, which is in no name, until it comes to a literal or a bracketed name;
+/// moves the place there and gives the end of the copy. Character by character: a statement has just been
+/// put together from short pieces, and wide loads of what narrow stores have not yet written are dear.
+QChar* copyPlain(QStringView sql, qsizetype& place, QChar* to);
+
+struct WholeNumeral {
+    std::int64_t value;
+    qsizetype end;
+};
+/// The usual literal, a short whole number; nothing when there is another at `place`.
+std::optional<WholeNumeral> scanWholeNumeral(QStringView sql, qsizetype place);
+
 struct ScannedLiteral {
     Literal literal;
     QStringView inside;  ///< without quotes and "#"

@@ -6,7 +6,7 @@ namespace akarix {
 namespace {
 
 constexpr std::size_t kMostPlans = 256;
-constexpr std::size_t kMostTexts = 128;
+constexpr std::size_t kMostRows = 64;
 
 }  // namespace
 
@@ -20,20 +20,25 @@ sqlite3_stmt* StatementCache::of(const std::shared_ptr<const Plan>& plan) {
     return found->second.statement.get();
 }
 
-sqlite3_stmt* StatementCache::of(const QByteArray& text) {
-    auto found = byText_.find(text);
-    if (found == byText_.end()) {
-        if (byText_.size() >= kMostTexts) {
-            byText_.clear();
+sqlite3_stmt* StatementCache::of(RowWrite kind, const TableDef& table, const std::vector<QString>& columns) {
+    const auto found = std::find_if(byRow_.begin(), byRow_.end(), [&](const RowEntry& entry) {
+        return entry.kind == kind && entry.table == table.name && entry.columns == columns;
+    });
+    if (found != byRow_.end()) {
+        byRow_.splice(byRow_.begin(), byRow_, found);
+    } else {
+        byRow_.push_front(
+            {kind, table.name, columns, Prepare(connection_, RowWriteText(kind, table, columns))});
+        if (byRow_.size() > kMostRows) {
+            byRow_.pop_back();
         }
-        found = byText_.emplace(text, Prepare(connection_, text)).first;
     }
-    return found->second.get();
+    return byRow_.front().statement.get();
 }
 
 void StatementCache::clear() {
     byPlan_.clear();
-    byText_.clear();
+    byRow_.clear();
 }
 
 void StatementCache::makeRoom() {

@@ -1,22 +1,23 @@
 #pragma once
 
-#include <QByteArray>
+#include <list>
 #include <memory>
 #include <unordered_map>
 
 #include "platform/jet/Plan.h"
+#include "platform/jet/RowWrite.h"
 #include "platform/jet/Sqlite.h"
 
 namespace akarix {
 
-/// The engine's prepared statements, by plan and by text; the least used of them is given up when there are
+/// The engine's prepared statements, by plan and by row written; the least used of them is given up when there are
 /// too many.
 class StatementCache {
  public:
     explicit StatementCache(sqlite3* connection) : connection_(connection) {}
 
     sqlite3_stmt* of(const std::shared_ptr<const Plan>& plan);
-    sqlite3_stmt* of(const QByteArray& text);
+    sqlite3_stmt* of(RowWrite kind, const TableDef& table, const std::vector<QString>& columns);
     void clear();
 
  private:
@@ -26,11 +27,18 @@ class StatementCache {
         std::uint64_t used = 0;
     };
 
+    struct RowEntry {
+        RowWrite kind;
+        QString table;
+        std::vector<QString> columns;
+        Statement statement;
+    };
+
     void makeRoom();
 
     sqlite3* connection_;
     std::unordered_map<const Plan*, Entry> byPlan_;
-    std::unordered_map<QByteArray, Statement> byText_;
+    std::list<RowEntry> byRow_;  // the one used last in front
     std::uint64_t uses_ = 0;
 };
 

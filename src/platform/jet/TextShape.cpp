@@ -7,41 +7,71 @@ namespace {
 
 constexpr char16_t kLiteral = 0x1e;
 
+QChar kindMark(Literal::Kind kind) {
+    return QChar(static_cast<char16_t>(u'0' + static_cast<int>(kind)));
+}
+
 }  // namespace
 
 bool TextShape::read(QStringView sql) {
     literals_.clear();
+    if (sql.contains(QChar(kLiteral))) return false;
     // A literal of one digit needs two places.
     key_.resize(sql.size() * 2);
     QChar* out = key_.data();
-    qsizetype place = 0;
-    const auto copyTo = [&](qsizetype end) {
-        out = std::copy(sql.begin() + place, sql.begin() + end, out);
-        place = end;
+    const auto keep = [&](Literal literal) {
+        *out++ = QChar(kLiteral);
+        *out++ = kindMark(literal.kind);
+        literals_.push_back(std::move(literal));
     };
-    while (place < sql.size()) {
-        if (sql[place] == u' ') {
-            *out++ = sql[place++];
-        } else if (const qsizetype end = nameEnd(sql, place); end > place) {
-            copyTo(end);
-        } else if (beginsLiteral(sql, place)) {
-            std::optional<ScannedLiteral> scanned = scanLiteral(sql, place);
-            if (!scanned) return false;
-            *out++ = QChar(kLiteral);
-            *out++ = QChar(static_cast<char16_t>(u'0' + static_cast<int>(scanned->literal.kind)));
-            literals_.push_back(std::move(scanned->literal));
-            place = scanned->end;
-        } else if (sql[place] == u'[') {
+    for (qsizetype place = 0;;) {
+        out = copyPlain(sql, place, out);
+        if (place >= sql.size()) break;
+        if (sql[place] == u'[') {
             const qsizetype close = sql.indexOf(u']', place);
             if (close < 0) return false;
-            copyTo(close + 1);
+            out = std::copy(sql.begin() + place, sql.begin() + close + 1, out);
+            place = close + 1;
+        } else if (const auto whole = scanWholeNumeral(sql, place)) {
+            keep({Literal::Kind::Integer, whole->value});
+            place = whole->end;
         } else {
-            if (sql[place] == kLiteral) return false;
-            copyTo(place + 1);
+            std::optional<ScannedLiteral> scanned = scanLiteral(sql, place);
+            if (!scanned) return false;
+            keep(std::move(scanned->literal));
+            place = scanned->end;
         }
     }
     key_.truncate(out - key_.constData());
     return true;
+}
+
+bool TextShape::readAs(QStringView sql, const QString& key) {
+    literals_.clear();
+    const QChar* place = sql.begin();
+    const QChar* const end = sql.end();
+    const QChar* const keyEnd = key.constData() + key.size();
+    for (const QChar* k = key.constData(); k < keyEnd; ++k) {
+        if (place == end) return false;
+        if (*k != QChar(kLiteral)) {
+            if (*place++ != *k) return false;
+            continue;
+        }
+        ++k;
+        const qsizetype from = place - sql.begin();
+        if (!beginsLiteral(sql, from)) return false;
+        if (const auto whole = scanWholeNumeral(sql, from)) {
+            literals_.push_back({Literal::Kind::Integer, whole->value});
+            place = sql.begin() + whole->end;
+        } else {
+            std::optional<ScannedLiteral> scanned = scanLiteral(sql, from);
+            if (!scanned) return false;
+            literals_.push_back(std::move(scanned->literal));
+            place = sql.begin() + scanned->end;
+        }
+        if (*k != kindMark(literals_.back().kind)) return false;
+    }
+    return place == end;
 }
 
 }  // namespace akarix

@@ -123,6 +123,12 @@ Translator::~Translator() = default;
 BoundStatement Translator::translate(const QString& sql) {
     ++impl_->translated;
     TextShape& shape = impl_->shape;
+    if (const PlanCache::Entry* expected = impl_->byShape.expected();
+        expected && shape.readAs(sql, expected->key) && fits(expected->plan, shape.literals())) {
+        ++impl_->fromCache;
+        impl_->byShape.takeExpected();
+        return withArguments(expected->plan, shape.literals());
+    }
     const bool shaped = shape.read(sql);
     const CachedPlan* kept = shaped ? impl_->byShape.find(shape.key()) : nullptr;
     if (kept && fits(*kept, shape.literals())) {

@@ -13,22 +13,22 @@ namespace {
 /// The kinds that most texts are made of, written without a detour through their digits. Scaled by 10,000.
 QString ofScaled(std::int64_t scaled) {
     constexpr int kPlaces = 4;
-    std::array<char16_t, 24> text{};
+    std::array<QChar, 24> text{};
     auto from = text.end();
     std::uint64_t rest =
         scaled < 0 ? 0 - static_cast<std::uint64_t>(scaled) : static_cast<std::uint64_t>(scaled);
     bool shown = false;
     for (int place = 0; place < kPlaces; ++place, rest /= 10) {
-        const auto digit = static_cast<char16_t>(u'0' + rest % 10);
+        const QChar digit(static_cast<char16_t>(u'0' + rest % 10));
         shown = shown || digit != u'0';
         if (shown) *--from = digit;
     }
     if (shown) *--from = u'.';
     // In front of a fraction alone stands no zero.
     for (; rest != 0 || (!shown && from == text.end()); rest /= 10)
-        *--from = static_cast<char16_t>(u'0' + rest % 10);
+        *--from = QChar(static_cast<char16_t>(u'0' + rest % 10));
     *--from = scaled < 0 ? u'-' : u' ';
-    return QString::fromUtf16(from, text.end() - from);
+    return QString(from, text.end() - from);
 }
 
 std::optional<std::int64_t> scaledOf(const Variant& value) {
