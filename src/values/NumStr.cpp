@@ -6,9 +6,7 @@
 namespace akarix {
 
 QString NumStr(const Variant& value) {
-    QString text = Str(value);
-    if (text.startsWith(u' ')) text.remove(0, 1);  // the place of the sign
-    return text;
+    return StrUnpadded(value);
 }
 
 QString PadFormat(const Variant& value, const QString& mask) {

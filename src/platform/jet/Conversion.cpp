@@ -24,6 +24,10 @@ double AsDouble(const StoreValue& value) {
 // An expression may leave the range of the kind it was given; the value then goes out in the next wider one.
 template <class Narrow>
 Variant WholeVariant(const StoreValue& value) {
+    const auto* whole = std::get_if<std::int64_t>(&value);
+    if (whole && *whole == static_cast<Narrow>(*whole)) {
+        return static_cast<Narrow>(*whole);
+    }
     const double number = AsDouble(value);
     if (number != std::floor(number) || number < std::numeric_limits<std::int32_t>::min() ||
         number > std::numeric_limits<std::int32_t>::max()) {

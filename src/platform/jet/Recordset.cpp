@@ -16,13 +16,7 @@ namespace {
 
 }  // namespace
 
-Recordset::Recordset(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {
-    const auto width = static_cast<int>(impl_->statement.plan->columns.size());
-    impl_->fields.reserve(impl_->statement.plan->columns.size());
-    for (int i = 0; i < width; ++i) {
-        impl_->fields.push_back(Field(this, i));
-    }
-}
+Recordset::Recordset(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
 
 Recordset::Recordset(Recordset&& other) noexcept {
     *this = std::move(other);
@@ -104,18 +98,29 @@ bool Recordset::NoMatch() const {
 
 int Recordset::FieldCount() const {
     impl_->requireOpen();
-    return static_cast<int>(impl_->fields.size());
+    return impl_->width();
 }
 
 Field& Recordset::Fields(const QString& name) {
     impl_->requireOpen();
-    return impl_->fields[static_cast<std::size_t>(impl_->indexOf(name))];
+    return field(impl_->indexOf(name));
 }
 
 Field& Recordset::Fields(int index) {
     impl_->requireOpen();
     if (index < 0 || index >= FieldCount()) {
         Raise(3265);
+    }
+    return field(index);
+}
+
+Field& Recordset::field(int index) {
+    // Many a recordset is only asked for its values and needs none of them.
+    if (impl_->fields.empty()) {
+        impl_->fields.reserve(static_cast<std::size_t>(impl_->width()));
+        for (int i = 0; i < impl_->width(); ++i) {
+            impl_->fields.push_back(Field(this, i));
+        }
     }
     return impl_->fields[static_cast<std::size_t>(index)];
 }
@@ -135,7 +140,7 @@ void Recordset::Edit() {
     impl_->table();
     impl_->requireRow();
     impl_->buffer = impl_->rows[static_cast<std::size_t>(impl_->position)];
-    impl_->written.assign(impl_->fields.size(), false);
+    impl_->written.assign(impl_->statement.plan->columns.size(), false);
     impl_->editing = Impl::Editing::Present;
 }
 

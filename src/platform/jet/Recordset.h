@@ -47,6 +47,7 @@ class Recordset {
     friend class Field;
     struct Impl;
     explicit Recordset(std::unique_ptr<Impl> impl);
+    Field& field(int index);
     std::unique_ptr<Impl> impl_;
 };
 

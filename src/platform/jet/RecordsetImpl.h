@@ -20,6 +20,7 @@ struct Recordset::Impl {
     /// Reads the rows at the first need.
     void load();
     bool hasRow() const { return position >= 0 && position < count(); }
+    int width() const { return static_cast<int>(statement.plan->columns.size()); }
     int count() const { return static_cast<int>(rows.size()); }
     void requireRow();
     void moveTo(int index);
@@ -52,7 +53,7 @@ struct Recordset::Impl {
     StoreRow buffer;              ///< the row being written, as Fields show it
     std::vector<bool> written;    ///< its columns that were set
     std::vector<StoreRow> added;  ///< before the rows were read
-    std::vector<Field> fields;
+    std::vector<Field> fields;  ///< made at the first need
 };
 
 }  // namespace akarix

@@ -79,16 +79,19 @@ void Bind(sqlite3_stmt* statement, int index, const StoreValue& value) {
 }
 
 StoreValue ColumnValue(sqlite3_stmt* statement, int index) {
-    switch (sqlite3_column_type(statement, index)) {
+    // Asked for once: on a connection without a mutex such a value may be read like a protected one
+    // (https://sqlite.org/c3ref/value.html).
+    sqlite3_value* value = sqlite3_column_value(statement, index);
+    switch (sqlite3_value_type(value)) {
         case SQLITE_INTEGER:
-            return std::int64_t{sqlite3_column_int64(statement, index)};
+            return std::int64_t{sqlite3_value_int64(value)};
         case SQLITE_FLOAT:
-            return sqlite3_column_double(statement, index);
+            return sqlite3_value_double(value);
         case SQLITE_NULL:
             return std::monostate{};
         default: {
-            const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, index));
-            return QString::fromUtf8(text, sqlite3_column_bytes(statement, index));
+            const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+            return QString::fromUtf8(text, sqlite3_value_bytes(value));
         }
     }
 }
