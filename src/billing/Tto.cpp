@@ -21,6 +21,12 @@ QString ofMonth(int nendo, int getudo) {
            NumStr(getudo);
 }
 
+/// The same of one customer, from texts that a caller has at hand.
+QString ofCustomerMonth(const QString& deal, const QString& nendo, const QString& getudo) {
+    return QStringLiteral(" WHERE Deal  =") + deal + QStringLiteral(" AND   Nendo =") + nendo +
+           QStringLiteral(" AND   Getudo=") + getudo;
+}
+
 /// The condition that picks one row of the ledger.
 QString ofLedgerRow(std::int32_t deal, int nendo, int getudo) {
     return QStringLiteral(" WHERE Deal=") + NumStr(deal) + QStringLiteral(" AND   Nendo=") + NumStr(nendo) +
@@ -46,11 +52,13 @@ void forEachRow(const QString& sql, const std::function<void(Recordset&)>& visit
 /// changes nothing, so one road serves first and later runs.
 void putAmount(const QString& column, int nendo, int getudo, std::int32_t deal, const QString& initial,
                const QString& amount) {
+    const QString customer = NumStr(deal);
+    const QString year = NumStr(nendo);
+    const QString month = NumStr(getudo);
     gDb->Execute(QStringLiteral("INSERT INTO TtoD(Deal, Nendo, Getudo, ") + column +
-                 QStringLiteral(") VALUES(") + NumStr(deal) + u',' + NumStr(nendo) + u',' + NumStr(getudo) +
-                 u',' + initial + u')');
+                 QStringLiteral(") VALUES(") + customer + u',' + year + u',' + month + u',' + initial + u')');
     gDb->Execute(QStringLiteral(" UPDATE TtoD  SET   ") + column + QStringLiteral(" =") + amount +
-                 OfCustomerMonth(deal, nendo, getudo));
+                 ofCustomerMonth(customer, year, month));
 }
 
 /// Sales of months that lost their slips.
@@ -107,8 +115,7 @@ std::int32_t removeLeaseSlip(int nendo, int getudo, std::int32_t deal) {
 }  // namespace
 
 QString OfCustomerMonth(std::int32_t deal, int nendo, int getudo) {
-    return QStringLiteral(" WHERE Deal  =") + NumStr(deal) + QStringLiteral(" AND   Nendo =") +
-           NumStr(nendo) + QStringLiteral(" AND   Getudo=") + NumStr(getudo);
+    return ofCustomerMonth(NumStr(deal), NumStr(nendo), NumStr(getudo));
 }
 
 void BuildMonthLedger(int nendo, int getudo, Date creation) {

@@ -18,7 +18,9 @@ QString ofScaled(std::int64_t scaled, bool blank) {
     std::uint64_t rest =
         scaled < 0 ? 0 - static_cast<std::uint64_t>(scaled) : static_cast<std::uint64_t>(scaled);
     bool shown = false;
-    for (int place = 0; place < kPlaces; ++place, rest /= 10) {
+    const bool whole = rest % Currency::kScale == 0;
+    if (whole) rest /= Currency::kScale;
+    for (int place = whole ? kPlaces : 0; place < kPlaces; ++place, rest /= 10) {
         const QChar digit(static_cast<char16_t>(u'0' + rest % 10));
         shown = shown || digit != u'0';
         if (shown) *--from = digit;
