@@ -53,7 +53,7 @@ struct Recordset::Impl {
     StoreRow buffer;              ///< the row being written, as Fields show it
     std::vector<bool> written;    ///< its columns that were set
     std::vector<StoreRow> added;  ///< before the rows were read
-    std::vector<Field> fields;  ///< made at the first need
+    std::vector<Field> fields;    ///< made at the first need
 };
 
 }  // namespace akarix

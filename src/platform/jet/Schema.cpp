@@ -5,9 +5,9 @@ namespace akarix {
 int TableDef::indexOf(const QString& column) const {
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const QString& own = columns[i].name;
-        // Another length is another name: case alone never changes it. Most callers spell a name as it is kept.
-        if (own.size() == column.size() &&
-            (own == column || own.compare(column, Qt::CaseInsensitive) == 0)) {
+        // Another length is another name: case alone never changes it. Most callers spell a name as it is
+        // kept.
+        if (own.size() == column.size() && (own == column || own.compare(column, Qt::CaseInsensitive) == 0)) {
             return static_cast<int>(i);
         }
     }

@@ -10,8 +10,8 @@
 
 namespace akarix {
 
-/// The engine's prepared statements, by plan and by row written; the least used of them is given up when there are
-/// too many.
+/// The engine's prepared statements, by plan and by row written; the least used of them is given up when
+/// there are too many.
 class StatementCache {
  public:
     explicit StatementCache(sqlite3* connection) : connection_(connection) {}
