@@ -53,8 +53,10 @@ QString yen(Currency amount) {
     return Format(amount, QStringLiteral("###,###,###"));
 }
 
+constexpr int kLastMonth = 12;
+
 bool isMonth(double value) {
-    return value >= 1 && value <= 12;
+    return value >= 1 && value <= kLastMonth;
 }
 
 }  // namespace
@@ -103,7 +105,6 @@ void SlipN2_frm::layOutHead(QVBoxLayout& column) {
 void SlipN2_frm::layOutLines(QVBoxLayout& column) {
     constexpr int kClassShown = 12;
     constexpr int kTextBytes = 40;
-    constexpr int kTextShown = 32;
     LineLayout lines(*this);
     lines.head(QStringLiteral("区分"));
     lines.head(QStringLiteral("金額"), Qt::AlignRight);
@@ -113,7 +114,7 @@ void SlipN2_frm::layOutLines(QVBoxLayout& column) {
         TextBox& amount = addBox(eGaku, line, ImeMode::Off);
         amount.setAlignment(Qt::AlignRight);
         lines.cell(line, 1).text(amount, kFigureBytes, kFigureShown);
-        lines.cell(line, 2).text(addBox(eNaiyo, line, ImeMode::Hiragana), kTextBytes, kTextShown);
+        lines.cell(line, 2).text(addBox(eNaiyo, line, ImeMode::Hiragana), kTextBytes);
     }
     Label& total = addName(QStringLiteral("sTotal"));
     total.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -325,7 +326,8 @@ void SlipN2_frm::remove() {
 void SlipN2_frm::saveOpening() {
     const std::int16_t year = CInt(NumVal(ebox(kOpeningYear).Text()));
     const std::int16_t month = CInt(NumVal(ebox(kOpeningMonth).Text()));
-    if (year == 0 || !isMonth(month) || !requireCustomer()) return;
+    // Nothing below is asked for: what a take-over put under a month 0 can be taken away here as well.
+    if (month > kLastMonth) return;
     const Currency amount = ToCurrency(ebox(kOpeningAmount).Text());
     if (amount.IsZero()) {
         RemoveOpeningBalance(number(kCustomer), year, month);
