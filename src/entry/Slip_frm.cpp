@@ -150,14 +150,14 @@ void Slip_frm::showDefaults() {
 
 void Slip_frm::load() {
     Recordset rows = gDb->OpenRecordset(slipSql(codeText()));
-    const QString typed = ebox(kNumber).Text();
     if (rows.Eof()) {
+        const QString typed = ebox(kNumber).Text();
         clear();
         ebox(kNumber).SetText(typed);
         return;
     }
     ClearControls(*this);
-    ebox(kNumber).SetText(typed);
+    ebox(kNumber).SetText(NumStr(longOf(rows[QStringLiteral("Dno")])));
     ShowDateVar(rows[QStringLiteral("Hizuke")], ebox(kDate));
     ebox(kDeal).SetText(NumStr(longOf(rows[QStringLiteral("Deal")])));
     showCustomer(kDeal);
@@ -216,7 +216,6 @@ void Slip_frm::enterLine(int line, int index) {
 void Slip_frm::takeItem(int line) {
     const LineBoxes boxes = boxesOf(line);
     const double code = NumVal(ebox(boxes.code).Text());
-    if (code == 0.0) return;  // a line of free text keeps what is typed
     ebox(boxes.name).SetText(GetName(QStringLiteral("Hin"), code));
     ebox(boxes.tanka).SetText(yen(GetHinTanka(code)));
 }
