@@ -77,7 +77,8 @@ inline void printHead() {
     std::puts("|---|---:|---:|---:|---|---|");
 }
 
-inline void printRow(const std::string& work, Time product, std::optional<Time> peer, Target target) {
+inline void printRow(const std::string& work, Time product, std::optional<Time> peer,
+                     std::optional<Target> target) {
     std::printf("| %s | %.3g (%.3g) |", work.c_str(), product.wall, product.processor);
     double reached = product.wall;
     if (peer) {
@@ -86,10 +87,14 @@ inline void printRow(const std::string& work, Time product, std::optional<Time> 
     } else {
         std::printf(" - | - |");
     }
-    const bool byTimes = target.kind == Target::Kind::Times;
+    if (!target) {
+        std::puts(" - | |");
+        return;
+    }
+    const bool byTimes = target->kind == Target::Kind::Times;
     if (byTimes && peer) reached = product.wall / peer->wall;
-    std::printf(byTimes ? " at most %g times | %s |\n" : " under %g ms | %s |\n", target.most,
-                reached <= target.most ? "met" : "MISSED");
+    std::printf(byTimes ? " at most %g times | %s |\n" : " under %g ms | %s |\n", target->most,
+                reached <= target->most ? "met" : "MISSED");
     std::fflush(stdout);
 }
 

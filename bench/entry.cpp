@@ -1,0 +1,170 @@
+// Daily entry on a dealer's books of many years: storing a slip and a payment against the same work on young
+// books, the list of all slips, and the account of an old customer.
+
+#include <QApplication>
+
+#include "DealerFiles.h"
+#include "Documents.h"
+#include "Measure.h"
+#include "clerk/Clerk.h"
+#include "entry/SlipN2_frm.h"
+#include "entry/Slip_frm.h"
+#include "platform/forms/FlexGrid.h"
+#include "platform/forms/Guard.h"
+#include "platform/forms/Style.h"
+#include "reports/RepoDaichou_frm.h"
+#include "store/FieldValue.h"
+#include "toolkit/Lookups.h"
+
+namespace akarix::bench {
+namespace {
+
+constexpr int kCustomers = 10000;
+constexpr int kYoungCustomers = 100;
+constexpr int kSaves = 101;
+constexpr int kOpenings = 7;
+constexpr int kOldCustomer = 77;
+
+std::int32_t countOf(const char* table) {
+    Recordset set =
+        gDb->OpenRecordset(QStringLiteral("SELECT COUNT(*) AS n FROM %1").arg(QLatin1String(table)));
+    return longOf(set[QStringLiteral("n")]);
+}
+
+class Desk {
+ public:
+    ~Desk() { clerk_.clearDesk(); }
+
+    /// Enter on the save button, until the next document can be typed.
+    Time save() {
+        SetFocus(&clerk_.control(QStringLiteral("Btn(2)")));
+        const Time time = measure([this] { clerk_.enter(); });
+        if (clerk_.focusedName() != u"ebox(0)") throw std::runtime_error("the screen is not ready");
+        return time;
+    }
+    void put(const char* box, const QString& text) {
+        clerk_.find<TextBox>(QString::fromLatin1(box)).SetText(text);
+    }
+    Clerk& clerk() { return clerk_; }
+
+ private:
+    Clerk clerk_;
+};
+
+const QString kDay = QStringLiteral("%1/%2/10").arg(kYear).arg(kMonth);
+
+std::vector<Time> saveSlips() {
+    Desk desk;
+    OpenScreen<Slip_frm>();
+    std::vector<Time> times;
+    for (int customer = 1; customer <= kSaves; ++customer) {
+        desk.put("ebox(1)", kDay);
+        desk.put("ebox(2)", QString::number(customer));
+        for (const auto& [box, text] :
+             std::initializer_list<std::pair<const char*, const char*>>{{"ebox(3)", "1"},
+                                                                        {"ebox(21)", "2"},
+                                                                        {"ebox(27)", "550"},
+                                                                        {"ebox(5)", "1,100"},
+                                                                        {"ebox(6)", "1"},
+                                                                        {"ebox(8)", "110"}}) {
+            desk.put(box, QString::fromLatin1(text));
+        }
+        times.push_back(desk.save());
+    }
+    return times;
+}
+
+std::vector<Time> savePayments() {
+    Desk desk;
+    OpenScreen<SlipN2_frm>();
+    std::vector<Time> times;
+    for (int customer = 1; customer <= kSaves; ++customer) {
+        desk.put("ebox(1)", QString::number(customer));
+        desk.put("ebox(2)", kDay);
+        desk.put("eGaku(0)", QStringLiteral("3,000"));
+        desk.put("eGaku(1)", QStringLiteral("440"));
+        times.push_back(desk.save());
+    }
+    return times;
+}
+
+/// From the click on the lookup picture until the list has been painted and takes a click.
+Time openSlipList() {
+    Desk desk;
+    OpenScreen<Slip_frm>();
+    Clock::time_point start;
+    const double processor = processorMilliseconds();
+    Time time;
+    desk.clerk().expect(QStringLiteral("HelpSlip_frm"), [&](QWidget&) {
+        desk.clerk().settle();
+        time = {millisecondsSince(start), processorMilliseconds() - processor};
+        desk.clerk().clickCell(desk.clerk().find<FlexGrid>(QStringLiteral("List")), 1, 0);
+    });
+    start = Clock::now();
+    desk.clerk().click(QStringLiteral("F6(0)"));
+    if (desk.clerk().text(QStringLiteral("ebox(0)")).isEmpty())
+        throw std::runtime_error("nothing was picked");
+    return time;
+}
+
+/// From Enter on the customer until his account has been painted.
+Time openAccount() {
+    Desk desk;
+    OpenScreen<RepoDaichou_frm>();
+    desk.put("ebox(0)", QString::number(kYear - 10));
+    desk.put("ebox(2)", QString::number(kOldCustomer));
+    SetFocus(&desk.clerk().control(QStringLiteral("ebox(2)")));
+    const Time time = measure([&] { desk.clerk().enter(); });
+    if (desk.clerk().find<FlexGrid>(QStringLiteral("List")).Rows() < 120) {
+        throw std::runtime_error("the account is not whole");
+    }
+    return time;
+}
+
+template <class Work>
+Time medianOf(Work&& work) {
+    std::vector<Time> times;
+    for (int i = 0; i < kOpenings; ++i) {
+        times.push_back(work());
+    }
+    return median(times);
+}
+
+void run() {
+    DealerFiles files(kCustomers, 0);
+    const auto books = [&](const char* name, int lastCustomer) {
+        files.copy(name);
+        files.open(name);
+        Documents::fillMonths(lastCustomer);
+        const int lines = lastCustomer * Documents::kMonths * Documents::kLines;
+        if (countOf("Dud") != lines || countOf("Dny") != lines) throw std::runtime_error("lines are missing");
+    };
+    books("young", kYoungCustomers);
+    const Time slipYoung = median(saveSlips());
+    const Time paymentYoung = median(savePayments());
+    books("old", kCustomers);
+    const Time slipOld = median(saveSlips());
+    const Time paymentOld = median(savePayments());
+    printRow("storing a slip, 300,000 lines", slipOld, std::nullopt, under(10));
+    printRow("storing a slip, 300,000 lines (peer: 3,000)", slipOld, slipYoung, times(1.5));
+    printRow("storing a payment, 300,000 lines", paymentOld, std::nullopt, under(10));
+    printRow("storing a payment, 300,000 lines (peer: 3,000)", paymentOld, paymentYoung, times(1.5));
+    printRow("list of 100,000 slips until painted", medianOf(&openSlipList), std::nullopt, std::nullopt);
+    Documents::fillYears(kOldCustomer);
+    printRow("account of ten years until painted", medianOf(&openAccount), std::nullopt, under(100));
+}
+
+}  // namespace
+}  // namespace akarix::bench
+
+int main(int argc, char** argv) {
+    using namespace akarix::bench;
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    akarix::ApplyStyle(application);
+    akarix::SetActionHooks(&akarix::Action::Begin, &akarix::Action::End);
+    printHead();
+    run();
+    return 0;
+}
