@@ -2,17 +2,14 @@
 
 #include <cstdint>
 
+#include "entry/LedgerMonth.h"
+
 namespace akarix {
 
 class FlexGrid;
 
-/// A billing month; 0 and 0 where there is none.
-struct LedgerMonth {
-    std::int16_t Nendo = 0;
-    std::int16_t Getudo = 0;
-};
-
-/// The month up to which the ledger reaches, of whichever customer: where a history ends.
+/// The month up to which the ledger reaches, of whichever customer: where a history ends. Reads the whole
+/// ledger.
 LedgerMonth LatestLedgerMonth();
 
 /// Gives the grid its six columns and empties it down to its head row.

@@ -1,6 +1,7 @@
 #include "entry/PaymentLedger.h"
 
 #include "billing/Tto.h"
+#include "platform/runtime/CInt.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/TextToField.h"
@@ -86,10 +87,11 @@ void writeLedger(std::int32_t deal, BillingMonth month) {
 
 }  // namespace
 
-void SavePayment(const PaymentSlip& slip) {
+LedgerMonth SavePayment(const PaymentSlip& slip) {
     const BillingMonth month = monthOf(slip.Deal, slip.Hizuke);
     writeLines(slip, month);
     writeLedger(slip.Deal, month);
+    return {CInt(month.Nendo), CInt(month.Getudo)};
 }
 
 void DeletePayment(std::int32_t dno, std::int32_t deal, Date hizuke) {

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include "entry/LedgerMonth.h"
 #include "platform/runtime/Currency.h"
 #include "platform/runtime/Date.h"
 
@@ -30,11 +31,11 @@ struct PaymentSlip {
 /// Replaces the customer's lines under the slip's number and brings the payments of its billing month up to
 /// date in the ledger; a month without a ledger row gets one that carries the balance in. A line keeps its
 /// place, so an empty one leaves a gap. The month the slip stood in before keeps its sum until it is saved
-/// or billed again.
+/// or billed again. Gives the billing month.
 ///
 /// Raises 3022 when another customer has lines under the number. Every statement stands by itself: after an
 /// error the slip may lack lines or the ledger the new sum, and saving again completes both.
-void SavePayment(const PaymentSlip& slip);
+LedgerMonth SavePayment(const PaymentSlip& slip);
 
 /// Takes every line under the number away and brings the billing month of the given customer and date up to
 /// date.

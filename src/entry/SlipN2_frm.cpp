@@ -203,7 +203,7 @@ void SlipN2_frm::init() {
     for (const auto& [line, list] : dKubun) {
         FillCombo(QStringLiteral("SELECT Code,Namae FROM NyukinKubun ORDER BY Code"), *list, true);
     }
-    showLedgerEnd();
+    showLedgerEnd(LatestLedgerMonth());
     clear();
 }
 
@@ -256,8 +256,8 @@ void SlipN2_frm::showTotal() {
     nameLabel(QStringLiteral("sTotal")).SetCaption(yen(total));
 }
 
-void SlipN2_frm::showLedgerEnd() {
-    const LedgerMonth end = LatestLedgerMonth();
+void SlipN2_frm::showLedgerEnd(LedgerMonth end) {
+    end_ = end;
     ledgerEnd_->SetCaption(
         end.Nendo == 0 ? QString()
                        : QStringLiteral("売掛は%1年%2月まで").arg(NumStr(end.Nendo), NumStr(end.Getudo)));
@@ -309,8 +309,9 @@ bool SlipN2_frm::maySave() {
 void SlipN2_frm::save() {
     if (!maySave()) return;
     // The screen is read whole before anything is written: a text that is no amount costs no stored line.
-    SavePayment(slipOnScreen());
-    showLedgerEnd();
+    const LedgerMonth saved = SavePayment(slipOnScreen());
+    // A save can only lengthen the ledger. Asking for its end would take longer than everything else.
+    showLedgerEnd(std::max(end_, saved));
     clear();
 }
 
@@ -334,7 +335,7 @@ void SlipN2_frm::saveOpening() {
     } else {
         SetOpeningBalance(number(kCustomer), year, month, amount);
     }
-    showLedgerEnd();
+    showLedgerEnd(amount.IsZero() ? LatestLedgerMonth() : std::max(end_, LedgerMonth{year, month}));
     clear();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "entry/DocumentForm.h"
+#include "entry/LedgerMonth.h"
 #include "platform/forms/ComboBox.h"
 
 class QGroupBox;
@@ -32,7 +33,7 @@ class SlipN2_frm : public DocumentForm {
     void load() override;
     void show(const PaymentSlip& slip);
     void showTotal();
-    void showLedgerEnd();
+    void showLedgerEnd(LedgerMonth end);
     bool enter(int index);
 
     std::int32_t number(int index) const;
@@ -50,6 +51,7 @@ class SlipN2_frm : public DocumentForm {
     ControlArray<TextBox> eNaiyo{QStringLiteral("eNaiyo")};
     FlexGrid* List_ = nullptr;
     Label* ledgerEnd_ = nullptr;
+    LedgerMonth end_;
 };
 
 }  // namespace akarix

@@ -120,18 +120,16 @@ bool TorZan_frm::enter(int index) {
     return true;
 }
 
-/// None where the fields hold no month.
-std::optional<TorZan_frm::Month> TorZan_frm::month() const {
-    const Month month{CInt(NumVal(ebox(kYear).Text())), CInt(NumVal(ebox(kMonth).Text()))};
-    if (month.nendo == 0 || month.getudo < 1 || month.getudo > 12) return std::nullopt;
-    return month;
+LedgerMonth TorZan_frm::month() const {
+    return {CInt(NumVal(ebox(kYear).Text())), CInt(NumVal(ebox(kMonth).Text()))};
 }
 
 // ---- the balances
 
 void TorZan_frm::show() {
-    const std::optional<Month> wanted = month();
-    if (!wanted) return;
+    constexpr int kLastMonth = 12;
+    const LedgerMonth wanted = month();
+    if (wanted.Nendo == 0 || wanted.Getudo < 1 || wanted.Getudo > kLastMonth) return;
     List_->SetRows(1);
     gDb->Execute(QStringLiteral("DELETE *.* From TempZan"));
     gDb->Execute(
@@ -139,15 +137,15 @@ void TorZan_frm::show() {
         FilterTerms({{ebox(kCustomer), u" AND Deal.Code="}, {ebox(kRoute), u" AND Deal.Rte="}}));
     gDb->Execute(QStringLiteral("UPDATE TempZan INNER JOIN TtoD ON TempZan.Code = TtoD.Deal SET TempZan.Zan "
                                 "= [TtoD].[ZenkaiGaku] WHERE TtoD.Nendo=") +
-                 NumStr(wanted->nendo) + QStringLiteral(" AND TtoD.Getudo=") + NumStr(wanted->getudo));
-    fill(*wanted);
+                 NumStr(wanted.Nendo) + QStringLiteral(" AND TtoD.Getudo=") + NumStr(wanted.Getudo));
+    fill(wanted);
     if (List_->Rows() <= 1) return;
     List_->SetRow(1);
     List_->SetCol(kColZan);
     openBox();  // the cursor may have stood there before
 }
 
-void TorZan_frm::fill(Month month) {
+void TorZan_frm::fill(LedgerMonth month) {
     Recordset rows =
         gDb->OpenRecordset(QStringLiteral("SELECT Deal.*, TempZan.Zan FROM TempZan INNER JOIN Deal ON "
                                           "TempZan.Code = Deal.Code ORDER BY Deal.Code"));
@@ -158,7 +156,7 @@ void TorZan_frm::fill(Month month) {
     const Field& code = rows.Fields(QStringLiteral("Code"));
     const Field& namae = rows.Fields(QStringLiteral("Namae"));
     const Field& zan = rows.Fields(QStringLiteral("Zan"));
-    const QString monthText = NumStr(month.nendo) + u'/' + NumStr(month.getudo);
+    const QString monthText = NumStr(month.Nendo) + u'/' + NumStr(month.Getudo);
     for (int row = 1; !rows.Eof(); ++row, rows.MoveNext()) {
         List_->SetTextMatrix(row, kColCode, NumStr(code.Value()));
         List_->SetTextMatrix(row, kColNamae, NullToEmpty(namae.Value()));
@@ -170,10 +168,9 @@ void TorZan_frm::fill(Month month) {
 
 void TorZan_frm::save() {
     if (List_->Rows() <= 1) return;
-    const std::optional<Month> wanted = month();
-    if (!wanted) return;
+    const LedgerMonth wanted = month();
     for (int row = 1; row < List_->Rows(); ++row) {
-        SetOpeningBalance(CLng(NumVal(List_->TextMatrix(row, kColCode))), wanted->nendo, wanted->getudo,
+        SetOpeningBalance(CLng(NumVal(List_->TextMatrix(row, kColCode))), wanted.Nendo, wanted.Getudo,
                           CCur(KeepNumeric(List_->TextMatrix(row, kColZan))));
     }
     clear();

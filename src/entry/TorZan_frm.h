@@ -1,8 +1,6 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
-
+#include "entry/LedgerMonth.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/KeyEvent.h"
 #include "platform/forms/Label.h"
@@ -21,18 +19,13 @@ class TorZan_frm : public EntryForm {
     void init();
 
  private:
-    struct Month {
-        std::int16_t nendo;
-        std::int16_t getudo;
-    };
-
     void layOut();
     bool enter(int index);
     void clear();
 
-    std::optional<Month> month() const;
+    LedgerMonth month() const;
     void show();
-    void fill(Month month);
+    void fill(LedgerMonth month);
     void save();
 
     void openBox();
