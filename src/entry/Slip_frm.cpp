@@ -28,8 +28,6 @@ enum Box { kNumber, kDate, kDeal };
 enum Picture { kPickSlip, kPickDeal, kPickItem };
 enum Button { kClear, kDelete, kSave };
 
-constexpr int kLines = 6;
-
 struct LineBoxes {
     int code;
     int name;
@@ -145,6 +143,7 @@ void Slip_frm::fromexe(std::int32_t& Dno) {
 }
 
 void Slip_frm::showDefaults() {
+    items_.fill(0);
     ShowDate(today_, ebox(kDate));
 }
 
@@ -157,6 +156,7 @@ void Slip_frm::load() {
         return;
     }
     ClearControls(*this);
+    items_.fill(0);
     ebox(kNumber).SetText(NumStr(longOf(rows[QStringLiteral("Dno")])));
     ShowDateVar(rows[QStringLiteral("Hizuke")], ebox(kDate));
     ebox(kDeal).SetText(NumStr(longOf(rows[QStringLiteral("Deal")])));
@@ -170,6 +170,7 @@ void Slip_frm::showLine(int line, Recordset& row) {
     static const DisplayRule suuText = MaskedUnlessZero(QStringLiteral("#,###.0"));
     const LineBoxes boxes = boxesOf(line);
     const std::int32_t code = longOf(row[QStringLiteral("HinCode")]);
+    items_[static_cast<std::size_t>(line)] = code;
     if (code != 0) ebox(boxes.code).SetText(NumStr(code));
     ebox(boxes.name).SetText(NullToEmpty(row[QStringLiteral("HinNamae")]));
     ebox(boxes.suu).SetText(suuText(moneyOf(row[QStringLiteral("Suu")])));
@@ -216,6 +217,10 @@ void Slip_frm::enterLine(int line, int index) {
 void Slip_frm::takeItem(int line) {
     const LineBoxes boxes = boxesOf(line);
     const double code = NumVal(ebox(boxes.code).Text());
+    double& shown = items_[static_cast<std::size_t>(line)];
+    // A line of free text goes on having none; an emptied code takes its item along.
+    if (code == 0.0 && shown == 0.0) return;
+    shown = code;
     ebox(boxes.name).SetText(GetName(QStringLiteral("Hin"), code));
     ebox(boxes.tanka).SetText(yen(GetHinTanka(code)));
 }

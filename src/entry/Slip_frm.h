@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "entry/DocumentForm.h"
 #include "platform/runtime/Date.h"
 
@@ -36,7 +38,10 @@ class Slip_frm : public DocumentForm {
     void removeRows();
     void askAndRemove();
 
+    static constexpr int kLines = 6;
+
     Date today_;
+    std::array<double, kLines> items_{};  ///< the code whose item each line shows; 0 for free text
     PressEnter press_;
 };
 

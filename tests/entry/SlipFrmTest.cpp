@@ -135,6 +135,8 @@ TEST_F(SalesSlip, AStoredSlipIsShown) {
     EXPECT_EQ(box(1) + box(2) + customer(), "2023/03/052鈴木");
     EXPECT_EQ(line(1), "7|旧コンロ|1.5|1,234,567|1,851,850");
     EXPECT_EQ(line(2), "|出張費|||-500");
+    walk(6, {"-", "-"});
+    EXPECT_EQ(line(2), "|出張費|||-500") << "free text is no item to ask for";
     put(6, "8");
     EXPECT_EQ(line(2), "8|ゴム管||99|-500");
     put(6, "");
