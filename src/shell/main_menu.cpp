@@ -12,10 +12,13 @@
 #include "entry/SlipN2_frm.h"
 #include "entry/Slip_frm.h"
 #include "entry/TorZan_frm.h"
+#include "masters/BKItaku_frm.h"
 #include "masters/GTanka_frm.h"
+#include "masters/MstBnk_frm.h"
 #include "masters/MstDeal_frm.h"
 #include "masters/MstHin_frm.h"
 #include "masters/MstRte_frm.h"
+#include "masters/MstYubin_frm.h"
 #include "platform/forms/MsgBox.h"
 #include "platform/forms/SingleInstance.h"
 #include "platform/jet/Action.h"
@@ -40,7 +43,7 @@ struct BoardButton {
     int index;
     int column;
     const char16_t* caption;
-    Opener open = nullptr;  ///< none: the menu's own operation, or a button that is switched off
+    Opener open = nullptr;  ///< none: the menu's own operation
 };
 
 constexpr std::array<const char16_t*, 4> kColumns{u"日次業務", u"月次業務", u"マスター", u"その他"};
@@ -52,7 +55,7 @@ constexpr std::array<BoardButton, 19> kBoard{{
     {0, 0, u"売上入力", &OpenScreen<Slip_frm>},
     {1, 0, u"検針入力", &OpenScreen<SlipG_frm>},
     {2, 0, u"入金入力", &OpenScreen<SlipN2_frm>},
-    {kUnreachableConsignor, 0, u"銀行委託者設定"},
+    {kUnreachableConsignor, 0, u"銀行委託者設定", &OpenScreen<BKItaku_frm>},
     {16, 1, u"請求処理", &OpenScreen<Seikyu_frm>},
     {5, 1, u"請求書印刷"},
     {7, 1, u"請求一覧表", &OpenScreen<RepoSeikyu_frm>},
@@ -64,8 +67,8 @@ constexpr std::array<BoardButton, 19> kBoard{{
     {9, 2, u"リース料金"},
     {12, 2, u"地区", &OpenScreen<MstRte_frm>},
     {kChangePassword, 3, u"パスワード"},
-    {14, 3, u"銀行委託者設定"},
-    {15, 3, u"郵便委託者設定"},
+    {14, 3, u"銀行委託者設定", &OpenScreen<MstBnk_frm>},
+    {15, 3, u"郵便委託者設定", &OpenScreen<MstYubin_frm>},
     {11, 3, u"バックアップ場所"},
     {18, 3, u"その他情報"},
 }};
