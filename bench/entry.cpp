@@ -10,6 +10,7 @@
 #include "clerk/Clerk.h"
 #include "entry/SlipN2_frm.h"
 #include "entry/Slip_frm.h"
+#include "entry/TorZan_frm.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/Guard.h"
 #include "platform/forms/Style.h"
@@ -119,6 +120,35 @@ Time openAccount() {
     return time;
 }
 
+/// The opening balances of every customer: showing them, Enter on one, and storing them all.
+void benchBalances() {
+    constexpr int kManyCustomers = 30000;
+    constexpr int kEnters = 99;
+    const DealerFiles files(kManyCustomers, 0);
+    Desk desk;
+    OpenScreen<TorZan_frm>();
+    const auto showMonth = [&] {
+        desk.put("ebox(0)", QString::number(kYear));
+        desk.put("ebox(1)", QString::number(kMonth));
+        desk.clerk().click(QStringLiteral("Btn(2)"));
+    };
+    std::vector<Time> shown;
+    std::vector<Time> saved;
+    for (int i = 0; i < 3; ++i) {
+        shown.push_back(measure(showMonth));
+        saved.push_back(measure([&] { desk.clerk().click(QStringLiteral("Btn(10)")); }));
+    }
+    showMonth();
+    std::vector<Time> enters;
+    for (int i = 0; i < kEnters; ++i) {
+        enters.push_back(measure([&] { desk.clerk().enter(); }));
+    }
+    printRow("opening balances of 30,000, shown", median(shown), std::nullopt, std::nullopt);
+    printRow("opening balances of 30,000, Enter", median(enters), std::nullopt, under(5));
+    printRow("opening balances of 30,000, stored", median(saved), std::nullopt, std::nullopt);
+    if (countOf("TtoD") != kManyCustomers) throw std::runtime_error("balances are missing");
+}
+
 template <class Work>
 Time medianOf(Work&& work) {
     std::vector<Time> times;
@@ -128,7 +158,7 @@ Time medianOf(Work&& work) {
     return median(times);
 }
 
-void run() {
+void benchBooks() {
     DealerFiles files(kCustomers, 0);
     const auto books = [&](const char* name, int lastCustomer) {
         files.copy(name);
@@ -171,6 +201,7 @@ int main(int argc, char** argv) {
     akarix::ApplyStyle(application);
     akarix::SetActionHooks(&akarix::Action::Begin, &akarix::Action::End);
     printHead();
-    run();
+    benchBooks();
+    benchBalances();
     return 0;
 }
