@@ -6,6 +6,7 @@
 
 #include "billing/Tto.h"
 #include "platform/forms/FlexGrid.h"
+#include "platform/forms/GridHead.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
 #include "store/FieldValue.h"
@@ -18,19 +19,13 @@ namespace {
 
 enum Column { kMonth, kPrior, kGas, kSales, kPaid, kTotal };
 
-struct Head {
-    const char16_t* title;
-    int width;  ///< twips
-    GridAlignment alignment;
-};
-
-constexpr std::array<Head, 6> kHeads{{
+constexpr std::array<GridHead, 6> kHeads{{
     {u"年月", 1200, AlignLeftCenter},
-    {u"前月請求", 1500, AlignRightCenter},
-    {u"LPガス", 1500, AlignRightCenter},
-    {u"売上金額", 1500, AlignRightCenter},
-    {u"入金額", 1500, AlignRightCenter},
-    {u"合計金額", 1500, AlignRightCenter},
+    {u"前月請求", 1500},
+    {u"LPガス", 1500},
+    {u"売上金額", 1500},
+    {u"入金額", 1500},
+    {u"合計金額", 1500},
 }};
 
 const QString kAmount = QStringLiteral("###,##0");
@@ -119,15 +114,7 @@ LedgerMonth LatestLedgerMonth() {
 }
 
 void EmptyHistory(FlexGrid& list) {
-    list.SetCols(static_cast<int>(kHeads.size()));
-    list.SetFixedRows(1);
-    list.SetRows(1);
-    int column = 0;
-    for (const Head& head : kHeads) {
-        list.SetColWidth(column, head.width);
-        list.SetColAlignment(column, head.alignment);
-        list.SetTextMatrix(0, column++, QString::fromUtf16(head.title));
-    }
+    SetHeads(list, kHeads);
 }
 
 void ShowLedgerHistory(FlexGrid& list, std::int32_t deal, int nendo, int getudo) {

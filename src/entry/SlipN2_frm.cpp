@@ -8,6 +8,7 @@
 #include "entry/PaymentLedger.h"
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/FlexGrid.h"
+#include "platform/forms/GridHead.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
 #include "platform/runtime/DatePart.h"
@@ -141,13 +142,8 @@ QVBoxLayout* SlipN2_frm::layOutHistory() {
 
     List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
     EmptyHistory(*List_);
-    int width = 0;
-    for (int col = 0; col < List_->Cols(); ++col) {
-        width += Twips(List_->ColWidth(col));
-    }
-    constexpr int kScrollBar = 24;
     constexpr int kHeight = 300;
-    List_->setMinimumSize(width + kScrollBar, kHeight);
+    ReserveRoom(*List_, kHeight);
 
     auto* column = new QVBoxLayout;
     column->addLayout(start.layout());

@@ -7,6 +7,7 @@
 #include "platform/forms/Choice.h"
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/FlexGrid.h"
+#include "platform/forms/GridHead.h"
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
@@ -25,13 +26,7 @@ enum Field { kPattern, kSt, kEd, kKihon, kTanka };
 enum Button { kAdd, kShow, kSave, kClear, kShowAll, kExport, kEmptyTable };
 enum Column { kColMark, kColSt, kColEd, kColKihon, kColTanka, kColShow, kColumns };
 
-struct Head {
-    const char16_t* title;
-    int width;
-    int alignment = AlignRightCenter;
-};
-
-constexpr std::array<Head, kColumns> kHeads{{
+constexpr std::array<GridHead, kColumns> kHeads{{
     {u"削除", 500, AlignCenterCenter},
     {u"開始", 500},
     {u"終了", 500},
@@ -101,16 +96,8 @@ QVBoxLayout* GTanka_frm::layOutBands() {
     bandButtons->addWidget(Command1_);
 
     ListK_ = &Named(new FlexGrid(this), QStringLiteral("ListK"));
-    ListK_->SetCols(kColumns);
-    ListK_->SetFixedRows(1);
-    int width = 0;
-    for (int column = 0; column < kColumns; ++column) {
-        const Head& head = kHeads[static_cast<std::size_t>(column)];
-        ListK_->SetColWidth(column, head.width);
-        ListK_->SetColAlignment(column, head.alignment);
-        width += Twips(head.width);
-    }
-    ListK_->setMinimumWidth(width + kScrollBar);
+    SetHeads(*ListK_, kHeads);
+    ReserveRoom(*ListK_, 0);
     ListK_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
 
     auto* bands = new QVBoxLayout;
@@ -202,18 +189,11 @@ void GTanka_frm::clear() {
     ClearControls(*this);
     Check1_->SetValue(0);
     Check2_->SetValue(0);
-    emptyBands();
+    ListK_->SetRows(1);
     emptyTable();
     Recordset highest = gDb->OpenRecordset(QStringLiteral("SELECT MAX(Ptn) AS tCode FROM Gaskeisan"));
     ebox(kPattern).SetText(NumStr(CLng(NullToZero(highest[QStringLiteral("tCode")])) + 1));
     FocusSelect(ebox(kPattern));
-}
-
-void GTanka_frm::emptyBands() {
-    ListK_->SetRows(1);
-    for (int column = 0; column < kColumns; ++column) {
-        ListK_->SetTextMatrix(0, column, QString::fromUtf16(kHeads[static_cast<std::size_t>(column)].title));
-    }
 }
 
 QString GTanka_frm::pattern() const {
@@ -221,7 +201,7 @@ QString GTanka_frm::pattern() const {
 }
 
 void GTanka_frm::load() {
-    emptyBands();
+    ListK_->SetRows(1);
     Recordset bands = gDb->OpenRecordset(QStringLiteral("SELECT * FROM GasKeisan"
                                                         " WHERE Ptn=") +
                                          pattern() + QStringLiteral(" ORDER BY St,Ed"));

@@ -24,7 +24,6 @@ class GTanka_frm : public EntryForm {
     void wire();
 
     void clear();
-    void emptyBands();
     void load();
     void walk(const QString& condition);
     void clickBand();
