@@ -10,8 +10,12 @@
 #include "month/MeterBook.h"
 #include "month/MonthCheck.h"
 #include "month/Options.h"
+#include "month/Trade.h"
+#include "month/TypedMonth.h"
 #include "platform/print/PdfText.h"
 #include "sample/OpenStore.h"
+#include "sample/SampleDealer.h"
+#include "store/Lookup.h"
 #include "store/dbAccess.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
@@ -57,6 +61,14 @@ class PlayedMonth : public testing::Test {
                                       QRegularExpression::MultilineOption);
         return line.match(QString::fromUtf8(file.readAll())).captured(1).remove(u',');
     }
+    static DocumentNotes documents(const QString& question) {
+        DocumentNotes notes;
+        for (const QString& row : ScratchStore::rows(question)) {
+            const QStringList cells = row.split(u'|');
+            notes[cells[0].toInt()] = {cells[1].toInt(), cells[2].toLongLong()};
+        }
+        return notes;
+    }
     static QString stored(const QString& question) { return ScratchStore::rows(question).value(0); }
 
     static inline QTemporaryDir* folder_ = nullptr;
@@ -72,6 +84,8 @@ TEST_F(PlayedMonth, SummaryTellsWhatTheStoreHolds) {
     } const cases[] = {
         {u"検針", u"SELECT COUNT(*) FROM Dgd WHERE Nendo=2011 AND Getudo=4 AND KonkaiMeter>0"},
         {u"ガス料金", u"SELECT SUM(Gaku) FROM Dgd WHERE Nendo=2011 AND Getudo=4"},
+        {u"物販", u"SELECT SUM(UGaku) FROM TtoD WHERE Nendo=2011 AND Getudo=4"},
+        {u"入金", u"SELECT SUM(Gaku) FROM Dny WHERE Nendo=2011 AND Getudo=4"},
         {u"当月請求", u"SELECT SUM(Gaku) FROM TtoD WHERE Nendo=2011 AND Getudo=4"},
         {u"前月残", u"SELECT SUM(ZenkaiGaku+GGaku+UGaku-NGaku) FROM TtoD WHERE Nendo=2011 AND Getudo=3"},
         {u"次月繰越", u"SELECT SUM(ZenkaiGaku+Gaku-NGaku) FROM TtoD WHERE Nendo=2011 AND Getudo=4"},
@@ -80,6 +94,14 @@ TEST_F(PlayedMonth, SummaryTellsWhatTheStoreHolds) {
         EXPECT_EQ(figure(QString::fromUtf16(label)), stored(QString::fromUtf16(question)));
     }
     EXPECT_GT(figure(u"使用量"_qs).toDouble(), 12.0);
+    const auto documents = [](const QString& table) {
+        return ScratchStore::rows(u"SELECT Dno FROM "_qs + table +
+                                  u" WHERE Nendo=2011 AND Getudo=4 GROUP BY Dno"_qs)
+            .size();
+    };
+    EXPECT_EQ(figure(u"売上伝票"_qs).toInt(), documents(u"Dud"_qs));
+    EXPECT_EQ(figure(u"入金伝票"_qs).toInt(), documents(u"Dny"_qs));
+    EXPECT_GT(documents(u"Dny"_qs), 5);
 }
 
 TEST_F(PlayedMonth, TheListIsPrinted) {
@@ -88,13 +110,49 @@ TEST_F(PlayedMonth, TheListIsPrinted) {
     EXPECT_THAT(text.toStdString(), HasSubstr("花子"));
     EXPECT_THAT(text.remove(u',').toStdString(), HasSubstr(figure(u"ガス料金"_qs).toStdString()));
     EXPECT_TRUE(QFile::exists(path(u"billing-list.xlsx"_qs)));
+    EXPECT_TRUE(QFile::exists(path(u"account.xlsx"_qs)));
+}
+
+// The new customer pays nothing yet, and buys the new item: 32,800 and 3,500 with a tenth each.
+TEST_F(PlayedMonth, WhatIsTypedOnOneScreenIsFoundOnTheNext) {
+    const sample::OpenStore store(database());
+    EXPECT_EQ(stored(u"SELECT Kana,Namae,Tanka FROM Hin WHERE Code=91"_qs),
+              u"ｶﾞｽｽｲﾊﾝｷ|ガス炊飯器 5合炊き|32800"_qs);
+    EXPECT_EQ(ScratchStore::rows(
+                  u"SELECT HinCode,HinNamae,Suu,Gaku FROM Dud WHERE Deal=13 AND Getudo=4 ORDER BY Eda"_qs),
+              (QStringList{u"91|ガス炊飯器 5合炊き|1|32800"_qs, u"90|消費税|0|3280"_qs,
+                           u"0|配送・取付|0|3500"_qs, u"90|消費税|0|350"_qs}));
+    EXPECT_EQ(stored(u"SELECT UGaku,NGaku FROM TtoD WHERE Deal=13 AND Nendo=2011 AND Getudo=4"_qs),
+              u"39930|0"_qs);
+    EXPECT_EQ(stored(u"SELECT COUNT(*) FROM TtoD WHERE Nendo=2011 AND Getudo=4 AND SyokiFlg<>0"_qs), u"0"_qs)
+        << "the opening balances are looked at alone";
 }
 
 TEST_F(PlayedMonth, EveryScreenIsPictured) {
     const QStringList pictures = QDir(path(u"screens"_qs)).entryList(QDir::Files, QDir::Name);
-    for (const char16_t* name : {u"splash", u"login", u"menu", u"tariff", u"calculator", u"route",
-                                 u"customer-lookup", u"customer", u"confirmation", u"reading-sheet",
-                                 u"billing", u"message", u"billing-list", u"printer", u"preview"}) {
+    for (const char16_t* name : {u"splash",
+                                 u"login",
+                                 u"menu",
+                                 u"tariff",
+                                 u"calculator",
+                                 u"route",
+                                 u"customer-lookup",
+                                 u"customer",
+                                 u"confirmation",
+                                 u"goods-lookup",
+                                 u"goods",
+                                 u"new-goods",
+                                 u"reading-sheet",
+                                 u"slip",
+                                 u"payment",
+                                 u"billing",
+                                 u"message",
+                                 u"billing-list",
+                                 u"printer",
+                                 u"preview",
+                                 u"account",
+                                 u"account-slip",
+                                 u"opening-balances"}) {
         const QStringList found = pictures.filter(QRegularExpression(u"^[0-9]{2}-%1\\.png$"_qs.arg(name)));
         ASSERT_EQ(found.size(), 1) << QString::fromUtf16(name).toStdString();
         EXPECT_FALSE(QImage(path(u"screens/"_qs + found[0])).isNull());
@@ -105,14 +163,21 @@ TEST_F(PlayedMonth, EveryScreenIsPictured) {
 // Each fault is planted into a ledger that was right, and must be the only thing told.
 TEST_F(PlayedMonth, AFaultOfOneYenIsTold) {
     const sample::OpenStore store(database());
-    std::map<std::int32_t, MeterNote> typed;
+    TypedMonth typed;
     for (const QString& row : ScratchStore::rows(
              u"SELECT Deal,KoukanMeter,KoukanGoMeter,KonkaiMeter FROM Dgd WHERE Nendo=2011 AND Getudo=4 "
              "AND KonkaiMeter>0"_qs)) {
         const QStringList cells = row.split(u'|');
         const auto tenths = [&cells](int i) { return qRound(cells[i].toDouble() * 10); };
-        typed[cells[0].toInt()] = {tenths(1), tenths(2), tenths(3)};
+        typed.readings[cells[0].toInt()] = {tenths(1), tenths(2), tenths(3)};
     }
+    // The dealer's own documents end with March.
+    typed.slips = documents(
+        u"SELECT Dno,Deal,SUM(Gaku) FROM Dud WHERE CreateAuto=0 AND Hizuke>=#2011/04/01# GROUP BY Dno,Deal"_qs);
+    typed.payments =
+        documents(u"SELECT Dno,Deal,SUM(Gaku) FROM Dny WHERE Hizuke>=#2011/04/01# GROUP BY Dno,Deal"_qs);
+    const std::int32_t slip = typed.slips.begin()->first;
+    const std::int32_t payment = typed.payments.begin()->first;
     const auto told = [&typed] {
         try {
             checkMonth(*gDb, 2011, 4, typed);
@@ -126,6 +191,7 @@ TEST_F(PlayedMonth, AFaultOfOneYenIsTold) {
         const char16_t* plant;
         const char16_t* mend;
         const char16_t* tells;
+        int places = 1;
     } const cases[] = {
         {u"UPDATE TtoD SET NGaku=NGaku+1 WHERE Deal=3 AND Nendo=2011 AND Getudo=3",
          u"UPDATE TtoD SET NGaku=NGaku-1 WHERE Deal=3 AND Nendo=2011 AND Getudo=3",
@@ -136,12 +202,22 @@ TEST_F(PlayedMonth, AFaultOfOneYenIsTold) {
          u"得意先 13 2011/4 Gaku"},
         {u"UPDATE Dgd SET KoukanGoMeter=1 WHERE Deal=13", u"UPDATE Dgd SET KoukanGoMeter=0 WHERE Deal=13",
          u"得意先 13: 入力した検針値と違います。"},
+        {u"UPDATE Dud SET Gaku=Gaku+1 WHERE Eda=1 AND Dno=%1",
+         u"UPDATE Dud SET Gaku=Gaku-1 WHERE Eda=1 AND Dno=%1", u"売上伝票 %1: 入力した内容と違います。",
+         3},  // and the ledger's sales and its charge
+        {u"UPDATE Dny SET Dno=99999 WHERE Dno=%2", u"UPDATE Dny SET Dno=%2 WHERE Dno=99999",
+         u"入金 %2: 入力した伝票がありません。\n入金 99999: 入力していない伝票です。", 2},
     };
-    for (const auto& [plant, mend, tells] : cases) {
-        gDb->Execute(QString::fromUtf16(plant));
-        EXPECT_THAT(told().toStdString(), HasSubstr(QString::fromUtf16(tells).toStdString()));
-        EXPECT_THAT(told().toStdString(), HasSubstr("（1 か所）"));
-        gDb->Execute(QString::fromUtf16(mend));
+    const auto named = [&](const char16_t* text) {
+        return QString::fromUtf16(text)
+            .replace(u"%1"_qs, QString::number(slip))
+            .replace(u"%2"_qs, QString::number(payment));
+    };
+    for (const auto& [plant, mend, tells, places] : cases) {
+        gDb->Execute(named(plant));
+        EXPECT_THAT(told().toStdString(), HasSubstr(named(tells).toStdString()));
+        EXPECT_THAT(told().toStdString(), HasSubstr(u"（%1 か所）"_qs.arg(places).toStdString()));
+        gDb->Execute(named(mend));
         EXPECT_EQ(told(), QString());
     }
 }
@@ -215,6 +291,61 @@ TEST(MeterReader, ReadsOnFromWhereTheMeterStood) {
     const auto full = book.note(5, 99950);
     EXPECT_EQ(full->exchangedAt, 99999) << "the old meter's end";
     EXPECT_LT(full->now, 200) << "the rest on the new one";
+}
+
+TEST(Trade, TaxIsCutToTheYenAndAddedUp) {
+    struct {
+        std::vector<SaleLine> lines;
+        std::int64_t total;
+    } const cases[] = {
+        {{}, 0},
+        {{goodsLine(20, 3, 583), taxLine()}, 1749 + 174},
+        {{textLine(u"値引"_qs, -509), taxLine()}, -509 - 50},
+        {{goodsLine(1, 1, 8800), textLine(u"工賃"_qs, 105), taxLine(), taxLine()}, 8800 + 105 + 10 + 1},
+    };
+    for (const auto& [lines, total] : cases)
+        EXPECT_EQ(totalOf(Sale{1, Date(), lines}), total);
+}
+
+TEST(Trade, CountsForTheMonthAndStaysWithinWhatIsOwed) {
+    const ScratchStore store;
+    sample::FillSampleDealer({400, 2, 2011, 1}, [](const QString&) {});
+    const auto countsForFebruary = [](std::int32_t deal, Date day) {
+        int year = 0;
+        int month = 0;
+        DateToGetudo(deal, day, year, month);
+        return year == 2011 && month == 2;
+    };
+    const std::vector<Sale> sales = salesOf(*gDb, 2011, 2);
+    EXPECT_GT(sales.size(), 20u);
+    for (const Sale& sale : sales) {
+        EXPECT_TRUE(countsForFebruary(sale.deal, sale.day)) << sale.deal;
+        EXPECT_LE(sale.lines.size(), 6u) << "no more fit on a slip";
+    }
+
+    const DocumentNotes owed = [] {
+        DocumentNotes notes;
+        for (const QString& row : ScratchStore::rows(
+                 u"SELECT Deal,ZenkaiGaku+GGaku+UGaku-NGaku FROM TtoD WHERE Nendo=2011 AND Getudo=1"_qs)) {
+            notes[row.section(u'|', 0, 0).toInt()].yen = row.section(u'|', 1).toLongLong();
+        }
+        return notes;
+    }();
+    const std::vector<Payment> payments = paymentsOf(*gDb, 2011, 2);
+    EXPECT_LE(payments.size(), static_cast<std::size_t>(mostPayments));
+    EXPECT_GT(payments.size(), 200u);
+    std::size_t whole = 0;
+    std::size_t ofSeveralLines = 0;
+    for (const Payment& payment : payments) {
+        EXPECT_TRUE(countsForFebruary(payment.deal, payment.day)) << payment.deal;
+        EXPECT_GT(totalOf(payment), 0);
+        EXPECT_LE(totalOf(payment), owed.at(payment.deal).yen) << payment.deal;
+        whole += totalOf(payment) == owed.at(payment.deal).yen ? 1 : 0;
+        ofSeveralLines += payment.parts.size() > 1 ? 1 : 0;
+    }
+    EXPECT_GT(whole, payments.size() / 2);
+    EXPECT_LT(whole, payments.size());
+    EXPECT_GT(ofSeveralLines, 0u);
 }
 
 }  // namespace

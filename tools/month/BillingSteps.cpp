@@ -1,5 +1,3 @@
-#include <QFileInfo>
-
 #include "clerk/Clerk.h"
 #include "month/Album.h"
 #include "month/Desk.h"
@@ -28,10 +26,6 @@ const QString exportButton = QStringLiteral("Btn(2)");
 std::map<QString, QString> monthTyped(const Options& options) {
     return {{QStringLiteral("ebox(0)"), QString::number(options.year)},
             {QStringLiteral("ebox(1)"), QString::number(options.month)}};
-}
-
-void requireFile(const QString& path) {
-    if (QFileInfo(path).size() == 0) throw Failure(path + QStringLiteral(" ができていません。"));
 }
 
 /// Chooses the file, the last of the printers, and names it.
@@ -79,14 +73,8 @@ void printList(Desk& desk) {
 }
 
 void exportList(Desk& desk) {
-    const QString path = desk.folder.path(QStringLiteral("billing-list.xlsx"));
-    desk.clerk.expect(QStringLiteral("SaveAs_frm"), [&desk, path](QWidget& dialog) {
-        desk.clerk.type(path);
-        desk.album.take(QStringLiteral("save-as"), {&dialog});
-        desk.clerk.enter();
-    });
-    desk.clerk.click(exportButton);
-    requireFile(path);
+    saveAs(desk, exportButton, desk.folder.path(QStringLiteral("billing-list.xlsx")),
+           QStringLiteral("save-as"));
     closeForm(desk, listForm);
 }
 

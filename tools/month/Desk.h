@@ -2,9 +2,8 @@
 
 #include <QString>
 #include <cstdint>
-#include <map>
 
-#include "month/MeterBook.h"
+#include "month/TypedMonth.h"
 
 namespace akarix {
 class Clerk;
@@ -24,7 +23,9 @@ struct Desk {
     Album& album;
     QString newTariff{};
     std::int32_t newCustomer = 0;
-    std::map<std::int32_t, MeterNote> typed{};  ///< the readings by customer
+    int newItem = 0;
+    std::int64_t newItemPrice = 0;  ///< yen
+    TypedMonth typed{};
 };
 
 }  // namespace akarix::month

@@ -1,5 +1,7 @@
 #include "month/Hands.h"
 
+#include <QFileInfo>
+
 #include "clerk/Clerk.h"
 #include "month/Album.h"
 #include "month/Desk.h"
@@ -47,6 +49,20 @@ void expectPictured(Desk& desk, const QString& dialog, const QString& picture, i
         desk.album.take(picture, {&shown});
         desk.clerk.press(key);
     });
+}
+
+void saveAs(Desk& desk, const QString& button, const QString& path, const QString& picture) {
+    desk.clerk.expect(QStringLiteral("SaveAs_frm"), [&desk, path, picture](QWidget& dialog) {
+        desk.clerk.type(path);
+        if (!picture.isEmpty()) desk.album.take(picture, {&dialog});
+        desk.clerk.enter();
+    });
+    desk.clerk.click(button);
+    requireFile(path);
+}
+
+void requireFile(const QString& path) {
+    if (QFileInfo(path).size() == 0) throw Failure(path + QStringLiteral(" ができていません。"));
 }
 
 }  // namespace akarix::month

@@ -21,5 +21,9 @@ void requireFocus(Desk& desk, const QString& control);
 void takeForm(Desk& desk, const QString& picture, const QString& form);
 /// The next dialog is kept as a picture and then left by a key.
 void expectPictured(Desk& desk, const QString& dialog, const QString& picture, int key);
+/// Presses a button that asks for a file's name, and names it. Raises Failure when no file comes of it.
+/// \param picture of the question; none when empty
+void saveAs(Desk& desk, const QString& button, const QString& path, const QString& picture = {});
+void requireFile(const QString& path);
 
 }  // namespace akarix::month

@@ -46,6 +46,18 @@ void lookUpCustomer(Desk& desk) {
     desk.clerk.click(QStringLiteral("F6(0)"));
 }
 
+/// An item is sought by a part of its reading and picked by a click.
+void lookUpItem(Desk& desk) {
+    desk.clerk.expect(QStringLiteral("Help_frm"), [&desk](QWidget& lookup) {
+        desk.clerk.fill(QStringLiteral("ｶﾞｽ"));
+        desk.clerk.fill({});
+        desk.clerk.enter();
+        desk.album.take(QStringLiteral("goods-lookup"), {&lookup});
+        desk.clerk.clickCell(desk.clerk.find<FlexGrid>(QStringLiteral("List")), 0, 1);
+    });
+    desk.clerk.click(QStringLiteral("F6(0)"));
+}
+
 /// A deletion is asked for and thought better of.
 void askToDelete(Desk& desk) {
     desk.clerk.expect(QStringLiteral("Confirm_frm"), [&desk](QWidget& question) {
@@ -112,6 +124,24 @@ void keepCustomer(Desk& desk) {
             {ebox(12), QStringLiteral("7")},
             {ebox(15), desk.newTariff}});
     takeForm(desk, QStringLiteral("new-customer"), form);
+    desk.clerk.enter();
+    closeForm(desk, form);
+}
+
+void keepGoods(Desk& desk) {
+    const QString form = QStringLiteral("MstHin_frm");
+    openFromMenu(desk, 4, form);
+    lookUpItem(desk);
+    takeForm(desk, QStringLiteral("goods"), form);
+    desk.clerk.click(QStringLiteral("Btn(0)"));
+
+    desk.newItem = desk.clerk.text(ebox(0)).toInt();
+    desk.newItemPrice = 32800;
+    walkTo(desk, saveButton,
+           {{ebox(1), QStringLiteral("ｶﾞｽｽｲﾊﾝｷ")},
+            {ebox(2), QStringLiteral("ガス炊飯器 5合炊き")},
+            {ebox(3), QString::number(desk.newItemPrice)}});
+    takeForm(desk, QStringLiteral("new-goods"), form);
     desk.clerk.enter();
     closeForm(desk, form);
 }

@@ -6,12 +6,21 @@
 #include "ledger/LedgerCheck.h"
 #include "ledger/Rows.h"
 #include "month/Failure.h"
+#include "month/TypedMonth.h"
 
 namespace akarix::month {
 
 namespace {
 
 constexpr std::int64_t scaledTenth = 1000;
+constexpr std::int64_t scaledYen = 10000;
+
+struct Stored {
+    std::int32_t deal = 0;
+    std::int64_t month = 0;
+    std::int64_t scaled = 0;
+    friend bool operator==(const Stored&, const Stored&) = default;
+};
 
 QStringList compareReadings(Database& db, int year, int month, std::map<std::int32_t, MeterNote> typed) {
     QStringList differences;
@@ -36,10 +45,48 @@ QStringList compareReadings(Database& db, int year, int month, std::map<std::int
     return differences;
 }
 
+/// The documents from a number on, as the store has them in the month.
+std::map<std::int32_t, Stored> documentsOf(Database& db, const QString& source, std::int32_t first) {
+    std::map<std::int32_t, Stored> documents;
+    for (const auto& row : readNumbers(
+             db,
+             QStringLiteral("SELECT Dno,Deal,Nendo,Getudo,Gaku FROM %1 Dno>=%2").arg(source).arg(first))) {
+        Stored& document = documents[static_cast<std::int32_t>(row[0])];
+        document.deal = static_cast<std::int32_t>(row[1]);
+        document.month = row[2] * 12 + row[3];
+        document.scaled += row[4];
+    }
+    return documents;
+}
+
+/// The clerk typed the last documents of the store, save for what the run itself has written.
+QStringList compareDocuments(Database& db, int month, const QString& name, const QString& source,
+                             const DocumentNotes& typed) {
+    QStringList differences;
+    if (typed.empty()) return differences;
+    auto stored = documentsOf(db, source, typed.begin()->first);
+    for (const auto& [dno, note] : typed) {
+        const auto found = stored.extract(dno);
+        if (found.empty()) {
+            differences << QStringLiteral("%1 %2: 入力した伝票がありません。").arg(name).arg(dno);
+        } else if (found.mapped() != Stored{note.deal, month, note.yen * scaledYen}) {
+            differences << QStringLiteral("%1 %2: 入力した内容と違います。").arg(name).arg(dno);
+        }
+    }
+    for (const auto& [dno, document] : stored)
+        differences << QStringLiteral("%1 %2: 入力していない伝票です。").arg(name).arg(dno);
+    return differences;
+}
+
 }  // namespace
 
-void checkMonth(Database& db, int year, int month, const std::map<std::int32_t, MeterNote>& typed) {
-    QStringList differences = compareReadings(db, year, month, typed);
+void checkMonth(Database& db, int year, int month, const TypedMonth& typed) {
+    QStringList differences = compareReadings(db, year, month, typed.readings);
+    const int index = year * 12 + month;
+    differences += compareDocuments(db, index, QStringLiteral("売上伝票"),
+                                    QStringLiteral("Dud WHERE CreateAuto=0 AND"), typed.slips);
+    differences +=
+        compareDocuments(db, index, QStringLiteral("入金"), QStringLiteral("Dny WHERE"), typed.payments);
     for (const auto& found : {CheckCharges(db, year, month), CheckLedgerMonth(db, year, month)}) {
         for (const Difference& difference : found)
             differences << describe(difference);

@@ -28,19 +28,26 @@ struct RoadStep {
     void (*play)(Desk&);
 };
 
-constexpr std::array<RoadStep, 13> road{{
+constexpr std::array<RoadStep, 20> road{{
     {u"起動", startProgram},
     {u"料金表", keepTariff},
     {u"地区マスター", keepRoute},
     {u"得意先マスター", keepCustomer},
+    {u"商品マスター", keepGoods},
     {u"検針シートを開く", openSheet},
     {u"検針値の入力", typeReadings},
     {u"検針の保存", saveSheet},
+    {u"売上伝票の入力", typeSlips},
+    {u"入金の入力", typePayments},
     {u"請求処理", runBilling},
     {u"一覧表の表示", showList},
     {u"一覧表の印刷", printList},
     {u"一覧表の書き出し", exportList},
     {u"印刷プレビュー", previewList},
+    {u"消費先台帳の表示", showAccount},
+    {u"消費先台帳の書き出し", exportAccount},
+    {u"台帳から伝票を開く", openAccountSlip},
+    {u"得意先残の表示", showBalances},
     {u"終了", endProgram},
 }};
 

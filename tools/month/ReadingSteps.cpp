@@ -74,7 +74,7 @@ void typeReadings(Desk& desk) {
         if (note->exchangedAt != 0) typeExchange(desk, list, row, *note);
         goTo(desk, list, row, ColNow);
         desk.clerk.fill(reading(note->now));
-        desk.typed[deal] = *note;
+        desk.typed.readings[deal] = *note;
     }
 }
 

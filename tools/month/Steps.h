@@ -10,14 +10,21 @@ void startProgram(Desk& desk);
 void keepTariff(Desk& desk);
 void keepRoute(Desk& desk);
 void keepCustomer(Desk& desk);
+void keepGoods(Desk& desk);
 void openSheet(Desk& desk);
 void typeReadings(Desk& desk);
 void saveSheet(Desk& desk);
+void typeSlips(Desk& desk);
+void typePayments(Desk& desk);
 void runBilling(Desk& desk);
 void showList(Desk& desk);
 void printList(Desk& desk);
 void exportList(Desk& desk);
 void previewList(Desk& desk);
+void showAccount(Desk& desk);
+void exportAccount(Desk& desk);
+void openAccountSlip(Desk& desk);
+void showBalances(Desk& desk);
 void endProgram(Desk& desk);
 
 }  // namespace akarix::month

@@ -1,6 +1,7 @@
 #include "month/Summary.h"
 
 #include <algorithm>
+#include <set>
 
 #include "ledger/Rows.h"
 #include "platform/runtime/Currency.h"
@@ -29,6 +30,13 @@ QString amount(std::int64_t scaled, const QString& mask) {
     return Format(Currency::FromScaled(scaled), mask);
 }
 
+std::int64_t countDocuments(Database& db, const QString& table, const QString& ofMonth) {
+    std::set<std::int64_t> numbers;
+    for (const auto& row : readNumbers(db, QStringLiteral("SELECT Dno FROM ") + table + ofMonth))
+        numbers.insert(row[0]);
+    return static_cast<std::int64_t>(numbers.size());
+}
+
 }  // namespace
 
 Figures readFigures(Database& db, int year, int month) {
@@ -50,6 +58,8 @@ Figures readFigures(Database& db, int year, int month) {
         figures.paid += row[4];
         figures.after += row[0] + row[1] + row[2] - row[4];
     }
+    figures.slips = countDocuments(db, QStringLiteral("Dud"), ofMonth);
+    figures.payments = countDocuments(db, QStringLiteral("Dny"), ofMonth);
     return figures;
 }
 
@@ -63,9 +73,11 @@ QString summaryText(int year, int month, const Figures& figures, const StepTimes
     text += line(QStringLiteral("検針"), count(figures.readings), QStringLiteral("件"));
     text += line(QStringLiteral("使用量"), amount(figures.usage, tenths), QStringLiteral("m3"));
     text += line(QStringLiteral("ガス料金"), amount(figures.gas, whole), yen);
+    text += line(QStringLiteral("売上伝票"), count(figures.slips), QStringLiteral("枚"));
     text += line(QStringLiteral("物販"), amount(figures.sales, whole), yen);
     text += line(QStringLiteral("当月請求"), amount(figures.billed, whole), yen);
     text += line(QStringLiteral("前月残"), amount(figures.before, whole), yen);
+    text += line(QStringLiteral("入金伝票"), count(figures.payments), QStringLiteral("枚"));
     text += line(QStringLiteral("入金"), amount(figures.paid, whole), yen);
     text += line(QStringLiteral("次月繰越"), amount(figures.after, whole), yen);
     text += u'\n';

@@ -17,9 +17,11 @@ struct Figures {
     std::int64_t readings = 0;  ///< rows with a charge or a reading
     std::int64_t usage = 0;
     std::int64_t gas = 0;
+    std::int64_t slips = 0;  ///< sales slips, the run's own among them
     std::int64_t sales = 0;
     std::int64_t billed = 0;
     std::int64_t before = 0;  ///< balance carried into the month
+    std::int64_t payments = 0;
     std::int64_t paid = 0;
     std::int64_t after = 0;  ///< balance carried out of it
 };

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+#include "platform/runtime/Date.h"
+
+namespace akarix {
+class Database;
+}
+
+namespace akarix::month {
+
+/// A line of a sale: goods, a text of its own, or the tax on the line above.
+struct SaleLine {
+    int item = 0;  ///< 0 for a text
+    int count = 0;
+    std::int64_t yen = 0;  ///< of one piece, or of the whole text
+    QString text{};
+};
+
+struct Sale {
+    std::int32_t deal = 0;
+    Date day;
+    std::vector<SaleLine> lines;
+};
+
+SaleLine goodsLine(int item, int count, std::int64_t price);
+SaleLine textLine(const QString& text, std::int64_t yen);
+SaleLine taxLine();
+bool isTax(const SaleLine& line);
+/// Worked out in whole numbers, with no routine of the screen.
+std::int64_t totalOf(const Sale& sale);
+
+struct PaymentPart {
+    int paymentClass = 0;  ///< NyukinKubun.Code
+    std::int64_t yen = 0;
+    QString memo{};
+};
+
+struct Payment {
+    std::int32_t deal = 0;
+    Date day;
+    std::vector<PaymentPart> parts;
+};
+
+std::int64_t totalOf(const Payment& payment);
+
+// What a month brings in beside the readings, the same for the same store and month. Each is dated so that it
+// counts for that month. Typing takes its time, so a large dealer's customers are sampled.
+
+constexpr int mostSales = 60;
+constexpr int mostPayments = 300;
+
+std::vector<Sale> salesOf(Database& db, int year, int month);
+/// Most customers pay what the month before left, some a part of it, a few nothing.
+std::vector<Payment> paymentsOf(Database& db, int year, int month);
+
+}  // namespace akarix::month

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+
+#include "month/MeterBook.h"
+
+namespace akarix::month {
+
+/// Whose a document is and what it comes to.
+struct DocumentNote {
+    std::int32_t deal = 0;
+    std::int64_t yen = 0;
+    friend bool operator==(const DocumentNote&, const DocumentNote&) = default;
+};
+using DocumentNotes = std::map<std::int32_t, DocumentNote>;  ///< by number
+
+/// What was typed through the screens, and must be found in the store again.
+struct TypedMonth {
+    std::map<std::int32_t, MeterNote> readings{};  ///< by customer
+    DocumentNotes slips{};
+    DocumentNotes payments{};
+};
+
+}  // namespace akarix::month
