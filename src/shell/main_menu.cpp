@@ -25,7 +25,10 @@
 #include "platform/runtime/CInt.h"
 #include "reports/RepoDaichou_frm.h"
 #include "reports/RepoSeikyu_frm.h"
+#include "shell/Keihoki_frm.h"
 #include "shell/Opening_frm.h"
+#include "shell/SysFunc_frm.h"
+#include "shell/etc_frm.h"
 #include "store/Settings.h"
 #include "store/dbAccess.h"
 #include "toolkit/ResizeForm.h"
@@ -64,13 +67,13 @@ constexpr std::array<BoardButton, 19> kBoard{{
     {17, 2, u"得意先初期残", &OpenScreen<TorZan_frm>},
     {3, 2, u"料金表", &OpenScreen<GTanka_frm>},
     {4, 2, u"商品", &OpenScreen<MstHin_frm>},
-    {9, 2, u"リース料金"},
+    {9, 2, u"リース料金", &OpenScreen<Keihoki_frm>},
     {12, 2, u"地区", &OpenScreen<MstRte_frm>},
     {kChangePassword, 3, u"パスワード"},
     {14, 3, u"銀行委託者設定", &OpenScreen<MstBnk_frm>},
     {15, 3, u"郵便委託者設定", &OpenScreen<MstYubin_frm>},
     {11, 3, u"バックアップ場所"},
-    {18, 3, u"その他情報"},
+    {18, 3, u"その他情報", &OpenScreen<etc_frm>},
 }};
 
 struct StartSettings {
@@ -209,6 +212,11 @@ void main_menu::QueryUnload(bool& cancel) {
     cancel = true;
     RunGuarded([] { CloseDb(); });
     QCoreApplication::exit(0);
+}
+
+// Service alone comes to the settings rows; no button tells of them.
+void main_menu::MouseDown(int /*button*/, int shift, int /*x*/, int /*y*/) {
+    if (shift == (ShiftMask | CtrlMask | AltMask)) OpenScreen<SysFunc_frm>();
 }
 
 bool main_menu::event(QEvent* event) {

@@ -1,6 +1,7 @@
 #include "shell/main_menu.h"
 
 #include <QApplication>
+#include <QTest>
 #include <QTimer>
 
 #include "output/EX.h"
@@ -186,7 +187,8 @@ TEST_F(MainMenu, EachButtonOpensItsScreenOnce) {
         {0, u"Slip_frm"_qs},      {2, u"SlipN2_frm"_qs},     {3, u"GTanka_frm"_qs},
         {4, u"MstHin_frm"_qs},    {7, u"RepoSeikyu_frm"_qs}, {8, u"RepoDaichou_frm"_qs},
         {12, u"MstRte_frm"_qs},   {13, u"MstDeal_frm"_qs},   {14, u"MstBnk_frm"_qs},
-        {15, u"MstYubin_frm"_qs}, {16, u"Seikyu_frm"_qs},    {17, u"TorZan_frm"_qs}};
+        {15, u"MstYubin_frm"_qs}, {16, u"Seikyu_frm"_qs},    {17, u"TorZan_frm"_qs},
+        {9, u"Keihoki_frm"_qs},   {18, u"etc_frm"_qs}};
     for (const auto& [button, screen] : screens) {
         press(button);
         ASSERT_TRUE(clerk.isOpen(screen)) << screen.toStdString();
@@ -208,6 +210,18 @@ TEST_F(MainMenu, AllShiftKeysOnAButtonAreAPressOnTheButton) {
     clerk.click(clerk.control("Command(12)"), Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
     EXPECT_TRUE(clerk.isOpen(u"MstRte_frm"_qs));
     EXPECT_EQ(shownForms().size(), 2);
+}
+
+TEST_F(MainMenu, AllShiftKeysOnTheBoardItselfOpenTheSettingsRows) {
+    ASSERT_TRUE(start());
+    QWidget& menu = clerk.form(u"main_menu"_qs);
+    const QPoint bare(3, 3);
+    const Qt::KeyboardModifiers all = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
+    QTest::mouseClick(&menu, Qt::LeftButton, Qt::ControlModifier | Qt::AltModifier, bare);
+    EXPECT_EQ(shownForms().size(), 1);
+    QTest::mouseClick(&menu, Qt::RightButton, all, bare);
+    EXPECT_TRUE(clerk.isOpen(u"SysFunc_frm"_qs));
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_qs);
 }
 
 TEST_F(MainMenu, TheBoardIsScaledWithItsWindow) {

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/forms/CommandButton.h"
+#include "toolkit/EntryForm.h"
+
+namespace akarix {
+
+/// The monthly lease fees that the billing run charges: gas alarm and ACU.
+class Keihoki_frm : public EntryForm {
+ public:
+    Keihoki_frm();
+    void init();
+
+ private:
+    void save();
+
+    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
+    CommandButton* Btn_;
+};
+
+}  // namespace akarix

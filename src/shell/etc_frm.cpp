@@ -1,0 +1,81 @@
+#include "shell/etc_frm.h"
+
+#include <QVBoxLayout>
+#include <array>
+
+#include "platform/forms/FieldLayout.h"
+#include "store/FieldValue.h"
+#include "store/PutContents.h"
+#include "store/Settings.h"
+#include "store/dbAccess.h"
+#include "toolkit/FieldWalk.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+namespace {
+
+enum Field { kClosingDay, kReadingDay, kPrinting };
+enum Button { kCancel, kSave };
+
+struct Setting {
+    std::int32_t code;
+    int field;
+};
+constexpr std::array<Setting, 3> kSettings{{{1, kClosingDay}, {2, kPrinting}, {3, kReadingDay}}};
+
+}  // namespace
+
+etc_frm::etc_frm() : EntryForm(QStringLiteral("etc_frm"), QStringLiteral("その他")) {
+    constexpr int kDayBytes = 2;
+    auto* body = new QVBoxLayout(this);
+    body->setSpacing(16);
+    FieldLayout fields(*this);
+    const auto row = [&](const QString& caption, int field, int bytes) {
+        FieldLine line = fields.row(caption);
+        line.text(addBox(ebox, field, ImeMode::Off), bytes);
+        return line;
+    };
+    row(QStringLiteral("得意先　締日"), kClosingDay, kDayBytes)
+        .note(QStringLiteral("得意先登録時にデフォルトで表示"));
+    row(QStringLiteral("検針日"), kReadingDay, kDayBytes);
+    row(QStringLiteral("印刷設定"), kPrinting, 1).note(QStringLiteral("0 = 直接印刷　1 = 表示後印刷"));
+    body->addLayout(fields.layout());
+    body->addLayout(ButtonBar(*this, Btn, {QStringLiteral("キャンセル"), QStringLiteral("保存")}));
+    wireKeys(ebox, [this](int index) { return enter(index); });
+    on(&Btn(kCancel), &CommandButton::Click, [this] { Unload(); });
+    on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
+}
+
+void etc_frm::init() {
+    ClearControls(*this);
+    Recordset rows = gDb->OpenRecordset(QStringLiteral("SELECT * FROM zSysFunc WHERE Code>=1 and Code<=3"));
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const std::int32_t code = longOf(rows[QStringLiteral("Code")]);
+        for (const Setting& setting : kSettings) {
+            if (setting.code != code) continue;
+            ebox(setting.field).SetText(NullToEmpty(rows[QStringLiteral("contents")]));
+        }
+    }
+    FocusSelect(ebox(kClosingDay));
+}
+
+bool etc_frm::enter(int index) {
+    if (index != kPrinting) return true;
+    SetFocus(&Btn(kSave));  // the walk would come to キャンセル first
+    return false;
+}
+
+void etc_frm::save() {
+    for (const Setting& setting : kSettings) {
+        const QString code = NumStr(setting.code);
+        const QString text = ebox(setting.field).Text();
+        PutContents(QStringLiteral("SELECT * FROM zSysFunc WHERE Code=") + code, code, text);
+        // The days are read by their screens as these open; how to print is known from here on.
+        if (setting.field == kPrinting) gPrintPreview = NumVal(text) == 1;
+    }
+}
+
+}  // namespace akarix

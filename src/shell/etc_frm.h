@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/forms/CommandButton.h"
+#include "toolkit/EntryForm.h"
+
+namespace akarix {
+
+/// The dealer's defaults: what a new customer and a new month start from, and where printing goes.
+class etc_frm : public EntryForm {
+ public:
+    etc_frm();
+    void init();
+
+ private:
+    bool enter(int index);
+    void save();
+
+    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
+    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
+};
+
+}  // namespace akarix

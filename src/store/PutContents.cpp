@@ -1,0 +1,22 @@
+#include "store/PutContents.h"
+
+#include "store/dbAccess.h"
+#include "values/NumVal.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+void PutContents(const QString& sql, const QString& code, const QString& contents) {
+    Recordset row = gDb->OpenRecordset(sql);
+    if (row.Eof()) {
+        row.AddNew();
+        row.Fields(QStringLiteral("Code")) = ToLong(code);
+    } else {
+        row.Edit();
+    }
+    row.Fields(QStringLiteral("contents")) = EmptyToBlank(contents);
+    row.Update();
+    row.Close();
+}
+
+}  // namespace akarix
