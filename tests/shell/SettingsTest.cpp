@@ -18,7 +18,8 @@ class Settings : public ScreenTest {
         clerk.settle();
     }
     static QStringList rows(const QString& table, const QString& where) {
-        return ScratchStore::rows(u"SELECT Code,contents FROM %1 WHERE %2 ORDER BY Code"_qs.arg(table, where));
+        return ScratchStore::rows(
+            u"SELECT Code,contents FROM %1 WHERE %2 ORDER BY Code"_qs.arg(table, where));
     }
     static QStringList defaults() { return rows(u"zSysFunc"_qs, u"Code<=3"_qs); }
     static QStringList fees() { return rows(u"UserOP"_qs, u"Code=2 or Code=3"_qs); }
