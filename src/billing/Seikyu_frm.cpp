@@ -21,7 +21,15 @@ namespace akarix {
 namespace {
 
 enum Field { kYear = 0, kMonth = 1, kCreation = 2, kBank = 5 };
-constexpr int kRun = 0;
+enum Action {
+    kRun,
+    kWriteBank,
+    kWritePost,
+    kReadBank,
+    kReadPost,
+    kBankStatement,
+    kPostStatement,
+};
 
 struct ActionButton {
     int index;
@@ -32,12 +40,12 @@ struct ActionButton {
 
 constexpr std::array<ActionButton, 7> kActions{{
     {kRun, 0, 0, u"請求データの作成"},
-    {1, 1, 0, u"銀行ディスクの作成"},
-    {2, 1, 1, u"郵便局ディスクの作成"},
-    {3, 2, 0, u"銀行ディスクの読込"},
-    {4, 2, 1, u"郵便局ディスクの読込"},
-    {5, 3, 0, u"銀行口座振替明細書"},
-    {6, 3, 1, u"郵便局口座振替明細書"},
+    {kWriteBank, 1, 0, u"銀行ディスクの作成"},
+    {kWritePost, 1, 1, u"郵便局ディスクの作成"},
+    {kReadBank, 2, 0, u"銀行ディスクの読込"},
+    {kReadPost, 2, 1, u"郵便局ディスクの読込"},
+    {kBankStatement, 3, 0, u"銀行口座振替明細書"},
+    {kPostStatement, 3, 1, u"郵便局口座振替明細書"},
 }};
 
 }  // namespace
@@ -57,10 +65,10 @@ void Seikyu_frm::layOut() {
         return &Named(new Label(QString::fromUtf16(caption), this), QString::fromUtf16(name));
     };
     lYobi1_ = label(u"lYobi1");
-    lyobi2_ = label(u"lyobi2");
     sSyukeibi_ = label(u"sSyukeibi");
-    saihiHead_ = label(u"Label(6)", u"再振替日");
-    saihiHint_ = label(u"Label1", u"Enterで決定");
+    Label* lyobi2 = label(u"lyobi2");
+    Label* saihiHead = label(u"Label(6)", u"再振替日");
+    Label* saihiHint = label(u"Label1", u"Enterで決定");
 
     FieldLayout fields(*this);
     fields.row(QStringLiteral("対象"))
@@ -75,15 +83,8 @@ void Seikyu_frm::layOut() {
     fields.row(QStringLiteral("銀行ｺｰﾄﾞ"))
         .text(addBox(ebox, kBank, ImeMode::Off), 4)
         .lookup(F6.add(0, new Image));
-    eSaihi_ = &Named(new TextBox, QStringLiteral("eSaihi"));
-    fields.row({})
-        .widget(saihiHead_)
-        .text(*eSaihi_, kDateBytes)
-        .name(*lyobi2_, kWeekdayBytes)
-        .widget(saihiHint_);
-    for (QWidget* later : std::initializer_list<QWidget*>{saihiHead_, eSaihi_, lyobi2_, saihiHint_}) {
-        later->hide();
-    }
+    TextBox& eSaihi = Named(new TextBox, QStringLiteral("eSaihi"));
+    fields.row({}).widget(saihiHead).text(eSaihi, kDateBytes).name(*lyobi2, kWeekdayBytes).widget(saihiHint);
 
     auto* actions = new QGridLayout;
     actions->setHorizontalSpacing(12);
@@ -98,13 +99,17 @@ void Seikyu_frm::layOut() {
         const bool alone = action.index == kRun;
         actions->addWidget(&button, action.row, action.column, 1, alone ? 2 : 1);
     }
-    Progress_ = label(u"Progress");
+    Label* progress = label(u"Progress");
+    disks_.emplace(DebitButtons::Controls{&ebox(kYear), &ebox(kMonth), &ebox(kCreation), &ebox(kBank),
+                                          saihiHead, &eSaihi, lyobi2, saihiHint, progress});
+    disks_->reset();
+    on(&eSaihi, &TextBox::KeyDown, [this, &eSaihi](KeyEvent& event) { enterRetransfer(eSaihi, event); });
 
     auto* body = new QVBoxLayout(this);
     body->setSpacing(12);
     body->addLayout(fields.layout());
     body->addLayout(actions);
-    body->addWidget(Progress_);
+    body->addWidget(progress);
 }
 
 void Seikyu_frm::init() {
@@ -113,6 +118,7 @@ void Seikyu_frm::init() {
     ebox(kMonth).SetText(NumStr(Month(today)));
     ShowDate(today, ebox(kCreation));
     ebox(kBank).SetText({});
+    disks_->reset();
     showWeekday();
     showClosingDate();
     FocusSelect(ebox(kYear));
@@ -138,8 +144,39 @@ void Seikyu_frm::showClosingDate() {
         ReadClosingDate(CInt(NumVal(ebox(kYear).Text())), CInt(NumVal(ebox(kMonth).Text()))));
 }
 
+void Seikyu_frm::enterRetransfer(TextBox& eSaihi, KeyEvent& event) {
+    const bool tab = event.KeyCode == key::Tab;
+    const bool backwards = tab && (event.Shift & ShiftMask) != 0;
+    if (event.KeyCode == key::Return) {
+        event.KeyCode = 0;
+        disks_->enterRetransfer();
+    } else if (event.KeyCode == key::Up || backwards) {
+        PrevField(*this, TabIndex(&eSaihi));
+    } else if (tab) {  // leaves the prompt without deciding
+        NextField(*this, TabIndex(&eSaihi));
+    }
+}
+
 void Seikyu_frm::Command_Click(int index) {
-    if (index == kRun) runBilling();
+    switch (index) {
+        case kRun:
+            runBilling();
+            break;
+        case kWriteBank:
+            disks_->writeBank();
+            break;
+        case kWritePost:
+            disks_->writePost();
+            break;
+        case kReadBank:
+            disks_->readBank();
+            break;
+        case kReadPost:
+            disks_->readPost();
+            break;
+        default:
+            break;
+    }
 }
 
 void Seikyu_frm::runBilling() {

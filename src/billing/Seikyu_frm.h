@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+
+#include "billing/DebitButtons.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Label.h"
 #include "toolkit/EntryForm.h"
@@ -17,19 +20,16 @@ class Seikyu_frm : public EntryForm {
     bool enter(int index);
     void showWeekday();
     void showClosingDate();
+    void enterRetransfer(TextBox& eSaihi, KeyEvent& event);
     void Command_Click(int index);
     void runBilling();
 
     ControlArray<TextBox> ebox{QStringLiteral("ebox")};
     ControlArray<CommandButton> Command_{QStringLiteral("Command")};
     ControlArray<Image> F6{QStringLiteral("F6")};
-    TextBox* eSaihi_ = nullptr;
     Label* lYobi1_ = nullptr;
-    Label* lyobi2_ = nullptr;
     Label* sSyukeibi_ = nullptr;
-    Label* saihiHead_ = nullptr;  ///< "再振替日", Label(6) of the form
-    Label* saihiHint_ = nullptr;  ///< "Enterで決定", Label1 of the form
-    Label* Progress_ = nullptr;
+    std::optional<DebitButtons> disks_;
 };
 
 }  // namespace akarix

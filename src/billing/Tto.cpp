@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "platform/runtime/CInt.h"
+#include "store/CustomerMonth.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -19,12 +20,6 @@ namespace {
 QString ofMonth(int nendo, int getudo) {
     return QStringLiteral(" WHERE Nendo =") + NumStr(nendo) + QStringLiteral(" AND   Getudo=") +
            NumStr(getudo);
-}
-
-/// The same of one customer, from texts that a caller has at hand.
-QString ofCustomerMonth(const QString& deal, const QString& nendo, const QString& getudo) {
-    return QStringLiteral(" WHERE Deal  =") + deal + QStringLiteral(" AND   Nendo =") + nendo +
-           QStringLiteral(" AND   Getudo=") + getudo;
 }
 
 /// The condition that picks one row of the ledger.
@@ -58,7 +53,7 @@ void putAmount(const QString& column, int nendo, int getudo, std::int32_t deal, 
     gDb->Execute(QStringLiteral("INSERT INTO TtoD(Deal, Nendo, Getudo, ") + column +
                  QStringLiteral(") VALUES(") + customer + u',' + year + u',' + month + u',' + initial + u')');
     gDb->Execute(QStringLiteral(" UPDATE TtoD  SET   ") + column + QStringLiteral(" =") + amount +
-                 ofCustomerMonth(customer, year, month));
+                 OfCustomerMonth(customer, year, month));
 }
 
 /// Sales of months that lost their slips.
@@ -113,10 +108,6 @@ std::int32_t removeLeaseSlip(int nendo, int getudo, std::int32_t deal) {
 }
 
 }  // namespace
-
-QString OfCustomerMonth(std::int32_t deal, int nendo, int getudo) {
-    return ofCustomerMonth(NumStr(deal), NumStr(nendo), NumStr(getudo));
-}
 
 void BuildMonthLedger(int nendo, int getudo, Date creation) {
     clearSalesWithoutSlips(nendo, getudo);

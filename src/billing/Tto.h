@@ -10,9 +10,6 @@ namespace akarix {
 // 12, amounts are yen. A store error ends a routine where it stands; what was done stays, and running it
 // again completes it.
 
-/// The condition that picks what one customer has in a month, in whichever table.
-QString OfCustomerMonth(std::int32_t deal, int nendo, int getudo);
-
 /// Rolls the month's readings, lease slips, sales and payments into the ledger and remembers the creation
 /// date as the month's closing date. Raises 6 for a lease fee or a number of rows above 32,767.
 void BuildMonthLedger(int nendo, int getudo, Date creation);

@@ -3,6 +3,7 @@
 #include "dialogs/DialogLayout.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Label.h"
+#include "platform/forms/LineEnds.h"
 
 namespace akarix {
 
@@ -16,7 +17,7 @@ Alert_frm::Alert_frm()
 }
 
 void Alert_frm::SetMessage(const QString& message) {
-    Message->SetCaption(message);
+    Message->SetCaption(ShownLines(message));
 }
 
 }  // namespace akarix

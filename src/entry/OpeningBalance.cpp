@@ -1,6 +1,6 @@
 #include "entry/OpeningBalance.h"
 
-#include "billing/Tto.h"
+#include "store/CustomerMonth.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
 

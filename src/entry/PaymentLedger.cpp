@@ -2,6 +2,7 @@
 
 #include "billing/Tto.h"
 #include "platform/runtime/CInt.h"
+#include "store/CustomerMonth.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/TextToField.h"

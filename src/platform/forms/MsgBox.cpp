@@ -4,6 +4,7 @@
 #include <QMessageBox>
 
 #include "platform/forms/Icons.h"
+#include "platform/forms/LineEnds.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -21,10 +22,7 @@ void showBox(const QString& text, const QString& title, bool failure) {
 }  // namespace
 
 void MsgBox(const QString& text, const QString& title) {
-    // Texts come with the carriage returns of the classic line end, which a label would print as boxes.
-    QString shown = text;
-    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-    showBox(shown, title, false);
+    showBox(ShownLines(text), title, false);
 }
 
 void ShowRuntimeError(const RuntimeError& error) {

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <xlsxwriter.h>
+
+#include <QFile>
+
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Open.h"
+#include "store/Settings.h"
+#include "support/ScratchStore.h"
+#include "support/ScreenTest.h"
+
+namespace akarix {
+
+/// A dealer with a bank, 123, and the post office as consignors, and a floppy in the drive. No file number is
+/// open before and after.
+class DebitTest : public ScreenTest {
+ protected:
+    void SetUp() override {
+        SetClock(DateSerial(2023, 4, 15));
+        gPrintPreview = false;
+        QDir().mkpath("Drive/A");
+        ScratchStore::run(
+            "INSERT INTO Bnk(Code,ItakuCode,Itakusya,fName,BkName,Stn,StnName,Syurui,KozaNo) "
+            "VALUES(123,'1234567','ｱｶﾘｸｽｶﾞｽ(ｶ','FURIKAE','ｷﾀｷﾞﾝｺｳ',5,'ﾎﾝﾃﾝ','1','98765');\n"
+            "INSERT INTO Bnk(Code,ItakuCode,Itakusya,fName,BkName,Stn,KozaNo) "
+            "VALUES(9900,'1234567','ｱｶﾘｸｽｶﾞｽ(ｶ','jiharai','ﾕｳｾｲｼﾖｳﾁﾖｷﾝｷﾖｸ',1,'98765');\n");
+    }
+    void TearDown() override {
+        CloseAll();
+        SetClock(Date());
+        ScreenTest::TearDown();
+    }
+
+    /// Code, Kana, Haisou, Bnk, Stn, Kind, Koza, DiscGaku; the balance of April 2023.
+    static void customer(const QString& master, const QString& balance) {
+        gDb->Execute("INSERT INTO Deal(Code,Kana,Haisou,Bnk,Stn,Kind,Koza,DiscGaku) VALUES(" + master + ")");
+        gDb->Execute("INSERT INTO TtoD(Deal,Nendo,Getudo,Gaku) VALUES(" + master.section(',', 0, 0) +
+                     ",2023,4," + balance + ")");
+    }
+    static void writeFile(const QString& path, const QByteArray& bytes) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write(bytes);
+    }
+    static QByteArray readFile(const QString& path) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QFile::ReadOnly)) << path.toStdString();
+        return file.readAll();
+    }
+    /// A covering sheet with a word in each cell that the program may or may not fill.
+    static void makeTotalSheet() {
+        QDir().mkdir("Prt");
+        lxw_workbook* book = workbook_new("Prt/口座振替合計表.xlsx");
+        lxw_worksheet* sheet = workbook_add_worksheet(book, "Sheet1");
+        lxw_format* asText = workbook_add_format(book);  // keeps the zeros in front of the code
+        format_set_num_format(asText, "@");
+        for (const char* address : {"A2", "I5", "I6", "I7", "I8", "C9", "H9", "I9"}) {
+            worksheet_write_string(sheet, CELL(address), QByteArray("old").append(address), asText);
+        }
+        ASSERT_EQ(workbook_close(book), LXW_NO_ERROR);
+    }
+
+    ScratchStore store;
+    QStringList progress;
+    std::function<void(const QString&)> shown = [this](const QString& text) { progress += text; };
+};
+
+}  // namespace akarix

@@ -1,0 +1,111 @@
+#include "debit/DebitRecords.h"
+
+#include "debit/BankDebitFile.h"
+#include "debit/Dealer.h"
+#include "debit/DebitQuery.h"
+#include "debit/PostDebitFile.h"
+#include "platform/runtime/CodePage932.h"
+#include "store/Consignor.h"
+
+namespace akarix {
+namespace {
+
+const Date kCreation = DateSerial(2023, 4, 5);
+
+QByteArray golden(const char* name) {
+    QFile file(QString(AKARIX_TEST_DATA "/") + name);
+    EXPECT_TRUE(file.open(QFile::ReadOnly));
+    return file.readAll();
+}
+
+using DebitFile = DebitTest;
+
+TEST_F(DebitFile, OfABank) {
+    customer("1,'ｱｵｷ ﾀﾛｳ',10,123,5,1,'1234567',0", "5307");
+    customer("2,'ｲﾉｳｴ(ｺﾄﾞﾓ',20,123,5,1,'7654321',0", "3000");
+    customer("3,'ｲﾉｳｴ',30,123,5,1,'7654321',700", "1500");  // shares the account
+    customer("4,'ｳｴﾀﾞ',40,123,12,2,'12',5000", "8000");     // asked for the fixed amount
+    customer("5,'ｴｸﾞﾁ',50,123,5,1,'1234567890',5000", "3000");
+    customer("6,'オオノ商会',60,123,5,1,'66',0", "1000");
+    customer("70,'ｶﾄｳ ｶﾅﾌﾘｶﾞﾅｶﾞ30ｼﾞﾕｳﾓｼﾞﾁﾖｳﾄﾞ',70,123,999,1,'77',0", "12345678901");
+    customer("8,'ｷﾑﾗ',80,123,5,1,NULL,0", "8");
+    customer("9,'ｸﾛﾀﾞ',90,123,5,1,'99',0", "0");
+    // The monthly query with the amount of the bill, as the bank's total counts it.
+    const QString sql = DebitQuery(123, 2023, 4).replace(" FROM TtoD", ",800 AS Seikyu FROM TtoD");
+    Consignor bank;
+    LoadBankConsignor(123, bank);
+    const DebitTotals totals = WriteRequest("A:\\FURIKAE", gDb->OpenRecordset(sql),
+                                            BankRequest(FitBankConsignor(bank), kCreation), shown);
+    EXPECT_EQ(readFile("Drive/A/FURIKAE"), golden("bank.request"));
+    EXPECT_EQ(totals.count, 7);
+    EXPECT_EQ(progress.first(), "1 / 7");
+    EXPECT_EQ(progress.last(), "7 / 7");
+}
+
+TEST_F(DebitFile, OfThePostOffice) {
+    customer("1,'ｱｵｷ ﾀﾛｳ',10,9900,10010,1,'12345678',0", "5307");
+    customer("2,'ｲﾉｳｴ(ｺﾄﾞﾓ',20,9900,10010,1,'76543219',0", "3000");
+    customer("3,'ｲﾉｳｴ',30,9900,10010,1,'76543219',0", "1500");
+    customer("4,'ｳｴﾀﾞ',40,9900,12,1,'12',5000", "8000");  // an office number without its own form
+    customer("5,'ｴｸﾞﾁ',50,9900,1234,1,'1234567890',5000", "3000");
+    Consignor post;
+    LoadPostConsignor(post);
+    WriteRequest("A:\\x", gDb->OpenRecordset(DebitQuery(kPostOffice, 2023, 4)),
+                 PostRequest(FitPostConsignor(post), kCreation, {"05", "20"}), shown);
+    EXPECT_EQ(readFile("Drive/A/x"), golden("post.request"));
+}
+
+/// What does not fit: texts lose their far end, numbers their high digits; an account its end in a data
+/// record and its beginning in a header. Places count from 1.
+TEST(DebitRecords, WhatDoesNotFit) {
+    Consignor wide{"12345678901",
+                   QString(41, 'I').append('X'),
+                   "f",
+                   "12345",
+                   "ｱBCDEFGHIJKLMNOP",
+                   "1234",
+                   "abcdefghijklmnopq",
+                   "12",
+                   "123456789",
+                   {},
+                   {},
+                   {}};
+    const QString bank = BankHeader(FitBankConsignor(wide), kCreation);
+    const QString post = PostHeader(FitPostConsignor(wide), kCreation, {"  ", "  "});
+    const DebitRow row{1234567890, 9900, 32767, 12, "1234567890", QString(29, 'K').append("LM"), 0, 0};
+    const QString data = BankData(row, Currency(std::int64_t{98765432101}));
+    const QString office = PostData(row, FitPostConsignor(wide), 1);
+    Consignor none;
+    const QString empty = BankHeader(FitBankConsignor(none), kCreation);
+    const struct {
+        const QString& record;
+        int place;
+        const char* field;
+    } cases[] = {
+        {bank, 5, "2345678901"},
+        {bank, 15, "IIII"},
+        {bank, 54, "I0405"},
+        {bank, 59, "2345BCDEFGHIJKLMNOP234cdefghijklmnopq2"},
+        {bank, 97, "3456789"},
+        {post, 7, "45678901"},
+        {post, 59, "2345ｱBCDEFGHIJKLMNO234"},
+        {post, 98, "456789          "},
+        {data, 2, "9900"},
+        {data, 21, "767"},
+        {data, 43, "21234567KKK"},
+        {data, 79, "KL8765432101"},
+        {data, 92, "00000000001234567890"},
+        {office, 21, "276"},
+        {office, 44, "1234567"},
+        {empty, 5, "0000000000 "},
+        {empty, 59, "0000               000                0000000"},
+    };
+    for (const auto& [record, place, field] : cases) {
+        EXPECT_EQ(record.size(), 120);
+        EXPECT_EQ(record.mid(place - 1, QString(field).size()), QString(field)) << place;
+    }
+    EXPECT_EQ(ToCodePage932(bank).size(), 120);
+}
+
+}  // namespace
+}  // namespace akarix
