@@ -77,6 +77,9 @@ class ScreenStyle : public QProxyStyle {
                 break;
             case PE_FrameLineEdit:
                 return;
+            case PE_Frame:
+                drawEdges(option->rect, painter);
+                return;
             case PE_FrameFocusRect:
                 // Buttons and choices show the focus by their border.
                 if (widget != nullptr && widget->inherits("QAbstractButton")) return;
@@ -165,6 +168,14 @@ class ScreenStyle : public QProxyStyle {
         QColor fill = enabled ? option->palette.color(QPalette::Base) : window;
         if (focused && !option->state.testFlag(State_ReadOnly)) fill = focusTint;
         drawBox(painter, option->rect, fill, focused ? accent : border, focused ? 2 : 1);
+    }
+
+    /// Filled, as a line of one pixel is lost here and there under a scale that is no whole number.
+    static void drawEdges(const QRect& rect, QPainter* painter) {
+        painter->fillRect(rect.x(), rect.y(), rect.width(), 1, border);
+        painter->fillRect(rect.x(), rect.bottom(), rect.width(), 1, border);
+        painter->fillRect(rect.x(), rect.y(), 1, rect.height(), border);
+        painter->fillRect(rect.right(), rect.y(), 1, rect.height(), border);
     }
 
     static void drawButton(const QStyleOption* option, QPainter* painter) {
