@@ -25,6 +25,7 @@
 #include "platform/runtime/CInt.h"
 #include "reports/RepoDaichou_frm.h"
 #include "reports/RepoSeikyu_frm.h"
+#include "shell/Backup.h"
 #include "shell/Keihoki_frm.h"
 #include "shell/Opening_frm.h"
 #include "shell/SysFunc_frm.h"
@@ -52,6 +53,7 @@ struct BoardButton {
 constexpr std::array<const char16_t*, 4> kColumns{u"日次業務", u"月次業務", u"マスター", u"その他"};
 constexpr int kChangePassword = 6;
 constexpr int kUnreachableConsignor = 10;
+constexpr int kBackupPlace = 11;
 
 // In the order of the walk: column by column, from the top.
 constexpr std::array<BoardButton, 19> kBoard{{
@@ -72,7 +74,7 @@ constexpr std::array<BoardButton, 19> kBoard{{
     {kChangePassword, 3, u"パスワード"},
     {14, 3, u"銀行委託者設定", &OpenScreen<MstBnk_frm>},
     {15, 3, u"郵便委託者設定", &OpenScreen<MstYubin_frm>},
-    {11, 3, u"バックアップ場所"},
+    {kBackupPlace, 3, u"バックアップ場所"},
     {18, 3, u"その他情報", &OpenScreen<etc_frm>},
 }};
 
@@ -182,10 +184,8 @@ void main_menu::buildBoard() {
 }
 
 void main_menu::Command_Click(int index) {
-    if (index == kChangePassword) {
-        ChangePassword();
-        return;
-    }
+    if (index == kChangePassword) return ChangePassword();
+    if (index == kBackupPlace) return ChangeBackupPlace();
     for (const BoardButton& entry : kBoard) {
         if (entry.index == index && entry.open != nullptr) entry.open();
     }
@@ -210,7 +210,11 @@ void main_menu::QueryUnload(bool& cancel) {
     // Refusing the unload and ending the program from here is the whole exit: nobody is asked, no screen is
     // kept.
     cancel = true;
-    RunGuarded([] { CloseDb(); });
+    // The copy is made of a file that nobody here holds any more.
+    RunGuarded([] {
+        CloseDb();
+        BackUp();
+    });
     QCoreApplication::exit(0);
 }
 

@@ -241,13 +241,30 @@ TEST_F(MainMenu, TheBoardIsScaledWithItsWindow) {
     EXPECT_EQ(button.geometry(), before);
 }
 
-TEST_F(MainMenu, ClosingTheMenuEndsTheProgram) {
+TEST_F(MainMenu, ClosingTheMenuCopiesTheStoreAndEndsTheProgram) {
     ASSERT_TRUE(start());
+    clerk.answerText(u".\\bk"_qs);
+    clerk.answerConfirm(true);
+    press(11);
     press(13);
     QTimer::singleShot(0, &clerk, [this] { clerk.form(u"main_menu"_qs).close(); });
+    clerk.expect(u"Alert_frm"_qs, [this](QWidget&) {
+        EXPECT_EQ(gDb, nullptr) << "the file is let go of before it is copied";
+        clerk.enter();
+    });
     EXPECT_EQ(QApplication::exec(), 0) << "nobody is asked";
-    EXPECT_EQ(gDb, nullptr);
+    EXPECT_EQ(clerk.lastSaid(), u".\\bk\\へバックアップコピーしました。"_qs);
+    EXPECT_EQ(QDir(u"bk"_qs).entryList(QDir::Files).size(), 1);
     EXPECT_EQ(gWs, nullptr);
+}
+
+TEST_F(MainMenu, WithoutABackupPlaceTheEndIsAnError) {
+    ASSERT_TRUE(start());
+    QTimer::singleShot(0, &clerk, [this] { clerk.form(u"main_menu"_qs).close(); });
+    clerk.answerMsgBox();
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_TRUE(clerk.lastSaid().startsWith(u"実行時エラー '53'"_qs));
+    EXPECT_EQ(gDb, nullptr);
 }
 
 }  // namespace

@@ -32,6 +32,18 @@ class SharedLock {
     sqlite3* connection_;
 };
 
+void CopyPages(const RawFile& source, QSaveFile& target) {
+    for (int number = 1; number <= source.pageCount(); ++number) {
+        const QByteArray page = source.page(number);
+        if (page.isEmpty()) {
+            throw StoreError(3043);
+        }
+        if (target.write(page) != page.size()) {
+            throw RuntimeError(61);
+        }
+    }
+}
+
 }  // namespace
 
 CipherEngine::CipherEngine(Connection connection)
@@ -145,16 +157,10 @@ void CipherEngine::copyTo(const QString& path) {
     if (!target.open(QIODevice::WriteOnly)) {
         throw RuntimeError(76);
     }
-    const SharedLock lock(open);
-    const RawFile source(open);
-    for (int number = 1; number <= source.pageCount(); ++number) {
-        const QByteArray page = source.page(number);
-        if (page.isEmpty()) {
-            throw StoreError(3043);
-        }
-        if (target.write(page) != page.size()) {
-            throw RuntimeError(61);
-        }
+    {
+        // Only while it is read: a slow disk at the other end must not keep the other desks from writing.
+        const SharedLock lock(open);
+        CopyPages(RawFile(open), target);
     }
     if (!target.commit()) {
         throw RuntimeError(61);

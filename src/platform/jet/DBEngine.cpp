@@ -1,8 +1,10 @@
 #include "platform/jet/DBEngine.h"
 
+#include "platform/jet/CipherEngine.h"
 #include "platform/jet/LastPassword.h"
 #include "platform/jet/Repair.h"
 #include "platform/jet/StoreError.h"
+#include "platform/jet/StoreFile.h"
 #include "platform/runtime/Path.h"
 
 namespace akarix {
@@ -18,6 +20,11 @@ Workspace& DBEngine::Workspaces(int index) {
 void DBEngine::RepairDatabase(const QString& name) {
     const QString path = LocalPath(name);
     RepairStoreFile(path, LastPassword(path));
+}
+
+void DBEngine::CopyDatabase(const QString& name, const QString& to) {
+    const QString path = LocalPath(name);
+    CipherEngine(OpenStoreFile(path, LastPassword(path))).copyTo(LocalPath(to));
 }
 
 }  // namespace akarix

@@ -1,5 +1,7 @@
 #include "platform/runtime/Path.h"
 
+#include <QDir>
+
 namespace akarix {
 
 namespace {
@@ -16,6 +18,14 @@ QString DriveRoot(const QString& path) {
     return path.left(2) + u'/';
 #else
     return QStringLiteral("Drive/") + path[0].toUpper();
+#endif
+}
+
+QString BaseFolder() {
+#ifdef Q_OS_WIN
+    return QStringLiteral("c:\\");
+#else
+    return QDir::homePath() + u'/';
 #endif
 }
 

@@ -9,6 +9,10 @@ namespace akarix {
 /// current directory.
 QString LocalPath(const QString& path);
 
+/// Where a folder of the dealer's own is made when nobody has named a place: the first disk on Windows, the
+/// user's folder elsewhere. Ends in the separator.
+QString BaseFolder();
+
 /// The machine's folder that stands for the drive of a path; empty for a path without a drive.
 QString DriveRoot(const QString& path);
 

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "platform/jet/Action.h"
+#include "platform/jet/StoreFile.h"
 #include "platform/jet/StoreFixture.h"
 #include "platform/jet/StoreKey.h"
 
@@ -137,6 +138,48 @@ TEST_F(OpeningTest, CopyOfAnOpenStoreHoldsEverythingSoFar) {
     EXPECT_EQ(count(copy, QStringLiteral("Goods")), 1);
     EXPECT_EQ(count(database, QStringLiteral("Goods")), 2);
     EXPECT_EQ(ErrorOf([&] { database.engine().copyTo(path(QStringLiteral("no/such/folder"))); }), 76);
+}
+
+TEST_F(OpeningTest, ACopyOfAFileIsSoundOrNotMade) {
+    {
+        const Action fast;
+        makeStore();
+    }
+    const QString copy = path(QStringLiteral("Copy.MDB"));
+    DBEngine::CopyDatabase(path(), copy);
+    const QByteArray sound = bytesOf(copy);
+    EXPECT_EQ(sound, bytesOf(path()));
+
+    // A desk whose power fails in the middle of a long write.
+    const QString journal = QStringLiteral("-journal");
+    {
+        const Connection desk = OpenStoreFile(path(), QStringLiteral("secret1"));
+        akarix::Run(desk.get(), "PRAGMA cache_size=5");
+        akarix::Run(desk.get(), "BEGIN IMMEDIATE");
+        akarix::Run(desk.get(), "UPDATE Goods SET Kana='half'");
+        ASSERT_TRUE(QFile::copy(path(), path(QStringLiteral("Died"))));
+        ASSERT_TRUE(QFile::copy(path() + journal, path(QStringLiteral("Died")) + journal));
+    }
+    ASSERT_TRUE(QFile::remove(path()));
+    ASSERT_TRUE(QFile::rename(path(QStringLiteral("Died")), path()));
+    ASSERT_TRUE(QFile::rename(path(QStringLiteral("Died")) + journal, path() + journal));
+    ASSERT_NE(bytesOf(path()), sound);
+    DBEngine::CopyDatabase(path(), copy);
+    ASSERT_TRUE(QFile::remove(path()));
+    ASSERT_TRUE(QFile::copy(copy, path()));
+    Database& restored = open();
+    EXPECT_EQ(count(restored, QStringLiteral("Goods")), 2000);
+    EXPECT_EQ(count(restored, QStringLiteral("Goods WHERE Kana='half'")), 0);
+    restored.Close();
+
+    QByteArray damaged = sound;
+    damaged.remove(10 * kPageSize, kPageSize);
+    write(path(), damaged);
+    EXPECT_EQ(ErrorOf([&] { DBEngine::CopyDatabase(path(), copy); }), 3343);
+    EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files),
+              (QStringList{QStringLiteral("Copy.MDB"), QStringLiteral("Store.MDB")}));
+    write(path(), bytesOf(copy));
+    EXPECT_EQ(openError(), 0) << "the older copy stands";
 }
 
 TEST_F(OpeningTest, ExclusiveAndReadOnly) {

@@ -5,7 +5,6 @@
 #include <QTemporaryDir>
 
 #include "platform/runtime/Dir.h"
-#include "platform/runtime/FileCopy.h"
 #include "platform/runtime/Input.h"
 #include "platform/runtime/Kill.h"
 #include "platform/runtime/MkDir.h"
@@ -150,23 +149,6 @@ TEST_F(Files, FoldersAndRemoving) {
     Close(1);
     Kill(u"f"_qs);
     EXPECT_EQ(raised([] { return Kill(u"f"_qs), 0; }), 53);
-}
-
-TEST_F(Files, CopyReplacesAndLeavesNothingBehind) {
-    const QByteArray big(200001, 'n');
-    put(u"Akarix.MDB"_qs, big);
-    put(u"Drive/A/Akarix1.MDB"_qs, "old");
-    FileCopy(u"Akarix.MDB"_qs, u"A:\\Akarix1.MDB"_qs);
-    EXPECT_EQ(bytesOf(u"Drive/A/Akarix1.MDB"_qs), big);
-    EXPECT_EQ(QDir(u"Drive/A"_qs).entryList(QDir::Files), QStringList{u"Akarix1.MDB"_qs});
-
-    EXPECT_EQ(raised([] { return FileCopy(u"none"_qs, u"A:\\x"_qs), 0; }), 53);
-    EXPECT_EQ(raised([] { return FileCopy(u"Akarix.MDB"_qs, u"A:\\x\\y"_qs), 0; }), 76);
-    EXPECT_EQ(raised([] { return FileCopy(u"Akarix.MDB"_qs, u"B:\\y"_qs), 0; }), 71);
-    EXPECT_EQ(raised([] { return FileCopy(u"Akarix.MDB"_qs, u".\\Akarix.MDB"_qs), 0; }), 70);
-    Open(u"A:\\held"_qs, OpenMode::Output, 1);
-    EXPECT_EQ(raised([] { return FileCopy(u"Akarix.MDB"_qs, u"A:\\held"_qs), 0; }), 70);
-    EXPECT_EQ(raised([] { return FileCopy(u"A:\\held"_qs, u"copy"_qs), 0; }), 70);
 }
 
 TEST(Path, DrivesHangBelowTheCurrentFolder) {
