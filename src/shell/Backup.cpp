@@ -50,8 +50,8 @@ bool attempt(void (*step)(const QString& place), const QString& place) {
 }
 
 void copyInto(const QString& folder) {
-    DBEngine::CopyDatabase(DatabaseName(),
-                           folder + QStringLiteral("Akarix") + NumStr(Weekday(Today())) + QStringLiteral(".MDB"));
+    DBEngine::CopyDatabase(DatabaseName(), folder + QStringLiteral("Akarix") + NumStr(Weekday(Today())) +
+                                               QStringLiteral(".MDB"));
 }
 
 }  // namespace

@@ -15,8 +15,8 @@ class DBEngine {
     /// renamed. The password is the one the last OpenDatabase of that name was given.
     static void RepairDatabase(const QString& name);
     /// Copies a file that this process need not have open, with its password as above: sound, and between two
-    /// commits of whoever else works with it. A damaged one is not copied (3343); a file at the other place is
-    /// replaced by a whole copy or left alone. Raises 76 where nothing can be written, 61 on a full disk.
+    /// commits of whoever else works with it. A damaged one is not copied (3343); a file at the other place
+    /// is replaced by a whole copy or left alone. Raises 76 where nothing can be written, 61 on a full disk.
     static void CopyDatabase(const QString& name, const QString& to);
 };
 
