@@ -1,5 +1,6 @@
 #include "reports/RepoDaichou_frm.h"
 
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "dialogs/AskConfirm.h"
@@ -70,7 +71,12 @@ void RepoDaichou_frm::layOut() {
 
     auto* body = new QVBoxLayout(this);
     body->addLayout(layOutHead());
-    body->addWidget(new Label(QStringLiteral("伝票Noの項目はクリックすると明細が表示されます")));
+    auto* aboveList = new QHBoxLayout;
+    aboveList->addWidget(new Label(QStringLiteral("伝票Noの項目はクリックすると明細が表示されます")), 1);
+    excelCmd_ = &Named(new CommandButton(QStringLiteral("Excel")), QStringLiteral("excelCmd"));
+    JoinWalk(*this, *excelCmd_);
+    aboveList->addWidget(excelCmd_);
+    body->addLayout(aboveList);
     body->addWidget(List_, 1);
     constexpr int kApart = 10;
     body->addSpacing(kApart);
@@ -95,8 +101,6 @@ QLayout* RepoDaichou_frm::layOutHead() {
     fields.nextColumn();
     sNGaku_ = &Named(new Label({}, this), QStringLiteral("sNGaku"));
     fields.row(QStringLiteral("未入金")).name(*sNGaku_, kMoneyBytes);
-    excelCmd_ = &Named(new CommandButton(QStringLiteral("Excel")), QStringLiteral("excelCmd"));
-    fields.row({}).button(*excelCmd_);
     return fields.layout();
 }
 
