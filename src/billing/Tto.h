@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "platform/runtime/Variant.h"
+#include "store/CustomerMonth.h"
 
 namespace akarix {
 

@@ -3,6 +3,7 @@
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_cb.h>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -69,10 +70,16 @@ qsizetype lengthWithoutHalf(const QByteArray& bytes) {
     return at;
 }
 
+/// True for text that is the same in every code page; most of what a record holds.
+template <class Text>
+bool isPlain(const Text& text) {
+    return std::all_of(text.begin(), text.end(), [](auto c) { return c >= u' ' && c <= u'~'; });
+}
+
 }  // namespace
 
 QByteArray ToCodePage932(const QString& text) {
-    if (text.isEmpty()) return {};
+    if (isPlain(text)) return text.toLatin1();
     QByteArray bytes(text.size() * 2, Qt::Uninitialized);
     UErrorCode status = U_ZERO_ERROR;
     const int32_t length = ucnv_fromUChars(converter(), bytes.data(), static_cast<int32_t>(bytes.size()),
@@ -85,7 +92,7 @@ QByteArray ToCodePage932(const QString& text) {
 }
 
 QString FromCodePage932(const QByteArray& bytes) {
-    if (bytes.isEmpty()) return {};
+    if (isPlain(bytes)) return QString::fromLatin1(bytes);
     QString text(bytes.size(), Qt::Uninitialized);
     UErrorCode status = U_ZERO_ERROR;
     const int32_t length =

@@ -61,7 +61,18 @@ Decimal Decimal::of(Currency value) {
     return d;
 }
 
+std::optional<Decimal> Decimal::fromDigits(const QString& text) {
+    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+    if (text.isEmpty() || !std::all_of(text.begin(), text.end(), isDigit)) return std::nullopt;
+    Decimal d;
+    d.digits = text.toStdString();
+    d.point = length(d.digits);
+    d.normalise();
+    return d;
+}
+
 std::optional<Decimal> Decimal::fromPlain(const QString& text) {
+    if (auto whole = fromDigits(text)) return whole;
     static const QRegularExpression form(
         QStringLiteral(R"(\A([+-]?)([0-9]*)(?:\.([0-9]*))?(?:[EeDd]([+-]?[0-9]+))?\z)"));
     const auto m = form.match(text);

@@ -22,6 +22,8 @@ struct Decimal {
     static Decimal shortest(double value);
     static Decimal of(Currency value);
     static Decimal of(std::int64_t value);
+    /// Digits and nothing else, as most texts are: read without the trouble of the next one.
+    static std::optional<Decimal> fromDigits(const QString& text);
     /// "-12.5", ".5", "5.", "1.5E-3"; nothing else in front or behind.
     static std::optional<Decimal> fromPlain(const QString& text);
 

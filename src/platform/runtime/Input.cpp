@@ -1,5 +1,7 @@
 #include "platform/runtime/Input.h"
 
+#include <algorithm>
+
 #include "platform/runtime/CodePage932.h"
 #include "platform/runtime/FileTable.h"
 #include "platform/runtime/RuntimeError.h"
@@ -25,10 +27,10 @@ class Reader {
 
     template <class Stop>
     QByteArray takeUntil(Stop stop) {
-        const qsizetype from = file_.at;
-        while (!atEnd() && !stop(next()))
-            step();
-        return file_.input.mid(from, file_.at - from);
+        const auto from = file_.input.cbegin() + file_.at;
+        const auto to = std::find_if(from, file_.input.cend(), stop);
+        file_.at += to - from;
+        return {from, to - from};
     }
     void skipBlanks() {
         while (!atEnd() && (next() == ' ' || next() == '\t'))

@@ -84,6 +84,7 @@ std::optional<QString> withoutThousands(const QString& text) {
 }  // namespace
 
 std::optional<Decimal> readNumberText(const QString& text) {
+    if (auto whole = Decimal::fromDigits(text)) return whole;
     const QString s = StrConv(text, NarrowChars).trimmed();
     if (s.startsWith(u'&')) {
         const auto radix = readRadixText(s);
