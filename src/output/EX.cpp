@@ -86,6 +86,10 @@ void ExcelCell(const QString& address, const QString& text) {
     OpenBook().sheet.setValue(address, text);
 }
 
+bool ExcelPrints(const QString& address) {
+    return OpenBook().sheet.prints(address);
+}
+
 void ExcelMerge(const QString& address, const QString& flag) {
     OpenBook().sheet.setMerged(address, flag != QStringLiteral("0"));
 }

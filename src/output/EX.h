@@ -27,6 +27,8 @@ void ExcelOpen(const QString& name);
 /// \param firstRow the row before the first detail row
 void ExcelOpenPaged(const QString& name, int rows, int firstRow);
 void ExcelCell(const QString& address, const QString& text);
+/// Whether what is written into a cell of the open template will be seen on paper.
+bool ExcelPrints(const QString& address);
 /// Merges a block, or takes it apart when the flag is "0".
 void ExcelMerge(const QString& address, const QString& flag);
 /// Shows the page (gPrintPreview), blocking until it is closed, or adds it to the document for the current

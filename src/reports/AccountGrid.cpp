@@ -3,6 +3,7 @@
 #include <array>
 
 #include "platform/forms/FlexGrid.h"
+#include "platform/forms/GridHead.h"
 #include "platform/runtime/Format.h"
 #include "reports/CustomerAccount.h"
 #include "store/FieldValue.h"
@@ -28,13 +29,7 @@ enum Column {
     kColumns
 };
 
-struct Head {
-    const char16_t* title;
-    int width;
-    int alignment = AlignRightCenter;
-};
-
-constexpr std::array<Head, kColumns> kHeads{{
+constexpr std::array<GridHead, kColumns> kHeads{{
     {u"伝No", 1000},
     {u"日付", 1400, AlignLeftCenter},
     {u"品名", 4900, AlignLeftCenter},
@@ -125,16 +120,7 @@ class LineWriter {
 }  // namespace
 
 void DefineAccountColumns(FlexGrid& list) {
-    list.SetRows(1);
-    list.SetCols(kColumns);
-    list.SetFixedRows(1);
-    int column = 0;
-    for (const Head& head : kHeads) {
-        list.SetTextMatrix(0, column, QString::fromUtf16(head.title));
-        list.SetColWidth(column, head.width);
-        list.SetColAlignment(column, head.alignment);
-        ++column;
-    }
+    SetHeads(list, kHeads);
 }
 
 void ShowAccount(const CustomerAccount& account, FlexGrid& list) {

@@ -10,6 +10,7 @@
 #include "output/EX.h"
 #include "platform/forms/Choice.h"
 #include "platform/forms/FieldLayout.h"
+#include "platform/forms/GridHead.h"
 #include "platform/runtime/CDate.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
@@ -61,13 +62,8 @@ RepoDaichou_frm::RepoDaichou_frm()
 void RepoDaichou_frm::layOut() {
     List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
     DefineAccountColumns(*List_);
-    int width = 0;
-    for (int column = 0; column < List_->Cols(); ++column) {
-        width += Twips(List_->ColWidth(column));
-    }
-    constexpr int kScrollBar = 24;
     constexpr int kGridHeight = 440;
-    List_->setMinimumSize(width + kScrollBar, kGridHeight);
+    ReserveRoom(*List_, kGridHeight);
 
     auto* body = new QVBoxLayout(this);
     body->addLayout(layOutHead());

@@ -7,6 +7,7 @@
 #include "billing/Sub.h"
 #include "output/PrintTrap.h"
 #include "platform/forms/FieldLayout.h"
+#include "platform/forms/GridHead.h"
 #include "platform/print/PrinterDialog.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/Clock.h"
@@ -16,6 +17,7 @@
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
 #include "toolkit/FieldWalk.h"
+#include "toolkit/FilterTerms.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 #include "values/Text.h"
@@ -44,13 +46,7 @@ enum Column {
     kColumns
 };
 
-struct Head {
-    const char16_t* title;
-    int width;
-    int alignment = AlignRightCenter;
-};
-
-constexpr std::array<Head, kColumns> kHeads{{
+constexpr std::array<GridHead, kColumns> kHeads{{
     {u"ﾙｰﾄ", 600},
     {u"順路", 800},
     {u"ｺｰﾄﾞ", 800},
@@ -130,20 +126,10 @@ void RepoSeikyu_frm::layOut() {
     buttons->addWidget(ChkGaku_);
     buttons->addStretch();
 
-    List_ = new FlexGrid(this);
-    List_->setObjectName(QStringLiteral("List"));
-    List_->SetCols(kColumns);
-    List_->SetFixedRows(1);
-    int width = 0;
-    for (int column = 0; column < kColumns; ++column) {
-        const Head& shape = kHeads[static_cast<std::size_t>(column)];
-        List_->SetColWidth(column, shape.width);
-        List_->SetColAlignment(column, shape.alignment);
-        width += Twips(shape.width);
-    }
-    constexpr int kScrollBar = 24;
+    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
     constexpr int kGridHeight = 420;
-    List_->setMinimumSize(width + kScrollBar, kGridHeight);
+    SetHeads(*List_, kHeads);
+    ReserveRoom(*List_, kGridHeight);
 
     body->addLayout(fields.layout());
     body->addLayout(buttons);
@@ -158,7 +144,7 @@ void RepoSeikyu_frm::init() {
     ChkGaku_->SetValue(0);
     ebox(kYear).SetText(NumStr(Year(Today())));
     ebox(kMonth).SetText(NumStr(Month(Today())));
-    writeHeads();
+    List_->SetRows(1);
     FocusSelect(ebox(kYear));
 }
 
@@ -179,22 +165,9 @@ bool RepoSeikyu_frm::enter(int index) {
     }
 }
 
-void RepoSeikyu_frm::writeHeads() {
-    List_->SetRows(1);
-    for (int column = 0; column < kColumns; ++column) {
-        List_->SetTextMatrix(0, column, QString::fromUtf16(kHeads[static_cast<std::size_t>(column)].title));
-    }
-}
-
 QString RepoSeikyu_frm::filter() const {
-    constexpr std::array<std::pair<int, const char16_t*>, 3> kTerms{
-        {{kFrom, u" AND Deal>="}, {kTo, u" AND Deal<="}, {kRoute, u" AND Deal.Rte="}}};
-    QString terms;
-    for (const auto& [field, term] : kTerms) {
-        const QString text = ebox(field).Text();
-        if (NumVal(text) > 0) terms += QString::fromUtf16(term) + KeepNumeric(text);
-    }
-    return terms;
+    return FilterTermsAsTyped(
+        {{ebox(kFrom), u" AND Deal>="}, {ebox(kTo), u" AND Deal<="}, {ebox(kRoute), u" AND Deal.Rte="}});
 }
 
 // ---- on the screen
@@ -202,7 +175,7 @@ QString RepoSeikyu_frm::filter() const {
 void RepoSeikyu_frm::show() {
     const QString year = KeepNumeric(ebox(kYear).Text());
     const QString month = KeepNumeric(ebox(kMonth).Text());
-    writeHeads();
+    List_->SetRows(1);
     Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT TtoD.*, Deal.Rte,Deal.Haisou FROM TtoD "
                                                       " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
                                                       " WHERE Nendo =") +

@@ -29,7 +29,6 @@ class RepoSeikyu_frm : public EntryForm, public ReportForm {
 
     void layOut();
     bool enter(int index);
-    void writeHeads();
     QString filter() const;
     void show();
     void print();

@@ -25,6 +25,7 @@
 #include "platform/runtime/CInt.h"
 #include "reports/RepoDaichou_frm.h"
 #include "reports/RepoSeikyu_frm.h"
+#include "reports/SeikyuPrt_frm.h"
 #include "shell/Backup.h"
 #include "shell/Keihoki_frm.h"
 #include "shell/Opening_frm.h"
@@ -62,7 +63,7 @@ constexpr std::array<BoardButton, 19> kBoard{{
     {2, 0, u"入金入力", &OpenScreen<SlipN2_frm>},
     {kUnreachableConsignor, 0, u"銀行委託者設定", &OpenScreen<BKItaku_frm>},
     {16, 1, u"請求処理", &OpenScreen<Seikyu_frm>},
-    {5, 1, u"請求書印刷"},
+    {5, 1, u"請求書印刷", &OpenScreen<SeikyuPrt_frm>},
     {7, 1, u"請求一覧表", &OpenScreen<RepoSeikyu_frm>},
     {8, 1, u"消費先台帳", &OpenScreen<RepoDaichou_frm>},
     {13, 2, u"得意先", &OpenScreen<MstDeal_frm>},

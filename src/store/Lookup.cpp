@@ -79,15 +79,19 @@ std::int32_t NextHaisou() {
     return HighestPlus(QStringLiteral("SELECT MAX(Haisou) AS tCode FROM Deal"), 10);
 }
 
+QString ReadingDay(const Recordset& reading) {
+    return NumStr(NullToZero(reading[QStringLiteral("Nendo")])) + u'/' +
+           NumStr(NullToZero(reading[QStringLiteral("Getudo")])) + u'/' +
+           NumStr(NullToZero(reading[QStringLiteral("Hi")]));
+}
+
 void PrevReadingDate(int year, int month, std::int32_t deal, QString& text) {
     Recordset set = gDb->OpenRecordset(
         QStringLiteral("SELECT * FROM Dgd ") + QStringLiteral(" WHERE Deal  =") + NumStr(deal) +
         QStringLiteral(" AND   Nendo*100+Getudo<") + NumStr(year * 100 + month));
     text.clear();
     if (!set.Eof()) {
-        const QString day = NumStr(NullToZero(set[QStringLiteral("Nendo")])) + u'/' +
-                            NumStr(NullToZero(set[QStringLiteral("Getudo")])) + u'/' +
-                            NumStr(NullToZero(set[QStringLiteral("Hi")]));
+        const QString day = ReadingDay(set);
         if (IsDate(day)) text = day;
     }
     set.Close();

@@ -6,6 +6,8 @@
 
 namespace akarix {
 
+class Recordset;
+
 /// A column of the question's first row; Empty when there is no row.
 Variant FirstValue(const QString& sql, const QString& column);
 
@@ -23,6 +25,8 @@ std::int32_t HighestPlus(const QString& sql, std::int32_t step);
 std::int32_t NextCode(const QString& table);
 /// The end of the rounds: 10 behind the last customer.
 std::int32_t NextHaisou();
+/// The day of a row of readings as "2011/3/25", which need not be a date.
+QString ReadingDay(const Recordset& reading);
 /// The day of an earlier reading as "2011/3/25", not always the latest one's; empty when there is none or its
 /// day is no date.
 void PrevReadingDate(int year, int month, std::int32_t deal, QString& text);

@@ -15,4 +15,13 @@ QString FilterTerms(std::initializer_list<FilterTerm> terms) {
     return filter;
 }
 
+QString FilterTermsAsTyped(std::initializer_list<FilterTerm> terms) {
+    QString filter;
+    for (const FilterTerm& term : terms) {
+        const QString text = term.box.Text();
+        if (NumVal(text) > 0) filter += QString::fromUtf16(term.condition) + KeepNumeric(text);
+    }
+    return filter;
+}
+
 }  // namespace akarix

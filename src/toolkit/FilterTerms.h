@@ -15,5 +15,7 @@ struct FilterTerm {
 
 /// The conditions of the fields whose number is above 0, one behind the other.
 QString FilterTerms(std::initializer_list<FilterTerm> terms);
+/// The same with what stands in the field instead of its number: "1-2" stays a difference.
+QString FilterTermsAsTyped(std::initializer_list<FilterTerm> terms);
 
 }  // namespace akarix

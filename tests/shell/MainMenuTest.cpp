@@ -184,11 +184,11 @@ TEST_F(MainMenu, WithoutAPasswordsRowTheChangeFails) {
 TEST_F(MainMenu, EachButtonOpensItsScreenOnce) {
     ASSERT_TRUE(start());
     const std::map<int, QString> screens{
-        {0, u"Slip_frm"_qs},      {2, u"SlipN2_frm"_qs},     {3, u"GTanka_frm"_qs},
-        {4, u"MstHin_frm"_qs},    {7, u"RepoSeikyu_frm"_qs}, {8, u"RepoDaichou_frm"_qs},
-        {12, u"MstRte_frm"_qs},   {13, u"MstDeal_frm"_qs},   {14, u"MstBnk_frm"_qs},
-        {15, u"MstYubin_frm"_qs}, {16, u"Seikyu_frm"_qs},    {17, u"TorZan_frm"_qs},
-        {9, u"Keihoki_frm"_qs},   {18, u"etc_frm"_qs}};
+        {0, u"Slip_frm"_qs},        {2, u"SlipN2_frm"_qs},    {3, u"GTanka_frm"_qs},
+        {4, u"MstHin_frm"_qs},      {5, u"SeikyuPrt_frm"_qs}, {7, u"RepoSeikyu_frm"_qs},
+        {8, u"RepoDaichou_frm"_qs}, {12, u"MstRte_frm"_qs},   {13, u"MstDeal_frm"_qs},
+        {14, u"MstBnk_frm"_qs},     {15, u"MstYubin_frm"_qs}, {16, u"Seikyu_frm"_qs},
+        {17, u"TorZan_frm"_qs},     {9, u"Keihoki_frm"_qs},   {18, u"etc_frm"_qs}};
     for (const auto& [button, screen] : screens) {
         press(button);
         ASSERT_TRUE(clerk.isOpen(screen)) << screen.toStdString();

@@ -35,17 +35,22 @@ struct Choice {
     bool substituted;
 };
 
-Choice ChooseFamily(const QString& name) {
+const Family* KnownFamily(const QString& name) {
     QString plain = name.normalized(QString::NormalizationForm_KC).toLower();
     plain.remove(QLatin1Char(' '));
     for (const Family& family : KnownFamilies()) {
-        if (!family.spellings.contains(plain)) continue;
-        for (const QString& installed : family.installed) {
-            if (QFontDatabase::hasFamily(installed)) return {installed, false};
-        }
-        return {family.substitute, true};
+        if (family.spellings.contains(plain)) return &family;
     }
-    return {name, !QFontDatabase::hasFamily(name)};
+    return nullptr;
+}
+
+Choice ChooseFamily(const QString& name) {
+    const Family* family = KnownFamily(name);
+    if (!family) return {name, !QFontDatabase::hasFamily(name)};
+    for (const QString& installed : family->installed) {
+        if (QFontDatabase::hasFamily(installed)) return {installed, false};
+    }
+    return {family->substitute, true};
 }
 
 }  // namespace
@@ -83,6 +88,11 @@ PaperFont& FontOnPaper(const PaperFontKey& key) {
     PaperFont*& font = known[key];
     if (!font) font = &fonts.emplace_back(key);
     return *font;
+}
+
+QString AsShown(const QString& text, const QString& fontName) {
+    if (!text.contains(u'\\') || !KnownFamily(fontName)) return text;
+    return QString(text).replace(u'\\', u'¥');
 }
 
 }  // namespace akarix

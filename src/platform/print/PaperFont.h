@@ -43,4 +43,8 @@ class PaperFont {
 /// The remembered font of a key; the reference holds as long as the program runs.
 PaperFont& FontOnPaper(const PaperFontKey& key);
 
+/// A text as the named font shows it: Japanese fonts have a yen sign in the backslash's place, which the
+/// fonts standing in for them lack.
+QString AsShown(const QString& text, const QString& fontName);
+
 }  // namespace akarix

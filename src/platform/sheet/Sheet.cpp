@@ -173,6 +173,12 @@ bool Sheet::hiddenByMerge(CellAddress address) const {
     });
 }
 
+bool Sheet::prints(const QString& address) const {
+    const CellAddress at = ParseRange(address).first;
+    return (!page.printArea || page.printArea->contains(at)) && rowHeight(at.row) > 0 &&
+           columnWidth(at.column) > 0 && !hiddenByMerge(at);
+}
+
 CellAddress Sheet::extent() const {
     std::vector<bool> painted;
     painted.reserve(styles.size());

@@ -108,6 +108,8 @@ class Sheet {
 
     double columnWidth(int column) const;
     double rowHeight(int row) const;
+    /// False for a cell that no page shows: outside the printed area, hidden, or covered by a merge.
+    bool prints(const QString& address) const;
     bool rowHidden(int row) const { return rowHeight(row) <= 0; }
     /// The text a cell shows: its number through its format.
     QString shownText(CellAddress address) const;

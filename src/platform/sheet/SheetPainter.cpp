@@ -1,5 +1,6 @@
 #include "platform/sheet/SheetPainter.h"
 
+#include "platform/print/PaperFont.h"
 #include "platform/sheet/BorderPainter.h"
 #include "platform/sheet/HeaderFooter.h"
 #include "platform/sheet/NumberFormat.h"
@@ -76,7 +77,7 @@ class PagePainter {
             shown.text = formatted.text;
             shown.color = formatted.color;
         } else {
-            shown.text = sheet_.shownText(place.address);
+            shown.text = AsShown(sheet_.shownText(place.address), place.style.font.name);
         }
         const bool merged = cells_.merge(place.r, place.c) != PageCells::NoMerge;
         if (!merged && place.style.horizontal == HorizontalAlign::CenterAcross) {

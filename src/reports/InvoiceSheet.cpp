@@ -1,0 +1,200 @@
+#include "reports/InvoiceSheet.h"
+
+#include <array>
+
+#include "output/EX.h"
+#include "platform/runtime/CDate.h"
+#include "platform/runtime/Format.h"
+#include "platform/runtime/IsDate.h"
+#include "platform/runtime/RuntimeError.h"
+#include "store/FieldValue.h"
+#include "store/Lookup.h"
+#include "values/CellAddress.h"
+#include "values/NumStr.h"
+#include "values/Text.h"
+
+namespace akarix {
+
+namespace {
+
+// The sheet has two equal halves; the right one begins in column AC.
+constexpr int kRightHalf = 28;
+constexpr int kNameRow = 5;
+constexpr int kAmountRow = 15;
+constexpr int kNowRow = 18;
+constexpr int kBeforeRow = 19;
+constexpr int kUsageRow = 20;
+constexpr int kFirstLine = 23;
+constexpr int kLines = 8;
+
+constexpr char16_t kColDate = u'A';
+constexpr char16_t kColText = u'D';
+constexpr char16_t kColCount = u'M';
+constexpr char16_t kColPrice = u'P';
+constexpr char16_t kColAmount = u'V';
+
+const QString kTemplate = QStringLiteral("請求書");
+const QString kCount = QStringLiteral("##,###.0");
+const QString kYen = QStringLiteral("##,###,###");
+const QString kMonthDay = QStringLiteral("mm/dd");
+
+QString rightOf(char16_t column, int row) {
+    return CellAddress(QString(column), row, kRightHalf, 0);
+}
+
+/// Writes into both halves.
+void put(char16_t column, int row, const QString& text) {
+    ExcelCell(QString(column) + NumStr(row), text);
+    ExcelCell(rightOf(column, row), text);
+}
+
+QString monthDayOrEmpty(const QString& day) {
+    return IsDate(day) ? Format(CDate(day), kMonthDay) : QString();
+}
+
+/// What one page has, from its head to its print.
+class InvoicePages {
+ public:
+    InvoicePages(QString name, Currency due) : name_(std::move(name)), due_(due) { startPage(); }
+
+    /// The row for the next line, on a new page when this one is full.
+    int nextRow() {
+        if (line_ == kLines) {
+            ExcelPrintPage();
+            ++page_;
+            startPage();
+        }
+        return kFirstLine + line_++;
+    }
+
+ private:
+    void startPage() {
+        line_ = 0;
+        dropPrices();
+        put(kColDate, kNameRow, name_ + QStringLiteral(" 様"));
+        put(kColText, kAmountRow, page_ == 1 ? Format(due_, QStringLiteral(R"(\\##,###,##0)")) : QString());
+        for (const char16_t* block : {u"A18:M20", u"A23:M30", u"AC18:AO20", u"AC23:AX30"}) {
+            ExcelCell(QString::fromUtf16(block), {});
+        }
+    }
+
+    /// The blocks of the head end before the left half's prices and amounts; what the page before wrote there
+    /// must not go to the next customer.
+    static void dropPrices() { ExcelCell(QStringLiteral("P23:V30"), {}); }
+
+    QString name_;
+    Currency due_;
+    int page_ = 1;
+    int line_ = 0;
+};
+
+Currency usageOf(const InvoiceReading& reading) {
+    const Currency before =
+        reading.exchanged() ? reading.koukanMeter - reading.zenkaiMeter : Currency() - reading.zenkaiMeter;
+    const Currency usage = reading.konkaiMeter + before;
+    return usage > Currency(0) ? usage : Currency();
+}
+
+void putMeters(const InvoiceReading& reading, const QString& previousDay) {
+    put(kColDate, kNowRow, monthDayOrEmpty(reading.day));
+    if (IsDate(previousDay)) {
+        put(kColDate, kBeforeRow, monthDayOrEmpty(previousDay));
+    } else {
+        // After an exchange it is the reading's own date that goes, not the missing one.
+        put(kColDate, reading.exchanged() ? kNowRow : kBeforeRow, {});
+    }
+    put(kColText, kNowRow, QStringLiteral("当月メーター指示数"));
+    put(kColCount, kNowRow, NumStr(reading.konkaiMeter));
+    put(kColText, kBeforeRow, QStringLiteral("前月メーター指示数"));
+    put(kColCount, kBeforeRow, NumStr(reading.zenkaiMeter));
+    put(kColText, kUsageRow, QStringLiteral("当月御使用量"));
+    const Currency usage = usageOf(reading);
+    put(kColCount, kUsageRow, usage.IsZero() ? QString() : NumStr(usage));
+}
+
+void putLine(int row, const InvoiceLine& line) {
+    put(kColDate, row, Format(line.hizuke, QStringLiteral("MM/DD")));
+    put(kColText, row, line.name);
+    put(kColCount, row, Format(line.suu, kCount));
+    put(kColPrice, row, Format(line.tanka, kYen));
+    put(kColAmount, row, Format(line.gaku, kYen));
+}
+
+void putGas(int row, const InvoiceReading& reading) {
+    put(kColDate, row, Format(CDate(reading.day), kMonthDay));
+    put(kColText, row, QStringLiteral("当月ガス料金 指針 : ") + NumStr(reading.konkaiMeter));
+    put(kColCount, row, Format(usageOf(reading), kCount));
+    put(kColAmount, row, Format(reading.gaku, kYen));
+}
+
+/// The name, the amount due, the first and the last line.
+QStringList indispensable(bool right) {
+    constexpr int lastLine = kFirstLine + kLines - 1;
+    constexpr std::array<std::pair<char16_t, int>, 6> cells{{{kColDate, kNameRow},
+                                                             {kColText, kAmountRow},
+                                                             {kColText, kFirstLine},
+                                                             {kColAmount, kFirstLine},
+                                                             {kColText, lastLine},
+                                                             {kColAmount, lastLine}}};
+    QStringList addresses;
+    for (const auto& [column, row] : cells) {
+        addresses += right ? rightOf(column, row) : QString(column) + NumStr(row);
+    }
+    return addresses;
+}
+
+/// A dealer may leave one half off the paper, but a half that is printed has to be whole.
+void checkTemplate() {
+    bool printed = false;
+    for (const bool right : {false, true}) {
+        const QStringList addresses = indispensable(right);
+        QStringList missing;
+        for (const QString& address : addresses) {
+            if (!ExcelPrints(address)) missing += address;
+        }
+        if (missing.size() == addresses.size()) continue;
+        if (!missing.isEmpty()) {
+            throw RuntimeError(1004, QStringLiteral("テンプレート '%1' のセル %2 が印刷されません。")
+                                         .arg(kTemplate, missing.first()));
+        }
+        printed = true;
+    }
+    if (!printed) {
+        throw RuntimeError(1004, QStringLiteral("テンプレート '%1' は請求書ではありません。").arg(kTemplate));
+    }
+}
+
+}  // namespace
+
+void OpenInvoiceSheet() {
+    ExcelOpen(kTemplate);
+    checkTemplate();
+}
+
+void PrintInvoice(const InvoiceMonth& invoice) {
+    Recordset customer = OpenInvoiceCustomer(invoice.deal);
+    if (customer.Eof()) return;
+    const QString name = NullToEmpty(customer[QStringLiteral("Namae")]);
+    customer.Close();
+    const auto ledger = ReadInvoiceLedger(invoice);
+    if (!ledger) return;
+
+    const InvoiceReading reading = ReadInvoiceReading(invoice);
+    QString previousDay;
+    if (!reading.day.isEmpty()) PrevReadingDate(invoice.year, invoice.month, invoice.deal, previousDay);
+    Recordset sum = OpenSalesSum(invoice);
+    const Currency sales = moneyOf(sum[QStringLiteral("tGaku")]);
+    sum.Close();
+
+    // The sales count twice, since the ledger's amount holds them already: what is asked for on the sheet,
+    // unlike on the screen.
+    InvoicePages pages(name, ledger->zenkaiGaku - ledger->nGaku + sales + ledger->gaku);
+    putMeters(reading, previousDay);
+    for (const InvoiceLine& line : ReadInvoiceLines(invoice)) {
+        putLine(pages.nextRow(), line);
+    }
+    putGas(pages.nextRow(), reading);
+    ExcelPrintPage();
+}
+
+}  // namespace akarix

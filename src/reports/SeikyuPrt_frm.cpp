@@ -1,0 +1,330 @@
+#include "reports/SeikyuPrt_frm.h"
+
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <vector>
+
+#include "billing/Sub.h"
+#include "output/EX.h"
+#include "output/PrintTrap.h"
+#include "platform/forms/FieldLayout.h"
+#include "platform/forms/GridHead.h"
+#include "platform/print/PrinterDialog.h"
+#include "platform/runtime/CInt.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DatePart.h"
+#include "platform/runtime/Format.h"
+#include "reports/InvoiceScript.h"
+#include "reports/InvoiceSheet.h"
+#include "store/FieldValue.h"
+#include "store/Lookup.h"
+#include "store/Settings.h"
+#include "store/dbAccess.h"
+#include "toolkit/DateBox.h"
+#include "toolkit/FieldWalk.h"
+#include "toolkit/FilterTerms.h"
+#include "values/NumStr.h"
+#include "values/NumVal.h"
+
+namespace akarix {
+
+namespace {
+
+enum Field { kYear, kMonth, kIssued, kFrom, kTo, kRoute };
+enum Picture { kPickFrom, kPickTo, kPickRoute };
+enum InvoiceMode { kDrawn, kTemplate };
+
+enum Column {
+    kColMark,
+    kColDeal,
+    kColNamae,
+    kColZenkaiGaku,
+    kColNGaku,
+    kColZenkaiMeter,
+    kColKonkaiMeter,
+    kColSuu,
+    kColGGaku,
+    kColUGaku,
+    kColGaku,
+    kColBill,
+    kColumns
+};
+
+constexpr std::array<GridHead, kColumns> kHeads{{
+    {u"請求", 600, AlignCenterCenter},
+    {u"ｺｰﾄﾞ", 1000},
+    {u"得意先", 1500, AlignLeftCenter},
+    {u"前月残", 1200},
+    {u"入金額", 1200},
+    {u"前回検針値", 1200},
+    {u"今回検針値", 1200},
+    {u"使用量", 1200},
+    {u"使用料", 1200},
+    {u"物販", 1200},
+    {u"当月売上", 1200},
+    {u"請求額", 1200},
+}};
+
+const QString kMark = QStringLiteral("○");
+const QString kYen = QStringLiteral("#,##0");
+const QString kMeter = QStringLiteral("#,##0.0");
+
+/// The amounts of the ledger and the columns that show them.
+constexpr std::array<std::pair<Column, const char16_t*>, 5> kAmounts{{{kColZenkaiGaku, u"ZenkaiGaku"},
+                                                                      {kColNGaku, u"NGaku"},
+                                                                      {kColGGaku, u"GGaku"},
+                                                                      {kColUGaku, u"UGaku"},
+                                                                      {kColGaku, u"Gaku"}}};
+
+/// A row's figures, or their sums, by column.
+using Figures = std::array<Currency, kColumns>;
+
+Figures readFigures(const InvoiceMonth& of, const Recordset& ledger) {
+    Figures figures{};
+    for (const auto& [column, source] : kAmounts) {
+        figures[column] = moneyOf(ledger[QString::fromUtf16(source)]);
+    }
+    ReadMonthMeter(of.deal, of.year, of.month, figures[kColZenkaiMeter], figures[kColKonkaiMeter],
+                   figures[kColSuu]);
+    figures[kColBill] = figures[kColGaku] + figures[kColZenkaiGaku] - figures[kColNGaku];
+    return figures;
+}
+
+void writeRow(FlexGrid& list, int row, std::int32_t deal, const Figures& figures) {
+    QString name;
+    int noSeikyu = 0;
+    GetNameAndNoSeikyu(QStringLiteral("Deal"), deal, name, noSeikyu);
+    list.SetTextMatrix(row, kColDeal, NumStr(deal));
+    list.SetTextMatrix(row, kColNamae, name);
+    for (int column = kColZenkaiGaku; column < kColumns; ++column) {
+        const bool metered = column == kColZenkaiMeter || column == kColKonkaiMeter || column == kColSuu;
+        list.SetTextMatrix(row, column,
+                           Format(figures[static_cast<std::size_t>(column)], metered ? kMeter : kYen));
+    }
+    // What is shown decides: less than half a yen is nothing to bill.
+    const bool billed = NumVal(list.TextMatrix(row, kColBill)) != 0;
+    list.SetTextMatrix(row, kColMark, noSeikyu != 1 && billed ? kMark : QString());
+}
+
+void writeTotals(FlexGrid& list, int row, const Figures& sums) {
+    list.SetTextMatrix(row, kColNamae, QStringLiteral("合計"));
+    for (int column = kColZenkaiGaku; column < kColumns; ++column) {
+        if (column == kColZenkaiMeter || column == kColKonkaiMeter) continue;
+        list.SetTextMatrix(row, column, Format(sums[static_cast<std::size_t>(column)], kYen));
+    }
+}
+
+}  // namespace
+
+SeikyuPrt_frm::SeikyuPrt_frm() : EntryForm(QStringLiteral("SeikyuPrt_frm"), QStringLiteral("請求書発行")) {
+    layOut();
+    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
+    wireLookup(F6(kPickFrom), QStringLiteral("Deal"), {}, ebox(kFrom), press, kFrom);
+    wireLookup(F6(kPickTo), QStringLiteral("Deal"), {}, ebox(kTo), press, kTo);
+    wireLookup(F6(kPickRoute), QStringLiteral("Rte"), QStringLiteral("ALL"), ebox(kRoute), press, kRoute);
+    on(Btn_, &CommandButton::Click, [this] { TrapPrinting([this] { print(); }); });
+    on(Command1_, &CommandButton::Click, [this] { markAll(kMark); });
+    on(DelBtn_, &CommandButton::Click, [this] { markAll({}); });
+    on(ExcelBtn_, &CommandButton::Click, [this] { exportGrid(); });
+    on(List_, &FlexGrid::Click, [this] { clickMark(); });
+}
+
+void SeikyuPrt_frm::layOut() {
+    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    constexpr int kGridHeight = 420;
+    SetHeads(*List_, kHeads);
+    ReserveRoom(*List_, kGridHeight);
+
+    auto* body = new QVBoxLayout(this);
+    body->addLayout(layOutFields());
+    body->addLayout(layOutButtons());
+    body->addWidget(List_, 1);
+}
+
+/// The last code builds the list, so it is the last field of the walk.
+QLayout* SeikyuPrt_frm::layOutFields() {
+    constexpr int kDateBytes = 10;
+    constexpr int kCodeBytes = 8;
+    constexpr int kNameBytes = 30;
+    FieldLayout fields(*this);
+    fields.row(QStringLiteral("年月"))
+        .text(addBox(ebox, kYear, ImeMode::Off), 4)
+        .note(QStringLiteral("年"))
+        .text(addBox(ebox, kMonth, ImeMode::Off), 2)
+        .note(QStringLiteral("月分"));
+    fields.row(QStringLiteral("作成日")).text(addBox(ebox, kIssued, ImeMode::Off), kDateBytes);
+    const auto coded = [&](const char16_t* caption, int field, int picture, const char16_t* name) {
+        auto* label = &Named(new Label({}, this), QString::fromUtf16(name));
+        fields.row(QString::fromUtf16(caption))
+            .text(addBox(ebox, field, ImeMode::Off), kCodeBytes)
+            .lookup(F6.add(picture, new Image))
+            .name(*label, kNameBytes);
+        return label;
+    };
+    sRte_ = coded(u"地区", kRoute, kPickRoute, u"sRte");
+    sNamaeS_ = coded(u"得意先", kFrom, kPickFrom, u"sNamaeS");
+    sNamaeE_ = coded(u"～", kTo, kPickTo, u"sNamaeE");
+    return fields.layout();
+}
+
+QLayout* SeikyuPrt_frm::layOutButtons() {
+    auto* bar = new QHBoxLayout;
+    const auto add = [&](const char16_t* caption, const char16_t* name) {
+        auto* button = &Named(new CommandButton(QString::fromUtf16(caption)), QString::fromUtf16(name));
+        JoinWalk(*this, *button);
+        bar->addWidget(button);
+        return button;
+    };
+    Btn_ = add(u"印刷", u"Btn");
+    Command1_ = add(u"全ﾁｪｯｸ", u"Command1");
+    DelBtn_ = add(u"全消", u"DelBtn");
+    ExcelBtn_ = add(u"Excel", u"ExcelBtn");
+    bar->addStretch();
+    return bar;
+}
+
+void SeikyuPrt_frm::init() {
+    ClearControls(*this);
+    for (Label* name : {sNamaeS_, sNamaeE_, sRte_}) {
+        name->SetCaption({});
+    }
+    ebox(kYear).SetText(NumStr(Year(Today())));
+    ebox(kMonth).SetText(NumStr(Month(Today())));
+    ShowDate(Today(), ebox(kIssued));
+    List_->SetRows(1);
+    FocusSelect(ebox(kYear));
+}
+
+bool SeikyuPrt_frm::enter(int index) {
+    const double code = NumVal(ebox(index).Text());
+    switch (index) {
+        case kIssued:
+            ShowDate(ReadStrictDate(ebox(kIssued)), ebox(kIssued));
+            break;
+        case kFrom:
+            sNamaeS_->SetCaption(GetDealName(code));
+            break;
+        case kTo:
+            sNamaeE_->SetCaption(GetDealName(code));
+            build();
+            break;
+        case kRoute:
+            sRte_->SetCaption(GetName(QStringLiteral("Rte"), code));
+            break;
+        default:
+            break;
+    }
+    return true;
+}
+
+QString SeikyuPrt_frm::typed(int field) const {
+    return KeepNumeric(ebox(field).Text());
+}
+
+InvoiceMonth SeikyuPrt_frm::invoiceOf(std::int32_t deal) const {
+    return {deal, CInt(typed(kYear)), CInt(typed(kMonth))};
+}
+
+// ---- the list
+
+void SeikyuPrt_frm::build() {
+    SetHeads(*List_, kHeads);
+    Recordset set = gDb->OpenRecordset(
+        QStringLiteral("SELECT TtoD.* FROM TtoD "
+                       " INNER JOIN Deal ON Deal.Code=TtoD.Deal "
+                       " WHERE Nendo =") +
+        typed(kYear) + QStringLiteral(" AND   Getudo=") + typed(kMonth) +
+        FilterTermsAsTyped(
+            {{ebox(kRoute), u" AND Deal.Rte="}, {ebox(kFrom), u" AND Deal>="}, {ebox(kTo), u" AND Deal<="}}) +
+        QStringLiteral(" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"));
+    if (set.Eof()) return;
+    set.MoveLast();
+    const int count = set.RecordCount();
+    set.MoveFirst();
+
+    List_->SetRows(count + 2);
+    Figures sums{};
+    for (int row = 1; row <= count; ++row, set.MoveNext()) {
+        const InvoiceMonth invoice = invoiceOf(longOf(set[QStringLiteral("Deal")]));
+        const Figures figures = readFigures(invoice, set);
+        writeRow(*List_, row, invoice.deal, figures);
+        std::transform(sums.begin(), sums.end(), figures.begin(), sums.begin(), std::plus());
+    }
+    set.Close();
+    writeTotals(*List_, count + 1, sums);
+    List_->Refresh();
+}
+
+// ---- the marks
+
+void SeikyuPrt_frm::clickMark() {
+    const int row = List_->MouseRow();
+    if (List_->MouseCol() != kColMark || row < 1 || !isCustomer(row)) return;
+    List_->SetTextMatrix(row, kColMark, isMarked(row) ? QString() : kMark);
+}
+
+void SeikyuPrt_frm::markAll(const QString& mark) {
+    for (int row = 1; row < List_->Rows(); ++row) {
+        List_->SetTextMatrix(row, kColMark, mark);
+    }
+}
+
+bool SeikyuPrt_frm::isCustomer(int row) const {
+    return NumVal(List_->TextMatrix(row, kColDeal)) > 0;
+}
+
+bool SeikyuPrt_frm::isMarked(int row) const {
+    return List_->TextMatrix(row, kColMark) == kMark;
+}
+
+// ---- the issue
+
+void SeikyuPrt_frm::print() {
+    ShowPrinter();
+    if (gInvoiceMode == kDrawn) {
+        issueDrawn();
+    } else if (gInvoiceMode == kTemplate) {
+        issueSheets();
+    }
+}
+
+/// By the range of codes alone, whatever the list shows.
+void SeikyuPrt_frm::issueDrawn() {
+    Recordset customers =
+        gDb->OpenRecordset(QStringLiteral("SELECT * FROM Deal  WHERE Code>=") + typed(kFrom) +
+                           QStringLiteral(" AND   Code<=") + typed(kTo) + QStringLiteral(" ORDER BY Code"));
+    const Date issued = ReadStrictDate(ebox(kIssued));
+    for (; !customers.Eof(); customers.MoveNext()) {
+        DrawInvoice(invoiceOf(longOf(customers[QStringLiteral("Code")])), issued);
+    }
+}
+
+/// By the marks alone: a customer marked by hand gets an invoice even if the master says none.
+void SeikyuPrt_frm::issueSheets() {
+    std::vector<int> marked;
+    for (int row = 1; row < List_->Rows(); ++row) {
+        if (isMarked(row) && isCustomer(row)) marked.push_back(row);
+    }
+    if (marked.empty()) return;
+    OpenInvoiceSheet();
+    for (const int row : marked) {
+        List_->SetRow(row);  // a run that dies shows by the present row at whom
+        PrintInvoice(invoiceOf(ToLong(List_->TextMatrix(row, kColDeal))));
+    }
+    ExcelClose();
+}
+
+void SeikyuPrt_frm::exportGrid() {
+    if (List_->Rows() <= 1) return;
+    const QString colon = QStringLiteral(" : ");
+    GridToExcel(QStringLiteral("請求書一覧"),
+                ebox(kYear).Text() + u'/' + ebox(kMonth).Text() + QStringLiteral("分 ルート : ") +
+                    ebox(kRoute).Text() + colon + sRte_->Caption(),
+                ebox(kFrom).Text() + colon + sNamaeS_->Caption() + QStringLiteral(" ～") + ebox(kTo).Text() +
+                    colon + sNamaeE_->Caption(),
+                *List_);
+}
+
+}  // namespace akarix

@@ -1,0 +1,269 @@
+#include "reports/InvoiceSheet.h"
+
+#include "output/EX.h"
+#include "platform/print/PdfText.h"
+#include "platform/print/Printer.h"
+#include "platform/runtime/RuntimeError.h"
+#include "platform/sheet/WorkbookWriter.h"
+#include "support/ScratchStore.h"
+#include "support/ScreenTest.h"
+#include "xlsxwriter.h"
+
+namespace akarix {
+namespace {
+
+/// March 2024 of a few customers, on the delivered template.
+class InvoiceSheet : public testing::Test {
+ protected:
+    void SetUp() override {
+        gPrintPreview = false;
+        QDir().mkdir("Prt");
+        QFile::copy(AKARIX_SOURCE_DIR "/Prt/請求書.xlsx", kTemplate);
+        Printer::Current().UsePdf(store.path("out.pdf"));
+    }
+    void TearDown() override { Printer::Current().UseQueue({}); }
+
+    static void customer(int code, const QString& ledger = "0,0,0", const QString& name = "山田") {
+        ScratchStore::run(QString("INSERT INTO Deal(Code,Namae) VALUES(%1,'%2');\n"
+                                  "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,Gaku,NGaku) "
+                                  "VALUES(%1,2024,3,%3)")
+                              .arg(code)
+                              .arg(name, ledger));
+    }
+    /// \param meters ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,Suu,Gaku,Hi
+    static void reading(int code, const QString& meters, int getudo = 3) {
+        ScratchStore::run(QString("INSERT INTO Dgd(Deal,Nendo,Getudo,ZenkaiMeter,KoukanMeter,KoukanGoMeter,"
+                                  "KonkaiMeter,Suu,Gaku,Hi) VALUES(%1,2024,%2,%3)")
+                              .arg(code)
+                              .arg(getudo)
+                              .arg(meters));
+    }
+    static void slips(int code, int count) {
+        for (int i = 1; i <= count; ++i) {
+            ScratchStore::run(
+                QString("INSERT INTO Dud(Dno,Eda,Hizuke,Deal,HinNamae,Suu,Tanka,Gaku,Nendo,Getudo) "
+                        "VALUES(%1,1,#2024/03/%2#,%1,'品%3',2,%4,%5,2024,3)")
+                    .replace("VALUES(%1", QString("VALUES(%1").arg(code * 100 + i))
+                    .arg(code)
+                    .arg(i, 2, 10, QChar('0'))
+                    .arg(QChar(u'Ａ' + i - 1))
+                    .arg(1000 + i)
+                    .arg(2000 + 2 * i));
+        }
+    }
+    /// The pages, without blanks. What stands in a row of the sheet is read from the left to the right.
+    QStringList print(const std::vector<int>& codes) {
+        QFile::remove("out.pdf");
+        Printer::Current().UsePdf(store.path("out.pdf"));
+        OpenInvoiceSheet();
+        for (const int code : codes) {
+            PrintInvoice({code, 2024, 3});
+        }
+        ExcelClose();
+        return QFile::exists("out.pdf") ? PdfPages("out.pdf") : QStringList();
+    }
+
+    const QString kTemplate = "Prt/請求書.xlsx";
+    ScratchStore store;
+};
+
+QString twice(const QString& row) {
+    return row + row;
+}
+
+TEST_F(InvoiceSheet, BothHalvesHoldTheWholeInvoice) {
+    customer(1, "12000,6827,5000");
+    reading(1, "100.5,0,0,112.8,12.3,4827,20");
+    reading(1, "90,0,0,100.5,10.5,4000,21", 2);
+    slips(1, 1);
+    ScratchStore::run(
+        "INSERT INTO Dud(Dno,Eda,Deal,HinNamae,Gaku,Nendo,Getudo) "
+        "VALUES(101,2,1,'値引',-1500,2024,3)");
+    const QStringList pages = print({1});
+    ASSERT_EQ(pages.size(), 1);
+    for (const char* row :
+         {"山田様", "03/20当月メーター指示数112.8", "02/21前月メーター指示数100.5", "当月御使用量12.3",
+          "03/01品Ａ2.01,0012,002", "値引-1,500", "03/20当月ガス料金指針:112.812.34,827"}) {
+        EXPECT_TRUE(pages[0].contains(twice(row))) << row << " in " << pages[0].toStdString();
+    }
+    // 12,000 - 5,000 + 502 + 6,827: the slips count beside the ledger's amount, which holds them.
+    EXPECT_EQ(pages[0].count("¥14,329"), 2) << pages[0].toStdString();
+}
+
+TEST_F(InvoiceSheet, TheHeadAmount) {
+    const struct {
+        const char *ledger, *shown;
+    } cases[] = {{"0,0,0", "¥0"},
+                 {"100,50,900", "-¥750"},
+                 {"9000000,999999,0", "¥9,999,999"},
+                 {"NULL,NULL,NULL", "¥0"}};
+    int code = 0;
+    for (const auto& [ledger, shown] : cases) {
+        customer(++code, ledger);
+        reading(code, "0,0,0,0,0,0,1");
+        const QStringList pages = print({code});
+        ASSERT_EQ(pages.size(), 1) << ledger;
+        EXPECT_TRUE(pages[0].contains(QString(shown) + "※")) << ledger << pages[0].toStdString();
+    }
+}
+
+TEST_F(InvoiceSheet, MetersAndTheirDates) {
+    struct Case {
+        const char* what;
+        const char *now, *before;  ///< readings; before may be none
+        QStringList rows;
+    };
+    const Case cases[] = {
+        {"read before",
+         "100,0,0,112,12,0,20",
+         "0,0,0,0,0,0,21",
+         {"03/20当月メーター指示数112.0", "02/21前月メーター指示数100.0", "当月御使用量12.0"}},
+        {"first reading",
+         "100,0,0,112,12,0,20",
+         "",
+         {"03/20当月メーター指示数112.0", "前月メーター指示数100.0", "当月御使用量12.0"}},
+        {"a day before that is no date",
+         "100,0,0,112,12,0,20",
+         "0,0,0,0,0,0,31",
+         {"03/20当月メーター指示数112.0", "前月メーター指示数100.0", "当月御使用量12.0"}},
+        {"exchanged",
+         "100,150,7,20,63,0,20",
+         "0,0,0,0,0,0,21",
+         {"03/20当月メーター指示数20.0", "02/21前月メーター指示数100.0", "当月御使用量70.0"}},
+        {"exchanged at the first reading, which loses its date",
+         "100,150,7,20,63,0,20",
+         "",
+         {"当月メーター指示数20.0", "前月メーター指示数100.0", "当月御使用量70.0"}},
+        {"went backwards",
+         "100,0,0,90,0,0,20",
+         "",
+         {"03/20当月メーター指示数90.0", "前月メーター指示数100.0", "当月御使用量"}},
+    };
+    int code = 0;
+    for (const Case& c : cases) {
+        customer(++code);
+        reading(code, c.now);
+        if (*c.before) reading(code, c.before, 2);
+        const QString page = print({code}).value(0);
+        const QString block = page.section("領収印", 2).section("月日", 0, 0);
+        QString expected;
+        for (const QString& row : c.rows) {
+            expected += twice(row);
+        }
+        EXPECT_EQ(block, expected) << c.what;
+    }
+}
+
+TEST_F(InvoiceSheet, EightLinesToAPage) {
+    struct Case {
+        int slips;
+        int pages;
+    };
+    for (const auto& [count, expected] : {Case{7, 1}, {8, 2}, {15, 2}, {16, 3}}) {
+        customer(count, "1000,0,0");
+        reading(count, "100,0,0,112,12,345,20");
+        slips(count, count);
+        const QStringList pages = print({count});
+        ASSERT_EQ(pages.size(), expected) << count;
+        EXPECT_TRUE(pages.last().contains(twice("03/20当月ガス料金指針:11212.0345"))) << count;
+        for (int page = 1; page < pages.size(); ++page) {
+            EXPECT_TRUE(pages[page].contains("山田様"));
+            EXPECT_FALSE(pages[page].contains("メーター指示数") || pages[page].contains("¥"))
+                << "a later page has neither meters nor the amount due: " << pages[page].toStdString();
+        }
+        if (count == 8) {
+            EXPECT_FALSE(pages[1].contains("2,0"))
+                << "no price of the page before: " << pages[1].toStdString();
+        }
+    }
+}
+
+TEST_F(InvoiceSheet, OneDocumentWithoutLeavingsOfTheCustomerBefore) {
+    customer(1, "5000,0,0", "鈴木");
+    reading(1, "100,0,0,112,12,4827,20");
+    slips(1, 5);
+    customer(2, "0,0,0", "佐藤");
+    reading(2, "0,0,0,0,0,0,21");
+    customer(3, "0,0,0", "田中");
+    reading(3, "0,0,0,5,5,1500,21");
+    const QStringList pages = print({3, 1, 2, 99});
+    ASSERT_EQ(pages.size(), 3) << "in the order asked for; who is not known gets none";
+    EXPECT_TRUE(pages[0].contains("田中") && pages[1].contains("鈴木") && pages[2].contains("佐藤"));
+    const QString lines = pages[2].section("単価金額", 2).section("振込先", 0, 0);
+    EXPECT_EQ(lines, twice("03/21当月ガス料金指針:0"));
+}
+
+TEST_F(InvoiceSheet, WithoutAReadingTheLastPageIsNotPrinted) {
+    customer(1);
+    reading(1, "0,0,0,5,5,1500,21");
+    customer(2);
+    slips(2, 9);
+    customer(3);
+    reading(3, "0,0,0,5,5,1500,0");
+    for (const auto& [code, printed] : {std::pair{2, 2}, {3, 1}}) {
+        QFile::remove("out.pdf");
+        Printer::Current().UsePdf(store.path("out.pdf"));
+        OpenInvoiceSheet();
+        PrintInvoice({1, 2024, 3});
+        try {
+            PrintInvoice({code, 2024, 3});
+            ADD_FAILURE() << code;
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.number(), 13);
+        }
+        ExcelClose();
+        EXPECT_EQ(PdfPages("out.pdf").size(), printed) << code;
+    }
+}
+
+TEST_F(InvoiceSheet, NullsAreNothing) {
+    ScratchStore::run(
+        "INSERT INTO Deal(Code) VALUES(1);\n"
+        "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,Gaku,NGaku) VALUES(1,2024,3,NULL,NULL,NULL);\n"
+        "INSERT INTO Dgd(Deal,Nendo,Getudo,ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,Suu,Gaku,Hi) "
+        "VALUES(1,2024,3,NULL,NULL,NULL,NULL,NULL,NULL,20);\n"
+        "INSERT INTO Dud(Dno,Eda,Deal,Nendo,Getudo,Hizuke,HinNamae,Suu,Tanka,Gaku) "
+        "VALUES(1,1,1,2024,3,NULL,NULL,NULL,NULL,NULL)");
+    const QString page = print({1}).value(0);
+    EXPECT_TRUE(page.contains(twice("03/20当月メーター指示数0.0"))) << page.toStdString();
+    EXPECT_TRUE(page.contains(twice("03/20当月ガス料金指針:0"))) << page.toStdString();
+}
+
+TEST_F(InvoiceSheet, ATemplateThatWouldLoseSomethingIsRefused) {
+    struct Case {
+        const char* sheet;
+        const char* area;
+        const char* merged;
+        const char* said;
+    };
+    const QString gap = "テンプレート '請求書' のセル %1 が印刷されません。";
+    const Case cases[] = {
+        {"Sheet1", "A1:AX35", "", ""},           {"Sheet1", "A1:V35", "", ""},
+        {"Sheet1", "A1:AX29", "", "D30"},        {"Sheet1", "A1:AK35", "", "AX23"},
+        {"Sheet1", "A1:AX35", "A15:V15", "D15"},
+    };
+    for (const Case& c : cases) {
+        {
+            WorkbookWriter book(kTemplate);
+            lxw_worksheet* sheet = workbook_add_worksheet(book.book(), c.sheet);
+            worksheet_print_area(sheet, lxw_name_to_row(c.area), lxw_name_to_col(c.area),
+                                 lxw_name_to_row_2(c.area), lxw_name_to_col_2(c.area));
+            if (*c.merged) {
+                worksheet_merge_range(sheet, lxw_name_to_row(c.merged), lxw_name_to_col(c.merged),
+                                      lxw_name_to_row_2(c.merged), lxw_name_to_col_2(c.merged), "", nullptr);
+            }
+            ASSERT_TRUE(book.save());
+        }
+        QString said;
+        try {
+            OpenInvoiceSheet();
+        } catch (const RuntimeError& error) {
+            said = error.description();
+        }
+        ExcelClose();
+        EXPECT_EQ(said, *c.said ? gap.arg(c.said) : QString()) << c.area << ' ' << c.merged;
+    }
+}
+
+}  // namespace
+}  // namespace akarix

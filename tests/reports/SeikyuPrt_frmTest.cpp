@@ -1,0 +1,226 @@
+#include "reports/SeikyuPrt_frm.h"
+
+#include <QListWidget>
+
+#include "platform/print/PdfText.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DateSerial.h"
+#include "platform/sheet/SheetReader.h"
+#include "store/Settings.h"
+#include "support/ScratchStore.h"
+#include "support/ScreenTest.h"
+
+namespace akarix {
+namespace {
+
+/// April 2023 as billed for five customers on two routes; the screen stands on that month.
+class InvoiceIssue : public ScreenTest {
+ protected:
+    void SetUp() override {
+        SetClock(DateSerial(2023, 4, 15));
+        gPrintPreview = false;
+        gInvoiceMode = 1;
+        QDir().mkdir("Prt");
+        QFile::copy(AKARIX_SOURCE_DIR "/Prt/請求書.xlsx", "Prt/請求書.xlsx");
+        customer("1,'山田',2,10,0", "1,0,4827,0,4827,0");
+        customer("2,'鈴木',1,30,0", "2,12000,1800,2089,3889,5000");
+        customer("3,'佐藤',1,20,0", "3,-500,0,0,0,0");
+        customer("4,'田中',1,40,1", "4,0,900,0,900,0");
+        customer("5,'高橋',2,20,0", "5,700,0,0,0,700");
+        for (const char* reading : {"1,100.5,112.8,12.3", "2,1900,1905.5,5.5", "3,5,5,0", "5,9,9,0"}) {
+            ScratchStore::run(QString("INSERT INTO Dgd(Nendo,Getudo,Hi,Deal,ZenkaiMeter,KonkaiMeter,Suu) "
+                                      "VALUES(2023,4,20,%1)")
+                                  .arg(reading));
+        }
+        ScratchStore::run(
+            "INSERT INTO TtoD(Nendo,Getudo,Deal,Gaku) VALUES(2023,3,1,999);\n"
+            "INSERT INTO TtoD(Nendo,Getudo,Deal,Gaku) VALUES(2023,4,777,999);\n"
+            "INSERT INTO Rte(Code,Kana,Namae) VALUES(1,'ｷﾀ','北町')");
+        OpenScreen<SeikyuPrt_frm>();
+    }
+    void TearDown() override {
+        SetClock(Date());
+        gInvoiceMode = 0;
+        ScreenTest::TearDown();
+    }
+
+    static void customer(const QString& master, const QString& ledger) {
+        gDb->Execute("INSERT INTO Deal(Code,Namae,Rte,Haisou,NoSeikyu) VALUES(" + master + ")");
+        gDb->Execute("INSERT INTO TtoD(Nendo,Getudo,Deal,ZenkaiGaku,GGaku,UGaku,Gaku,NGaku) VALUES(2023,4," +
+                     ledger + ")");
+    }
+    /// Walks through route, from and to; the walk ends on the button that prints.
+    void showList(const QStringList& typed = {}) {
+        clerk.find<TextBox>("ebox(5)").setFocus();
+        for (int i = 0; i < 3; ++i) {
+            clerk.fill(typed.value(i));
+        }
+        ASSERT_EQ(clerk.focusedName(), "Btn");
+    }
+    FlexGrid& list() const { return clerk.find<FlexGrid>("List"); }
+    QStringList shown(int first = 0, int last = 11) const {
+        QStringList lines;
+        for (int row = 1; row < list().Rows(); ++row) {
+            QStringList cells;
+            for (int col = first; col <= last; ++col) {
+                cells += list().TextMatrix(row, col);
+            }
+            lines += cells.join(u'|');
+        }
+        return lines;
+    }
+    QString marks() const {
+        QString all;
+        for (const QString& mark : shown(0, 0)) {
+            all += mark.isEmpty() ? "-" : mark;
+        }
+        return all;
+    }
+    void answerPrinter() {
+        clerk.expect("Printer_frm", [this](QWidget&) {
+            auto& printers = clerk.find<QListWidget>("Printers");
+            printers.setCurrentRow(printers.count() - 1);
+            clerk.find<TextBox>("Path").SetText(store.path("out.pdf"));
+            clerk.click("Print");
+        });
+    }
+    /// The names on the pages that the print button leaves. \param said what it complains of
+    QStringList print(const QString& said = {}) {
+        QFile::remove("out.pdf");
+        answerPrinter();
+        if (!said.isEmpty()) clerk.answerAlert();
+        clerk.click("Btn");
+        if (!said.isEmpty()) {
+            EXPECT_EQ(clerk.lastSaid().left(said.size()), said);
+        }
+        clerk.settle();  // what a broken run has printed goes out when the screen waits again
+        QStringList names;
+        for (const QString& page : QFile::exists("out.pdf") ? PdfPages("out.pdf") : QStringList()) {
+            names += page.section("様", 0, 0).section("）", -1);
+        }
+        return names;
+    }
+
+    ScratchStore store;
+};
+
+TEST_F(InvoiceIssue, TheMonthInTheOrderOfTheRound) {
+    EXPECT_EQ(clerk.text("ebox(0)") + '/' + clerk.text("ebox(1)") + ' ' + clerk.text("ebox(2)"),
+              "2023/4 2023/04/15");
+    showList();
+    EXPECT_EQ(shown(), (QStringList{"○|3|佐藤|-500|0|5.0|5.0|0.0|0|0|0|-500",
+                                    "○|2|鈴木|12,000|5,000|1,900.0|1,905.5|5.5|1,800|2,089|3,889|10,889",
+                                    "|4|田中|0|0|0.0|0.0|0.0|900|0|900|900",
+                                    "○|1|山田|0|0|100.5|112.8|12.3|4,827|0|4,827|4,827",
+                                    "|5|高橋|700|700|9.0|9.0|0.0|0|0|0|0",
+                                    "||合計|12,200|5,700|||18|7,527|2,089|9,616|16,116"}));
+}
+
+TEST_F(InvoiceIssue, OnlyTheLastCodeBuildsTheList) {
+    const struct {
+        QStringList typed;  ///< route, from, to
+        QStringList codes;
+        QString names;
+    } cases[] = {
+        {{"1"}, {"3", "2", "4", ""}, "北町//"}, {{"", "2"}, {"3", "2", "4", "5", ""}, "/鈴木/"},
+        {{"", "", "1"}, {"1", ""}, "//山田"},   {{"2", "1", "4"}, {"1", ""}, "/山田/田中"},
+        {{"9", "1", "4"}, {}, "/山田/田中"},
+    };
+    for (const auto& [typed, codes, names] : cases) {
+        Form::Instance<SeikyuPrt_frm>().init();
+        showList(typed);
+        EXPECT_EQ(shown(1, 1), codes) << names.toStdString();
+        QStringList beside{clerk.text("sRte"), clerk.text("sNamaeS"), clerk.text("sNamaeE")};
+        EXPECT_EQ(beside.join(u'/').remove(u' '), names);
+    }
+    showList();
+    const QStringList before = shown();
+    clerk.find<TextBox>("ebox(1)").setFocus();
+    for (const char* typed : {"5", "2023.4.1", "1", "1"}) {
+        clerk.fill(typed);
+    }
+    EXPECT_EQ(clerk.text("ebox(2)"), "") << "a date of issue has two strokes";
+    EXPECT_EQ(clerk.focusedName(), "ebox(4)");
+    EXPECT_EQ(shown(), before) << "month, date, route and the first code wait for the last";
+    clerk.enter();
+    EXPECT_EQ(shown(), QStringList()) << "a month without a ledger";
+}
+
+TEST_F(InvoiceIssue, Marks) {
+    showList();
+    EXPECT_EQ(marks(), "○○-○--");
+    for (const auto& [row, column] : {std::pair{1, 0}, {3, 0}, {6, 0}, {2, 2}}) {
+        clerk.clickCell(list(), row, column);
+    }
+    EXPECT_EQ(marks(), "-○○○--") << "a click turns a customer's mark, not the totals' row";
+    clerk.clickCell(list(), 0, 0);
+    EXPECT_EQ(marks(), "-○○○--");
+    clerk.click("Command1");
+    EXPECT_EQ(marks(), "○○○○○○");
+    clerk.click("DelBtn");
+    EXPECT_EQ(marks(), "------");
+
+    Form::Instance<SeikyuPrt_frm>().init();
+    for (const char* button : {"Command1", "DelBtn", "ExcelBtn"}) {
+        clerk.click(button);
+    }
+    EXPECT_EQ(print(), QStringList()) << "an empty list";
+}
+
+TEST_F(InvoiceIssue, TheMarkDecidesWhoGetsASheet) {
+    showList();
+    EXPECT_EQ(print(), (QStringList{"佐藤", "鈴木", "山田"}));
+    clerk.click("DelBtn");
+    EXPECT_EQ(print(), QStringList());
+    clerk.clickCell(list(), 5, 0);
+    EXPECT_EQ(print(), QStringList{"高橋"}) << "nothing to bill, marked by hand";
+    QFile::remove("Prt/請求書.xlsx");
+    EXPECT_EQ(print("1004テンプレート 'Prt/請求書.xlsx' が見つかりません。"), QStringList());
+}
+
+TEST_F(InvoiceIssue, ARunThatBreaksOffShowsWhere) {
+    showList();
+    clerk.click("Command1");
+    EXPECT_EQ(print("13型が一致しません。"), (QStringList{"佐藤", "鈴木"}))
+        << "what was printed stays printed";
+    EXPECT_EQ(list().TextMatrix(list().Row(), 2), "田中") << "the customer who was not read";
+    clerk.clickCell(list(), 3, 0);
+    EXPECT_EQ(print().size(), 4) << "without him the run goes through";
+}
+
+TEST_F(InvoiceIssue, DrawnInvoicesGoByCodesAlone) {
+    gInvoiceMode = 0;
+    showList();
+    EXPECT_EQ(print(), QStringList()) << "no codes: only a customer 0";
+    showList({"", "4", "4"});
+    EXPECT_EQ(print(), QStringList()) << "gets no invoice";
+    showList({"9", "1", "4"});
+    ASSERT_EQ(shown(), QStringList());
+    EXPECT_EQ(print("3420"), QStringList());
+}
+
+TEST_F(InvoiceIssue, NothingIsIssued) {
+    showList();
+    gInvoiceMode = 2;
+    EXPECT_EQ(print(), QStringList());
+    gInvoiceMode = 1;
+    clerk.expect("Printer_frm", [this](QWidget&) { clerk.press(Qt::Key_Escape); });
+    clerk.click("Btn");
+    EXPECT_EQ(clerk.said().size(), 2) << "a cancelled dialog is not talked about";
+}
+
+TEST_F(InvoiceIssue, TheGridGoesToAWorkbook) {
+    showList({"1", "2", "3"});
+    clerk.expect("SaveAs_frm", [this](QWidget&) {
+        clerk.find<TextBox>("Path").SetText(store.path("a.xlsx"));
+        clerk.click("Save");
+    });
+    clerk.click("ExcelBtn");
+    const Sheet sheet = ReadSheet(store.path("a.xlsx"), "Sheet1");
+    EXPECT_EQ(sheet.shownText({2, 6}), "請求書一覧");
+    EXPECT_EQ(sheet.shownText({4, 1}), "2023/4分 ルート : 1 : 北町     2 : 鈴木 ～3 : 佐藤");
+    EXPECT_EQ(sheet.cells.at({8, 12}).number, 10889);
+}
+
+}  // namespace
+}  // namespace akarix
