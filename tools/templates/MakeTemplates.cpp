@@ -9,7 +9,8 @@ int main(int argc, char** argv) {
         QString name;
         bool (*write)(const QString&);
     } templates[] = {{QStringLiteral("請求一覧表.xlsx"), akarix::WriteBillingListTemplate},
-                     {QStringLiteral("取引先一覧.xlsx"), akarix::WriteCustomerListTemplate}};
+                     {QStringLiteral("取引先一覧.xlsx"), akarix::WriteCustomerListTemplate},
+                     {QStringLiteral("請求書.xlsx"), akarix::WriteInvoiceTemplate}};
     int failed = 0;
     for (const auto& [name, write] : templates) {
         if (write(folder + u'/' + name)) continue;

@@ -23,6 +23,10 @@ lxw_format* TemplateBook::look(const Look& look) {
         format_set_top(format, look.fill ? LXW_BORDER_THIN : LXW_BORDER_HAIR);
         format_set_bottom(format, look.fill || look.lastLine ? LXW_BORDER_THIN : LXW_BORDER_HAIR);
     }
+    if (look.outline != LXW_BORDER_NONE) format_set_border(format, static_cast<uint8_t>(look.outline));
+    if (look.underline != LXW_BORDER_NONE) format_set_bottom(format, static_cast<uint8_t>(look.underline));
+    if (look.wrap) format_set_text_wrap(format);
+    if (look.cutLine) format_set_left(format, LXW_BORDER_DASHED);
     return format;
 }
 
@@ -50,15 +54,32 @@ void TemplateBook::blank(int row, int column, lxw_format* format) {
 }
 
 void TemplateBook::merged(const char* range, const QString& text, lxw_format* format) {
-    worksheet_merge_range(sheet_, lxw_name_to_row(range), lxw_name_to_col(range), lxw_name_to_row_2(range),
-                          lxw_name_to_col_2(range), text.toUtf8().constData(), format);
+    block(static_cast<int>(lxw_name_to_row(range)) + 1, lxw_name_to_col(range) + 1,
+          static_cast<int>(lxw_name_to_row_2(range)) + 1, lxw_name_to_col_2(range) + 1, text, format);
 }
 
-void TemplateBook::page(const char* area, double topInches, double bottomInches) {
+void TemplateBook::block(int row, int column, int lastRow, int lastColumn, const QString& text,
+                         lxw_format* format) {
+    const auto r = static_cast<lxw_row_t>(row - 1);
+    const auto c = static_cast<lxw_col_t>(column - 1);
+    const QByteArray utf8 = text.toUtf8();
+    if (row == lastRow && column == lastColumn) {
+        worksheet_write_string(sheet_, r, c, utf8.constData(), format);
+    } else {
+        worksheet_merge_range(sheet_, r, c, static_cast<lxw_row_t>(lastRow - 1),
+                              static_cast<lxw_col_t>(lastColumn - 1), utf8.constData(), format);
+    }
+}
+
+void TemplateBook::page(const char* area, double topInches, double bottomInches, Paper paper) {
     constexpr uint8_t a4 = 9;
     constexpr double sideInches = 0.35;
     worksheet_set_paper(sheet_, a4);
-    worksheet_set_portrait(sheet_);
+    if (paper == Paper::Wide) {
+        worksheet_set_landscape(sheet_);
+    } else {
+        worksheet_set_portrait(sheet_);
+    }
     worksheet_set_margins(sheet_, sideInches, sideInches, topInches, bottomInches);
     worksheet_center_horizontally(sheet_);
     worksheet_fit_to_pages(sheet_, 1, 1);

@@ -9,7 +9,7 @@
 
 namespace akarix {
 
-/// A template in the making: one sheet "Sheet1" on upright A4, printed on one page. Rows and columns are
+/// A template in the making: one sheet "Sheet1" on A4, printed on one page. Rows and columns are
 /// named as in addresses ("B5"). Whatever the program writes into has a format, so that a dealer who restyles
 /// the file sees where things go.
 class TemplateBook {
@@ -23,8 +23,12 @@ class TemplateBook {
         const char* numberFormat = "General";
         bool shrink = false;
         bool framed = false;
-        uint32_t fill = 0;      ///< 0 is none
-        bool lastLine = false;  ///< framed, and closes the table below
+        uint32_t fill = 0;                               ///< 0 is none
+        bool lastLine = false;                           ///< framed, and closes the table below
+        lxw_format_borders outline = LXW_BORDER_NONE;    ///< on all four sides
+        lxw_format_borders underline = LXW_BORDER_NONE;  ///< below
+        bool cutLine = false;                            ///< dashed on the left
+        bool wrap = false;
     };
     lxw_format* look(const Look& look);
 
@@ -34,8 +38,11 @@ class TemplateBook {
     void text(const char* address, const QString& text, lxw_format* format);
     void blank(int row, int column, lxw_format* format);
     void merged(const char* range, const QString& text, lxw_format* format);
+    /// A block of one cell or more, merged where it is more.
+    void block(int row, int column, int lastRow, int lastColumn, const QString& text, lxw_format* format);
+    enum class Paper { Upright, Wide };
     /// \param area the block that is printed
-    void page(const char* area, double topInches, double bottomInches);
+    void page(const char* area, double topInches, double bottomInches, Paper paper = Paper::Upright);
     bool save() { return writer_.save(); }
 
  private:
@@ -51,5 +58,6 @@ struct DealerBlock {
 
 bool WriteBillingListTemplate(const QString& path);
 bool WriteCustomerListTemplate(const QString& path);
+bool WriteInvoiceTemplate(const QString& path);
 
 }  // namespace akarix

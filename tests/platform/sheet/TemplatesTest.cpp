@@ -60,5 +60,39 @@ TEST(Templates, CustomerList) {
     EXPECT_TRUE(sheet.page.headerText.contains(QStringLiteral("&P")));
 }
 
+TEST(Templates, Invoice) {
+    Sheet sheet = delivered("請求書");
+    expectOnePage(sheet);
+    EXPECT_GT(sheet.page.paperWidth, sheet.page.paperHeight);
+    constexpr int rightHalf = 28;
+    struct {
+        const char *cell, *typed, *shown;
+    } const cells[] = {{"A5", "0012 様", "0012 様"},
+                       {"D15", "\\-1,234,567", "\\-1,234,567"},
+                       {"A18", "03/20", "03/20"},
+                       {"M18", "1234", "1,234.0 "},
+                       {"M20", "", ""},
+                       {"A23", "12/31", "12/31"},
+                       {"D30", "1-2", "1-2"},
+                       {"M30", ".0", ""},
+                       {"M23", "-1234.5", "-1,234.5 "},
+                       {"P30", "12,345", "12,345 "},
+                       {"V30", "-12,345,678", "-12,345,678 "}};
+    for (const auto& cell : cells) {
+        CellAddress at = ParseRange(QString::fromLatin1(cell.cell)).first;
+        for (const int shift : {0, rightHalf}) {
+            at.column += shift;
+            const QString column = at.column > 26 ? QStringLiteral("A") + QChar('A' + at.column - 27)
+                                                  : QString(QChar('A' + at.column - 1));
+            const QString address = column + QString::number(at.row);
+            sheet.setValue(address, QString::fromUtf8(cell.typed));
+            EXPECT_EQ(sheet.shownText(at).toStdString(), cell.shown) << address.toStdString();
+            EXPECT_TRUE(sheet.prints(address) && sheet.styleAt(at).shrink) << address.toStdString();
+        }
+    }
+    EXPECT_FALSE(sheet.prints(QStringLiteral("E15"))) << "covered by the amount";
+    EXPECT_FALSE(sheet.prints(QStringLiteral("AY5")));
+}
+
 }  // namespace
 }  // namespace akarix

@@ -1,0 +1,92 @@
+// Invoices filled from the ledger into the template and written as one PDF file: the time a page takes, and
+// what the process holds in memory with 100 and with 1,000 of them.
+
+#include <sys/resource.h>
+
+#include <QApplication>
+#include <QFile>
+
+#include "DealerFiles.h"
+#include "Measure.h"
+#include "output/EX.h"
+#include "platform/forms/Style.h"
+#include "platform/print/Printer.h"
+#include "reports/InvoiceSheet.h"
+#include "store/FieldValue.h"
+
+namespace akarix::bench {
+namespace {
+
+constexpr int kFew = 100;
+constexpr int kMany = 1000;
+constexpr int kRuns = 5;
+
+double peakMegabytes() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    constexpr double kilobytes = 1024;
+    return static_cast<double>(usage.ru_maxrss) / kilobytes;
+}
+
+/// Customers with a reading, in the order of the round.
+std::vector<InvoiceMonth> invoices() {
+    std::vector<InvoiceMonth> all;
+    Recordset set = gDb->OpenRecordset(
+        QStringLiteral("SELECT Dgd.Deal FROM Dgd INNER JOIN Deal ON Deal.Code=Dgd.Deal WHERE Dgd.Nendo=%1 "
+                       "AND Dgd.Getudo=%2 ORDER BY Deal.Rte,Deal.Haisou,Deal.Code")
+            .arg(kYear)
+            .arg(kMonth));
+    for (; !set.Eof() && all.size() < kMany; set.MoveNext()) {
+        all.push_back({longOf(set[QStringLiteral("Deal")]), kYear, kMonth});
+    }
+    return all;
+}
+
+Time issue(const std::vector<InvoiceMonth>& all, std::size_t count, const QString& path) {
+    Printer::Current().UsePdf(path);
+    QFile::remove(path);
+    const Time time = measure([&] {
+        const Action grouped;
+        OpenInvoiceSheet();
+        for (std::size_t i = 0; i < count; ++i) {
+            PrintInvoice(all[i]);
+        }
+        ExcelClose();
+    });
+    const auto pages = static_cast<double>(count);
+    return {time.wall / pages, time.processor / pages};
+}
+
+int run() {
+    constexpr int kWithoutGas = 100;  // a few customers are never read
+    constexpr int kMonths = 2;
+    DealerFiles files(kMany + kWithoutGas, kMonths);
+    QFile::link(QStringLiteral(AKARIX_SOURCE_DIR "/Prt"), QStringLiteral("Prt"));
+    gPrintPreview = false;
+    const std::vector<InvoiceMonth> all = invoices();
+    if (all.size() < kMany) return 1;
+
+    printHead();
+    issue(all, kFew, files.path("few"));
+    const double few = peakMegabytes();
+    std::vector<Time> pages;
+    for (int i = 0; i < kRuns; ++i) {
+        pages.push_back(issue(all, kMany, files.path("many")));
+    }
+    const double many = peakMegabytes();
+    printRow("invoices, one of 1,000 to PDF", median(pages), std::nullopt, under(10));
+    std::printf("\nPeak memory: %.1f MB with %d invoices, %.1f MB with %d; the file of %d has %.1f MB.\n",
+                few, kFew, many, kMany, kMany,
+                static_cast<double>(QFile(files.path("many")).size()) / (1024.0 * 1024.0));
+    return 0;
+}
+
+}  // namespace
+}  // namespace akarix::bench
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    akarix::ApplyStyle(application);
+    return akarix::bench::run();
+}
