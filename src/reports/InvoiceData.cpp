@@ -1,6 +1,6 @@
 #include "reports/InvoiceData.h"
 
-#include "billing/Tto.h"
+#include "store/CustomerMonth.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
