@@ -27,7 +27,7 @@ DisplayRule MaskedUnlessZero(const QString& mask);
 /// The lookup picture F6(picture) of a field.
 struct FieldLookup {
     int picture = 0;
-    QString table;
+    QString table;  ///< empty: the one that the screen keeps
     QString mode;
 };
 

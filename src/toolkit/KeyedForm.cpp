@@ -16,19 +16,15 @@ namespace {
 
 CommandButton* walker(const QString& caption, const QString& name) {
     constexpr int kWidth = 48;
-    CommandButton& button = Named(new CommandButton(caption), name);
-    button.setFixedWidth(kWidth);
-    return &button;
+    auto* button = &Named(new CommandButton(caption), name);
+    button->setFixedWidth(kWidth);
+    return button;
 }
 
 }  // namespace
 
 KeyedForm::KeyedForm(const QString& name, const QString& caption)
-    : EntryForm(name, caption),
-      body_(new QVBoxLayout(this)),
-      buttonRow_(new QHBoxLayout),
-      cmdLeft_(walker(QStringLiteral("←"), QStringLiteral("cmdLeft"))),
-      cmdRight_(walker(QStringLiteral("→"), QStringLiteral("cmdRight"))) {
+    : EntryForm(name, caption), body_(new QVBoxLayout(this)), buttonRow_(new QHBoxLayout) {
     constexpr int kBetweenGroups = 16;
     body_->setSpacing(kBetweenGroups);
 }
@@ -46,13 +42,17 @@ void KeyedForm::addBar(const std::vector<BarButton>& buttons, QVBoxLayout* place
         add(&Btn.add(button.index, new CommandButton(button.caption)));
     }
     buttonRow_->addStretch();
-    add(cmdLeft_);
-    add(cmdRight_);
+    const auto addWalker = [&](const QString& arrow, const QString& name, QString KeyedForm::*sql) {
+        if ((this->*sql).isEmpty()) return;
+        CommandButton* button = walker(arrow, name);
+        add(button);
+        on(button, &CommandButton::Click, [this, sql] { walk(this->*sql); });
+    };
+    addWalker(QStringLiteral("←"), QStringLiteral("cmdLeft"), &KeyedForm::left_);
+    addWalker(QStringLiteral("→"), QStringLiteral("cmdRight"), &KeyedForm::right_);
     QVBoxLayout* around = place ? place : body_;
     around->addStretch();
     around->addLayout(buttonRow_);
-    on(cmdLeft_, &CommandButton::Click, [this] { walk(left_); });
-    on(cmdRight_, &CommandButton::Click, [this] { walk(right_); });
 }
 
 void KeyedForm::setWalk(const QString& left, const QString& right) {

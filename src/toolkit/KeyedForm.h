@@ -13,7 +13,7 @@ class QVBoxLayout;
 namespace akarix {
 
 /// A screen that keeps what lies in the store under the code or number in ebox(0), with its buttons below
-/// and the walkers "←" and "→" to the neighbours. A cleared screen stands ready for the next free code.
+/// and mostly the walkers "←" and "→" to the neighbours. A cleared screen stands ready for the next free code.
 class KeyedForm : public EntryForm {
  public:
     virtual void init();
@@ -25,7 +25,8 @@ class KeyedForm : public EntryForm {
         int index;  ///< of Btn
         QString caption;
     };
-    /// The buttons in the order of the walk, the walkers behind them at the right. The screen wires Btn.
+    /// The buttons in the order of the walk, the walkers behind them at the right where setWalk has been
+    /// called. The screen wires Btn.
     /// \param place where the bar stands; below everything else where none is given.
     void addBar(const std::vector<BarButton>& buttons, QVBoxLayout* place = nullptr);
     /// The statements whose first row is the neighbour; %1 stands for the code.
@@ -64,8 +65,6 @@ class KeyedForm : public EntryForm {
     std::map<QString, Label*> names_;
     QString left_;
     QString right_;
-    CommandButton* cmdLeft_;
-    CommandButton* cmdRight_;
 };
 
 }  // namespace akarix

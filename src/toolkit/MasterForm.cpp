@@ -8,6 +8,7 @@
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
 #include "toolkit/FieldWalk.h"
+#include "toolkit/Lookups.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 #include "values/Text.h"
@@ -79,13 +80,19 @@ void MasterForm::addButtons() {
 void MasterForm::wire() {
     press_ = wireKeys(ebox, [this](int index) { return enter(index); });
     for (const MasterField& field : fields_) {
-        if (!field.lookup) continue;
-        wireLookup(F6(field.lookup->picture), field.lookup->table, field.lookup->mode, ebox(field.index),
-                   press_, field.index);
+        if (field.lookup) wireCode(field);
     }
     on(&Btn(0), &CommandButton::Click, [this] { clear(); });
     on(&Btn(1), &CommandButton::Click, [this] { remove(); });
     on(&Btn(2), &CommandButton::Click, [this] { save(); });
+}
+
+void MasterForm::wireCode(const MasterField& field) {
+    const auto pick = [this, lookup = *field.lookup] {
+        return PickCode(lookup.table.isEmpty() ? texts_.table : lookup.table, lookup.mode);
+    };
+    WireLookup(*this, F6(field.lookup->picture), pick, ebox(field.index),
+               [this, index = field.index] { pressEnter(index); });
 }
 
 // ---- the row on the screen

@@ -10,7 +10,7 @@ namespace akarix {
 struct MasterTexts {
     QString table;
     QString load;    ///< the row of a code
-    QString left;    ///< the rows below it, the nearest first
+    QString left;    ///< the rows below it, the nearest first; empty: the screen has no walkers
     QString right;   ///< the rows above it
     QString remove;  ///< deletes the row
     QString removeQuestion;
@@ -54,13 +54,15 @@ class MasterForm : public KeyedForm {
     virtual bool mayRemove() { return true; }
     virtual QString removeSql();
 
+    void save();
+
  private:
     void addField(const MasterField& field);
     void wire();
     void load();
     void showRow(Recordset& row) override;
     void showName(const MasterField& field);
-    void save();
+    void wireCode(const MasterField& field);
     void remove();
 
     MasterTexts texts_;

@@ -152,7 +152,9 @@ TEST_F(PlayedMonth, EveryScreenIsPictured) {
                                  u"preview",
                                  u"account",
                                  u"account-slip",
-                                 u"opening-balances"}) {
+                                 u"opening-balances",
+                                 u"backup-place",
+                                 u"backup"}) {
         const QStringList found = pictures.filter(QRegularExpression(u"^[0-9]{2}-%1\\.png$"_qs.arg(name)));
         ASSERT_EQ(found.size(), 1) << QString::fromUtf16(name).toStdString();
         EXPECT_FALSE(QImage(path(u"screens/"_qs + found[0])).isNull());

@@ -24,7 +24,21 @@ void startProgram(Desk& desk) {
     takeForm(desk, QStringLiteral("menu"), QStringLiteral("main_menu"));
 }
 
+/// The first end of an installation needs to know where its copies go.
+void chooseBackupPlace(Desk& desk) {
+    desk.clerk.expect(QStringLiteral("Request_frm"), [&desk](QWidget& question) {
+        desk.clerk.type(QStringLiteral("Backup"));
+        desk.album.take(QStringLiteral("backup-place"), {&question});
+        desk.clerk.enter();
+    });
+    desk.clerk.answerConfirm(true);
+    desk.clerk.click(QStringLiteral("main_menu/Command(11)"));
+}
+
 void endProgram(Desk& desk) {
+    desk.clerk.bringToFront(QStringLiteral("main_menu"));
+    chooseBackupPlace(desk);
+    expectPictured(desk, QStringLiteral("Alert_frm"), QStringLiteral("backup"), Qt::Key_Return);
     desk.clerk.closeBox(desk.clerk.form(QStringLiteral("main_menu")));
     if (gDb != nullptr) throw Failure(QStringLiteral("メニューを閉じてもデータベースが開いています。"));
 }
