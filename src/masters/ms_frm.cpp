@@ -90,8 +90,7 @@ QString ms_frm::proposedCode() {
 void ms_frm::keepUnknownCode(const QString& /*typed*/) {}
 
 bool ms_frm::maySave() {
-    return NumVal(ebox(kCode).Text()) != 0.0 ||
-           refuse(QStringLiteral("コードが記述されていません。"), kCode);
+    return NumVal(ebox(kCode).Text()) != 0.0 || refuse(QStringLiteral("コードが記述されていません。"), kCode);
 }
 
 }  // namespace akarix

@@ -13,7 +13,8 @@ class QVBoxLayout;
 namespace akarix {
 
 /// A screen that keeps what lies in the store under the code or number in ebox(0), with its buttons below
-/// and mostly the walkers "←" and "→" to the neighbours. A cleared screen stands ready for the next free code.
+/// and mostly the walkers "←" and "→" to the neighbours. A cleared screen stands ready for the next free
+/// code.
 class KeyedForm : public EntryForm {
  public:
     virtual void init();

@@ -94,9 +94,8 @@ TEST_F(CodeLists, WithoutACodeNothingIsSaved) {
 TEST_F(CodeLists, TheLookupShowsTheListAtHand) {
     for (const QString& table : {u"Shk"_qs, u"Dbn"_qs}) {
         open(table);
-        clerk.expect(u"Help_frm"_qs, [this](QWidget&) {
-            clerk.clickCell(clerk.find<FlexGrid>("List"), 0, 0);
-        });
+        clerk.expect(u"Help_frm"_qs,
+                     [this](QWidget&) { clerk.clickCell(clerk.find<FlexGrid>("List"), 0, 0); });
         clerk.click(u"F6(0)"_qs);
         EXPECT_EQ(shown(), table == u"Shk" ? u"2/ｼﾞｻﾝ/持参/持参"_qs : u"1/ｲﾂﾊﾟﾝ/一般/一般"_qs);
     }
