@@ -10,7 +10,10 @@ int main(int argc, char** argv) {
         bool (*write)(const QString&);
     } templates[] = {{QStringLiteral("請求一覧表.xlsx"), akarix::WriteBillingListTemplate},
                      {QStringLiteral("取引先一覧.xlsx"), akarix::WriteCustomerListTemplate},
-                     {QStringLiteral("請求書.xlsx"), akarix::WriteInvoiceTemplate}};
+                     {QStringLiteral("請求書.xlsx"), akarix::WriteInvoiceTemplate},
+                     {QStringLiteral("口座振替合計表.xlsx"), akarix::WriteDebitTotalTemplate},
+                     {QStringLiteral("口座振替明細表.xlsx"), akarix::WriteBankStatementTemplate},
+                     {QStringLiteral("郵便局口座振替明細表.xlsx"), akarix::WritePostStatementTemplate}};
     int failed = 0;
     for (const auto& [name, write] : templates) {
         if (write(folder + u'/' + name)) continue;

@@ -8,6 +8,9 @@ TemplateBook::TemplateBook(const QString& path)
 }
 
 lxw_format* TemplateBook::look(const Look& look) {
+    for (const auto& [known, made] : looks_) {
+        if (known == look) return made;
+    }
     lxw_format* format = writer_.newFormat();
     format_set_font_size(format, look.size);
     if (look.bold) format_set_bold(format);
@@ -18,15 +21,16 @@ lxw_format* TemplateBook::look(const Look& look) {
     if (look.fill) format_set_bg_color(format, look.fill);
     if (look.framed) {
         // Hair lines between the rows of a table, so that the eye finds the columns first.
-        format_set_left(format, LXW_BORDER_THIN);
-        format_set_right(format, LXW_BORDER_THIN);
-        format_set_top(format, look.fill ? LXW_BORDER_THIN : LXW_BORDER_HAIR);
+        if (!look.openLeft) format_set_left(format, LXW_BORDER_THIN);
+        if (!look.openRight) format_set_right(format, LXW_BORDER_THIN);
+        format_set_top(format, look.fill || look.firstLine ? LXW_BORDER_THIN : LXW_BORDER_HAIR);
         format_set_bottom(format, look.fill || look.lastLine ? LXW_BORDER_THIN : LXW_BORDER_HAIR);
     }
     if (look.outline != LXW_BORDER_NONE) format_set_border(format, static_cast<uint8_t>(look.outline));
     if (look.underline != LXW_BORDER_NONE) format_set_bottom(format, static_cast<uint8_t>(look.underline));
     if (look.wrap) format_set_text_wrap(format);
     if (look.cutLine) format_set_left(format, LXW_BORDER_DASHED);
+    looks_.emplace_back(look, format);
     return format;
 }
 
@@ -68,6 +72,26 @@ void TemplateBook::block(int row, int column, int lastRow, int lastColumn, const
     } else {
         worksheet_merge_range(sheet_, r, c, static_cast<lxw_row_t>(lastRow - 1),
                               static_cast<lxw_col_t>(lastColumn - 1), utf8.constData(), format);
+    }
+}
+
+void TemplateBook::framed(const QString& range, const QString& text, const Look& look) {
+    const QByteArray name = range.toLatin1();
+    const lxw_row_t firstRow = lxw_name_to_row(name), lastRow = lxw_name_to_row_2(name);
+    const lxw_col_t first = lxw_name_to_col(name), last = lxw_name_to_col_2(name);
+    merged(name, QString(), nullptr);
+    Look part = look;
+    for (lxw_col_t column = first; column <= last; ++column) {
+        part.openLeft = column != first;
+        part.openRight = column != last;
+        for (lxw_row_t row = firstRow; row <= lastRow; ++row) {
+            worksheet_write_blank(sheet_, row, column, this->look(part));
+        }
+    }
+    part = look;
+    part.openRight = first != last;
+    if (!text.isEmpty()) {
+        worksheet_write_string(sheet_, firstRow, first, text.toUtf8().constData(), this->look(part));
     }
 }
 

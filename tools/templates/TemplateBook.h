@@ -3,6 +3,7 @@
 #include <xlsxwriter.h>
 
 #include <QString>
+#include <utility>
 #include <vector>
 
 #include "platform/sheet/WorkbookWriter.h"
@@ -24,11 +25,14 @@ class TemplateBook {
         bool shrink = false;
         bool framed = false;
         uint32_t fill = 0;                               ///< 0 is none
+        bool firstLine = false;                          ///< framed, and closes the table above
         bool lastLine = false;                           ///< framed, and closes the table below
+        bool openLeft = false, openRight = false;        ///< framed, but without the line at that side
         lxw_format_borders outline = LXW_BORDER_NONE;    ///< on all four sides
         lxw_format_borders underline = LXW_BORDER_NONE;  ///< below
         bool cutLine = false;                            ///< dashed on the left
         bool wrap = false;
+        friend bool operator==(const Look&, const Look&) = default;
     };
     lxw_format* look(const Look& look);
 
@@ -40,6 +44,8 @@ class TemplateBook {
     void merged(const char* range, const QString& text, lxw_format* format);
     /// A block of one cell or more, merged where it is more.
     void block(int row, int column, int lastRow, int lastColumn, const QString& text, lxw_format* format);
+    /// A merged block whose frame stays around it as a whole when its cells are taken apart.
+    void framed(const QString& range, const QString& text, const Look& look);
     enum class Paper { Upright, Wide };
     /// \param area the block that is printed
     void page(const char* area, double topInches, double bottomInches, Paper paper = Paper::Upright);
@@ -48,6 +54,7 @@ class TemplateBook {
  private:
     WorkbookWriter writer_;
     lxw_worksheet* sheet_;
+    std::vector<std::pair<Look, lxw_format*>> looks_;
 };
 
 /// The dealer's own name and address, a placeholder until the dealer has typed it.
@@ -59,5 +66,8 @@ struct DealerBlock {
 bool WriteBillingListTemplate(const QString& path);
 bool WriteCustomerListTemplate(const QString& path);
 bool WriteInvoiceTemplate(const QString& path);
+bool WriteDebitTotalTemplate(const QString& path);
+bool WriteBankStatementTemplate(const QString& path);
+bool WritePostStatementTemplate(const QString& path);
 
 }  // namespace akarix

@@ -1,0 +1,91 @@
+#include "TemplateBook.h"
+
+namespace akarix {
+
+namespace {
+
+constexpr int headRow = 4, firstDetail = 5, lastDetail = 46, totals = 47;
+constexpr uint32_t shade = 0xE4EAF0;
+
+/// A block of columns that the lines of the table share.
+struct Block {
+    const char16_t* first;
+    const char16_t* last;
+    int columns;
+    int pixels;  ///< of one column
+    const char16_t* head;
+    lxw_format_alignments align;
+    const char* numberFormat;
+};
+
+constexpr Block blocks[] = {
+    {u"A", u"D", 4, 13, u"得意先", LXW_ALIGN_RIGHT, "0"},
+    {u"E", u"L", 8, 16, u"銀行-支店-種別-口座", LXW_ALIGN_CENTER, "@"},
+    {u"M", u"S", 7, 24, u"預金者名", LXW_ALIGN_LEFT, "@"},
+    {u"T", u"Z", 7, 24, u"得意先名", LXW_ALIGN_LEFT, "@"},
+    {u"AA", u"AH", 8, 12, u"金額", LXW_ALIGN_RIGHT, "#,##0"},
+    {u"AI", u"AP", 8, 11, u"備考", LXW_ALIGN_LEFT, "@"},
+};
+
+QString rangeOf(const Block& block, int row) {
+    return QStringLiteral("%1%3:%2%3")
+        .arg(QString::fromUtf16(block.first), QString::fromUtf16(block.last))
+        .arg(row);
+}
+
+}  // namespace
+
+bool WriteBankStatementTemplate(const QString& path) {
+    TemplateBook book(path);
+    std::vector<int> widths;
+    for (const Block& block : blocks) {
+        widths.insert(widths.end(), static_cast<size_t>(block.columns), block.pixels);
+    }
+    book.columns(widths);
+    book.rows(1, 1, 27);
+    book.rows(2, 2, 16.5);
+    book.rows(3, 3, 13.5);
+    book.rows(headRow, headRow, 18);
+    book.rows(firstDetail, lastDetail, 15.25);
+    book.rows(totals, totals, 19.5);
+
+    book.merged("A1:L1", QString(),
+                book.look({.size = 12, .bold = true, .numberFormat = "@", .shrink = true}));
+    book.merged("M1:AB1", QStringLiteral("口 座 振 替 明 細 表"),
+                book.look({.size = 18, .bold = true, .align = LXW_ALIGN_CENTER}));
+    book.merged("A2:S2", DealerBlock::name(), book.look({.size = 10}));
+    book.merged("A3:S3", DealerBlock::contact(), book.look({.size = 8}));
+    book.merged("AC2:AL2", QString(),
+                book.look({.size = 11, .align = LXW_ALIGN_RIGHT, .numberFormat = "@", .shrink = true}));
+    book.merged("AM2:AP2", QString(),
+                book.look({.size = 9, .align = LXW_ALIGN_RIGHT, .numberFormat = "@", .shrink = true}));
+
+    for (const Block& block : blocks) {
+        TemplateBook::Look look{.align = LXW_ALIGN_CENTER, .shrink = true, .framed = true, .fill = shade};
+        book.framed(rangeOf(block, headRow), QString::fromUtf16(block.head), look);
+        look = {.align = block.align, .numberFormat = block.numberFormat, .shrink = true, .framed = true};
+        for (int row = firstDetail; row <= lastDetail; ++row) {
+            look.lastLine = row == lastDetail;
+            book.framed(rangeOf(block, row), QString(), look);
+        }
+    }
+    const TemplateBook::Look total{.size = 10,
+                                   .bold = true,
+                                   .align = LXW_ALIGN_RIGHT,
+                                   .numberFormat = "@",
+                                   .shrink = true,
+                                   .framed = true,
+                                   .lastLine = true};
+    TemplateBook::Look label = total;
+    label.align = LXW_ALIGN_CENTER;
+    TemplateBook::Look money = total;
+    money.numberFormat = "#,##0";
+    book.framed(QStringLiteral("A47:S47"), QStringLiteral("合　　計"), label);
+    book.framed(QStringLiteral("T47:Z47"), QString(), total);
+    book.framed(QStringLiteral("AA47:AH47"), QString(), money);
+    book.framed(QStringLiteral("AI47:AP47"), QString(), total);
+    book.page("A1:AP47", 0.5, 0.4);
+    return book.save();
+}
+
+}  // namespace akarix

@@ -1,0 +1,103 @@
+#include "TemplateBook.h"
+
+namespace akarix {
+
+namespace {
+
+constexpr int firstLabel = 7, lastLabel = 12, headRow = 16, firstDetail = 17, pageTotal = 51;
+constexpr uint32_t shade = 0xE4EAF0;
+
+/// A block of columns that the lines of the table share.
+struct Block {
+    const char16_t* first;
+    const char16_t* last;
+    int columns;
+    int pixels;  ///< of one column
+    const char16_t* head;
+    lxw_format_alignments align;
+    const char* numberFormat;
+};
+
+// The closing block cuts the lines otherwise, A to I and J to O: its words must find room there too.
+constexpr Block blocks[] = {
+    {u"A", u"D", 4, 19, u"番号", LXW_ALIGN_NONE, "0"},
+    {u"E", u"I", 5, 27, u"得意先コード", LXW_ALIGN_RIGHT, "0"},
+    {u"J", u"X", 15, 17, u"預金者名", LXW_ALIGN_LEFT, "@"},
+    {u"Y", u"AF", 8, 14, u"金額", LXW_ALIGN_RIGHT, "#,##0"},
+    {u"AG", u"AG", 1, 132, u"記号-番号", LXW_ALIGN_CENTER, "@"},
+};
+
+constexpr const char16_t* labels[] = {u"契約種別", u"受入事務センター", u"委託者コード",
+                                      u"委託者名", u"振替日",           u"委託者口座番号"};
+
+QString rangeOf(const Block& block, int row) {
+    return QStringLiteral("%1%3:%2%3")
+        .arg(QString::fromUtf16(block.first), QString::fromUtf16(block.last))
+        .arg(row);
+}
+
+void addConsignor(TemplateBook& book) {
+    int row = firstLabel;
+    for (const char16_t* label : labels) {
+        book.framed(QStringLiteral("A%1:K%1").arg(row), QString::fromUtf16(label),
+                    {.size = 10, .align = LXW_ALIGN_CENTER, .framed = true, .fill = shade});
+        book.framed(QStringLiteral("L%1:AG%1").arg(row), QString(),
+                    {.size = 10,
+                     .numberFormat = "@",
+                     .shrink = true,
+                     .framed = true,
+                     .firstLine = row == firstLabel,
+                     .lastLine = row == lastLabel});
+        ++row;
+    }
+}
+
+}  // namespace
+
+bool WritePostStatementTemplate(const QString& path) {
+    TemplateBook book(path);
+    std::vector<int> widths;
+    for (const Block& block : blocks) {
+        widths.insert(widths.end(), static_cast<size_t>(block.columns), block.pixels);
+    }
+    book.columns(widths);
+    book.rows(1, 1, 12);
+    book.rows(2, 2, 16.5);
+    book.rows(3, 3, 28);
+    book.rows(4, 4, 8);
+    book.rows(5, 6, 14.25);
+    book.rows(firstLabel, lastLabel, 16.5);
+    book.rows(13, 13, 6);
+    book.rows(14, 14, 13.5);
+    book.rows(15, 15, 3);
+    book.rows(headRow, headRow, 18);
+    book.rows(firstDetail, pageTotal, 15.5);
+
+    book.merged("AC2:AG2", QString(),
+                book.look({.size = 10, .align = LXW_ALIGN_RIGHT, .numberFormat = "@", .shrink = true}));
+    book.merged("A3:AG3", QStringLiteral("郵便局 口座振替明細表"),
+                book.look({.size = 18, .bold = true, .align = LXW_ALIGN_CENTER}));
+    book.merged("P5:AG5", DealerBlock::name(), book.look({.size = 11, .align = LXW_ALIGN_RIGHT}));
+    book.merged("P6:AG6", DealerBlock::contact(), book.look({.size = 9, .align = LXW_ALIGN_RIGHT}));
+    addConsignor(book);
+    book.merged("A14:AG14", QStringLiteral("次のとおり口座振替を請求します。"), book.look({.size = 10}));
+
+    for (const Block& block : blocks) {
+        TemplateBook::Look look{.align = LXW_ALIGN_CENTER, .shrink = true, .framed = true, .fill = shade};
+        book.framed(rangeOf(block, headRow), QString::fromUtf16(block.head), look);
+        look = {.size = 10,
+                .align = block.align,
+                .numberFormat = block.numberFormat,
+                .shrink = true,
+                .framed = true};
+        for (int row = firstDetail; row <= pageTotal; ++row) {
+            look.lastLine = row >= pageTotal - 1;
+            look.bold = row == pageTotal;
+            book.framed(rangeOf(block, row), QString(), look);
+        }
+    }
+    book.page("A1:AG51", 0.45, 0.4);
+    return book.save();
+}
+
+}  // namespace akarix
