@@ -3,10 +3,14 @@
 #include <initializer_list>
 
 #include "debit/BankDebitFile.h"
+#include "debit/BankStatement.h"
 #include "debit/DebitReader.h"
 #include "debit/PostDebitFile.h"
+#include "debit/PostStatement.h"
 #include "dialogs/ShowAlert.h"
+#include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
+#include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/DateSerial.h"
 #include "store/Consignor.h"
@@ -35,6 +39,7 @@ void DebitButtons::reset() {
     on_.eSaihi->SetText({});
     on_.Progress->SetCaption({});
     again_ = {};
+    opened_ = Today();
 }
 
 void DebitButtons::writeBank() {
@@ -87,6 +92,16 @@ void DebitButtons::readBank() {
 
 void DebitButtons::readPost() {
     ReadPostResult(progress());
+}
+
+void DebitButtons::printBank() {
+    const DebitWish asked = wish();
+    PrintBankStatement(CInt(KeepNumeric(on_.bank->Text())), asked.nendo, asked.getudo);
+}
+
+void DebitButtons::printPost() {
+    const DebitWish asked = wish();
+    PrintPostStatement(asked.nendo, asked.getudo, on_.creation->Text(), opened_);
 }
 
 /// Its month and day go into the file.

@@ -7,7 +7,7 @@
 
 namespace akarix {
 
-/// The disk buttons of the billing screen.
+/// The disk and statement buttons of the billing screen.
 class DebitButtons {
  public:
     /// What they use of the screen.
@@ -34,6 +34,8 @@ class DebitButtons {
     void enterRetransfer();
     void readBank();
     void readPost();
+    void printBank();
+    void printPost();
 
  private:
     bool creationStands() const;
@@ -43,6 +45,7 @@ class DebitButtons {
     void writePostFile();
 
     Controls on_;
+    Date opened_;          ///< stands on the post office's statement
     RetransferDay again_;  ///< what the post office's header says of the second date
 };
 

@@ -174,6 +174,12 @@ void Seikyu_frm::Command_Click(int index) {
         case kReadPost:
             disks_->readPost();
             break;
+        case kBankStatement:
+            disks_->printBank();
+            break;
+        case kPostStatement:
+            disks_->printPost();
+            break;
         default:
             break;
     }

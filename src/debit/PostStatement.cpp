@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "debit/DebitQuery.h"
+#include "debit/DebitRecords.h"
 #include "dialogs/ShowAlert.h"
 #include "output/EX.h"
 #include "output/PrintTrap.h"
@@ -10,7 +11,6 @@
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
-#include "store/Consignor.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
 
@@ -124,14 +124,6 @@ void PostStatement::writeClosing() const {
     put(u"J", line_ + 2, NumStr(total_) + kYen);
 }
 
-Consignor fitted(Consignor consignor) {
-    constexpr int kCodeDigits = 8;
-    constexpr int kNameWidth = 40;
-    consignor.ItakuCode = (QString(kCodeDigits, u'0') + consignor.ItakuCode).right(kCodeDigits);
-    consignor.Itakusya = PadText(consignor.Itakusya, kNameWidth);
-    return consignor;
-}
-
 }  // namespace
 
 void PrintPostStatement(int nendo, int getudo, const QString& creation, Date opened) {
@@ -144,9 +136,12 @@ void PrintPostStatement(int nendo, int getudo, const QString& creation, Date ope
         }
         Consignor consignor;
         LoadPostConsignor(consignor);
+        const Consignor onDisk = FitPostConsignor(consignor);
+        consignor.ItakuCode = onDisk.ItakuCode;
+        consignor.Itakusya = onDisk.Itakusya;
         const QString date =
             QStringLiteral("%1年%2月%3日").arg(Year(opened)).arg(Month(opened)).arg(Day(opened));
-        PostStatement({date, creation, fitted(consignor)}).run(std::move(set));
+        PostStatement({date, creation, consignor}).run(std::move(set));
     });
 }
 

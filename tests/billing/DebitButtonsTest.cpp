@@ -1,7 +1,12 @@
 #include "billing/Seikyu_frm.h"
+
+#include <QListWidget>
+
+#include "platform/print/PdfText.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DateSerial.h"
 #include "platform/runtime/Open.h"
+#include "store/Settings.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 #include "values/Dates.h"
@@ -9,7 +14,7 @@
 namespace akarix {
 namespace {
 
-/// The disk buttons on 27 January 2006, with one customer of the post office who owes 1,000 yen.
+/// The disk and statement buttons on 27 January 2006, with one customer of the post office who owes 1,000 yen.
 class DebitButtonsTest : public ScreenTest {
  protected:
     void SetUp() override {
@@ -133,6 +138,37 @@ TEST_F(DebitButtonsTest, WhatTheScreenIsAsked) {
         clerk.click(reader);
         EXPECT_EQ(clerk.lastSaid() + clerk.text("Progress"), "フロッピーが入っていません。ディスク読込中!");
     }
+}
+
+TEST_F(DebitButtonsTest, TheStatementsTakeWhatStandsOnTheScreen) {
+    gPrintPreview = false;
+    QDir().mkdir("Prt");
+    for (const char* sheet : {"Prt/口座振替明細表.xlsx", "Prt/郵便局口座振替明細表.xlsx"}) {
+        QFile::copy(QString(AKARIX_SOURCE_DIR "/") + sheet, sheet);
+    }
+    const auto print = [this](const char* button) {
+        clerk.expect("Printer_frm", [this](QWidget&) {
+            auto& printers = clerk.find<QListWidget>("Printers");
+            printers.setCurrentRow(printers.count() - 1);
+            clerk.find<TextBox>("Path").SetText(store.path("out.pdf"));
+            clerk.click("Print");
+        });
+        clerk.click(button);
+        const QString page = PdfPages("out.pdf").join("");
+        QFile::remove("out.pdf");
+        return page;
+    };
+    SetClock(DateSerial(2006, 1, 28));
+    type("ebox(1)", "2");
+    type("ebox(2)", "2006/2/10");
+    QString page = print("Command(6)");
+    for (const char* text : {"2006年1月27日", "2006/02/10", "2,000"}) {
+        EXPECT_TRUE(page.contains(text)) << text << " in " << page.toStdString();
+    }
+    gDb->Execute("UPDATE Deal SET Bnk=123");
+    type("ebox(5)", "0123");
+    page = print("Command(5)");
+    EXPECT_TRUE(page.contains("平成18年2月分") && page.contains("2,000")) << page.toStdString();
 }
 
 }  // namespace
