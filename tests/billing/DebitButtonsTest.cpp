@@ -14,7 +14,8 @@
 namespace akarix {
 namespace {
 
-/// The disk and statement buttons on 27 January 2006, with one customer of the post office who owes 1,000 yen.
+/// The disk and statement buttons on 27 January 2006, with one customer of the post office who owes 1,000
+/// yen.
 class DebitButtonsTest : public ScreenTest {
  protected:
     void SetUp() override {
