@@ -24,7 +24,7 @@ constexpr Block blocks[] = {
     {u"M", u"S", 7, 24, u"預金者名", LXW_ALIGN_LEFT, "@"},
     {u"T", u"Z", 7, 24, u"得意先名", LXW_ALIGN_LEFT, "@"},
     {u"AA", u"AH", 8, 12, u"金額", LXW_ALIGN_RIGHT, "#,##0"},
-    {u"AI", u"AP", 8, 11, u"備考", LXW_ALIGN_LEFT, "@"},
+    {u"AI", u"AP", 8, 13, u"備考", LXW_ALIGN_LEFT, "@"},
 };
 
 QString rangeOf(const Block& block, int row) {
