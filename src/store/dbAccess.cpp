@@ -28,8 +28,12 @@ QString DatabaseName() {
     return QStringLiteral("Akarix.MDB");
 }
 
+QString StorePassword() {
+    return QStringLiteral("kvz#7164");
+}
+
 QString ConnectText() {
-    return QStringLiteral("MS Access;PWD=") + QStringLiteral("kvz#7164");
+    return QStringLiteral("MS Access;PWD=") + StorePassword();
 }
 
 bool OpenDb(void (*fail)(const QString& text, const QString& title)) {

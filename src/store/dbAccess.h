@@ -9,8 +9,9 @@ namespace akarix {
 extern Workspace* gWs;
 extern Database* gDb;
 
-/// Name of the store's file, sought in the current directory, and its connect text.
+/// Name of the store's file, sought in the current directory, its password and its connect text.
 QString DatabaseName();
+QString StorePassword();
 QString ConnectText();
 
 /// Opens the store; a damaged file is repaired and tried again without limit. Any other failure is told

@@ -4,6 +4,7 @@
 
 #include "ledger/ChargeCheck.h"
 #include "ledger/LedgerCheck.h"
+#include "store/Lookup.h"
 #include "store/Tables.h"
 #include "support/ScratchStore.h"
 
@@ -94,6 +95,10 @@ TEST(SampleDealer, HasWhatADealerHas) {
     }
     EXPECT_TRUE(
         ScratchStore::rows(QStringLiteral("SELECT * FROM Dgd WHERE Suu<0 OR (Suu>0 AND Gaku=0)")).isEmpty());
+    for (const QString& customer : ScratchStore::rows(QStringLiteral("SELECT Yubin,Addr1 FROM Deal"))) {
+        const QString town = AddressOfZip(customer.section(u'|', 0, 0));
+        EXPECT_TRUE(!town.isEmpty() && customer.section(u'|', 1).startsWith(town)) << customer.toStdString();
+    }
 }
 
 }  // namespace

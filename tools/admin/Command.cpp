@@ -1,8 +1,11 @@
 #include "admin/Command.h"
 
+#include "admin/Check.h"
 #include "admin/Create.h"
+#include "admin/Restore.h"
 #include "admin/Sample.h"
 #include "admin/Terminal.h"
+#include "admin/Zip.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix::admin {
@@ -18,7 +21,7 @@ QString overview() {
     }
     return text + QStringLiteral(
                       "\nコマンドの説明: akarix-admin コマンド --help\n"
-                      "終了コード: 0 正常、1 失敗、2 使い方の誤り\n");
+                      "終了コード: 0 正常、1 失敗、2 使い方の誤り（check だけは別の意味があります）\n");
 }
 
 const Command* findCommand(const QString& name) {
@@ -35,7 +38,8 @@ bool asksForHelp(const QStringList& arguments) {
 }  // namespace
 
 std::span<const Command> Commands() {
-    static const Command commands[] = {createCommand(), sampleCommand()};
+    static const Command commands[] = {createCommand(), sampleCommand(), checkCommand(), restoreCommand(),
+                                       zipCommand()};
     return commands;
 }
 

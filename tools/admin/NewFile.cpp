@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "admin/FileClaim.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix::admin {
@@ -18,10 +19,13 @@ QString refusal(const QString& path, bool force) {
     if (file.exists() && !force) {
         return QStringLiteral("%1 は既にあります。作り直すときは --force を付けてください。").arg(path);
     }
-    return {};
+    return FileClaim(path).refusal();
 }
 
-void replaceFile(const QString& path, const std::function<void(const QString& working)>& make) {
+void replaceFile(const QString& name, const std::function<void(const QString& working)>& make) {
+    // Behind a link it is the linked file that is replaced, not the link.
+    const QFileInfo file(name);
+    const QString path = file.isSymLink() && file.exists() ? file.canonicalFilePath() : name;
     const QString working = path + QStringLiteral(".new");
     QFile::remove(working);
     QFile::remove(working + QStringLiteral("-journal"));

@@ -5,11 +5,12 @@
 
 namespace akarix::admin {
 
-/// Why a file may not be made here; empty when it may. An existing file is touched on demand alone.
+/// Why a file may not be made here; empty when it may. An existing file is touched on demand
+/// alone, and never while somebody has it open.
 QString refusal(const QString& path, bool force);
 
 /// Lets `make` write the file under another name beside it and puts it in its place when that is done, so
 /// that a failure half-way leaves what was there. Raises 75 when it cannot be put there.
-void replaceFile(const QString& path, const std::function<void(const QString& working)>& make);
+void replaceFile(const QString& name, const std::function<void(const QString& working)>& make);
 
 }  // namespace akarix::admin

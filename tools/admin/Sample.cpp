@@ -1,9 +1,9 @@
 #include "admin/Sample.h"
 
 #include <QCommandLineParser>
-#include <QRegularExpression>
 #include <optional>
 
+#include "admin/MonthArgument.h"
 #include "admin/NewFile.h"
 #include "admin/Terminal.h"
 #include "platform/runtime/Clock.h"
@@ -33,13 +33,13 @@ std::optional<int> readCount(const QString& text, int most) {
     return isNumber && count >= 1 && count <= most ? std::optional(count) : std::nullopt;
 }
 
-bool readMonth(const QString& text, sample::Wish& wish) {
-    static const QRegularExpression form(QStringLiteral("^([0-9]{4})/([0-9]{1,2})$"));
-    const QRegularExpressionMatch match = form.match(text);
-    wish.untilYear = match.captured(1).toInt();
-    wish.untilMonth = match.captured(2).toInt();
-    // The first year leaves room for the months before it.
-    return wish.untilYear >= 1970 && wish.untilMonth >= 1 && wish.untilMonth <= 12;
+bool readUntil(const QString& text, sample::Wish& wish) {
+    constexpr int firstYear = 1970;  // leaves room for the months before it
+    const auto until = readMonth(text);
+    if (!until || until->year < firstYear) return false;
+    wish.untilYear = until->year;
+    wish.untilMonth = until->month;
+    return true;
 }
 
 void untilLastMonth(sample::Wish& wish) {
@@ -52,7 +52,7 @@ void untilLastMonth(sample::Wish& wish) {
 std::optional<sample::Wish> readWish(const QCommandLineParser& parser) {
     sample::Wish wish;
     untilLastMonth(wish);
-    if (parser.isSet(QStringLiteral("until")) && !readMonth(parser.value(QStringLiteral("until")), wish)) {
+    if (parser.isSet(QStringLiteral("until")) && !readUntil(parser.value(QStringLiteral("until")), wish)) {
         return std::nullopt;
     }
     const auto customers = readCount(parser.value(QStringLiteral("customers")), sample::mostCustomers);

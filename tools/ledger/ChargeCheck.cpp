@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "ledger/MeterUse.h"
 #include "ledger/Rows.h"
 
 namespace akarix {
@@ -28,13 +29,6 @@ std::int64_t product(std::int64_t a, std::int64_t b) {
     const std::int64_t low = floorDivide(exact, unit);
     const auto twice = static_cast<std::int64_t>((exact - static_cast<__int128>(low) * unit) * 2);
     return twice > unit || (twice == unit && low % 2 != 0) ? low + 1 : low;
-}
-
-/// To a multiple of the step, a half going away from zero, as a shown number is rounded.
-std::int64_t roundShown(std::int64_t value, std::int64_t step) {
-    const std::int64_t size = value < 0 ? -value : value;
-    const std::int64_t rounded = (size + step / 2) / step * step;
-    return value < 0 ? -rounded : rounded;
 }
 
 std::int64_t chargeFor(const std::vector<Band>& bands, std::int64_t use) {
@@ -68,7 +62,7 @@ std::vector<Difference> CheckCharges(Database& db, int nendo, int getudo) {
                      .arg(getudo))) {
         const bool neverRead = row[4] == 0 && row[5] == 0 && row[6] == 0;
         if (neverRead) continue;
-        const std::int64_t use = row[2] != 0 ? row[2] - row[1] + row[4] - row[3] : row[4] - row[1];
+        const std::int64_t use = meterUse(row[1], row[2], row[3], row[4]);
         const auto pattern = patterns.find(row[0]);
         const std::int64_t charge = pattern == patterns.end() ? 0 : chargeFor(tariff[pattern->second], use);
         const auto note = [&](const QString& column, std::int64_t expected, std::int64_t found) {

@@ -2,8 +2,6 @@
 
 namespace akarix {
 
-namespace {
-
 QString amountText(std::int64_t scaled) {
     const std::int64_t size = scaled < 0 ? -scaled : scaled;
     QString text = QString::number(size / 10000);
@@ -14,8 +12,6 @@ QString amountText(std::int64_t scaled) {
     }
     return scaled < 0 ? u'-' + text : text;
 }
-
-}  // namespace
 
 QString describe(const Difference& difference) {
     return QStringLiteral("得意先 %1 %2/%3 %4: 正 %5 誤 %6")

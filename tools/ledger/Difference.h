@@ -15,6 +15,9 @@ struct Difference {
     std::int64_t found = 0;
 };
 
+/// "1500", "-0.5"
+QString amountText(std::int64_t scaled);
+
 /// "得意先 12 2011/3 UGaku: 正 1500 誤 1499"
 QString describe(const Difference& difference);
 

@@ -1,5 +1,7 @@
 #include "ledger/Rows.h"
 
+#include <cmath>
+
 #include "platform/jet/Database.h"
 
 namespace akarix {
@@ -10,6 +12,7 @@ std::int64_t plainNumber(const Variant& value) {
     if (const Currency* amount = value.If<Currency>()) return amount->Scaled();
     if (const std::int32_t* number = value.If<std::int32_t>()) return *number;
     if (const std::int16_t* number = value.If<std::int16_t>()) return *number;
+    if (const Date* date = value.If<Date>()) return static_cast<std::int64_t>(std::floor(date->Serial()));
     return 0;
 }
 

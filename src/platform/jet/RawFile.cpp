@@ -1,6 +1,8 @@
 #include "platform/jet/RawFile.h"
 
 #include <algorithm>
+#include <chrono>
+#include <thread>
 
 #include "platform/jet/StoreError.h"
 #include "platform/jet/StoreKey.h"
@@ -54,6 +56,18 @@ bool RawFile::lock() {
         }
     }
     return true;
+}
+
+bool RawFile::lockShared() {
+    constexpr int mostTries = 1500;
+    locked_ = true;
+    for (int i = 0; i < mostTries; ++i) {
+        if (file_->pMethods->xLock(file_, kShared) == SQLITE_OK) {
+            return true;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    return false;
 }
 
 qint64 RawFile::size() const {

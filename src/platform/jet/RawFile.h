@@ -21,6 +21,8 @@ class RawFile {
 
     /// Keeps every other connection out; false when one holds the file.
     bool lock();
+    /// Keeps writers out while the file is read; false when one does not come to its end within seconds.
+    bool lockShared();
 
     qint64 size() const;
     /// Pages begun; the last may be cut.

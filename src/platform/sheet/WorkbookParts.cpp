@@ -1,12 +1,6 @@
 #include "platform/sheet/WorkbookParts.h"
 
-#include <zip.h>
-
-#include <QFile>
-#include <QFileInfo>
 #include <cstring>
-
-#include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
 
@@ -35,53 +29,16 @@ const char* localName(const char* name) {
 
 }  // namespace
 
-WorkbookParts::WorkbookParts(const QString& path) : path_(path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) fail(QStringLiteral("ファイルが見つからないか、開けません。"));
-    if (file.size() > largestFile) fail(QStringLiteral("ファイルが大きすぎます。"));
-    file_ = file.readAll();
-    zip_error_t error;
-    zip_error_init(&error);
-    zip_source_t* source =
-        zip_source_buffer_create(file_.constData(), static_cast<zip_uint64_t>(file_.size()), 0, &error);
-    if (source) {
-        archive_ = zip_open_from_source(source, ZIP_RDONLY, &error);
-        if (!archive_) zip_source_free(source);
-    }
-    zip_error_fini(&error);
-    if (!archive_) fail(QStringLiteral("ブック (.xlsx) の形式ではありません。"));
-}
-
-WorkbookParts::~WorkbookParts() {
-    zip_discard(archive_);
+WorkbookParts::WorkbookParts(const QString& path) : archive_(path, {largestFile, largestUnpacked}) {
+    if (!archive_.isArchive()) fail(QStringLiteral("ブック (.xlsx) の形式ではありません。"));
 }
 
 void WorkbookParts::fail(const QString& reason) const {
-    throw RuntimeError(1004, QStringLiteral("'%1': %2").arg(QFileInfo(path_).fileName(), reason));
-}
-
-std::optional<QByteArray> WorkbookParts::bytes(const QString& part) {
-    const QByteArray name = part.toUtf8();
-    const zip_int64_t index = zip_name_locate(archive_, name.constData(), ZIP_FL_NOCASE | ZIP_FL_ENC_UTF_8);
-    if (index < 0) return std::nullopt;
-    zip_file_t* file = zip_fopen_index(archive_, static_cast<zip_uint64_t>(index), 0);
-    if (!file) fail(QStringLiteral("'%1' を読めません。").arg(part));
-    // The size that the archive claims is not to be trusted: read until the end or the bound.
-    QByteArray data, chunk(1 << 16, Qt::Uninitialized);
-    zip_int64_t got = 0;
-    while ((got = zip_fread(file, chunk.data(), static_cast<zip_uint64_t>(chunk.size()))) > 0) {
-        data.append(chunk.constData(), got);
-        unpacked_ += got;
-        if (unpacked_ > largestUnpacked) break;
-    }
-    zip_fclose(file);
-    if (unpacked_ > largestUnpacked) fail(QStringLiteral("ファイルが大きすぎます。"));
-    if (got < 0) fail(QStringLiteral("'%1' が壊れています。").arg(part));
-    return data;
+    archive_.fail(reason);
 }
 
 bool WorkbookParts::load(const QString& part, pugi::xml_document& document) {
-    const auto data = bytes(part);
+    const auto data = archive_.bytes(part);
     if (!data) return false;
     const auto result = document.load_buffer(data->constData(), static_cast<size_t>(data->size()),
                                              pugi::parse_default | pugi::parse_ws_pcdata_single);

@@ -2,10 +2,9 @@
 
 #include <QHash>
 #include <QString>
-#include <optional>
 #include <pugixml.hpp>
 
-struct zip;
+#include "platform/sheet/ZipArchive.h"
 
 namespace akarix {
 
@@ -14,9 +13,6 @@ namespace akarix {
 class WorkbookParts {
  public:
     explicit WorkbookParts(const QString& path);
-    ~WorkbookParts();
-    WorkbookParts(const WorkbookParts&) = delete;
-    WorkbookParts& operator=(const WorkbookParts&) = delete;
 
     /// False when there is no such part; 1004 when it is no XML.
     bool load(const QString& part, pugi::xml_document& document);
@@ -31,12 +27,7 @@ class WorkbookParts {
     [[noreturn]] void fail(const QString& reason) const;
 
  private:
-    std::optional<QByteArray> bytes(const QString& part);
-
-    QString path_;
-    QByteArray file_;
-    zip* archive_ = nullptr;
-    qint64 unpacked_ = 0;
+    ZipArchive archive_;
 };
 
 /// Names without their prefix: which one a namespace got is the writer's whim.

@@ -1,0 +1,140 @@
+#include "admin/Check.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "admin/CheckReport.h"
+#include "admin/FileClaim.h"
+#include "admin/FileReport.h"
+#include "admin/MonthArgument.h"
+#include "admin/Terminal.h"
+#include "platform/jet/DBEngine.h"
+#include "platform/runtime/RuntimeError.h"
+#include "store/FieldValue.h"
+#include "store/dbAccess.h"
+#include "values/Text.h"
+
+namespace akarix::admin {
+
+namespace {
+
+enum Finding { Clean = 0, Found = 1, Unreadable = 2 };
+
+const char* const helpText =
+    "使い方: akarix-admin check [ファイル] [--since 年/月]\n\n"
+    "データベース（既定 Akarix.MDB）を調べます。中身は変えません。\n"
+    "  1. ファイルをページごとに確かめます。\n"
+    "  2. 台帳のすべての行を、検針、売上、入金と前の月の行から計算し直し、違うところを理由とともに\n"
+    "     並べます。\n"
+    "  3. 人が見たほうがよい検針を並べます: 使用量がマイナス、使用量があるのに料金が 0、指針と\n"
+    "     使用量が合わない、その得意先の前の一年からかけ離れている。使用量 0 は空き家と見て挙げません。\n\n"
+    "  --since 年/月   この月からあとのものだけを並べる、例 2011/4\n"
+    "                  （既定: 台帳は全部、検針は最後の一年）\n\n"
+    "手で決めた繰越は並べますが、誤りには数えません。\n"
+    "終了コード: 0 異常なし、1 見つかったものがある、2 読めない（または使い方の誤り）\n";
+
+/// The file open for reading, for the length of a check.
+class ReadStore {
+ public:
+    explicit ReadStore(const QString& path)
+        : db_(DBEngine::Workspaces(0).OpenDatabase(path, false, true, ConnectText())) {}
+    ~ReadStore() {
+        try {
+            db_->Close();
+        } catch (const RuntimeError&) {
+            return;  // nothing was written
+        }
+    }
+    ReadStore(const ReadStore&) = delete;
+    ReadStore& operator=(const ReadStore&) = delete;
+
+    Database& db() const { return *db_; }
+
+ private:
+    Database* db_;
+};
+
+CustomerNames readNames(Database& db) {
+    CustomerNames names;
+    Recordset customers = db.OpenRecordset(QStringLiteral("SELECT Code,Namae FROM Deal"));
+    for (; !customers.Eof(); customers.MoveNext()) {
+        names[longOf(customers[QStringLiteral("Code")])] = NullToEmpty(customers[QStringLiteral("Namae")]);
+    }
+    return names;
+}
+
+int checkFigures(const QString& path, int since) {
+    const ReadStore store(path);
+    const CustomerNames names = readNames(store.db());
+    LedgerProof proof;
+    {
+        ProgressLine line;
+        proof = ProveLedger(store.db(), [&line](int nendo, int getudo) {
+            line.show(QStringLiteral("%1年%2月").arg(nendo).arg(getudo));
+        });
+    }
+    std::erase_if(proof.findings, [since](const LedgerFinding& finding) {
+        return finding.difference.nendo * 100 + finding.difference.getudo < since;
+    });
+    tell(ledgerReport(proof, names));
+
+    const int from = since != 0 ? since : LastYearOfReadings(store.db());
+    const auto doubtful = from != 0 ? CheckReadings(store.db(), from) : std::vector<DoubtfulReading>();
+    tell(readingReport(doubtful, from, names));
+
+    const bool isRight = std::all_of(proof.findings.begin(), proof.findings.end(),
+                                     [](const LedgerFinding& f) { return f.cause == Cause::HandSet; });
+    return isRight && doubtful.empty() ? Clean : Found;
+}
+
+int checkFile(const QString& path, int since) {
+    const SingleInstance guard;
+    const QString holder = holderOf(path, guard.PrevInstance());
+    if (!holder.isEmpty()) {
+        tell(holder + QStringLiteral("\n  仕事の途中なら、台帳が合わないように見えることがあります。\n"));
+    }
+    const FileState state = stateOf(path);
+    tell(path + QStringLiteral(": ") +
+         (state.sound() ? QStringLiteral("%1 ページ、すべて正常").arg(state.check.pages) : state.faults) +
+         u'\n');
+    if (!state.check.opens) {
+        tell(QStringLiteral(
+            "  台帳は調べられません。控えから戻すには akarix-admin restore。Akarix を起動すると、\n"
+            "  読めるページだけで作り直します。\n"));
+        return Unreadable;
+    }
+    return std::max<int>(checkFigures(path, since), state.sound() ? Clean : Found);
+}
+
+int check(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.addOption(QCommandLineOption(QStringLiteral("since"), QString(), QStringLiteral("month")));
+    const bool understood = parser.parse(QStringList(QString()) + arguments);
+    const auto since = readMonth(parser.value(QStringLiteral("since")));
+    if (!understood || parser.positionalArguments().size() > 1 ||
+        (parser.isSet(QStringLiteral("since")) && !since)) {
+        tellWrongUse(QStringLiteral("check"));
+        return WrongUse;
+    }
+    const QString path = parser.positionalArguments().value(0, DatabaseName());
+    if (!QFileInfo(path).isFile()) {
+        tellError(QStringLiteral("ファイルがありません: %1\n").arg(path));
+        return Unreadable;
+    }
+    try {
+        return checkFile(path, since ? since->number() : 0);
+    } catch (const RuntimeError& error) {
+        tellError(QStringLiteral("エラー %1: %2\n").arg(error.number()).arg(error.description()));
+        return Unreadable;
+    }
+}
+
+}  // namespace
+
+Command checkCommand() {
+    return {QStringLiteral("check"), QStringLiteral("ファイルと台帳を調べる"), QString::fromUtf8(helpText),
+            check};
+}
+
+}  // namespace akarix::admin

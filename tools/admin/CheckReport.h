@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <map>
+#include <vector>
+
+#include "ledger/LedgerProof.h"
+#include "ledger/ReadingCheck.h"
+
+namespace akarix::admin {
+
+using CustomerNames = std::map<std::int32_t, QString>;
+
+/// What a dealer reads of the checks: a line of sums, and a table of what was found.
+QString ledgerReport(const LedgerProof& proof, const CustomerNames& names);
+QString readingReport(const std::vector<DoubtfulReading>& doubtful, int fromMonth,
+                      const CustomerNames& names);
+
+}  // namespace akarix::admin

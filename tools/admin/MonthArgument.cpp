@@ -1,0 +1,14 @@
+#include "admin/MonthArgument.h"
+
+#include <QRegularExpression>
+
+namespace akarix::admin {
+
+std::optional<MonthArgument> readMonth(const QString& text) {
+    static const QRegularExpression form(QStringLiteral("^([0-9]{4})/([0-9]{1,2})$"));
+    const QRegularExpressionMatch match = form.match(text);
+    const MonthArgument read{match.captured(1).toInt(), match.captured(2).toInt()};
+    return read.year > 0 && read.month >= 1 && read.month <= 12 ? std::optional(read) : std::nullopt;
+}
+
+}  // namespace akarix::admin

