@@ -2,6 +2,7 @@
 
 #include "admin/Check.h"
 #include "admin/Create.h"
+#include "admin/Debit.h"
 #include "admin/Restore.h"
 #include "admin/Sample.h"
 #include "admin/Terminal.h"
@@ -38,8 +39,8 @@ bool asksForHelp(const QStringList& arguments) {
 }  // namespace
 
 std::span<const Command> Commands() {
-    static const Command commands[] = {createCommand(), sampleCommand(), checkCommand(), restoreCommand(),
-                                       zipCommand()};
+    static const Command commands[] = {createCommand(),  sampleCommand(), checkCommand(),
+                                       restoreCommand(), zipCommand(),    debitCommand()};
     return commands;
 }
 

@@ -1,0 +1,144 @@
+#include "admin/DebitCheck.h"
+
+#include <QByteArrayList>
+#include <algorithm>
+#include <utility>
+
+#include "admin/DebitLayout.h"
+
+namespace akarix::admin {
+
+namespace {
+
+char kindOf(const QByteArray& record) {
+    return record.isEmpty() ? '\0' : record[0];
+}
+
+class Check {
+ public:
+    explicit Check(const std::vector<QByteArray>& records) : records_(records) {}
+
+    DebitReport run() {
+        for (const QByteArray& record : records_) {
+            ++number_;
+            checkLength(record);
+            checkOrder(kindOf(record));
+            checkFields(record);
+            if (kindOf(record) == '2') count(record);
+            if (kindOf(record) == '8') trailer_ = number_;
+        }
+        number_ = 0;
+        if (kindOf(records_.back()) != '9') depart(QStringLiteral("エンドレコードで終わっていない"));
+        // A request has 0 or nothing for every result, so where all went well the trailer alone tells.
+        const bool failed = std::any_of(report_.byResult.begin() + 1, report_.byResult.end(),
+                                        [](const DebitTally& tally) { return tally.count > 0; });
+        report_.isResult = failed || total(20).count + total(38).count > 0;
+        if (trailer_ > 0) checkTotals();
+        return std::move(report_);
+    }
+
+ private:
+    void depart(const QString& text) { report_.departures.push_back({number_, text}); }
+
+    void checkLength(const QByteArray& record) {
+        if (record.size() == kDebitRecord) return;
+        depart(QStringLiteral("長さが %1 バイト（%2 バイトのはず）").arg(record.size()).arg(kDebitRecord));
+    }
+
+    /// 1, then 2 as often as there are accounts, then 8 and 9, once each.
+    void checkOrder(char kind) {
+        const char before = number_ == 1 ? '\0' : kindOf(records_[static_cast<std::size_t>(number_ - 2)]);
+        const QByteArray step{QByteArray(1, before) + kind};
+        if (DebitLayout(kind).empty()) {
+            depart(QStringLiteral("データ区分が 1、2、8、9 のどれでもない"));
+        } else if (number_ == 1 ? kind != '1'
+                                : !QByteArrayList{"12", "18", "22", "28", "89"}.contains(step)) {
+            depart(QStringLiteral("%1レコードの順番ではない").arg(DebitKindName(kind)));
+        }
+    }
+
+    void checkFields(const QByteArray& record) {
+        for (const DebitField& field : DebitLayout(kindOf(record))) {
+            const QByteArray bytes = field.of(record);
+            if (bytes.size() < field.width) break;  // told by the length
+            const QString reason = FieldDeparture(field, bytes);
+            if (reason.isEmpty()) continue;
+            const QString to =
+                field.width > 1 ? u'-' + QString::number(field.place + field.width - 1) : QString();
+            depart(QStringLiteral("%1（%2%3桁目） %4")
+                       .arg(QString::fromUtf16(field.name))
+                       .arg(field.place)
+                       .arg(to, reason));
+        }
+    }
+
+    void count(const QByteArray& record) {
+        const qint64 amount = record.mid(80, 10).toLongLong();
+        const char result = record.mid(kResultPlace - 1, 1).append(' ')[0];
+        const auto add = [amount](DebitTally& tally) {
+            ++tally.count;
+            tally.amount += amount;
+        };
+        add(report_.all);
+        if (result >= '0' && result <= '9') add(report_.byResult[static_cast<std::size_t>(result - '0')]);
+    }
+
+    /// Count and amount in the trailer, at the place of the count.
+    DebitTally total(int place) const {
+        if (trailer_ == 0) return {};
+        const QByteArray& record = records_[static_cast<std::size_t>(trailer_ - 1)];
+        return {record.mid(place - 1, 6).toLongLong(), record.mid(place + 5, 12).toLongLong()};
+    }
+
+    void checkTotals() {
+        number_ = trailer_;
+        const auto compare = [this](const QString& name, const DebitTally& written,
+                                    const DebitTally& summed) {
+            if (written == summed) return;
+            depart(QStringLiteral("%1が %2件 %3円、データレコードの合計は %4件 %5円")
+                       .arg(name)
+                       .arg(written.count)
+                       .arg(written.amount)
+                       .arg(summed.count)
+                       .arg(summed.amount));
+        };
+        const DebitTally& debited = report_.byResult[0];
+        compare(QStringLiteral("合計"), total(2), report_.all);
+        if (!report_.isResult) return;
+        compare(QStringLiteral("振替済"), total(20), debited);
+        compare(QStringLiteral("振替不能"), total(38),
+                {report_.all.count - debited.count, report_.all.amount - debited.amount});
+    }
+
+    const std::vector<QByteArray>& records_;
+    DebitReport report_;
+    qsizetype number_ = 0;
+    qsizetype trailer_ = 0;
+};
+
+}  // namespace
+
+std::vector<QByteArray> SplitDebitRecords(const QByteArray& file) {
+    const qsizetype mark = file.indexOf('\x1a');
+    const QByteArray bytes = mark < 0 ? file : file.left(mark);
+    std::vector<QByteArray> records;
+    if (!bytes.contains('\r') && !bytes.contains('\n')) {
+        for (qsizetype at = 0; at < bytes.size(); at += kDebitRecord) {
+            records.push_back(bytes.mid(at, kDebitRecord));
+        }
+        return records;
+    }
+    QByteArray lines = bytes;
+    lines.replace("\r\n", "\n").replace('\r', '\n');
+    if (lines.endsWith('\n')) lines.chop(1);
+    for (const QByteArray& line : lines.split('\n')) {
+        records.push_back(line);
+    }
+    return records;
+}
+
+DebitReport CheckDebitFile(const std::vector<QByteArray>& records) {
+    return Check(records).run();
+}
+
+}  // namespace akarix::admin
