@@ -13,7 +13,8 @@ int main(int argc, char** argv) {
                      {QStringLiteral("請求書.xlsx"), akarix::WriteInvoiceTemplate},
                      {QStringLiteral("口座振替合計表.xlsx"), akarix::WriteDebitTotalTemplate},
                      {QStringLiteral("口座振替明細表.xlsx"), akarix::WriteBankStatementTemplate},
-                     {QStringLiteral("郵便局口座振替明細表.xlsx"), akarix::WritePostStatementTemplate}};
+                     {QStringLiteral("郵便局口座振替明細表.xlsx"), akarix::WritePostStatementTemplate},
+                     {QStringLiteral("価格表.xlsx"), akarix::WritePriceListTemplate}};
     int failed = 0;
     for (const auto& [name, write] : templates) {
         if (write(folder + u'/' + name)) continue;

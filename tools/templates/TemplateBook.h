@@ -69,5 +69,6 @@ bool WriteInvoiceTemplate(const QString& path);
 bool WriteDebitTotalTemplate(const QString& path);
 bool WriteBankStatementTemplate(const QString& path);
 bool WritePostStatementTemplate(const QString& path);
+bool WritePriceListTemplate(const QString& path);
 
 }  // namespace akarix

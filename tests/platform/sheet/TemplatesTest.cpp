@@ -60,6 +60,19 @@ TEST(Templates, CustomerList) {
     EXPECT_TRUE(sheet.page.headerText.contains(QStringLiteral("&P")));
 }
 
+TEST(Templates, PriceList) {
+    Sheet sheet = delivered("価格表");
+    expectOnePage(sheet);
+    sheet.setValue(QStringLiteral("C5:L24"), QStringLiteral("123456"));
+    EXPECT_EQ(sheet.shownText({5, 3}), QStringLiteral("123,456 "));
+    EXPECT_EQ(sheet.shownText({24, 12}), QStringLiteral("123,456 "));
+    EXPECT_TRUE(sheet.styleAt({24, 12}).shrink);
+    for (const char* label : {"B5", "B24", "H2"}) {
+        sheet.setValue(QString::fromLatin1(label), QStringLiteral("0"));
+        EXPECT_EQ(sheet.shownText(ParseRange(QString::fromLatin1(label)).first), QStringLiteral("0"));
+    }
+}
+
 TEST(Templates, Invoice) {
     Sheet sheet = delivered("請求書");
     expectOnePage(sheet);
