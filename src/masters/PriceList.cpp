@@ -35,10 +35,10 @@ const std::vector<Page>& pagesOf(const CapacityKind& kind) {
 void fillPage(const QString& pattern, const CapacityKind& kind, const Page& page) {
     ExcelCell(QStringLiteral("H2"), pattern);
     ExcelCell(QStringLiteral("C5:L24"), {});
-    Recordset rows = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Tnk "
-                                                       " WHERE Ptn=") +
-                                        pattern + QString::fromUtf16(page.filter) +
-                                        QStringLiteral(" ORDER BY Capa"));
+    Recordset rows =
+        gDb->OpenRecordset(QStringLiteral("SELECT * FROM Tnk "
+                                          " WHERE Ptn=") +
+                           pattern + QString::fromUtf16(page.filter) + QStringLiteral(" ORDER BY Capa"));
     for (; !rows.Eof(); rows.MoveNext()) {
         const CapacityPlace place =
             PlaceOf(kind.index(moneyOf(rows[QStringLiteral("Capa")]) - Currency(page.base)));
@@ -46,15 +46,16 @@ void fillPage(const QString& pattern, const CapacityKind& kind, const Page& page
                   NumStr(moneyOf(rows[QStringLiteral("Tanka")])));
     }
     for (int row = 0; row < kPageRows; ++row) {
-        ExcelCell(CellAddress(QStringLiteral("B"), kFirstRow, 0, row), NumStr(page.base + row * kind.rowStep));
+        ExcelCell(CellAddress(QStringLiteral("B"), kFirstRow, 0, row),
+                  NumStr(page.base + row * kind.rowStep));
     }
 }
 
 }  // namespace
 
 const CapacityKind* StoredKind(const QString& pattern) {
-    return CapacityKindOf(integerOf(FirstValue(QStringLiteral("SELECT TOP 1 Kubun FROM Tnk WHERE Ptn=") + pattern,
-                                               QStringLiteral("Kubun"))));
+    return CapacityKindOf(integerOf(FirstValue(
+        QStringLiteral("SELECT TOP 1 Kubun FROM Tnk WHERE Ptn=") + pattern, QStringLiteral("Kubun"))));
 }
 
 void PrintPriceList(const QString& pattern) {

@@ -45,12 +45,10 @@ bool WritePriceListTemplate(const QString& path) {
         book.block(headRow, firstPrice + i, headRow, firstPrice + i, QString::number(i), book.look(head));
     for (int row = firstDetail; row <= lastDetail; ++row) {
         const bool bandEnds = (row - firstDetail + 1) % rowsOfABand == 0;
-        book.blank(row, labelColumn,
-                   book.look({.size = 11,
-                              .align = LXW_ALIGN_CENTER,
-                              .numberFormat = "0",
-                              .framed = true,
-                              .fill = shade}));
+        book.blank(
+            row, labelColumn,
+            book.look(
+                {.size = 11, .align = LXW_ALIGN_CENTER, .numberFormat = "0", .framed = true, .fill = shade}));
         for (int i = 0; i < prices; ++i) {
             book.blank(row, firstPrice + i,
                        book.look({.size = 11,
