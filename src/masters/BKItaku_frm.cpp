@@ -7,6 +7,7 @@
 #include "platform/forms/Choice.h"
 #include "platform/forms/FieldLayout.h"
 #include "store/FieldValue.h"
+#include "store/PutContents.h"
 #include "store/dbAccess.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
@@ -82,15 +83,8 @@ void BKItaku_frm::init() {
 
 void BKItaku_frm::save() {
     for (int code = kFirstOption; code <= kLastOption; ++code) {
-        Recordset row = gDb->OpenRecordset(QStringLiteral("SELECT * FROM UserOP WHERE Code=") + NumStr(code));
-        if (row.Eof()) {
-            row.AddNew();
-            row.Fields(QStringLiteral("Code")) = std::int32_t{code};
-        } else {
-            row.Edit();
-        }
-        row.Fields(QStringLiteral("contents")) = EmptyToBlank(ebox(code - kFirstOption).Text());
-        row.Update();
+        PutContents(QStringLiteral("SELECT * FROM UserOP WHERE Code=") + NumStr(code), NumStr(code),
+                    ebox(code - kFirstOption).Text());
     }
     Unload();
 }
