@@ -1,7 +1,5 @@
 #include "shell/Backup.h"
 
-#include <QScopeGuard>
-
 #include "dialogs/AskConfirm.h"
 #include "dialogs/AskText.h"
 #include "dialogs/ShowAlert.h"
@@ -9,35 +7,16 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Dir.h"
-#include "platform/runtime/Input.h"
 #include "platform/runtime/MkDir.h"
-#include "platform/runtime/Open.h"
 #include "platform/runtime/Path.h"
-#include "platform/runtime/Print.h"
 #include "platform/runtime/RuntimeError.h"
+#include "store/BackupPlace.h"
 #include "store/dbAccess.h"
-#include "values/NumStr.h"
 #include "values/Text.h"
 
 namespace akarix {
 
 namespace {
-
-const QString kPlaceFile = QStringLiteral("BKPath");
-
-QString readPlace() {
-    const int number = FreeFile();
-    Open(kPlaceFile, OpenMode::Input, number);
-    const auto close = qScopeGuard([number] { Close(number); });
-    return Input(number);
-}
-
-void writePlace(const QString& place) {
-    const int number = FreeFile();
-    Open(kPlaceFile, OpenMode::Output, number);
-    Print(number, place);
-    Close(number);
-}
 
 /// False when the step failed.
 bool attempt(void (*step)(const QString& place), const QString& place) {
@@ -49,29 +28,27 @@ bool attempt(void (*step)(const QString& place), const QString& place) {
     }
 }
 
-void copyInto(const QString& folder) {
-    DBEngine::CopyDatabase(DatabaseName(), folder + QStringLiteral("Akarix") + NumStr(Weekday(Today())) +
-                                               QStringLiteral(".MDB"));
+void copyTo(const QString& place) {
+    DBEngine::CopyDatabase(DatabaseName(), BackupCopy(place, Weekday(Today())));
 }
 
 }  // namespace
 
 void ChangeBackupPlace() {
     QString place = BaseFolder() + QStringLiteral("Backup");
-    if (Dir(kPlaceFile).toUpper() == kPlaceFile.toUpper()) place = readPlace();
+    if (Dir(BackupPlaceFile()).toUpper() == BackupPlaceFile().toUpper()) place = ReadBackupPlace();
     QString answer = AskText(QStringLiteral("バックアップの場所。"), place);
     if (answer.isEmpty()) answer = Trim(place);
     if (AskConfirm(answer + QStringLiteral("で更新します。"), QStringLiteral("はい"),
                    QStringLiteral("いいえ"))) {
-        writePlace(answer);
+        WriteBackupPlace(answer);
     }
 }
 
 void BackUp() {
-    QString folder = readPlace();
-    if (!folder.endsWith(u'\\')) folder += u'\\';
+    const QString folder = BackupFolder(ReadBackupPlace());
     attempt(&MkDir, folder);  // it mostly exists
-    if (attempt(&copyInto, folder)) ShowAlert(folder + QStringLiteral("へバックアップコピーしました。"));
+    if (attempt(&copyTo, folder)) ShowAlert(folder + QStringLiteral("へバックアップコピーしました。"));
 }
 
 }  // namespace akarix

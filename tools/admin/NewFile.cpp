@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "admin/FileClaim.h"
+#include "platform/runtime/ByteFile.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix::admin {
@@ -40,6 +41,19 @@ void replaceFile(const QString& name, const std::function<void(const QString& wo
     std::error_code problem;
     std::filesystem::rename(working.toStdU16String(), path.toStdU16String(), problem);
     if (problem) throw RuntimeError(75);
+}
+
+void copyFile(const QString& from, const QString& to) {
+    try {
+        ByteFile source(from, ByteFile::Mode::Read);
+        ByteFile target(to, ByteFile::Mode::Write);
+        for (QByteArray part = source.read(); !part.isEmpty(); part = source.read())
+            target.write(part);
+        target.commit();
+    } catch (...) {
+        QFile::remove(to);
+        throw;
+    }
 }
 
 }  // namespace akarix::admin

@@ -13,4 +13,8 @@ QString refusal(const QString& path, bool force);
 /// that a failure half-way leaves what was there. Raises 75 when it cannot be put there.
 void replaceFile(const QString& name, const std::function<void(const QString& working)>& make);
 
+/// Copies a file's bytes as they stand; they are on the disk when it returns. A copy that breaks off is taken
+/// away.
+void copyFile(const QString& from, const QString& to);
+
 }  // namespace akarix::admin

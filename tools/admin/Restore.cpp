@@ -12,11 +12,10 @@
 #include "admin/FileReport.h"
 #include "admin/NewFile.h"
 #include "admin/Terminal.h"
-#include "admin/WeekdayCopies.h"
 #include "platform/runtime/Clock.h"
-#include "platform/runtime/FileCopy.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/RuntimeError.h"
+#include "platform/runtime/Path.h"
+#include "store/BackupPlace.h"
 #include "store/dbAccess.h"
 
 namespace akarix::admin {
@@ -34,6 +33,17 @@ const char* const helpText =
     "データベースのあるフォルダで実行してください。\n"
     "終了コード: 0 正常、1 失敗、2 使い方の誤り\n";
 
+constexpr int weekdays = 7;
+
+/// "日" for 1.
+QString weekdayName(int number) {
+    return QStringLiteral("日月火水木金土").mid(number - 1, 1);
+}
+
+QString copyOf(const QString& place, int number) {
+    return LocalPath(BackupCopy(place, number));
+}
+
 QString journalOf(const QString& path) {
     return path + QStringLiteral("-journal");
 }
@@ -42,22 +52,22 @@ QString timeText(const QFileInfo& file) {
     return file.lastModified().toString(QStringLiteral("yyyy/MM/dd HH:mm"));
 }
 
-int listCopies(const QString& folder) {
+int listCopies(const QString& place) {
     Columns table({QStringLiteral(">番号"), QStringLiteral("曜日"), QStringLiteral("日時"),
                    QStringLiteral(">バイト"), QStringLiteral("検査"), QStringLiteral("ファイル")});
     bool isAny = false;
     for (int number = 1; number <= weekdays; ++number) {
-        const WeekdayCopy copy = copyOf(folder, number);
-        const QFileInfo file(copy.path);
+        const QString copy = copyOf(place, number);
+        const QFileInfo file(copy);
         if (!file.isFile()) continue;
         isAny = true;
-        const FileState state = stateOf(copy.path);
+        const FileState state = stateOf(copy);
         table.add({QString::number(number), weekdayName(number), timeText(file),
                    QLocale::c().toString(file.size()), state.sound() ? QStringLiteral("正常") : state.faults,
-                   copy.path});
+                   copy});
     }
     if (!isAny) {
-        tellError(QStringLiteral("%1 に控えがありません。\n").arg(folder));
+        tellError(QStringLiteral("%1 に控えがありません。\n").arg(place));
         return Failed;
     }
     tell(table.text());
@@ -81,14 +91,15 @@ QString asideName(const QString& path) {
 /// Sets the present file aside, with the journal that belongs to it when a program died over it.
 QString setAside(const QString& path) {
     const QString aside = asideName(path);
-    if (QFileInfo::exists(journalOf(path))) FileCopy(journalOf(path), journalOf(aside));
-    FileCopy(path, aside);
+    if (QFileInfo::exists(journalOf(path))) copyFile(journalOf(path), journalOf(aside));
+    copyFile(path, aside);
     return aside;
 }
 
-int restore(const WeekdayCopy& copy, bool force) {
-    if (!QFileInfo(copy.path).isFile()) {
-        tellError(QStringLiteral("控えがありません: %1\n").arg(copy.path));
+int restore(const QString& place, int number, bool force) {
+    const QString copy = copyOf(place, number);
+    if (!QFileInfo(copy).isFile()) {
+        tellError(QStringLiteral("控えがありません: %1\n").arg(copy));
         return Failed;
     }
     const QString path = DatabaseName();
@@ -97,19 +108,18 @@ int restore(const WeekdayCopy& copy, bool force) {
         tellError(claim.refusal() + u'\n');
         return Failed;
     }
-    const FileState state = stateOf(copy.path);
+    const FileState state = stateOf(copy);
     if (!state.sound()) {
-        tellError(QStringLiteral("%1: %2\n").arg(copy.path, state.faults));
+        tellError(QStringLiteral("%1: %2\n").arg(copy, state.faults));
         if (!force) {
             tellError(QStringLiteral("戻しませんでした。それでも戻すときは --force を付けてください。\n"));
             return Failed;
         }
     }
-    const QString time = timeText(QFileInfo(copy.path));
+    const QString time = timeText(QFileInfo(copy));
     const QString aside = QFileInfo(path).isFile() ? setAside(path) : QString();
-    replaceFile(path, [&copy](const QString& working) { FileCopy(copy.path, working); });
-    tell(
-        QStringLiteral("%1曜日の控え（%2）を %3 に戻しました。\n").arg(weekdayName(copy.number), time, path));
+    replaceFile(path, [&copy](const QString& working) { copyFile(copy, working); });
+    tell(QStringLiteral("%1曜日の控え（%2）を %3 に戻しました。\n").arg(weekdayName(number), time, path));
     if (!aside.isEmpty()) tell(QStringLiteral("これまでのものは %1 にあります。\n").arg(aside));
     return Done;
 }
@@ -131,18 +141,18 @@ int run(const QStringList& arguments) {
         tellWrongUse(QStringLiteral("restore"));
         return WrongUse;
     }
-    QString folder = parser.value(QStringLiteral("from"));
-    if (folder.isEmpty()) {
-        if (!QFileInfo(QStringLiteral("BKPath")).isFile()) {
+    QString place = parser.value(QStringLiteral("from"));
+    if (place.isEmpty()) {
+        if (!QFileInfo(BackupPlaceFile()).isFile()) {
             tellError(QStringLiteral(
                 "ファイル BKPath がありません。データベースのあるフォルダで実行するか、--from で\n"
                 "控えのフォルダを指定してください。\n"));
             return Failed;
         }
-        folder = backupFolder();
+        place = ReadBackupPlace();
     }
-    if (*number == 0) return listCopies(folder);
-    return restore(copyOf(folder, *number), parser.isSet(QStringLiteral("force")));
+    if (*number == 0) return listCopies(place);
+    return restore(place, *number, parser.isSet(QStringLiteral("force")));
 }
 
 }  // namespace

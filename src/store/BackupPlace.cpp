@@ -1,0 +1,38 @@
+#include "store/BackupPlace.h"
+
+#include <QScopeGuard>
+
+#include "platform/runtime/Input.h"
+#include "platform/runtime/Open.h"
+#include "platform/runtime/Print.h"
+#include "values/NumStr.h"
+
+namespace akarix {
+
+QString BackupPlaceFile() {
+    return QStringLiteral("BKPath");
+}
+
+QString ReadBackupPlace() {
+    const int number = FreeFile();
+    Open(BackupPlaceFile(), OpenMode::Input, number);
+    const auto close = qScopeGuard([number] { Close(number); });
+    return Input(number);
+}
+
+void WriteBackupPlace(const QString& place) {
+    const int number = FreeFile();
+    Open(BackupPlaceFile(), OpenMode::Output, number);
+    Print(number, place);
+    Close(number);
+}
+
+QString BackupFolder(const QString& place) {
+    return place.endsWith(u'\\') ? place : place + u'\\';
+}
+
+QString BackupCopy(const QString& place, int weekday) {
+    return BackupFolder(place) + QStringLiteral("Akarix") + NumStr(weekday) + QStringLiteral(".MDB");
+}
+
+}  // namespace akarix
