@@ -27,7 +27,8 @@ const char* const helpText =
     "もう一度実行してください。Akarix を終わらせてから使います。\n"
     "終了コード: 0 正常、1 失敗、2 使い方の誤り\n";
 
-void store(const PostalCodes& codes) {
+/// Gives the number of codes that were kept.
+int store(const PostalCodes& codes) {
     constexpr std::size_t rowsToASay = 2000;
     constexpr int longestAddress = 100;
     ProgressLine line;
@@ -35,13 +36,16 @@ void store(const PostalCodes& codes) {
     gDb->Execute(QStringLiteral("DELETE * FROM Zip7"));
     sample::RowWriter table(QStringLiteral("Zip7"));
     std::size_t done = 0;
+    int kept = 0;
     for (const auto& [code, place] : codes.places()) {
         if (done++ % rowsToASay == 0)
             line.show(QStringLiteral("%1 / %2 件").arg(done - 1).arg(codes.places().size()));
         const QString address = place.address().left(longestAddress);
         if (address.isEmpty()) continue;  // of two prefectures: it says nothing
+        ++kept;
         table.add({{QStringLiteral("Code"), std::int32_t{code}}, {QStringLiteral("Addr"), address}});
     }
+    return kept;
 }
 
 int import(const QStringList& arguments) {
@@ -63,11 +67,12 @@ int import(const QStringList& arguments) {
         return Failed;
     }
     const PostalCodes codes = readPostalList(names.first());
+    int kept = 0;
     {
         const sample::OpenStore opened(path);
-        store(codes);
+        kept = store(codes);
     }
-    tell(QStringLiteral("%1 に郵便番号 %2 件を取り込みました。\n").arg(path).arg(codes.places().size()));
+    tell(QStringLiteral("%1 に郵便番号 %2 件を取り込みました。\n").arg(path).arg(kept));
     return Done;
 }
 
