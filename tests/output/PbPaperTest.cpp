@@ -93,6 +93,15 @@ TEST_F(PbPaperTest, NothingOfAPageThatFailedIsPrinted) {
     EXPECT_EQ(PdfPages(path("later.pdf")), QStringList("found"));
 }
 
+TEST_F(PbPaperTest, AMissingBarcodeFontDoesNotSpoilTheNextReport) {
+    EXPECT_EQ(print({"<FONT>CODE39"}), 380);
+    PBInit();
+    PB().ColCount = 1;  // measured in a font of its own, named without a character set
+    PBAddLine("next");
+    EXPECT_NO_THROW(PBRun());
+    EXPECT_EQ(PdfPages(path("out.pdf")), QStringList("next"));
+}
+
 TEST_F(PbPaperTest, AFontHoldsForTheNextReportButThePaperDoesNot) {
     print({"<AREA>4000,4000", "<SIZE>36", "a"});
     Printer::Current().UsePdf(path("out.pdf"));

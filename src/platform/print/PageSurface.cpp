@@ -13,6 +13,7 @@ constexpr double TwipsPerPoint = 20;
 constexpr double RuleWidth = 0.65 * TwipsPerPoint;  // as the thin frames of the templates
 constexpr int LargestFont = 2160;
 constexpr int InvalidProperty = 380;
+constexpr int AnsiCharset = 0;
 
 QStringList LinesOf(const QString& text) {
     return QString(text).remove(u'\r').split(u'\n');
@@ -35,8 +36,9 @@ void PageSurface::SetFontCharset(int charset) {
 void PageSurface::SetFontName(const QString& name) {
     PaperFontKey wanted = fontKey_;
     wanted.name = name;
+    const int charset = std::exchange(charset_, JapaneseCharset);
     // Another font would print readable letters where bars belong, and nobody would notice.
-    if (charset_ == 0 && FontOnPaper(wanted).substituted()) {
+    if (charset == AnsiCharset && FontOnPaper(wanted).substituted()) {
         throw RuntimeError(InvalidProperty, QStringLiteral("フォント '%1' がありません。").arg(name));
     }
     fontKey_ = wanted;

@@ -41,11 +41,13 @@ class PageSurface : public PrintSurface {
     using Mark = std::variant<Text, QLine>;
     static void draw(QPainter& painter, const Mark& mark);
 
+    static constexpr int JapaneseCharset = 128;
+
     PaperFont& font() const { return FontOnPaper(fontKey_); }
 
     QSizeF paper_ = PrintPage().paper;
     PaperFontKey fontKey_{QStringLiteral("ＭＳ 明朝"), 10};
-    int charset_ = 128;
+    int charset_ = JapaneseCharset;  ///< for the font named next
     std::vector<Mark> marks_;
 };
 
