@@ -14,7 +14,8 @@ class PrintSurface {
     virtual void SetArea(int width, int height) = 0;
 
     /// 128: Japanese; a font that is not there is replaced by one like it. 0: the font's own signs (a
-    /// barcode), which no other font can stand in for. Counts for the font that is named next, and for no other.
+    /// barcode), which no other font can stand in for. Counts for the font that is named next, and for no
+    /// other.
     virtual void SetFontCharset(int charset) = 0;
     virtual void SetFontName(const QString& name) = 0;
     /// In points; raises 380 outside 1 to 2160.
