@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "admin/Command.h"
@@ -55,6 +56,21 @@ TEST(Admin, TouchesAnExistingFileOnDemandAlone) {
                           QStringLiteral("--months"), QStringLiteral("1"), QStringLiteral("--force")}),
               Done);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("a.mdb")});
+}
+
+TEST(Admin, EveryCommandIsInTheManualWithItsOptions) {
+    QFile page(QStringLiteral(AKARIX_SOURCE_DIR "/docs/man/akarix-admin.1"));
+    ASSERT_TRUE(page.open(QFile::ReadOnly));
+    const QString manual = QString::fromUtf8(page.readAll()).remove(u'\\');
+    static const QRegularExpression option(QStringLiteral("--[a-z]+"));
+    for (const Command& command : Commands()) {
+        const qsizetype at = manual.indexOf(QStringLiteral("\n.SS %1\n").arg(command.name));
+        ASSERT_GE(at, 0) << command.name.toStdString();
+        const QString section = manual.mid(at, manual.indexOf(QStringLiteral("\n.S"), at + 1) - at);
+        for (const QRegularExpressionMatch& match : option.globalMatch(command.help)) {
+            EXPECT_TRUE(section.contains(match.captured())) << match.captured().toStdString();
+        }
+    }
 }
 
 }  // namespace

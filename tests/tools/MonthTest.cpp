@@ -233,6 +233,11 @@ TEST(MonthProgram, ARunThatGoesWrongEndsWithAWord) {
     QDir().mkpath(taken);
     ASSERT_TRUE(QFile::copy(QStringLiteral(AKARIX_SOURCE_DIR "/Prt") + list, templates + list));
     ASSERT_TRUE(QFile::copy(templates + list, taken + list));
+    const QString busy = folder.filePath(u"busy"_qs);
+    QDir().mkpath(busy + u"/dealer"_qs);
+    ASSERT_TRUE(QFile(busy + u"/.akarix-month"_qs).open(QFile::WriteOnly));
+    QFile inUse(busy + u"/dealer/"_qs + DatabaseName());
+    ASSERT_TRUE(inUse.open(QFile::WriteOnly));
     struct {
         QStringList arguments;
         int exitCode;
@@ -241,6 +246,7 @@ TEST(MonthProgram, ARunThatGoesWrongEndsWithAWord) {
         {{u"--frobnicate"_qs}, 2, "使い方"},
         {{u"--help"_qs}, 0, "使い方"},
         {{u"--out"_qs, taken}, 1, "他のものがあります"},
+        {{u"--out"_qs, busy}, 1, "使用中です: test_tools"},
         // The list cannot be printed, which the program tells in a box that the road does not expect.
         {{u"--customers"_qs, u"2"_qs, u"--out"_qs, folder.filePath(u"out"_qs), u"--templates"_qs, templates},
          1,
@@ -252,6 +258,7 @@ TEST(MonthProgram, ARunThatGoesWrongEndsWithAWord) {
         EXPECT_THAT(run.said.toStdString(), HasSubstr(says));
     }
     EXPECT_TRUE(QFile::exists(taken + list)) << "what was in the folder is left alone";
+    EXPECT_TRUE(inUse.exists());
 }
 
 TEST(MonthOptions, AreReadOrRefused) {

@@ -22,7 +22,8 @@ QString overview() {
     }
     return text + QStringLiteral(
                       "\nコマンドの説明: akarix-admin コマンド --help\n"
-                      "終了コード: 0 正常、1 失敗、2 使い方の誤り（check だけは別の意味があります）\n");
+                      "終了コード: 0 正常、1 失敗、2 使い方の誤り。check と debit は 1 "
+                      "見つかったものがある、2 読めない\n");
 }
 
 const Command* findCommand(const QString& name) {

@@ -2,6 +2,7 @@
 
 #include <QCommandLineParser>
 
+#include "admin/FileClaim.h"
 #include "admin/NewFile.h"
 #include "admin/Terminal.h"
 #include "store/CreateDatabase.h"
@@ -24,7 +25,8 @@ int create(const QStringList& arguments) {
         return WrongUse;
     }
     const QString path = parser.positionalArguments().value(0, DatabaseName());
-    const QString reason = refusal(path, parser.isSet(QStringLiteral("force")));
+    const FileClaim claim(path);
+    const QString reason = refusal(path, parser.isSet(QStringLiteral("force")), claim);
     if (!reason.isEmpty()) {
         tellError(reason + u'\n');
         return Failed;

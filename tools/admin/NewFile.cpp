@@ -12,7 +12,7 @@
 
 namespace akarix::admin {
 
-QString refusal(const QString& path, bool force) {
+QString refusal(const QString& path, bool force, const FileClaim& claim) {
     const QFileInfo file(path);
     if (file.isDir()) return QStringLiteral("%1 はフォルダです。").arg(path);
     if (!file.absoluteDir().exists())
@@ -20,7 +20,7 @@ QString refusal(const QString& path, bool force) {
     if (file.exists() && !force) {
         return QStringLiteral("%1 は既にあります。作り直すときは --force を付けてください。").arg(path);
     }
-    return FileClaim(path).refusal();
+    return claim.refusal();
 }
 
 void replaceFile(const QString& name, const std::function<void(const QString& working)>& make) {

@@ -5,9 +5,11 @@
 
 namespace akarix::admin {
 
+class FileClaim;
+
 /// Why a file may not be made here; empty when it may. An existing file is touched on demand
 /// alone, and never while somebody has it open.
-QString refusal(const QString& path, bool force);
+QString refusal(const QString& path, bool force, const FileClaim& claim);
 
 /// Lets `make` write the file under another name beside it and puts it in its place when that is done, so
 /// that a failure half-way leaves what was there. Raises 75 when it cannot be put there.

@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <optional>
 
+#include "admin/FileClaim.h"
 #include "admin/MonthArgument.h"
 #include "admin/NewFile.h"
 #include "admin/Terminal.h"
@@ -79,7 +80,8 @@ int makeSample(const QStringList& arguments) {
         return WrongUse;
     }
     const QString path = parser.positionalArguments().value(0, DatabaseName());
-    const QString reason = refusal(path, parser.isSet(QStringLiteral("force")));
+    const FileClaim claim(path);
+    const QString reason = refusal(path, parser.isSet(QStringLiteral("force")), claim);
     if (!reason.isEmpty()) {
         tellError(reason + u'\n');
         return Failed;

@@ -6,6 +6,7 @@
 
 #include "month/Failure.h"
 #include "platform/jet/Database.h"
+#include "platform/runtime/FileHolders.h"
 #include "sample/OpenStore.h"
 #include "sample/SampleDealer.h"
 #include "store/CreateDatabase.h"
@@ -42,6 +43,11 @@ WorkFolder::WorkFolder(const QString& path) : root_(QDir(path).absolutePath()) {
     if (!folder.exists(marker) && !folder.isEmpty(everything)) {
         throw Failure(
             QStringLiteral("%1 には他のものがあります。--out で別のフォルダを指定してください。").arg(root_));
+    }
+    const QStringList holders = FileHolders(database()).value_or(QStringList());
+    if (!holders.isEmpty()) {
+        throw Failure(
+            QStringLiteral("%1 は使用中です: %2").arg(database(), holders.join(QStringLiteral("、"))));
     }
     for (const QString& name : folder.entryList(everything)) {
         if (!QFileInfo(folder.filePath(name)).isDir()) {

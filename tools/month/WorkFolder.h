@@ -10,7 +10,7 @@ namespace akarix::month {
 class WorkFolder {
  public:
     /// Makes the folder, or empties one that an earlier run has left. Raises Failure for a folder with
-    /// anything else in it: a dealer's own data may lie there.
+    /// anything else in it: a dealer's own data may lie there; and for one whose dealer somebody has open.
     explicit WorkFolder(const QString& path);
 
     /// An absolute path in the folder.
