@@ -143,7 +143,6 @@ void SeikyuPrt_frm::layOut() {
     body->addWidget(List_, 1);
 }
 
-/// The last code builds the list, so it is the last field of the walk.
 QLayout* SeikyuPrt_frm::layOutFields() {
     constexpr int kDateBytes = 10;
     constexpr int kCodeBytes = 8;
@@ -163,9 +162,9 @@ QLayout* SeikyuPrt_frm::layOutFields() {
             .name(*label, kNameBytes);
         return label;
     };
-    sRte_ = coded(u"地区", kRoute, kPickRoute, u"sRte");
     sNamaeS_ = coded(u"得意先", kFrom, kPickFrom, u"sNamaeS");
     sNamaeE_ = coded(u"～", kTo, kPickTo, u"sNamaeE");
+    sRte_ = coded(u"地区", kRoute, kPickRoute, u"sRte");
     return fields.layout();
 }
 
