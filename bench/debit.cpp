@@ -1,0 +1,123 @@
+// The debit disk of the post office for 30,000 customers: writing the request, and reading the result back
+// with a payment for each, against the same bytes and statements by hand.
+
+#include <QApplication>
+
+#include "DealerFiles.h"
+#include "Measure.h"
+#include "PeerDebit.h"
+#include "clerk/Clerk.h"
+#include "debit/DebitQuery.h"
+#include "debit/DebitReader.h"
+#include "debit/PostDebitFile.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Style.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DateSerial.h"
+
+namespace akarix::bench {
+namespace {
+
+constexpr int kCustomers = 30000;
+constexpr int kRuns = 5;
+constexpr int kDay = 27;
+const Date kDebited = DateSerial(kYear, kMonth, kDay);
+
+/// Every customer owes something and pays through an account of his own.
+void openAccounts(const QString& path) {
+    PeerStore store(path);
+    store.run("UPDATE Deal SET Bnk=9900,Stn=10010,Kind=1,Koza=CAST(10000000+Code AS TEXT),DiscGaku=0");
+    store.run("UPDATE Deal SET DiscGaku=30000000 WHERE Code%3=0");
+    store.run("UPDATE TtoD SET ZenkaiGaku=50000000,NGaku=0");
+    store.run("DELETE FROM Bnk");
+    store.run(
+        "INSERT INTO Bnk(Code,ItakuCode,Itakusya,fName,BkName,Stn,KozaNo) "
+        "VALUES(9900,'1','A','disk','POST',1,'1')");
+}
+
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Everything the reading back writes, row by row.
+QStringList written(const QString& path) {
+    PeerStore store(path);
+    QStringList rows;
+    for (const char* sql : {"SELECT * FROM Dny ORDER BY Dno,Eda",
+                            "SELECT * FROM TtoD ORDER BY Deal,Nendo,Getudo", "SELECT * FROM FDLog"}) {
+        for (PeerStatement all(store, sql); all.next();) {
+            QString row;
+            for (int column = 0; column < all.columns(); ++column) {
+                row += all.text(column) + u'|';
+            }
+            rows.append(row);
+        }
+    }
+    return rows;
+}
+
+void readBack(Clerk& clerk) {
+    clerk.answerConfirm(true);
+    clerk.answerConfirm(true);
+    clerk.answerAlert();
+    const Action grouped;
+    ReadPostResult([](const QString&) {});
+}
+
+int run() {
+    DealerFiles files(kCustomers, 1);
+    CloseDb();
+    openAccounts(files.path("made"));
+    QDir().mkpath(QStringLiteral("Drive/A"));
+    SetClock(kDebited);
+    Clerk clerk;
+    Race writing;
+    Race reading;
+    for (int i = 0; i < kRuns; ++i) {
+        files.copy("product");
+        files.open("product");
+        Consignor post;
+        LoadPostConsignor(post);
+        const Consignor fitted = FitPostConsignor(post);
+        const RetransferDay never{QStringLiteral("  "), QStringLiteral("  ")};
+        writing.product.push_back(measure([&] {
+            WriteRequest(QStringLiteral("A:\\disk"),
+                         gDb->OpenRecordset(DebitQuery(kPostOffice, kYear, kMonth)),
+                         PostRequest(fitted, kDebited, never), [](const QString&) {});
+        }));
+        reading.product.push_back(measure([&] { readBack(clerk); }));
+
+        files.copy("peer");
+        PeerStore store(files.path("peer"));
+        PeerDebit peer(store);
+        const QByteArray head = PostHeader(fitted, kDebited, never).toLatin1();
+        writing.peer.push_back(
+            measure([&] { peer.write("peer", head, fitted.BkName.toLatin1(), kYear, kMonth); }));
+        reading.peer.push_back(measure([&] { peer.read("Drive/A/disk", kDebited, kYear, kMonth, kDay); }));
+    }
+    if (bytesOf(QStringLiteral("peer")) != bytesOf(QStringLiteral("Drive/A/disk"))) {
+        std::fputs("the two files differ\n", stderr);
+        return 1;
+    }
+    if (written(files.path("product")) != written(files.path("peer"))) {
+        std::fputs("the two ledgers differ\n", stderr);
+        return 1;
+    }
+    printHead();
+    printRow("debit disk, 30,000 records written", writing, times(3));
+    printRow("debit disk, 30,000 records read back and posted", reading, times(3));
+    return 0;
+}
+
+}  // namespace
+}  // namespace akarix::bench
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    akarix::ApplyStyle(application);
+    const int result = akarix::bench::run();
+    akarix::Form::DropInstances();
+    return result;
+}
