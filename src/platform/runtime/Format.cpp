@@ -1,7 +1,9 @@
 #include "platform/runtime/Format.h"
 
 #include <QHash>
+#include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <optional>
 
 #include "platform/runtime/CDate.h"
@@ -114,6 +116,42 @@ QString generalNumber(const Variant& value) {
                                              : number.generalText(significantDigits(value.Type()));
 }
 
+/// A value that is whole for certain, and short enough to be shown digit by digit.
+std::optional<std::int64_t> wholeOf(const Variant& value) {
+    switch (value.Type()) {
+        case VarType::Byte:
+            return value.As<std::uint8_t>();
+        case VarType::Integer:
+            return value.As<std::int16_t>();
+        case VarType::Long:
+            return value.As<std::int32_t>();
+        case VarType::Currency: {
+            const std::int64_t scaled = value.As<Currency>().Scaled();
+            if (scaled % Currency::kScale != 0) return std::nullopt;
+            return scaled / Currency::kScale;
+        }
+        case VarType::String: {
+            const QString& text = value.As<QString>();
+            const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+            constexpr qsizetype kExact = 15;  // digits that a text keeps as a number
+            if (text.isEmpty() || text.size() > kExact) return std::nullopt;
+            if (!std::all_of(text.begin(), text.end(), isDigit)) return std::nullopt;
+            return text.toLongLong();
+        }
+        default:
+            return std::nullopt;
+    }
+}
+
+/// Codes, dates and the fields of a record: a whole number under zeros alone needs no reading of the mask.
+std::optional<QString> zeroFilled(const Variant& value, const QString& mask) {
+    if (!std::all_of(mask.begin(), mask.end(), [](QChar c) { return c == u'0'; })) return std::nullopt;
+    const std::optional<std::int64_t> whole = wholeOf(value);
+    if (!whole) return std::nullopt;
+    const QString digits = QString::number(std::abs(*whole)).rightJustified(mask.size(), u'0');
+    return *whole < 0 ? u'-' + digits : digits;
+}
+
 }  // namespace
 
 QString Format(const Variant& value) {
@@ -122,6 +160,7 @@ QString Format(const Variant& value) {
 
 QString Format(const Variant& value, const QString& mask) {
     if (mask.isEmpty()) return Format(value);
+    if (auto filled = zeroFilled(value, mask)) return *std::move(filled);
     const ReadMask read = readOnce(mask);
     switch (read.rule) {
         case Rule::GeneralNumber:
