@@ -113,6 +113,16 @@ TEST_F(ThreeMonths, ADifferenceIsToldWithWhyItArose) {
     }
 }
 
+TEST_F(ThreeMonths, WhatAPurgedMonthCarriedIsNotHeldAgainstTheNext) {
+    for (const char16_t* table : {u"TtoD", u"Dgd", u"Dud", u"Dny"}) {
+        ScratchStore::run(u"DELETE FROM %1 WHERE Nendo=2011 AND Getudo=1"_qs.arg(QString::fromUtf16(table)));
+    }
+    const LedgerProof proof = ProveLedger(*gDb, [](int, int) {});
+    EXPECT_TRUE(proof.findings.empty());
+    EXPECT_EQ(proof.unproved, 1);
+    EXPECT_EQ(proof.first, std::pair(2011, 2));
+}
+
 TEST_F(ThreeMonths, CheckTellsADealerAndAScript) {
     CloseDb();
     const QByteArray sound = admin::contentsOf(store_.path());

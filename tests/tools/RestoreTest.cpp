@@ -29,6 +29,7 @@ class Restoring : public testing::Test {
     static void withRoute(int code) {
         OpenDb([](const QString&, const QString&) {});
         ScratchStore::run(QStringLiteral("INSERT INTO Rte(Code,Namae) VALUES(%1,'本町')").arg(code));
+        ScratchStore::run(QStringLiteral("INSERT INTO Syukei(Nen,Tuki) VALUES(2011,%1)").arg(code));
         CloseDb();
     }
     static QStringList setAside() {
@@ -44,7 +45,7 @@ class Restoring : public testing::Test {
 TEST_F(Restoring, TheCopiesAreListedWithTheirState) {
     const Outcome list = run(QStringLiteral("restore"));
     EXPECT_EQ(list.code, Done);
-    EXPECT_THAT(list.said, AllOf(HasSubstr("3  火"), HasSubstr("正常"), HasSubstr("5  木"),
+    EXPECT_THAT(list.said, AllOf(HasSubstr("3  火"), HasSubstr("2011/02   正常"), HasSubstr("5  木"),
                                  HasSubstr("1 ページが壊れています（3）"), Not(HasSubstr("1  日"))));
     EXPECT_EQ(run(QStringLiteral("restore --from Drive")).code, Failed);
     QFile::remove(QStringLiteral("BKPath"));

@@ -8,8 +8,9 @@
 #include "admin/FileClaim.h"
 #include "admin/FileReport.h"
 #include "admin/MonthArgument.h"
+#include "admin/ReadStore.h"
 #include "admin/Terminal.h"
-#include "platform/jet/DBEngine.h"
+#include "platform/jet/Database.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
@@ -33,27 +34,6 @@ const char* const helpText =
     "                  （既定: 台帳は全部、検針は最後の一年）\n\n"
     "手で決めた繰越は並べますが、誤りには数えません。\n"
     "終了コード: 0 異常なし、1 見つかったものがある、2 読めない（または使い方の誤り）\n";
-
-/// The file open for reading, for the length of a check.
-class ReadStore {
- public:
-    explicit ReadStore(const QString& path)
-        : db_(DBEngine::Workspaces(0).OpenDatabase(path, false, true, ConnectText())) {}
-    ~ReadStore() {
-        try {
-            db_->Close();
-        } catch (const RuntimeError&) {
-            return;  // nothing was written
-        }
-    }
-    ReadStore(const ReadStore&) = delete;
-    ReadStore& operator=(const ReadStore&) = delete;
-
-    Database& db() const { return *db_; }
-
- private:
-    Database* db_;
-};
 
 CustomerNames readNames(Database& db) {
     CustomerNames names;

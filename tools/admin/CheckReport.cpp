@@ -1,6 +1,7 @@
 #include "admin/CheckReport.h"
 
 #include "admin/Columns.h"
+#include "admin/MonthArgument.h"
 
 namespace akarix::admin {
 
@@ -65,10 +66,6 @@ QString grouped(std::int64_t scaled) {
     return text;
 }
 
-QString monthText(int nendo, int getudo) {
-    return QStringLiteral("%1/%2").arg(nendo).arg(getudo, 2, 10, QLatin1Char('0'));
-}
-
 QString nameOf(std::int32_t deal, const CustomerNames& names) {
     const auto known = names.find(deal);
     return known == names.end() ? QStringLiteral("（登録なし）") : known->second;
@@ -95,6 +92,13 @@ QString ledgerReport(const LedgerProof& proof, const CustomerNames& names) {
     QString text = QStringLiteral("台帳: 請求処理をした月 %1、%2 行\n").arg(proof.months).arg(proof.rows);
     if (proof.openings != 0) {
         text += QStringLiteral("  はじめの繰越を手で決めた得意先: %1 件\n").arg(proof.openings);
+    }
+    if (proof.unproved != 0) {
+        text +=
+            QStringLiteral(
+                "  %1 より前の台帳がなく、確かめられない繰越: %2 件（この月を請求し直すと 0 になります）\n")
+                .arg(monthText(proof.first.first, proof.first.second))
+                .arg(proof.unproved);
     }
     for (const auto& [nendo, getudo] : proof.notYetBilled)
         text += QStringLiteral("  %1 はまだ請求処理をしていません。\n").arg(monthText(nendo, getudo));

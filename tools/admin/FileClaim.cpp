@@ -12,6 +12,7 @@ namespace {
 
 /// A desk across the network shows itself only while it writes.
 bool isLocked(const QString& path) {
+    if (!QFileInfo(path).isWritable()) return false;  // takes no lock
     try {
         RawFile file(path);
         return !file.lock();

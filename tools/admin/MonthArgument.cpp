@@ -11,4 +11,8 @@ std::optional<MonthArgument> readMonth(const QString& text) {
     return read.year > 0 && read.month >= 1 && read.month <= 12 ? std::optional(read) : std::nullopt;
 }
 
+QString monthText(int nendo, int getudo) {
+    return QStringLiteral("%1/%2").arg(nendo).arg(getudo, 2, 10, QLatin1Char('0'));
+}
+
 }  // namespace akarix::admin

@@ -10,11 +10,15 @@
 #include "admin/Columns.h"
 #include "admin/FileClaim.h"
 #include "admin/FileReport.h"
+#include "admin/MonthArgument.h"
 #include "admin/NewFile.h"
+#include "admin/ReadStore.h"
 #include "admin/Terminal.h"
+#include "ledger/Rows.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Path.h"
+#include "platform/runtime/RuntimeError.h"
 #include "store/BackupPlace.h"
 #include "store/dbAccess.h"
 
@@ -25,7 +29,8 @@ namespace {
 const char* const helpText =
     "使い方: akarix-admin restore [番号] [--from フォルダ] [--force]\n\n"
     "番号なし: Akarix が終わるときに取った曜日ごとの控え（Akarix1.MDB から Akarix7.MDB）を、日時、大きさ、\n"
-    "検査の結果とともに並べます。控えのフォルダは、今のフォルダのファイル BKPath から読みます。\n\n"
+    "最後に請求処理をした月、検査の結果とともに並べます。控えのフォルダは、今のフォルダのファイル BKPath\n"
+    "から読みます。\n\n"
     "番号（1 日曜 から 7 土曜）: その控えを Akarix.MDB に戻します。今の Akarix.MDB は日時の付いた名前で\n"
     "となりに残します。壊れた控えと、Akarix が使用中のときは戻しません。\n\n"
     "  --from フォルダ   BKPath のかわりに、このフォルダの控えを使う\n"
@@ -52,9 +57,23 @@ QString timeText(const QFileInfo& file) {
     return file.lastModified().toString(QStringLiteral("yyyy/MM/dd HH:mm"));
 }
 
+/// The last month that was billed in a copy, which tells better than its date how far its books go.
+QString lastBilled(const QString& copy) {
+    try {
+        const ReadStore store(copy);
+        const auto last = readNumbers(
+            store.db(), QStringLiteral("SELECT TOP 1 Nen,Tuki FROM Syukei ORDER BY Nen*100+Tuki DESC"));
+        return last.empty() ? QString()
+                            : monthText(static_cast<int>(last[0][0]), static_cast<int>(last[0][1]));
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
+
 int listCopies(const QString& place) {
     Columns table({QStringLiteral(">番号"), QStringLiteral("曜日"), QStringLiteral("日時"),
-                   QStringLiteral(">バイト"), QStringLiteral("検査"), QStringLiteral("ファイル")});
+                   QStringLiteral(">バイト"), QStringLiteral("請求処理"), QStringLiteral("検査"),
+                   QStringLiteral("ファイル")});
     bool isAny = false;
     for (int number = 1; number <= weekdays; ++number) {
         const QString copy = copyOf(place, number);
@@ -63,8 +82,8 @@ int listCopies(const QString& place) {
         isAny = true;
         const FileState state = stateOf(copy);
         table.add({QString::number(number), weekdayName(number), timeText(file),
-                   QLocale::c().toString(file.size()), state.sound() ? QStringLiteral("正常") : state.faults,
-                   copy});
+                   QLocale::c().toString(file.size()), state.check.opens ? lastBilled(copy) : QString(),
+                   state.sound() ? QStringLiteral("正常") : state.faults, copy});
     }
     if (!isAny) {
         tellError(QStringLiteral("%1 に控えがありません。\n").arg(place));

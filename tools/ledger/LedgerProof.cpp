@@ -136,6 +136,7 @@ class Walk {
         payments_ =
             readDocuments(db_, QStringLiteral("Deal,Gaku,Dno,Hizuke,Kubun"), QStringLiteral("Dny"), month);
         const std::map<Code, LedgerRow> ledger = readLedger(db_, month);
+        if (proof_.rows == 0) proof_.first = {month.nendo, month.getudo};
         if (run_) {
             ++proof_.months;
             proveRowsExist(ledger);
@@ -215,8 +216,14 @@ class Walk {
         }
         // The run carries for the customers it knows.
         if (!customers_.contains(deal)) return;
-        if (before == carried_.end()) return note(deal, u"ZenkaiGaku", 0, row.zenkaiGaku, Cause::Unknown);
+        if (before == carried_.end()) {
+            const bool isFirst = proof_.first == std::pair(month_.nendo, month_.getudo);
+            if (!isFirst) return note(deal, u"ZenkaiGaku", 0, row.zenkaiGaku, Cause::Unknown);
+            if (row.zenkaiGaku != 0) ++proof_.unproved;
+            return;
+        }
         const Carried& carried = before->second;
+        if (carried.balance == row.zenkaiGaku) return;
         note(deal, u"ZenkaiGaku", carried.balance, row.zenkaiGaku, causeOfStaleBalance(carried, row));
     }
 

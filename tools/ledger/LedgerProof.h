@@ -28,14 +28,16 @@ struct LedgerFinding {
 struct LedgerProof {
     int rows = 0;
     int months = 0;
-    int openings = 0;                               ///< balances set by hand where the customer's rows begin
+    int unproved = 0;           ///< balances carried into the first month, whose past is purged
+    int openings = 0;           ///< balances set by hand where the customer's rows begin
+    std::pair<int, int> first;  ///< the ledger's first year and month
     std::vector<std::pair<int, int>> notYetBilled;  ///< years and months; only their payments are compared
     std::vector<LedgerFinding> findings;            ///< by month, then customer
 };
 
 /// Works out every row of the ledger again from readings, slips, payments and the row before it. A row is
-/// held against the row before it as that one stands, so a fault is told where it is, not in each month
-/// after. \param progress called before each month.
+/// held against the row before it as that one stands, so a fault is told once, where it is.
+/// \param progress called before each month.
 LedgerProof ProveLedger(Database& db, const std::function<void(int nendo, int getudo)>& progress);
 
 }  // namespace akarix
