@@ -41,12 +41,13 @@ Outcome runProgram(const QStringList& arguments) {
             QString::fromUtf8(program.readAll())};
 }
 
-/// One played month of a small dealer, for all tests that look at what it leaves.
+/// One played month of a small dealer, for all tests that look at what it leaves. Five of his customers pay
+/// through the post office, and number 41 is keyed in on the way.
 class PlayedMonth : public testing::Test {
  protected:
     static void SetUpTestSuite() {
         folder_ = new QTemporaryDir;
-        run_ = runProgram({u"--customers"_qs, u"12"_qs, u"--month"_qs, u"2011/4"_qs, u"--out"_qs, path({})});
+        run_ = runProgram({u"--customers"_qs, u"40"_qs, u"--month"_qs, u"2011/4"_qs, u"--out"_qs, path({})});
     }
     static void TearDownTestSuite() { delete folder_; }
     void SetUp() override { ASSERT_EQ(run_.exitCode, 0) << run_.said.toStdString(); }
@@ -77,7 +78,7 @@ class PlayedMonth : public testing::Test {
 
 TEST_F(PlayedMonth, SummaryTellsWhatTheStoreHolds) {
     const sample::OpenStore store(database());
-    EXPECT_EQ(figure(u"得意先"_qs), u"13"_qs) << "twelve, and the one keyed in on the way";
+    EXPECT_EQ(figure(u"得意先"_qs), u"41"_qs) << "forty, and the one keyed in on the way";
     struct {
         const char16_t* label;
         const char16_t* question;
@@ -86,6 +87,12 @@ TEST_F(PlayedMonth, SummaryTellsWhatTheStoreHolds) {
         {u"ガス料金", u"SELECT SUM(Gaku) FROM Dgd WHERE Nendo=2011 AND Getudo=4"},
         {u"物販", u"SELECT SUM(UGaku) FROM TtoD WHERE Nendo=2011 AND Getudo=4"},
         {u"入金", u"SELECT SUM(Gaku) FROM Dny WHERE Nendo=2011 AND Getudo=4"},
+        {u"口座振替の入金",
+         u"SELECT COUNT(*) FROM Dny INNER JOIN Deal ON Dny.Deal=Deal.Code WHERE Bnk=9900 AND Getudo=4 AND "
+         "Nendo=2011"},
+        {u"振替入金額",
+         u"SELECT SUM(NGaku) FROM TtoD INNER JOIN Deal ON TtoD.Deal=Deal.Code WHERE Bnk=9900 AND Getudo=4 "
+         "AND Nendo=2011"},
         {u"当月請求", u"SELECT SUM(Gaku) FROM TtoD WHERE Nendo=2011 AND Getudo=4"},
         {u"前月残", u"SELECT SUM(ZenkaiGaku+GGaku+UGaku-NGaku) FROM TtoD WHERE Nendo=2011 AND Getudo=3"},
         {u"次月繰越", u"SELECT SUM(ZenkaiGaku+Gaku-NGaku) FROM TtoD WHERE Nendo=2011 AND Getudo=4"},
@@ -113,16 +120,97 @@ TEST_F(PlayedMonth, TheListIsPrinted) {
     EXPECT_TRUE(QFile::exists(path(u"account.xlsx"_qs)));
 }
 
+// In the order of the round, and nobody twice: no bill of this small dealer has a second page.
+TEST_F(PlayedMonth, EachBillIsAnInvoice) {
+    const sample::OpenStore store(database());
+    const QStringList names = ScratchStore::rows(
+        u"SELECT Namae FROM TtoD INNER JOIN Deal ON TtoD.Deal=Deal.Code WHERE Nendo=2011 AND Getudo=4 AND "
+        "NoSeikyu=0 AND ZenkaiGaku+Gaku-NGaku<>0 ORDER BY Rte,Haisou,Code"_qs);
+    const QStringList pages = PdfPages(path(u"invoices.pdf"_qs));
+    EXPECT_EQ(figure(u"請求書"_qs).toInt(), pages.size());
+    ASSERT_EQ(pages.size(), names.size());
+    for (qsizetype i = 0; i < pages.size(); ++i) {
+        const QString name = QString(names[i]).remove(u'\u3000');
+        EXPECT_THAT(QString(pages[i]).remove(u'\u3000').toStdString(),
+                    HasSubstr((name + u"様"_qs).toStdString()));
+    }
+    const QStringList drawn = PdfPages(path(u"script.pdf"_qs));
+    ASSERT_EQ(drawn.size(), 1);
+    EXPECT_THAT(drawn[0].toStdString(), HasSubstr("緑川市"));
+    EXPECT_EQ(drawn[0].count(u"○"_qs), 8) << "the end of the layout";
+}
+
+TEST_F(PlayedMonth, TheDebitDiskGoesOutAndComesBack) {
+    const DebitClaims asked = readDebitFile(path(u"debit/jiharai-request"_qs));
+    DebitClaims back = readDebitFile(path(u"debit/jiharai"_qs));
+    EXPECT_EQ(asked.size(), 5u);
+    const DebitFigures figures = totalsOf(back);
+    EXPECT_EQ(figures.debited, 4);
+    EXPECT_LT(figures.debitedYen, figures.askedYen);
+    for (DebitClaim& claim : back)
+        claim.debited = true;
+    EXPECT_EQ(asked, back) << "what is not yet marked counts as debited";
+    const sample::OpenStore store(database());
+    EXPECT_EQ(
+        asked.front().yen,
+        stored(u"SELECT ZenkaiGaku+Gaku-NGaku FROM TtoD WHERE Nendo=2011 AND Getudo=3 AND Deal=%1"_qs.arg(
+                   asked.front().deal))
+            .toLongLong());
+    const auto printed = [](const QString& name) {
+        return PdfPages(path(u"debit/"_qs + name)).join(QString()).remove(u',').toStdString();
+    };
+    const std::string sum = QString::number(figures.askedYen).toStdString();
+    EXPECT_THAT(printed(u"post-statement.pdf"_qs), HasSubstr(sum));
+    EXPECT_THAT(printed(u"total-sheet.pdf"_qs), HasSubstr(sum));
+    EXPECT_THAT(printed(u"total-sheet.pdf"_qs), HasSubstr("2011/05/15"));
+    EXPECT_THAT(printed(u"bank-statement.pdf"_qs), HasSubstr("平成23年3月分"));
+}
+
+TEST(DebitFile, ABrokenDiskIsRefused) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"disk"_qs);
+    const auto claim = [](int deal, int yen) {
+        return u"2"_qs + QString(79, u' ') +
+               u"%1 %2"_qs.arg(yen, 10, 10, QChar(u'0')).arg(deal, 20, 10, QChar(u'0')) + QString(9, u' ');
+    };
+    const auto trailer = [](int count, int yen) {
+        return u"8%1%2"_qs.arg(count, 6, 10, QChar(u'0')).arg(yen, 12, 10, QChar(u'0')) + QString(101, u' ');
+    };
+    struct {
+        QStringList records;
+        bool good;
+    } const cases[] = {
+        {{claim(3, 500), claim(4, 700), trailer(2, 1200)}, true},
+        {{trailer(0, 0)}, true},
+        {{claim(3, 500), claim(4, 700), trailer(2, 1201)}, false},
+        {{claim(3, 500), trailer(2, 500)}, false},
+        {{claim(3, 500)}, false},
+        {{claim(3, 500).left(119), trailer(1, 500)}, false},
+    };
+    for (const auto& [records, good] : cases) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        for (const QString& record : records)
+            file.write(record.toLatin1() + "\r\n");
+        file.close();
+        if (good) {
+            EXPECT_EQ(readDebitFile(path).size() + 1, static_cast<std::size_t>(records.size()));
+        } else {
+            EXPECT_THROW(readDebitFile(path), Failure) << records.join(u'\n').toStdString();
+        }
+    }
+}
+
 // The new customer pays nothing yet, and buys the new item: 32,800 and 3,500 with a tenth each.
 TEST_F(PlayedMonth, WhatIsTypedOnOneScreenIsFoundOnTheNext) {
     const sample::OpenStore store(database());
     EXPECT_EQ(stored(u"SELECT Kana,Namae,Tanka FROM Hin WHERE Code=91"_qs),
               u"ｶﾞｽｽｲﾊﾝｷ|ガス炊飯器 5合炊き|32800"_qs);
     EXPECT_EQ(ScratchStore::rows(
-                  u"SELECT HinCode,HinNamae,Suu,Gaku FROM Dud WHERE Deal=13 AND Getudo=4 ORDER BY Eda"_qs),
+                  u"SELECT HinCode,HinNamae,Suu,Gaku FROM Dud WHERE Deal=41 AND Getudo=4 ORDER BY Eda"_qs),
               (QStringList{u"91|ガス炊飯器 5合炊き|1|32800"_qs, u"90|消費税|0|3280"_qs,
                            u"0|配送・取付|0|3500"_qs, u"90|消費税|0|350"_qs}));
-    EXPECT_EQ(stored(u"SELECT UGaku,NGaku FROM TtoD WHERE Deal=13 AND Nendo=2011 AND Getudo=4"_qs),
+    EXPECT_EQ(stored(u"SELECT UGaku,NGaku FROM TtoD WHERE Deal=41 AND Nendo=2011 AND Getudo=4"_qs),
               u"39930|0"_qs);
     EXPECT_EQ(stored(u"SELECT COUNT(*) FROM TtoD WHERE Nendo=2011 AND Getudo=4 AND SyokiFlg<>0"_qs), u"0"_qs)
         << "the opening balances are looked at alone";
@@ -130,31 +218,14 @@ TEST_F(PlayedMonth, WhatIsTypedOnOneScreenIsFoundOnTheNext) {
 
 TEST_F(PlayedMonth, EveryScreenIsPictured) {
     const QStringList pictures = QDir(path(u"screens"_qs)).entryList(QDir::Files, QDir::Name);
-    for (const char16_t* name : {u"splash",
-                                 u"login",
-                                 u"menu",
-                                 u"tariff",
-                                 u"calculator",
-                                 u"route",
-                                 u"customer-lookup",
-                                 u"customer",
-                                 u"confirmation",
-                                 u"goods-lookup",
-                                 u"goods",
-                                 u"new-goods",
-                                 u"reading-sheet",
-                                 u"slip",
-                                 u"payment",
-                                 u"billing",
-                                 u"message",
-                                 u"billing-list",
-                                 u"printer",
-                                 u"preview",
-                                 u"account",
-                                 u"account-slip",
-                                 u"opening-balances",
-                                 u"backup-place",
-                                 u"backup"}) {
+    for (const char16_t* name :
+         {u"splash",         u"login",           u"menu",         u"tariff",        u"calculator",
+          u"route",          u"customer-lookup", u"customer",     u"confirmation",  u"goods-lookup",
+          u"goods",          u"new-goods",       u"settings",     u"lease-fees",    u"bank-consignor",
+          u"post-consignor", u"retransfer",      u"debit-result", u"reading-sheet", u"slip",
+          u"payment",        u"billing",         u"message",      u"billing-list",  u"printer",
+          u"preview",        u"invoices",        u"account",      u"account-slip",  u"opening-balances",
+          u"backup-place",   u"backup"}) {
         const QStringList found = pictures.filter(QRegularExpression(u"^[0-9]{2}-%1\\.png$"_qs.arg(name)));
         ASSERT_EQ(found.size(), 1) << QString::fromUtf16(name).toStdString();
         EXPECT_FALSE(QImage(path(u"screens/"_qs + found[0])).isNull());
@@ -178,6 +249,7 @@ TEST_F(PlayedMonth, AFaultOfOneYenIsTold) {
         u"SELECT Dno,Deal,SUM(Gaku) FROM Dud WHERE CreateAuto=0 AND Hizuke>=#2011/04/01# GROUP BY Dno,Deal"_qs);
     typed.payments =
         documents(u"SELECT Dno,Deal,SUM(Gaku) FROM Dny WHERE Hizuke>=#2011/04/01# GROUP BY Dno,Deal"_qs);
+    typed.debits = readDebitFile(path(u"debit/jiharai"_qs));
     const std::int32_t slip = typed.slips.begin()->first;
     const std::int32_t payment = typed.payments.begin()->first;
     const auto told = [&typed] {
@@ -201,19 +273,26 @@ TEST_F(PlayedMonth, AFaultOfOneYenIsTold) {
         {u"UPDATE TtoD SET Gaku=Gaku-1 WHERE Deal=4 AND Nendo=2011 AND Getudo=4",
          u"UPDATE TtoD SET Gaku=Gaku+1 WHERE Deal=4 AND Nendo=2011 AND Getudo=4", u"得意先 4 2011/4 Gaku"},
         {u"UPDATE GasKeisan SET Kihon=Kihon+1 WHERE Ptn=6", u"UPDATE GasKeisan SET Kihon=Kihon-1 WHERE Ptn=6",
-         u"得意先 13 2011/4 Gaku"},
-        {u"UPDATE Dgd SET KoukanGoMeter=1 WHERE Deal=13", u"UPDATE Dgd SET KoukanGoMeter=0 WHERE Deal=13",
-         u"得意先 13: 入力した検針値と違います。"},
+         u"得意先 41 2011/4 Gaku"},
+        {u"UPDATE Dgd SET KoukanGoMeter=1 WHERE Deal=41", u"UPDATE Dgd SET KoukanGoMeter=0 WHERE Deal=41",
+         u"得意先 41: 入力した検針値と違います。"},
         {u"UPDATE Dud SET Gaku=Gaku+1 WHERE Eda=1 AND Dno=%1",
          u"UPDATE Dud SET Gaku=Gaku-1 WHERE Eda=1 AND Dno=%1", u"売上伝票 %1: 入力した内容と違います。",
          3},  // and the ledger's sales and its charge
+        {u"UPDATE Dny SET Kubun=1 WHERE Deal=%3 AND Getudo=4",
+         u"UPDATE Dny SET Kubun=2 WHERE Deal=%3 AND Getudo=4", u"得意先 %3: 口座振替"},
+        {u"UPDATE TtoD SET NGaku=NGaku+1 WHERE Deal=%3 AND Nendo=2011 AND Getudo=4",
+         u"UPDATE TtoD SET NGaku=NGaku-1 WHERE Deal=%3 AND Nendo=2011 AND Getudo=4", u"得意先 %3: 口座振替",
+         2},  // and the ledger's payments
+        {u"INSERT INTO FDLog(Bnk,Nendo,Getudo) VALUES(9900,2011,4)", u"DELETE FROM FDLog", u"記録が 2 件"},
         {u"UPDATE Dny SET Dno=99999 WHERE Dno=%2", u"UPDATE Dny SET Dno=%2 WHERE Dno=99999",
          u"入金 %2: 入力した伝票がありません。\n入金 99999: 入力していない伝票です。", 2},
     };
     const auto named = [&](const char16_t* text) {
         return QString::fromUtf16(text)
             .replace(u"%1"_qs, QString::number(slip))
-            .replace(u"%2"_qs, QString::number(payment));
+            .replace(u"%2"_qs, QString::number(payment))
+            .replace(u"%3"_qs, QString::number(typed.debits.front().deal));
     };
     for (const auto& [plant, mend, tells, places] : cases) {
         gDb->Execute(named(plant));

@@ -23,21 +23,6 @@ const QString printButton = QStringLiteral("Btn(0)");
 const QString showButton = QStringLiteral("Btn(1)");
 const QString exportButton = QStringLiteral("Btn(2)");
 
-std::map<QString, QString> monthTyped(const Options& options) {
-    return {{QStringLiteral("ebox(0)"), QString::number(options.year)},
-            {QStringLiteral("ebox(1)"), QString::number(options.month)}};
-}
-
-/// Chooses the file, the last of the printers, and names it.
-void printToFile(Desk& desk, QWidget& dialog, const QString& path) {
-    desk.clerk.press(Qt::Key_End);
-    desk.clerk.tab();
-    requireFocus(desk, QStringLiteral("Path"));
-    desk.clerk.type(path);
-    desk.album.take(QStringLiteral("printer"), {&dialog});
-    desk.clerk.enter();
-}
-
 }  // namespace
 
 void runBilling(Desk& desk) {
@@ -65,11 +50,8 @@ void showList(Desk& desk) {
 }
 
 void printList(Desk& desk) {
-    const QString path = desk.folder.path(QStringLiteral("billing-list.pdf"));
-    desk.clerk.expect(QStringLiteral("Printer_frm"),
-                      [&desk, path](QWidget& dialog) { printToFile(desk, dialog, path); });
-    desk.clerk.click(printButton);
-    requireFile(path);
+    printTo(desk, printButton, desk.folder.path(QStringLiteral("billing-list.pdf")),
+            QStringLiteral("printer"));
 }
 
 void exportList(Desk& desk) {

@@ -26,6 +26,7 @@ struct Desk {
     int newItem = 0;
     std::int64_t newItemPrice = 0;  ///< yen
     TypedMonth typed{};
+    int invoicePages = 0;
 };
 
 }  // namespace akarix::month

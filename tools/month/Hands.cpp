@@ -6,6 +6,7 @@
 #include "month/Album.h"
 #include "month/Desk.h"
 #include "month/Failure.h"
+#include "month/Options.h"
 #include "platform/forms/Form.h"
 
 namespace akarix::month {
@@ -30,6 +31,12 @@ void walkTo(Desk& desk, const QString& end, const std::map<QString, QString>& te
         desk.clerk.enter();
     }
     throw Failure(QStringLiteral("Enter で %1 に着きません。").arg(end));
+}
+
+std::map<QString, QString> monthTyped(const Options& options, int later) {
+    const int index = options.year * 12 + options.month - 1 + later;
+    return {{QStringLiteral("ebox(0)"), QString::number(index / 12)},
+            {QStringLiteral("ebox(1)"), QString::number(index % 12 + 1)}};
 }
 
 void requireFocus(Desk& desk, const QString& control) {
@@ -57,6 +64,23 @@ void saveAs(Desk& desk, const QString& button, const QString& path, const QStrin
         if (!picture.isEmpty()) desk.album.take(picture, {&dialog});
         desk.clerk.enter();
     });
+    desk.clerk.click(button);
+    requireFile(path);
+}
+
+void expectPrinter(Desk& desk, const QString& path, const QString& picture) {
+    desk.clerk.expect(QStringLiteral("Printer_frm"), [&desk, path, picture](QWidget& dialog) {
+        desk.clerk.press(Qt::Key_End);
+        desk.clerk.tab();
+        requireFocus(desk, QStringLiteral("Path"));
+        desk.clerk.type(path);
+        if (!picture.isEmpty()) desk.album.take(picture, {&dialog});
+        desk.clerk.enter();
+    });
+}
+
+void printTo(Desk& desk, const QString& button, const QString& path, const QString& picture) {
+    expectPrinter(desk, path, picture);
     desk.clerk.click(button);
     requireFile(path);
 }

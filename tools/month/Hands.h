@@ -6,6 +6,7 @@
 namespace akarix::month {
 
 struct Desk;
+struct Options;
 
 // Movements that the steps have in common.
 
@@ -15,6 +16,8 @@ void closeForm(Desk& desk, const QString& form);
 /// Walks the fields of the screen in front by Enter up to the control named, typing what is given by field.
 /// Raises Failure when the walk does not lead there.
 void walkTo(Desk& desk, const QString& end, const std::map<QString, QString>& texts);
+/// What the two boxes at a screen's top take for a billing month, counted in months from the one played.
+std::map<QString, QString> monthTyped(const Options& options, int later = 0);
 /// Raises Failure unless the control has the keyboard.
 void requireFocus(Desk& desk, const QString& control);
 /// A picture of a screen by its name.
@@ -24,6 +27,11 @@ void expectPictured(Desk& desk, const QString& dialog, const QString& picture, i
 /// Presses a button that asks for a file's name, and names it. Raises Failure when no file comes of it.
 /// \param picture of the question; none when empty
 void saveAs(Desk& desk, const QString& button, const QString& path, const QString& picture = {});
+/// The next dialog is the printers'; the file, the last of them, is chosen and named.
+/// \param picture of the dialog; none when empty
+void expectPrinter(Desk& desk, const QString& path, const QString& picture = {});
+/// Presses a button that asks for a printer and prints into a file.
+void printTo(Desk& desk, const QString& button, const QString& path, const QString& picture = {});
 void requireFile(const QString& path);
 
 }  // namespace akarix::month

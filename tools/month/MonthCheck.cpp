@@ -5,6 +5,7 @@
 #include "ledger/ChargeCheck.h"
 #include "ledger/LedgerCheck.h"
 #include "ledger/Rows.h"
+#include "month/DebitCheck.h"
 #include "month/Failure.h"
 #include "month/TypedMonth.h"
 
@@ -87,6 +88,7 @@ void checkMonth(Database& db, int year, int month, const TypedMonth& typed) {
                                     QStringLiteral("Dud WHERE CreateAuto=0 AND"), typed.slips);
     differences +=
         compareDocuments(db, index, QStringLiteral("入金"), QStringLiteral("Dny WHERE"), typed.payments);
+    differences += compareDebits(db, year, month, typed.debits);
     for (const auto& found : {CheckCharges(db, year, month), CheckLedgerMonth(db, year, month)}) {
         for (const Difference& difference : found)
             differences << describe(difference);

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTimer>
+#include <algorithm>
 #include <array>
 
 #include "clerk/Clerk.h"
@@ -15,6 +16,9 @@
 #include "month/Steps.h"
 #include "month/Summary.h"
 #include "month/WorkFolder.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DatePart.h"
+#include "platform/runtime/DateSerial.h"
 #include "platform/runtime/RuntimeError.h"
 #include "sample/OpenStore.h"
 #include "store/dbAccess.h"
@@ -25,30 +29,41 @@ namespace {
 
 struct RoadStep {
     const char16_t* name;
+    int day;  ///< of the month, on which the clerk comes to it
     void (*play)(Desk&);
 };
 
-constexpr std::array<RoadStep, 20> road{{
-    {u"起動", startProgram},
-    {u"料金表", keepTariff},
-    {u"地区マスター", keepRoute},
-    {u"得意先マスター", keepCustomer},
-    {u"商品マスター", keepGoods},
-    {u"検針シートを開く", openSheet},
-    {u"検針値の入力", typeReadings},
-    {u"検針の保存", saveSheet},
-    {u"売上伝票の入力", typeSlips},
-    {u"入金の入力", typePayments},
-    {u"請求処理", runBilling},
-    {u"一覧表の表示", showList},
-    {u"一覧表の印刷", printList},
-    {u"一覧表の書き出し", exportList},
-    {u"印刷プレビュー", previewList},
-    {u"消費先台帳の表示", showAccount},
-    {u"消費先台帳の書き出し", exportAccount},
-    {u"台帳から伝票を開く", openAccountSlip},
-    {u"得意先残の表示", showBalances},
-    {u"終了", endProgram},
+constexpr int monthEnd = 31;
+
+constexpr std::array<RoadStep, 28> road{{
+    {u"起動", 1, startProgram},
+    {u"料金表", 1, keepTariff},
+    {u"地区マスター", 1, keepRoute},
+    {u"得意先マスター", 1, keepCustomer},
+    {u"商品マスター", 1, keepGoods},
+    {u"その他情報とリース料金", 1, keepSettings},
+    {u"委託者マスター", 1, keepConsignors},
+    {u"口座振替明細書", 1, printStatements},
+    {u"口座振替の依頼", 1, writeRequest},
+    {u"口座振替の結果", 8, readResult},
+    {u"検針シートを開く", 25, openSheet},
+    {u"検針値の入力", 25, typeReadings},
+    {u"検針の保存", 25, saveSheet},
+    {u"売上伝票の入力", 28, typeSlips},
+    {u"入金の入力", 28, typePayments},
+    {u"請求処理", monthEnd, runBilling},
+    {u"一覧表の表示", monthEnd, showList},
+    {u"一覧表の印刷", monthEnd, printList},
+    {u"一覧表の書き出し", monthEnd, exportList},
+    {u"印刷プレビュー", monthEnd, previewList},
+    {u"請求書の表示", monthEnd, showInvoices},
+    {u"請求書の印刷", monthEnd, printInvoices},
+    {u"請求書の作図", monthEnd, drawInvoice},
+    {u"消費先台帳の表示", monthEnd, showAccount},
+    {u"消費先台帳の書き出し", monthEnd, exportAccount},
+    {u"台帳から伝票を開く", monthEnd, openAccountSlip},
+    {u"得意先残の表示", monthEnd, showBalances},
+    {u"終了", monthEnd, endProgram},
 }};
 
 /// A step, and what the dialogs had to say to it.
@@ -71,6 +86,13 @@ void playStep(const RoadStep& step, Desk& desk) {
     throw Failure(QString::fromUtf16(step.name) + QStringLiteral(": ") + problems.join(u'\n'));
 }
 
+/// The screens propose the present day, and a debit disk has no year of its own: a month played later, or
+/// before its end, has to stand on its days.
+void turnTo(const Options& options, int day) {
+    const Date last = DateSerial(options.year, options.month + 1, 0);
+    SetClock(DateSerial(options.year, options.month, std::min(day, Day(last))));
+}
+
 /// Plays the whole road from inside the application's events, where the program lives; the menu's end is
 /// the events' end. What the road raises comes out here.
 void walk(Desk& desk, StepTimes& times) {
@@ -78,6 +100,7 @@ void walk(Desk& desk, StepTimes& times) {
     QTimer::singleShot(0, qApp, [&] {
         try {
             for (const RoadStep& step : road) {
+                turnTo(desk.options, step.day);
                 times.run(QString::fromUtf16(step.name), [&] { playStep(step, desk); });
             }
         } catch (...) {
@@ -86,6 +109,7 @@ void walk(Desk& desk, StepTimes& times) {
         QCoreApplication::exit();
     });
     QCoreApplication::exec();
+    SetClock(Date());
     desk.clerk.clearDesk();
     CloseDb();
     if (failure) std::rethrow_exception(failure);
@@ -129,8 +153,10 @@ QString playMonth(const Options& options) {
 
     const sample::OpenStore store(folder.database());
     times.run(QStringLiteral("再計算"), [&] { checkMonth(*gDb, options.year, options.month, desk.typed); });
-    const QString summary =
-        summaryText(options.year, options.month, readFigures(*gDb, options.year, options.month), times);
+    Figures figures = readFigures(*gDb, options.year, options.month);
+    figures.invoicePages = desk.invoicePages;
+    figures.debit = totalsOf(desk.typed.debits);
+    const QString summary = summaryText(options.year, options.month, figures, times);
     writeText(folder.path(QStringLiteral("summary.txt")), summary);
     return summary;
 }

@@ -80,6 +80,12 @@ QString summaryText(int year, int month, const Figures& figures, const StepTimes
     text += line(QStringLiteral("入金伝票"), count(figures.payments), QStringLiteral("枚"));
     text += line(QStringLiteral("入金"), amount(figures.paid, whole), yen);
     text += line(QStringLiteral("次月繰越"), amount(figures.after, whole), yen);
+    text += line(QStringLiteral("請求書"), count(figures.invoicePages), QStringLiteral("頁"));
+    const QString records = QStringLiteral("件");
+    text += line(QStringLiteral("口座振替の依頼"), count(figures.debit.asked), records);
+    text += line(QStringLiteral("依頼額"), count(figures.debit.askedYen), yen);
+    text += line(QStringLiteral("口座振替の入金"), count(figures.debit.debited), records);
+    text += line(QStringLiteral("振替入金額"), count(figures.debit.debitedYen), yen);
     text += u'\n';
     for (const StepTimes::Step& step : times.steps()) {
         text += line(step.name, QString::number(step.seconds, 'f', 2), QStringLiteral("秒"));

@@ -3,6 +3,7 @@
 #include <QString>
 #include <cstdint>
 
+#include "month/DebitFile.h"
 #include "month/StepTimes.h"
 
 namespace akarix {
@@ -24,6 +25,8 @@ struct Figures {
     std::int64_t payments = 0;
     std::int64_t paid = 0;
     std::int64_t after = 0;  ///< balance carried out of it
+    std::int64_t invoicePages = 0;
+    DebitFigures debit{};  ///< in yen
 };
 
 Figures readFigures(Database& db, int year, int month);

@@ -20,14 +20,15 @@ struct Buyer {
     int closingDay = 0;
     bool paysCash = false;
     bool paysByDebit = false;
+    bool paysByPost = false;
 };
 
 std::vector<Buyer> buyersOf(Database& db) {
     std::vector<Buyer> buyers;
     for (const auto& row : readNumbers(
              db, QStringLiteral("SELECT Code,Sime,SH,Bnk FROM Deal WHERE Code>0 AND Sime>0 ORDER BY Code"))) {
-        buyers.push_back(
-            {static_cast<std::int32_t>(row[0]), static_cast<int>(row[1]), row[2] == 1, row[3] != 0});
+        buyers.push_back({static_cast<std::int32_t>(row[0]), static_cast<int>(row[1]), row[2] == 1,
+                          row[3] != 0, row[3] == sample::postOffice});
     }
     return buyers;
 }
@@ -156,6 +157,7 @@ std::vector<Payment> paymentsOf(Database& db, int year, int month) {
     for (const Buyer& buyer : buyers) {
         const auto found = owed.find(buyer.deal);
         if (payments.size() == mostPayments) break;
+        if (buyer.paysByPost) continue;  // comes with the disk
         if (found == owed.end() || found->second <= 0) continue;
         if (!dice.permille(chance) || dice.percent(late)) continue;
         constexpr int debitDay = 5;

@@ -54,7 +54,8 @@ constexpr int mostSales = 60;
 constexpr int mostPayments = 300;
 
 std::vector<Sale> salesOf(Database& db, int year, int month);
-/// Most customers pay what the month before left, some a part of it, a few nothing.
+/// Most customers pay what the month before left, some a part of it, a few nothing. Those of the post office
+/// are booked by its disk.
 std::vector<Payment> paymentsOf(Database& db, int year, int month);
 
 }  // namespace akarix::month

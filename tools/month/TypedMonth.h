@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <map>
+#include <vector>
 
+#include "month/DebitFile.h"
 #include "month/MeterBook.h"
 
 namespace akarix::month {
@@ -19,7 +21,8 @@ using DocumentNotes = std::map<std::int32_t, DocumentNote>;  ///< by number
 struct TypedMonth {
     std::map<std::int32_t, MeterNote> readings{};  ///< by customer
     DocumentNotes slips{};
-    DocumentNotes payments{};
+    DocumentNotes payments{};  ///< those the debit result has booked too
+    DebitClaims debits{};      ///< as the post office gave them back
 };
 
 }  // namespace akarix::month

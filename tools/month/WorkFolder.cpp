@@ -73,12 +73,23 @@ QString WorkFolder::database() const {
 void WorkFolder::makeDealer(const Options& options) const {
     QDir().mkpath(dealer());
     copyTemplates(options.templates);
+    hangDrive();
     CreateDelivered(database());
     const sample::OpenStore store(database());
     const int lastMonth = options.year * 12 + options.month - 2;
     sample::FillSampleDealer({options.customers, monthsBefore, lastMonth / 12, lastMonth % 12 + 1},
                              [](const QString&) {});
     gDb->Execute(QStringLiteral("UPDATE zSysFunc SET contents='0' WHERE Code=2"));
+}
+
+void WorkFolder::hangDrive() const {
+    const QDir drives(QDir(dealer()).filePath(QStringLiteral("Drive")));
+    QDir().mkpath(drives.path());
+    QDir().mkpath(disk());
+    // By a path of its own, so that the folder can be moved as a whole.
+    if (!QFile::link(drives.relativeFilePath(disk()), drives.filePath(QStringLiteral("A")))) {
+        throw Failure(QStringLiteral("%1 に A ドライブを作れません。").arg(drives.path()));
+    }
 }
 
 void WorkFolder::copyTemplates(const QString& wished) const {

@@ -17,11 +17,14 @@ class WorkFolder {
     QString path(const QString& name) const;
     QString dealer() const { return path(QStringLiteral("dealer")); }
     QString database() const;
+    /// What lies in the dealer's drive A.
+    QString disk() const { return path(QStringLiteral("debit")); }
 
     /// Makes the dealer who has worked up to the month before, with templates, printing without previews.
     void makeDealer(const Options& options) const;
 
  private:
+    void hangDrive() const;
     void copyTemplates(const QString& wished) const;
 
     QString root_;

@@ -9,7 +9,7 @@ Date Now();
 /// The present day, without a time.
 Date Today();
 
-/// Replaces the machine's clock for the tests; a zero date gives it back.
+/// Replaces the machine's clock where a day is played, not lived; a zero date gives it back.
 void SetClock(Date moment);
 
 }  // namespace akarix

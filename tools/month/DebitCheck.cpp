@@ -1,0 +1,92 @@
+#include "month/DebitCheck.h"
+
+#include <algorithm>
+#include <map>
+
+#include "ledger/Rows.h"
+#include "sample/SampleMasters.h"
+
+namespace akarix::month {
+
+namespace {
+
+constexpr std::int64_t scaledYen = 10000;
+
+using Yen = std::map<std::int32_t, std::int64_t>;  ///< by customer
+
+Yen readYen(Database& db, const QString& sql) {
+    Yen yen;
+    for (const auto& row : readNumbers(db, sql))
+        yen[static_cast<std::int32_t>(row[0])] += row[1] / scaledYen;
+    return yen;
+}
+
+QStringList compareYen(const QString& place, const Yen& wanted, Yen stored) {
+    QStringList differences;
+    for (const auto& [deal, yen] : wanted) {
+        const auto found = stored.extract(deal);
+        const std::int64_t there = found.empty() ? 0 : found.mapped();
+        if (there != yen) {
+            differences << QStringLiteral("得意先 %1: 口座振替 %2 円が %3 では %4 円です。")
+                               .arg(deal)
+                               .arg(yen)
+                               .arg(place)
+                               .arg(there);
+        }
+    }
+    for (const auto& [deal, yen] : stored) {
+        if (yen == 0) continue;
+        differences
+            << QStringLiteral("得意先 %1: %2 の %3 円は振替結果にありません。").arg(deal).arg(place).arg(yen);
+    }
+    return differences;
+}
+
+}  // namespace
+
+DebitClaims claimsAfter(Database& db, int bank, int year, int month) {
+    DebitClaims claims;
+    for (const auto& row : readNumbers(
+             db, QStringLiteral("SELECT TtoD.Deal,TtoD.ZenkaiGaku,TtoD.Gaku,TtoD.NGaku,Deal.DiscGaku "
+                                "FROM TtoD INNER JOIN Deal ON TtoD.Deal=Deal.Code WHERE Deal.Bnk=%1 AND "
+                                "TtoD.Nendo=%2 AND TtoD.Getudo=%3 ORDER BY Deal.Rte,Deal.Haisou,TtoD.Deal")
+                     .arg(bank)
+                     .arg(year)
+                     .arg(month))) {
+        const std::int64_t balance = row[1] + row[2] - row[3];
+        const std::int64_t fixed = row[4];
+        if (balance <= 0) continue;
+        const std::int64_t asked = fixed != 0 && fixed <= balance ? fixed : balance;
+        claims.push_back({static_cast<std::int32_t>(row[0]), asked / scaledYen});
+    }
+    return claims;
+}
+
+QStringList compareDebits(Database& db, int year, int month, const DebitClaims& claims) {
+    Yen wanted;
+    for (const DebitClaim& claim : claims)
+        wanted[claim.deal] += claim.debited ? claim.yen : 0;
+    const QString ofMonth =
+        QStringLiteral(" INNER JOIN Deal ON %1.Deal=Deal.Code WHERE Deal.Bnk=%2 AND Nendo=%3 AND Getudo=%4");
+    const auto stored = [&](const QString& table, const QString& column, const QString& more) {
+        return readYen(db, QStringLiteral("SELECT %1.Deal,%1.%2 FROM %1").arg(table, column) +
+                               ofMonth.arg(table).arg(sample::postOffice).arg(year).arg(month) + more);
+    };
+    const QString onDebitDay =
+        QStringLiteral(" AND Kubun=2 AND Hizuke=#%1/%2/%3#").arg(year).arg(month).arg(debitDay);
+    QStringList differences = compareYen(QStringLiteral("入金"), wanted,
+                                         stored(QStringLiteral("Dny"), QStringLiteral("Gaku"), onDebitDay));
+    differences += compareYen(QStringLiteral("売掛"), wanted,
+                              stored(QStringLiteral("TtoD"), QStringLiteral("NGaku"), QString()));
+    const auto logged =
+        readNumbers(db, QStringLiteral("SELECT COUNT(*) FROM FDLog WHERE Bnk=%1 AND Nendo=%2 AND Getudo=%3")
+                            .arg(sample::postOffice)
+                            .arg(year)
+                            .arg(month))[0][0];
+    if (logged != (claims.empty() ? 0 : 1)) {
+        differences << QStringLiteral("読み込んだディスクの記録が %1 件あります。").arg(logged);
+    }
+    return differences;
+}
+
+}  // namespace akarix::month
