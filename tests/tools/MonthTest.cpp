@@ -284,7 +284,7 @@ TEST_F(PlayedMonth, AFaultOfOneYenIsTold) {
         {u"UPDATE TtoD SET NGaku=NGaku+1 WHERE Deal=%3 AND Nendo=2011 AND Getudo=4",
          u"UPDATE TtoD SET NGaku=NGaku-1 WHERE Deal=%3 AND Nendo=2011 AND Getudo=4", u"得意先 %3: 口座振替",
          2},  // and the ledger's payments
-        {u"INSERT INTO FDLog(Bnk,Nendo,Getudo) VALUES(9900,2011,4)", u"DELETE FROM FDLog", u"記録が 2 件"},
+        {u"UPDATE FDLog SET Getudo=5", u"UPDATE FDLog SET Getudo=4", u"ディスクの記録が 0 件"},
         {u"UPDATE Dny SET Dno=99999 WHERE Dno=%2", u"UPDATE Dny SET Dno=%2 WHERE Dno=99999",
          u"入金 %2: 入力した伝票がありません。\n入金 99999: 入力していない伝票です。", 2},
     };

@@ -72,8 +72,9 @@ QString helpText() {
     return QStringLiteral(
                "使い方: akarix-month [--customers 件数] [--out フォルダ] [--month 年/月] [--scale 倍率]\n"
                "                     [--templates フォルダ]\n\n"
-               "見本の販売店を作り、その一か月の仕事（検針、売上、入金、請求処理、請求一覧表、消費先台帳）を"
-               "\n"
+               "見本の販売店を作り、その一か月の仕事（口座振替、検針、売上、入金、請求処理、請求一覧表、請求"
+               "書、\n"
+               "消費先台帳）を"
                "実際の画面の上でキー入力によって行います。画面のない機械でも動きます。得意先が多いときは、\n"
                "売上伝票は %1 枚、入金は %2 枚までを入力します。\n\n"
                "  --customers 件数     得意先の数、1 から 32000（既定 300）\n"
@@ -82,8 +83,8 @@ QString helpText() {
                "  --scale 倍率         画面の倍率、例 1.5（既定 1）\n"
                "  --templates フォルダ 帳票の雛形（既定は Prt）\n"
                "  --help               この説明\n\n"
-               "フォルダに残るもの: summary.txt、billing-list.pdf、billing-list.xlsx、\n"
-               "                    account.xlsx、screens/、dealer/\n"
+               "フォルダに残るもの: summary.txt、billing-list.pdf、billing-list.xlsx、invoices.pdf、\n"
+               "                    script.pdf、account.xlsx、debit/、screens/、dealer/\n"
                "終了コード: 0 正常、1 台帳が再計算と違う、予期しない画面が出たなど、2 使い方の誤り\n")
         .arg(mostSales)
         .arg(mostPayments);
