@@ -1,10 +1,10 @@
 #include "shell/Opening_frm.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "platform/forms/Icons.h"
 #include "platform/forms/Style.h"
 
 namespace akarix {
@@ -26,18 +26,7 @@ QPixmap splashPicture(qreal ratio) {
     ground.setColorAt(1, QColor(0x16, 0x36, 0x55));
     painter.fillRect(area, ground);
 
-    // A gas flame, two drops one inside the other.
-    const auto drop = [&](QPointF foot, qreal height, const QColor& color) {
-        const qreal half = height * 0.32;
-        QPainterPath path(foot - QPointF(0, height));
-        path.cubicTo(foot + QPointF(half * 0.2, -height * 0.6), foot + QPointF(half * 1.6, -height * 0.45),
-                     foot);
-        path.cubicTo(foot + QPointF(-half * 1.6, -height * 0.45), foot + QPointF(-half * 0.2, -height * 0.6),
-                     foot - QPointF(0, height));
-        painter.fillPath(path, color);
-    };
-    drop({90, 160}, 110, QColor(0x4f, 0xa3, 0xe3));
-    drop({90, 160}, 58, QColor(0xd6, 0xec, 0xfb));
+    ProgramIcon().paint(&painter, QRect(26, 50, 112, 112));
 
     QFont font = ScreenFont();
     painter.setPen(Qt::white);

@@ -12,6 +12,12 @@ CommandButton::CommandButton(const QString& caption, QWidget* parent) : QPushBut
     connect(this, &QPushButton::clicked, this, &CommandButton::Click);
 }
 
+ButtonWeight CommandButton::weight() const {
+    const QString caption = text();
+    if (caption.endsWith(u"保存") || caption == u"OK") return ButtonWeight::Keeps;
+    return caption.endsWith(u"削除") ? ButtonWeight::Removes : ButtonWeight::Plain;
+}
+
 bool CommandButton::event(QEvent* event) {
     if (event->type() == QEvent::KeyPress &&
         OfferKey(*static_cast<QKeyEvent*>(event), {}, [this](KeyEvent& press) { emit KeyDown(press); })) {

@@ -6,6 +6,9 @@
 
 namespace akarix {
 
+/// What a press leads to. The look sets apart what keeps the work and what takes data away.
+enum class ButtonWeight { Plain, Keeps, Removes };
+
 /// A button: pressed by a click, by Space and by Enter. The arrow keys walk to its neighbours in tab order.
 class CommandButton : public QPushButton {
     Q_OBJECT
@@ -15,6 +18,8 @@ class CommandButton : public QPushButton {
 
     QString Caption() const { return text(); }
     void SetCaption(const QString& caption) { setText(caption); }
+    /// Told by the caption's last word, which all screens share.
+    ButtonWeight weight() const;
 
  signals:
     void Click();

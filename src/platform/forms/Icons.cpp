@@ -4,6 +4,11 @@
 #include <QPainterPath>
 #include <QWidget>
 
+/// A static library's resources must be asked for, outside any namespace.
+static void findPictures() {
+    Q_INIT_RESOURCE(icons);
+}
+
 namespace akarix {
 namespace {
 
@@ -93,6 +98,14 @@ QPixmap DrawIcon(Icon icon, int size, const QWidget* target) {
             break;
     }
     return pixmap;
+}
+
+QIcon ProgramIcon() {
+    findPictures();
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256})
+        icon.addFile(QStringLiteral(":/icons/akarix-%1.png").arg(size), QSize(size, size));
+    return icon;
 }
 
 }  // namespace akarix
