@@ -22,7 +22,7 @@ inline const QColor accentInk(0x14, 0x52, 0x80);
 inline const QColor danger(0xa3, 0x2c, 0x2c);  // what takes data away
 inline const QColor dangerLine(0xcf, 0x9a, 0x97);
 inline const QColor markLine(0x72, 0x80, 0x8a);  // small things need a stronger edge than fields
-inline const QColor card(0xf6, 0xf8, 0xfa);  // a group of fields on the window
-inline const QColor line(0xd5, 0xdc, 0xe2);  // between cells, around groups
+inline const QColor card(0xf6, 0xf8, 0xfa);      // a group of fields on the window
+inline const QColor line(0xd5, 0xdc, 0xe2);      // between cells, around groups
 
 }  // namespace akarix::colours

@@ -1,5 +1,6 @@
 #include "platform/forms/ScreenStyle.h"
 
+#include <QGroupBox>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -82,6 +83,14 @@ void drawButton(const QStyleOption* option, QPainter* painter, const QWidget* wi
     drawBox(painter, option->rect, fill, focused ? own.focusLine : own.line, focused ? 2 : 1);
 }
 
+/// The title stands above the card.
+void drawGroup(const QStyleOption* option, QPainter* painter, const QWidget* widget) {
+    const auto* group = qobject_cast<const QGroupBox*>(widget);
+    const bool titled = group != nullptr && !group->title().isEmpty();
+    const int above = titled ? option->fontMetrics.height() + 4 : 0;
+    drawBox(painter, option->rect.adjusted(0, above, 0, 0), colours::card, colours::line, 1);
+}
+
 /// The square or the disc of a choice; the ready-made ones fade into the window.
 void drawMark(const QStyleOption* option, QPainter* painter, bool isRound) {
     const bool enabled = option->state.testFlag(QStyle::State_Enabled);
@@ -125,7 +134,7 @@ void ScreenStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
             drawEdges(option->rect, painter);
             return;
         case PE_FrameGroupBox:
-            drawBox(painter, option->rect, colours::card, colours::line, 1);
+            drawGroup(option, painter, widget);
             return;
         case PE_IndicatorCheckBox:
         case PE_IndicatorRadioButton:

@@ -2,6 +2,8 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionSlider;
+
 namespace akarix {
 
 /// How fields, buttons, grids and groups are drawn and how much room they take.
