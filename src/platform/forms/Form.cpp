@@ -7,6 +7,7 @@
 #include <QLayout>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 
@@ -31,6 +32,18 @@ QList<QPointer<Form>>& instances() {
     return all;
 }
 
+/// What the keyboard has been given back to while the desk has not yet said so.
+QPointer<QWidget>& keyboardDue() {
+    static QPointer<QWidget> control;
+    return control;
+}
+
+void giveKeyboardBack(QWidget& control) {
+    control.window()->activateWindow();
+    keyboardDue() = &control;
+    QTimer::singleShot(0, qApp, [] { keyboardDue().clear(); });
+}
+
 bool hasGrowingChild(const QWidget* form) {
     const auto areas = form->findChildren<QAbstractScrollArea*>();
     return std::any_of(areas.begin(), areas.end(), [](const QAbstractScrollArea* area) {
@@ -51,11 +64,13 @@ void Form::Show() {
 }
 
 void Form::ShowModal() {
+    // A dialog right behind another one finds the desk still between two windows.
+    const QPointer<QWidget> due = keyboardDue();
     QWidget* owner = QApplication::activeModalWidget();
-    if (owner == nullptr) owner = QApplication::activeWindow();
+    if (owner == nullptr) owner = due ? due->window() : QApplication::activeWindow();
     if (owner == this) owner = nullptr;
     if (isVisible()) hide();
-    const QPointer<QWidget> before = QApplication::focusWidget();
+    const QPointer<QWidget> before = due ? due.data() : QApplication::focusWidget();
     setWindowModality(Qt::ApplicationModal);
     // A form that wants no frame (the splash) keeps none.
     const bool framed = !windowFlags().testFlag(Qt::FramelessWindowHint);
@@ -74,7 +89,7 @@ void Form::ShowModal() {
     }
     // Without a window manager nobody gives the keyboard back to the window below.
     if (before && before->window()->isVisible() && !before->window()->isActiveWindow()) {
-        before->window()->activateWindow();
+        giveKeyboardBack(*before);
     }
 }
 

@@ -134,6 +134,25 @@ TEST_F(Forms, ModalFormsNestAndEachWaitsForItsOwn) {
     EXPECT_EQ(clerk.window(), &form);
 }
 
+// The menu, opened before, must not catch the keys meant for the screen.
+TEST_F(Forms, DialogsInARowLeaveTheKeyboardWhereItWas) {
+    class Menu_frm : public Form {
+     public:
+        Menu_frm() : Form("Menu_frm", "menu") {}
+    };
+    Form::Instance<Menu_frm>().Show();
+    Sample_frm& form = sample();
+    form.on(&form.Btn(0), &CommandButton::Click, [] {
+        for (int i = 0; i < 3; ++i)
+            Form::Instance<Other_frm>().ShowModal();
+    });
+    for (int i = 0; i < 3; ++i)
+        clerk.expect("Other_frm", [this](QWidget& shown) { clerk.closeBox(shown); });
+    clerk.click("Btn(0)");
+    EXPECT_EQ(clerk.window(), &form);
+    EXPECT_EQ(clerk.focusedName(), "Btn(0)");
+}
+
 TEST_F(Forms, AnEscapingErrorIsShownAndTheFormGoesOn) {
     Sample_frm& form = sample();
     int clicks = 0;
