@@ -9,14 +9,19 @@ namespace akarix {
 
 namespace {
 
+/// Null stays empty: a branch that nobody has entered must not pass for the branch 000.
+QString digits(const Variant& number, const QString& mask) {
+    return number.IsNull() ? QString() : Format(number, mask);
+}
+
 void readBankPart(const Recordset& set, Consignor& consignor) {
     const auto text = [&set](const QString& column) { return NullToEmpty(set[column]); };
     consignor.ItakuCode = text(QStringLiteral("ItakuCode"));
     consignor.Itakusya = text(QStringLiteral("Itakusya"));
     consignor.fName = text(QStringLiteral("fName"));
-    consignor.Bnk = Format(NullToZero(set[QStringLiteral("Code")]), QStringLiteral("0000"));
+    consignor.Bnk = digits(set[QStringLiteral("Code")], QStringLiteral("0000"));
     consignor.BkName = text(QStringLiteral("BkName"));
-    consignor.Stn = Format(NullToZero(set[QStringLiteral("Stn")]), QStringLiteral("000"));
+    consignor.Stn = digits(set[QStringLiteral("Stn")], QStringLiteral("000"));
     consignor.StnName = text(QStringLiteral("StnName"));
     consignor.Syurui = text(QStringLiteral("Syurui"));
     consignor.KozaNo = text(QStringLiteral("KozaNo"));

@@ -11,7 +11,7 @@ struct Consignor {
     QString fName;
     QString Bnk;  ///< four digits
     QString BkName;
-    QString Stn;  ///< three digits
+    QString Stn;  ///< three digits; empty when none is entered
     QString StnName;
     QString Syurui;
     QString KozaNo;

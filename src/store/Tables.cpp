@@ -37,7 +37,7 @@ const QStringList byLine{QStringLiteral("Dno"), QStringLiteral("Eda")};
 std::vector<TableDef> masters() {
     return {
         table(u"Deal",
-              {longInteger(u"Code"), integer(u"Rte"),    text(u"Kana", 30),    text(u"Namae", 40),
+              {longInteger(u"Code"), integer(u"Rte"),    text(u"Kana", 40),    text(u"Namae", 40),
                text(u"Ryaku", 20),   text(u"Yubin", 8),  text(u"Addr1", 50),   text(u"Addr2", 50),
                text(u"TEL", 15),     text(u"Fax", 15),   integer(u"Sime"),     integer(u"SH"),
                integer(u"Map"),      integer(u"Sisetu"), integer(u"Simekiri"), longInteger(u"Haisou"),
@@ -55,10 +55,12 @@ std::vector<TableDef> masters() {
               {integer(u"Ptn"), integer(u"St"), integer(u"Ed"), money(u"Kihon"), money(u"Tanka")},
               {QStringLiteral("Ptn"), QStringLiteral("St"), QStringLiteral("Ed")}),
         table(u"NyukinKubun", {integer(u"Code"), text(u"Namae", 20)}, byCode),
+        // Wider than the boxes of its screens, as Deal.Kana is: what came from elsewhere is cut where a record
+        // of the request has no room for it, rather than lost as a row.
         table(u"Bnk",
-              {integer(u"Code"), text(u"ItakuCode", 10), text(u"Itakusya", 40), text(u"fName", 60),
-               text(u"BkName", 15), integer(u"Stn"), text(u"StnName", 15), text(u"Syurui", 1),
-               text(u"KozaNo", 7), text(u"Saifurikae", 2), text(u"Keiyaku", 30), text(u"Jimusyo", 30)},
+              {integer(u"Code"), text(u"ItakuCode", 20), text(u"Itakusya", 60), text(u"fName", 60),
+               text(u"BkName", 30), integer(u"Stn"), text(u"StnName", 30), text(u"Syurui", 10),
+               text(u"KozaNo", 20), text(u"Saifurikae", 10), text(u"Keiyaku", 30), text(u"Jimusyo", 30)},
               byCode),
         table(u"Zip7", {longInteger(u"Code"), text(u"Addr", 100)}, byCode),
         table(u"zSysFunc", {longInteger(u"Code"), text(u"contents", 255)}, byCode),

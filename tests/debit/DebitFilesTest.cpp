@@ -147,7 +147,8 @@ TEST_F(DebitFiles, WhatStopsAFile) {
     } cases[] = {
         {"no name for the file", "UPDATE Bnk SET fName=' '", "の委託者が登録されていません。"},
         {"no consignor's name", "UPDATE Bnk SET fName='x',Itakusya=NULL", "の委託者が登録されていません。"},
-        {"nobody owes anything", "UPDATE Bnk SET Itakusya='x'", "該当が有りません。"},
+        {"no branch", "UPDATE Bnk SET Itakusya='x',Stn=NULL", "の委託者が登録されていません。"},
+        {"nobody owes anything", "UPDATE Bnk SET Stn=1", "該当が有りません。"},
         {"no consignor", "DELETE FROM Bnk", "の委託者が登録されていません。"},
     };
     gDb->Execute("UPDATE TtoD SET NGaku=Gaku");
