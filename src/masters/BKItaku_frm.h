@@ -8,7 +8,7 @@ class QVBoxLayout;
 
 namespace akarix {
 
-/// A bank and the post office as they stand in the user options, side by side. Nothing else reads what is
+/// A bank and the post office as they stand in the user options, on one screen. Nothing else reads what is
 /// kept here, and the menu's button to it is off.
 class BKItaku_frm : public EntryForm {
  public:

@@ -1,12 +1,11 @@
 #include "billing/Seikyu_frm.h"
 
-#include <QListWidget>
-
 #include "platform/print/PdfText.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DateSerial.h"
 #include "platform/runtime/Open.h"
 #include "store/Settings.h"
+#include "support/ListScreen.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 #include "values/Dates.h"
@@ -47,7 +46,7 @@ class DebitButtonsTest : public ScreenTest {
     void expectRun(bool asked) {
         clerk.answerConfirm(true);
         if (asked) clerk.answerConfirm(true);
-        clerk.expect("Printer_frm", [this](QWidget&) { clerk.press(Qt::Key_Escape); });
+        AnswerEscape(clerk, "Printer_frm");
         clerk.answerAlert();
         clerk.answerAlert();
     }
@@ -148,12 +147,7 @@ TEST_F(DebitButtonsTest, TheStatementsTakeWhatStandsOnTheScreen) {
         QFile::copy(QString(AKARIX_SOURCE_DIR "/") + sheet, sheet);
     }
     const auto print = [this](const char* button) {
-        clerk.expect("Printer_frm", [this](QWidget&) {
-            auto& printers = clerk.find<QListWidget>("Printers");
-            printers.setCurrentRow(printers.count() - 1);
-            clerk.find<TextBox>("Path").SetText(store.path("out.pdf"));
-            clerk.click("Print");
-        });
+        AnswerPrinter(clerk, store.path("out.pdf"));
         clerk.click(button);
         const QString page = PdfPages("out.pdf").join("");
         QFile::remove("out.pdf");

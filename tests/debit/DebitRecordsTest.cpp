@@ -24,12 +24,14 @@ TEST_F(DebitFile, OfABank) {
     customer("1,'ｱｵｷ ﾀﾛｳ',10,123,5,1,'1234567',0", "5307");
     customer("2,'ｲﾉｳｴ(ｺﾄﾞﾓ',20,123,5,1,'7654321',0", "3000");
     customer("3,'ｲﾉｳｴ',30,123,5,1,'7654321',700", "1500");  // shares the account
-    customer("4,'ｳｴﾀﾞ',40,123,12,2,'12',5000", "8000");     // asked for the fixed amount
+    customer("4,'ｳｴﾀﾞ',5,123,12,2,'12',5000", "8000");      // asked for the fixed amount, first in the round
     customer("5,'ｴｸﾞﾁ',50,123,5,1,'1234567890',5000", "3000");
     customer("6,'オオノ商会',60,123,5,1,'66',0", "1000");
     customer("70,'ｶﾄｳ ｶﾅﾌﾘｶﾞﾅｶﾞ30ｼﾞﾕｳﾓｼﾞﾁﾖｳﾄﾞ',70,123,999,1,'77',0", "12345678901");
     customer("8,'ｷﾑﾗ',80,123,5,1,NULL,0", "8");
-    customer("9,'ｸﾛﾀﾞ',90,123,5,1,'99',0", "0");
+    customer("9,'ｸﾛﾀﾞ',90,123,5,1,'7654321',0", "-200");  // has paid too much: not taken off
+    customer("10,'ｹﾝﾓﾁ',95,123,5,1,'99',0", "0");
+    customer("11,'ｺﾊﾞ',99,124,5,1,'11',0", "900");  // another bank's
     // The monthly query with the amount of the bill, as the bank's total counts it.
     const QString sql = DebitQuery(123, 2023, 4).replace(" FROM TtoD", ",800 AS Seikyu FROM TtoD");
     Consignor bank;

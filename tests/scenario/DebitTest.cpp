@@ -2,6 +2,7 @@
 #include "entry/SlipN2_frm.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DateSerial.h"
+#include "support/ListScreen.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 
@@ -72,7 +73,7 @@ class DebitRound : public ScreenTest {
     QList<QByteArray> writeDisk(const QString& month, const QString& debitDay) {
         openScreen(month, debitDay);
         clerk.answerConfirm(true);
-        clerk.expect("Printer_frm", [this](QWidget&) { clerk.press(Qt::Key_Escape); });
+        AnswerEscape(clerk, "Printer_frm");
         clerk.answerAlert();
         clerk.answerAlert();
         clerk.click("Command(2)");
