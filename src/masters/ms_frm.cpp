@@ -81,6 +81,11 @@ bool ms_frm::enter(int index) {
     return MasterForm::enter(index);
 }
 
+// The figures as typed: what is no plain number finds no row, rather than that of its first part.
+QString ms_frm::codeText() const {
+    return KeepNumeric(ebox(kCode).Text());
+}
+
 QString ms_frm::proposedCode() {
     return NumStr(HighestPlus(
         QStringLiteral("SELECT TOP 1 Code FROM ") + table_ + QStringLiteral(" ORDER BY Code DESC"), 1));

@@ -13,6 +13,7 @@ class ms_frm : public MasterForm {
 
  protected:
     bool enter(int index) override;
+    QString codeText() const override;
     QString proposedCode() override;
     void keepUnknownCode(const QString& typed) override;
     bool maySave() override;

@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "platform/forms/FieldLayout.h"
+#include "platform/runtime/CStr.h"
 #include "platform/runtime/Format.h"
 #include "store/FieldValue.h"
 #include "store/PutContents.h"
@@ -54,7 +55,7 @@ void Keihoki_frm::save() {
     for (const auto& [index, box] : ebox) {
         const QString code = NumStr(kFirstCode + index);
         PutContents(QStringLiteral("SELECT * FROM UserOP WHERE Code=") + code, code,
-                    NumStr(NumVal(box->Text())));
+                    CStr(NumVal(box->Text())));
     }
 }
 

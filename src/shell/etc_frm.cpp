@@ -29,19 +29,20 @@ constexpr std::array<Setting, 3> kSettings{{{1, kClosingDay}, {2, kPrinting}, {3
 }  // namespace
 
 etc_frm::etc_frm() : EntryForm(QStringLiteral("etc_frm"), QStringLiteral("その他")) {
-    constexpr int kDayBytes = 2;
+    constexpr int kBytes = 10;  // whatever is typed is stored; only the shown text is short
+    constexpr int kShownBytes = 4;
     auto* body = new QVBoxLayout(this);
     body->setSpacing(16);
     FieldLayout fields(*this);
-    const auto row = [&](const QString& caption, int field, int bytes) {
+    const auto row = [&](const QString& caption, int field) {
         FieldLine line = fields.row(caption);
-        line.text(addBox(ebox, field, ImeMode::Off), bytes);
+        line.text(addBox(ebox, field, ImeMode::Off), kBytes, kShownBytes);
         return line;
     };
-    row(QStringLiteral("得意先　締日"), kClosingDay, kDayBytes)
+    row(QStringLiteral("得意先　締日"), kClosingDay)
         .note(QStringLiteral("得意先登録時にデフォルトで表示"));
-    row(QStringLiteral("検針日"), kReadingDay, kDayBytes);
-    row(QStringLiteral("印刷設定"), kPrinting, 1).note(QStringLiteral("0 = 直接印刷　1 = 表示後印刷"));
+    row(QStringLiteral("検針日"), kReadingDay);
+    row(QStringLiteral("印刷設定"), kPrinting).note(QStringLiteral("0 = 直接印刷　1 = 表示後印刷"));
     body->addLayout(fields.layout());
     body->addLayout(ButtonBar(*this, Btn, {QStringLiteral("キャンセル"), QStringLiteral("保存")}));
     wireKeys(ebox, [this](int index) { return enter(index); });

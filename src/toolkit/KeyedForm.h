@@ -41,7 +41,7 @@ class KeyedForm : public EntryForm {
     Label& nameLabel(const QString& name) const;
 
     /// The code as it goes into a statement.
-    QString codeText() const;
+    virtual QString codeText() const;
     void clear();
     /// Tells what a field lacks and goes there; gives False.
     bool refuse(const QString& message, int index);

@@ -58,7 +58,9 @@ TEST_F(CodeLists, EachTableIsKeptUnderItsCaption) {
 
 TEST_F(CodeLists, AKnownCodeIsEditedAndDeleted) {
     open(u"Col"_qs);
-    EXPECT_EQ(shown(), u"3///"_qs);
+    clerk.fill(u"1-2"_qs);
+    EXPECT_EQ(shown(), u"3///"_qs) << "no code";
+    clerk.up();
     clerk.fill(u"2"_qs);
     EXPECT_EQ(shown(), u"2/ﾊｲ/灰/灰"_qs);
     clerk.enter();

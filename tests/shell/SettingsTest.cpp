@@ -60,7 +60,7 @@ TEST_F(Settings, PrintingFollowsTheSaveAtOnce) {
         const char16_t* stored;
     };
     for (const Case& c :
-         {Case{"1", true, u"2|1"}, {"", false, u"2| "}, {"x", false, u"2|x"}, {"2", false, u"2|2"}}) {
+         {Case{"1", true, u"2|1"}, {"", false, u"2| "}, {"x", false, u"2|x"}, {"12", false, u"2|12"}}) {
         open<etc_frm>();
         gPrintPreview = !c.preview;
         clerk.enter();
@@ -95,12 +95,12 @@ TEST_F(Settings, FeesAreStoredAsPlainNumbers) {
     gDb->Execute(u"UPDATE UserOP SET contents='0' WHERE Code=3"_qs);
     open<Keihoki_frm>();
     EXPECT_EQ(shown(2), u"1,500/"_qs);
-    clerk.enter();
+    clerk.fill(u".5"_qs);
     clerk.fill(u"980yen"_qs);
     EXPECT_EQ(clerk.focusedName(), u"Btn"_qs);
-    EXPECT_EQ(shown(2), u"1,500/980ye"_qs) << "five bytes";
+    EXPECT_EQ(shown(2), u".5/980ye"_qs) << "five bytes";
     clerk.enter();
-    EXPECT_EQ(fees(), (QStringList{u"2|1500"_qs, u"3|980"_qs}));
+    EXPECT_EQ(fees(), (QStringList{u"2|0.5"_qs, u"3|980"_qs}));
     EXPECT_TRUE(clerk.isOpen(u"Keihoki_frm"_qs));
     EXPECT_EQ(clerk.said(), QStringList());
 }
