@@ -39,8 +39,7 @@ etc_frm::etc_frm() : EntryForm(QStringLiteral("etc_frm"), QStringLiteral("その
         line.text(addBox(ebox, field, ImeMode::Off), kBytes, kShownBytes);
         return line;
     };
-    row(QStringLiteral("得意先　締日"), kClosingDay)
-        .note(QStringLiteral("得意先登録時にデフォルトで表示"));
+    row(QStringLiteral("得意先　締日"), kClosingDay).note(QStringLiteral("得意先登録時にデフォルトで表示"));
     row(QStringLiteral("検針日"), kReadingDay);
     row(QStringLiteral("印刷設定"), kPrinting).note(QStringLiteral("0 = 直接印刷　1 = 表示後印刷"));
     body->addLayout(fields.layout());
