@@ -26,7 +26,8 @@ TEST_F(DebitFile, OfABank) {
     customer("4,'ｳｴﾀﾞ',5,123,12,2,'12',5000", "8000");      // asked for the fixed amount, first in the round
     customer("5,'ｴｸﾞﾁ',50,123,5,1,'1234567890',5000", "3000");
     customer("6,'オオノ商会',60,123,5,1,'66',0", "1000");
-    customer("70,'ｶﾄｳ ｶﾅﾌﾘｶﾞﾅｶﾞ30ｼﾞﾕｳﾓｼﾞﾁﾖｳﾄﾞABX',70,123,32767,12,'77',0", "12345678901");  // none of it fits
+    customer("70,'ｶﾄｳ ｶﾅﾌﾘｶﾞﾅｶﾞ30ｼﾞﾕｳﾓｼﾞﾁﾖｳﾄﾞABCX',70,123,32767,12,'77',0",
+             "12345678901");  // none of it fits
     customer("8,'ｷﾑﾗ',80,123,5,1,NULL,0", "8");
     customer("9,'ｸﾛﾀﾞ',90,123,5,1,'7654321',0", "-200");  // has paid too much: not taken off
     customer("10,'ｹﾝﾓﾁ',95,123,5,1,'99',0", "0");
