@@ -76,7 +76,7 @@ class PbScriptTest : public testing::Test {
 };
 
 TEST_F(PbScriptTest, Scripts) {
-    const auto cases = ReadCases(QStringLiteral(AKARIX_TEST_DATA "/scripts.pbtest"));
+    const auto cases = ReadCases(AKARIX_TEST_DATA "/scripts.pbtest");
     ASSERT_GT(cases.size(), 20U);
     std::optional<PrintReport> report;
     std::optional<RecordingSurface> surface;

@@ -15,60 +15,59 @@ class LookupTest : public testing::Test {
 
 TEST_F(LookupTest, AMissingRowGivesItsDefault) {
     const Variant nobody(std::int32_t{999});
-    EXPECT_EQ(GetName(QStringLiteral("Rte"), nobody), QStringLiteral(" "));
-    EXPECT_EQ(GetDealName(nobody), QStringLiteral(" "));
+    EXPECT_EQ(GetName("Rte", nobody), " ");
+    EXPECT_EQ(GetDealName(nobody), " ");
     EXPECT_EQ(GetHinTanka(nobody), Currency(0));
     EXPECT_EQ(GetKensinDay(nobody), Variant(std::int16_t{0}));
-    EXPECT_EQ(GetContents(QStringLiteral("SELECT * FROM zSysFunc WHERE Code=77")), QString());
-    EXPECT_EQ(AddressOfZip(QStringLiteral("999-0000")), QString());
-    QString name = QStringLiteral("x");
+    EXPECT_EQ(GetContents("SELECT * FROM zSysFunc WHERE Code=77"), QString());
+    EXPECT_EQ(AddressOfZip("999-0000"), QString());
+    QString name = "x";
     int flag = 7;
-    GetNameAndNoSeikyu(QStringLiteral("Deal"), nobody, name, flag);
-    EXPECT_EQ(name, QStringLiteral(" "));
+    GetNameAndNoSeikyu("Deal", nobody, name, flag);
+    EXPECT_EQ(name, " ");
     EXPECT_EQ(flag, 0);
 }
 
 TEST_F(LookupTest, ReadsWhatIsThere) {
     ScratchStore::run(
-        QStringLiteral("INSERT INTO Rte(Code,Namae,Kensin) VALUES(3,'川西 ',22);\n"
-                       "INSERT INTO Rte(Code,Namae) VALUES(4,' ');\n"
-                       "INSERT INTO Deal(Code,Namae,NoSeikyu) VALUES(12,'佐藤　一郎',1);\n"
-                       "INSERT INTO Hin(Code,Namae,Tanka) VALUES(1,'ホース',580.5);\n"
-                       "INSERT INTO Zip7(Code,Addr) VALUES(9999901,'緑川市本町');\n"));
-    EXPECT_EQ(GetName(QStringLiteral("Rte"), QStringLiteral("3")), QStringLiteral("川西"));
-    EXPECT_EQ(GetName(QStringLiteral("Rte"), std::int32_t{4}), QString()) << "a name of one blank is empty";
-    EXPECT_EQ(GetDealName(std::int32_t{12}), QStringLiteral("佐藤　一郎"));
-    EXPECT_EQ(GetHinTanka(std::int32_t{1}), Currency::FromText(QStringLiteral("580.5")));
+        "INSERT INTO Rte(Code,Namae,Kensin) VALUES(3,'川西 ',22);\n"
+        "INSERT INTO Rte(Code,Namae) VALUES(4,' ');\n"
+        "INSERT INTO Deal(Code,Namae,NoSeikyu) VALUES(12,'佐藤　一郎',1);\n"
+        "INSERT INTO Hin(Code,Namae,Tanka) VALUES(1,'ホース',580.5);\n"
+        "INSERT INTO Zip7(Code,Addr) VALUES(9999901,'緑川市本町');\n");
+    EXPECT_EQ(GetName("Rte", "3"), "川西");
+    EXPECT_EQ(GetName("Rte", std::int32_t{4}), QString()) << "a name of one blank is empty";
+    EXPECT_EQ(GetDealName(std::int32_t{12}), "佐藤　一郎");
+    EXPECT_EQ(GetHinTanka(std::int32_t{1}), Currency::FromText("580.5"));
     EXPECT_EQ(GetKensinDay(std::int32_t{3}), Variant(std::int16_t{22}));
     EXPECT_EQ(GetKensinDay(std::int32_t{4}), Variant(std::int16_t{0})) << "Null reads as 0";
-    EXPECT_EQ(AddressOfZip(QStringLiteral("999-9901")), QStringLiteral("緑川市本町"));
-    EXPECT_EQ(GetContents(QStringLiteral("SELECT Contents FROM zSysFunc WHERE Code=1")),
-              QStringLiteral("31"));
+    EXPECT_EQ(AddressOfZip("999-9901"), "緑川市本町");
+    EXPECT_EQ(GetContents("SELECT Contents FROM zSysFunc WHERE Code=1"), "31");
     QString name;
     int flag = 0;
-    GetNameAndNoSeikyu(QStringLiteral("Deal"), std::int32_t{12}, name, flag);
-    EXPECT_EQ(name, QStringLiteral("佐藤　一郎"));
+    GetNameAndNoSeikyu("Deal", std::int32_t{12}, name, flag);
+    EXPECT_EQ(name, "佐藤　一郎");
     EXPECT_EQ(flag, 1);
 }
 
 TEST_F(LookupTest, NextNumbers) {
-    EXPECT_EQ(NextCode(QStringLiteral("Hin")), 1);
+    EXPECT_EQ(NextCode("Hin"), 1);
     EXPECT_EQ(NextHaisou(), 10);
     ScratchStore::run(
-        QStringLiteral("INSERT INTO Deal(Code,Haisou) VALUES(40,55);\n"
-                       "INSERT INTO Rte(Code) VALUES(32767);\n"
-                       "INSERT INTO Hin(Code) VALUES(2147483647);\n"));
-    EXPECT_EQ(NextCode(QStringLiteral("Deal")), 41);
+        "INSERT INTO Deal(Code,Haisou) VALUES(40,55);\n"
+        "INSERT INTO Rte(Code) VALUES(32767);\n"
+        "INSERT INTO Hin(Code) VALUES(2147483647);\n");
+    EXPECT_EQ(NextCode("Deal"), 41);
     EXPECT_EQ(NextHaisou(), 65);
-    EXPECT_EQ(NextCode(QStringLiteral("Rte")), 32768);
-    EXPECT_THROW(NextCode(QStringLiteral("Hin")), RuntimeError);
+    EXPECT_EQ(NextCode("Rte"), 32768);
+    EXPECT_THROW(NextCode("Hin"), RuntimeError);
 }
 
 TEST_F(LookupTest, DayOfAnEarlierReading) {
     ScratchStore::run(
-        QStringLiteral("INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2011,3,1,25);\n"
-                       "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2011,2,2,30);\n"
-                       "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2010,12,3,24);\n"));
+        "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2011,3,1,25);\n"
+        "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2011,2,2,30);\n"
+        "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2010,12,3,24);\n");
     struct Case {
         int year, month;
         std::int32_t deal;
@@ -80,7 +79,7 @@ TEST_F(LookupTest, DayOfAnEarlierReading) {
         {2011, 1, 3, u"2010/12/24"}, {2011, 1, 9, u""},
     };
     for (const Case& c : cases) {
-        QString text = QStringLiteral("before");
+        QString text = "before";
         PrevReadingDate(c.year, c.month, c.deal, text);
         EXPECT_EQ(text, QString::fromUtf16(c.day)) << c.deal;
     }
@@ -88,11 +87,11 @@ TEST_F(LookupTest, DayOfAnEarlierReading) {
 
 TEST_F(LookupTest, BillingMonthOfADate) {
     ScratchStore::run(
-        QStringLiteral("INSERT INTO Deal(Code,Sime) VALUES(31,31);\n"
-                       "INSERT INTO Deal(Code,Sime) VALUES(30,30);\n"
-                       "INSERT INTO Deal(Code,Sime) VALUES(20,20);\n"
-                       "INSERT INTO Deal(Code,Sime) VALUES(100,0);\n"
-                       "INSERT INTO Deal(Code) VALUES(101);\n"));
+        "INSERT INTO Deal(Code,Sime) VALUES(31,31);\n"
+        "INSERT INTO Deal(Code,Sime) VALUES(30,30);\n"
+        "INSERT INTO Deal(Code,Sime) VALUES(20,20);\n"
+        "INSERT INTO Deal(Code,Sime) VALUES(100,0);\n"
+        "INSERT INTO Deal(Code) VALUES(101);\n");
     struct Case {
         std::int32_t deal;
         int year, month, day;
@@ -114,24 +113,24 @@ TEST_F(LookupTest, BillingMonthOfADate) {
 
 TEST_F(LookupTest, Consignors) {
     ScratchStore::run(
-        QStringLiteral("INSERT INTO Bnk(Code,ItakuCode,Itakusya,fName,BkName,Stn,StnName,Syurui,KozaNo) "
-                       "VALUES(152,'000015230 ','ﾐﾄﾞﾘ','FURI.TXT','ｷﾞﾝｺｳ',1,'ﾎﾝﾃﾝ','1','1023344');\n"
-                       "INSERT INTO Bnk(Code,BkName,Stn,Saifurikae,Keiyaku,Jimusyo) "
-                       "VALUES(9900,'ﾕｳｾｲ',990,'15','02','緑');\n"));
+        "INSERT INTO Bnk(Code,ItakuCode,Itakusya,fName,BkName,Stn,StnName,Syurui,KozaNo) "
+        "VALUES(152,'000015230 ','ﾐﾄﾞﾘ','FURI.TXT','ｷﾞﾝｺｳ',1,'ﾎﾝﾃﾝ','1','1023344');\n"
+        "INSERT INTO Bnk(Code,BkName,Stn,Saifurikae,Keiyaku,Jimusyo) "
+        "VALUES(9900,'ﾕｳｾｲ',990,'15','02','緑');\n");
     Consignor consignor;
-    consignor.Saifurikae = QStringLiteral("kept");
+    consignor.Saifurikae = "kept";
     LoadBankConsignor(152, consignor);
-    EXPECT_EQ(consignor.ItakuCode, QStringLiteral("000015230"));
-    EXPECT_EQ(consignor.Bnk, QStringLiteral("0152"));
-    EXPECT_EQ(consignor.Stn, QStringLiteral("001"));
-    EXPECT_EQ(consignor.KozaNo, QStringLiteral("1023344"));
-    EXPECT_EQ(consignor.Saifurikae, QStringLiteral("kept"));
+    EXPECT_EQ(consignor.ItakuCode, "000015230");
+    EXPECT_EQ(consignor.Bnk, "0152");
+    EXPECT_EQ(consignor.Stn, "001");
+    EXPECT_EQ(consignor.KozaNo, "1023344");
+    EXPECT_EQ(consignor.Saifurikae, "kept");
     LoadBankConsignor(153, consignor);
-    EXPECT_EQ(consignor.BkName, QStringLiteral("ｷﾞﾝｺｳ")) << "a missing row changes nothing";
+    EXPECT_EQ(consignor.BkName, "ｷﾞﾝｺｳ") << "a missing row changes nothing";
     LoadPostConsignor(consignor);
-    EXPECT_EQ(consignor.Bnk, QStringLiteral("9900"));
+    EXPECT_EQ(consignor.Bnk, "9900");
     EXPECT_EQ(consignor.ItakuCode, QString());
-    EXPECT_EQ(consignor.Saifurikae + consignor.Keiyaku + consignor.Jimusyo, QStringLiteral("1502緑"));
+    EXPECT_EQ(consignor.Saifurikae + consignor.Keiyaku + consignor.Jimusyo, "1502緑");
 }
 
 }  // namespace

@@ -20,8 +20,8 @@ struct CaseRow {
     std::string line;  ///< as it stands in the file, for the message
 };
 
-/// A table of cases in a text file: a line a case, its cells parted by tabs; "# " is a remark, ␣ a blank.
-/// \param name of several tables in a file, the one under the line "[name]"
+/// A table of cases in a text file: a line a case, its cells parted by tabs; "# " is a remark, ␣ a blank, ⏎ a
+/// new line. \param name of several tables in a file, the one under the line "[name]"
 inline std::vector<CaseRow> ReadTable(const QString& path, const QString& name = {}) {
     std::vector<CaseRow> rows;
     QString table;
@@ -30,7 +30,8 @@ inline std::vector<CaseRow> ReadTable(const QString& path, const QString& name =
         if (!name.isEmpty() && line.startsWith(u'[') && line.endsWith(u']')) {
             table = line.mid(1).chopped(1);
         } else if (table == name) {
-            rows.push_back({QString(line).replace(u'␣', u' ').split(u'\t'), line.toStdString()});
+            rows.push_back(
+                {QString(line).replace(u'␣', u' ').replace(u'⏎', u'\n').split(u'\t'), line.toStdString()});
         }
     }
     EXPECT_FALSE(rows.empty()) << path.toStdString() << ' ' << name.toStdString();

@@ -23,12 +23,12 @@ class Dates : public testing::Test {
 
 TEST_F(Dates, ShowsWesternAndEraYears) {
     const Date day = DateSerial(2011, 3, 5);
-    EXPECT_EQ(DateText(day), u"2011/03/05"_qs);
+    EXPECT_EQ(DateText(day), "2011/03/05");
     EXPECT_EQ(DateText({}), QString());
     gDateMode = 1;
-    EXPECT_EQ(DateText(day), u"23/03/05"_qs);
+    EXPECT_EQ(DateText(day), "23/03/05");
     EXPECT_EQ(DisplayYear(DateSerial(2026, 1, 1)), 38) << "one era, without an end";
-    EXPECT_EQ(DateText(DateSerial(1989, 1, 8)), u"1/01/08"_qs);
+    EXPECT_EQ(DateText(DateSerial(1989, 1, 8)), "1/01/08");
 }
 
 TEST_F(Dates, ParsesWhatIsTyped) {
@@ -39,22 +39,22 @@ TEST_F(Dates, ParsesWhatIsTyped) {
         QString strictDate;  // of the strict reader
     };
     const Case cases[] = {
-        {0, u"3/15"_qs, u"2011/03/15"_qs, u""_qs},
-        {0, u" 3.15 "_qs, u"2011/03/15"_qs, u""_qs},
-        {0, u"2011.3.15"_qs, u"2011/03/15"_qs, u""_qs},
-        {0, u"2011/3/15"_qs, u"2011/03/15"_qs, u"2011/03/15"_qs},
-        {0, u"2012/2/29"_qs, u"2012/02/29"_qs, u"2012/02/29"_qs},
-        {0, u"2/30"_qs, u""_qs, u""_qs},
-        {0, u"2011/13/1"_qs, u""_qs, u""_qs},
-        {0, u"20110325"_qs, u""_qs, u""_qs},
-        {0, u""_qs, u""_qs, u""_qs},
-        {0, u"/3/15"_qs, u""_qs, u""_qs},
-        {0, u"2011/3/"_qs, u""_qs, u""_qs},
-        {0, u"a/b"_qs, u""_qs, u""_qs},
-        {1, u"3/15"_qs, u"2011/03/15"_qs, u""_qs},
-        {1, u"23/3/15"_qs, u"2011/03/15"_qs, u"2011/03/15"_qs},
-        {1, u"1/1/8"_qs, u"1989/01/08"_qs, u"1989/01/08"_qs},
-        {1, u"23/2/30"_qs, u""_qs, u""_qs},
+        {0, "3/15", "2011/03/15", ""},
+        {0, " 3.15 ", "2011/03/15", ""},
+        {0, "2011.3.15", "2011/03/15", ""},
+        {0, "2011/3/15", "2011/03/15", "2011/03/15"},
+        {0, "2012/2/29", "2012/02/29", "2012/02/29"},
+        {0, "2/30", "", ""},
+        {0, "2011/13/1", "", ""},
+        {0, "20110325", "", ""},
+        {0, "", "", ""},
+        {0, "/3/15", "", ""},
+        {0, "2011/3/", "", ""},
+        {0, "a/b", "", ""},
+        {1, "3/15", "2011/03/15", ""},
+        {1, "23/3/15", "2011/03/15", "2011/03/15"},
+        {1, "1/1/8", "1989/01/08", "1989/01/08"},
+        {1, "23/2/30", "", ""},
     };
     for (const Case& c : cases) {
         gDateMode = static_cast<std::int16_t>(c.mode);
@@ -73,9 +73,9 @@ TEST_F(Dates, TellsDatesFromOtherValues) {
 }
 
 TEST_F(Dates, NamesAndStamps) {
-    EXPECT_EQ(YobiName(DateSerial(2011, 3, 27)), u"日曜"_qs);
-    EXPECT_EQ(YobiName(DateSerial(2011, 4, 2)), u"土曜"_qs);
-    EXPECT_EQ(StampNow(), u"20110325090507"_qs);
+    EXPECT_EQ(YobiName(DateSerial(2011, 3, 27)), "日曜");
+    EXPECT_EQ(YobiName(DateSerial(2011, 4, 2)), "土曜");
+    EXPECT_EQ(StampNow(), "20110325090507");
 }
 
 }  // namespace

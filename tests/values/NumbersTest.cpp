@@ -17,15 +17,15 @@ struct Filter {
 
 TEST(NumVal, FiltersBeforeReading) {
     const Filter cases[] = {
-        {u""_qs, u"0"_qs, u"0"_qs, 0},
-        {u"."_qs, u"0"_qs, u"0"_qs, 0},
-        {u"-"_qs, u"-"_qs, u"0"_qs, 0},
-        {u"¥1,200"_qs, u"1200"_qs, u"1200"_qs, 1200},
-        {u"1-2"_qs, u"1-2"_qs, u"12"_qs, 1},
-        {u" -3.5円"_qs, u"-3.5"_qs, u"35"_qs, -3.5},
-        {u"1.2.3"_qs, u"1.2.3"_qs, u"123"_qs, 1.2},
-        {u"12a34"_qs, u"1234"_qs, u"1234"_qs, 1234},
-        {u"１２"_qs, u"0"_qs, u"0"_qs, 0},  // full-width digits are no digits here
+        {"", "0", "0", 0},
+        {".", "0", "0", 0},
+        {"-", "-", "0", 0},
+        {"¥1,200", "1200", "1200", 1200},
+        {"1-2", "1-2", "12", 1},
+        {" -3.5円", "-3.5", "35", -3.5},
+        {"1.2.3", "1.2.3", "123", 1.2},
+        {"12a34", "1234", "1234", 1234},
+        {"１２", "0", "0", 0},  // full-width digits are no digits here
     };
     for (const Filter& c : cases) {
         EXPECT_EQ(KeepNumeric(c.typed), c.numeric) << c.typed.toStdString();
@@ -51,33 +51,33 @@ TEST(NumVal, ConversionsRaiseOnTextAsItStands) {
         int integerError, longError, currencyError;
     };
     const Case cases[] = {
-        {u""_qs, 0, 0, 0},      {u"abc"_qs, 0, 0, 0},        {u"32767"_qs, 0, 0, 0},
-        {u"70000"_qs, 6, 0, 0}, {u"12a"_qs, 13, 13, 0},      {u"1-2"_qs, 13, 13, 13},
-        {u"1,200"_qs, 0, 0, 0}, {u"9999999999"_qs, 6, 6, 0}, {u"0円"_qs, 0, 0, 0},
+        {"", 0, 0, 0},      {"abc", 0, 0, 0},        {"32767", 0, 0, 0},
+        {"70000", 6, 0, 0}, {"12a", 13, 13, 0},      {"1-2", 13, 13, 13},
+        {"1,200", 0, 0, 0}, {"9999999999", 6, 6, 0}, {"0円", 0, 0, 0},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(errorOf([&] { ToInteger(c.typed); }), c.integerError) << c.typed.toStdString();
         EXPECT_EQ(errorOf([&] { ToLong(c.typed); }), c.longError) << c.typed.toStdString();
         EXPECT_EQ(errorOf([&] { ToCurrency(c.typed); }), c.currencyError) << c.typed.toStdString();
     }
-    EXPECT_EQ(ToInteger(u"1,200"_qs), 1200);
-    EXPECT_EQ(ToLong(u"70000"_qs), 70000);
-    EXPECT_EQ(ToCurrency(u"¥1,234.56円"_qs), Currency::FromScaled(12345600));
+    EXPECT_EQ(ToInteger("1,200"), 1200);
+    EXPECT_EQ(ToLong("70000"), 70000);
+    EXPECT_EQ(ToCurrency("¥1,234.56円"), Currency::FromScaled(12345600));
 }
 
 TEST(NumStr, PlainTextForStatements) {
-    EXPECT_EQ(NumStr(5), u"5"_qs);
-    EXPECT_EQ(NumStr(-5), u"-5"_qs);
-    EXPECT_EQ(NumStr(0.5), u".5"_qs);
-    EXPECT_EQ(NumStr(Currency::FromScaled(12345600)), u"1234.56"_qs);
+    EXPECT_EQ(NumStr(5), "5");
+    EXPECT_EQ(NumStr(-5), "-5");
+    EXPECT_EQ(NumStr(0.5), ".5");
+    EXPECT_EQ(NumStr(Currency::FromScaled(12345600)), "1234.56");
 }
 
 TEST(NumStr, PadsAndCuts) {
-    EXPECT_EQ(PadFormat(5, u"000"_qs), u"005"_qs);
-    EXPECT_EQ(PadFormat(1234, u"00"_qs), u"34"_qs);
-    EXPECT_EQ(PadFormat(1234, u"###,###"_qs), u"  1,234"_qs);
-    EXPECT_EQ(PadText(u"ab"_qs, 4), u"ab  "_qs);
-    EXPECT_EQ(PadText(u"abcdef"_qs, 4), u"abcd"_qs);
+    EXPECT_EQ(PadFormat(5, "000"), "005");
+    EXPECT_EQ(PadFormat(1234, "00"), "34");
+    EXPECT_EQ(PadFormat(1234, "###,###"), "  1,234");
+    EXPECT_EQ(PadText("ab", 4), "ab  ");
+    EXPECT_EQ(PadText("abcdef", 4), "abcd");
 }
 
 TEST(CellAddress, ColumnsRunPastZ) {

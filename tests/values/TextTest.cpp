@@ -23,15 +23,15 @@ TEST(Text, CutsByBytesAndLosesASplitCharacter) {
 
 TEST(Text, NullAndBlank) {
     EXPECT_EQ(NullToEmpty(Variant::Null()), QString());
-    EXPECT_EQ(NullToEmpty(u" あ "_qs), u"あ"_qs);
-    EXPECT_EQ(NullToEmpty(u"　あ"_qs), u"　あ"_qs) << "a full-width blank is a character";
-    EXPECT_EQ(NullToEmpty(Currency(1200)), u"1200"_qs);
+    EXPECT_EQ(NullToEmpty(" あ "), "あ");
+    EXPECT_EQ(NullToEmpty("　あ"), "　あ") << "a full-width blank is a character";
+    EXPECT_EQ(NullToEmpty(Currency(1200)), "1200");
     EXPECT_EQ(NullToZero(Variant::Null()), Variant(std::int16_t{0}));
-    EXPECT_EQ(NullToZero(u"x"_qs), Variant(u"x"_qs));
-    EXPECT_EQ(EmptyToBlank({}), u" "_qs);
+    EXPECT_EQ(NullToZero("x"), Variant("x"));
+    EXPECT_EQ(EmptyToBlank({}), " ");
     EXPECT_FALSE(HasText(Variant::Null()));
-    EXPECT_FALSE(HasText(u"  "_qs));
-    EXPECT_TRUE(HasText(u" a"_qs));
+    EXPECT_FALSE(HasText("  "));
+    EXPECT_TRUE(HasText(" a"));
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ class Controls : public ScreenTest {
 
     void listen(TextBox& box) {
         form.on(&box, &TextBox::KeyDown, [this](KeyEvent& event) {
-            seen << QStringLiteral("%1/%2").arg(event.KeyCode).arg(event.Shift);
+            seen << QString("%1/%2").arg(event.KeyCode).arg(event.Shift);
             if (event.KeyCode == 'X') event.KeyCode = 0;
         });
     }
@@ -98,18 +98,18 @@ TEST_F(Controls, WithoutAListenerTabWalksNatively) {
 TEST_F(Controls, TheEnterOfACompositionIsNotAnEnter) {
     TextBox& box = show(new TextBox);
     listen(box);
-    input(box, QStringLiteral("かな"), {});
+    input(box, "かな", {});
     clerk.enter();
     clerk.down();
     EXPECT_TRUE(seen.isEmpty());
-    input(box, {}, QStringLiteral("仮名"));
+    input(box, {}, "仮名");
     clerk.enter();  // the one that committed, handed on by the input method
     EXPECT_TRUE(seen.isEmpty());
     clerk.enter();
     EXPECT_EQ(seen, QStringList("13/0"));
     EXPECT_EQ(box.Text(), u"仮名");
 
-    input(box, {}, QStringLiteral("a"));  // committed without composing: no Enter belongs to it
+    input(box, {}, "a");  // committed without composing: no Enter belongs to it
     clerk.enter();
     EXPECT_EQ(seen.size(), 2);
 }
@@ -128,21 +128,21 @@ TEST_F(Controls, ReadingFieldsHoldHalfWidthKatakana) {
         input(box, {}, QString::fromUtf8(c.committed));
         EXPECT_EQ(box.Text(), QString::fromUtf8(c.text));
     }
-    box.SetText(QStringLiteral("ｱガ"));  // the program's own text stays
-    EXPECT_EQ(box.Text(), QStringLiteral("ｱガ"));
-    box.SetText(QStringLiteral("ｱｲ"));
+    box.SetText("ｱガ");  // the program's own text stays
+    EXPECT_EQ(box.Text(), "ｱガ");
+    box.SetText("ｱｲ");
     box.SetSelStart(1);
-    box.insert(QStringLiteral("ガ"));  // as a paste does
-    EXPECT_EQ(box.Text(), QStringLiteral("ｱｶﾞｲ"));
+    box.insert("ガ");  // as a paste does
+    EXPECT_EQ(box.Text(), "ｱｶﾞｲ");
     EXPECT_EQ(box.SelStart(), 3);
 }
 
 TEST_F(Controls, InputMethodIsOffForNumbers) {
     TextBox& box = show(new TextBox);
     box.SetIMEMode(ImeMode::Off);
-    EXPECT_THROW(clerk.type(QStringLiteral("あ")), std::runtime_error);
+    EXPECT_THROW(clerk.type("あ"), std::runtime_error);
     box.SetIMEMode(ImeMode::NoControl);
-    clerk.type(QStringLiteral("あ"));
+    clerk.type("あ");
     EXPECT_EQ(box.Text(), u"あ");
 }
 
@@ -220,7 +220,7 @@ TEST_F(Controls, ComboGivesEnterAndTabToItsListener) {
 }
 
 TEST_F(Controls, EnterLeavesAnOptionForTheNextControl) {
-    auto* frame = new Frame(QStringLiteral("枠"));
+    auto* frame = new Frame("枠");
     auto* inside = new QVBoxLayout(frame);
     auto* one = new OptionButton("1");
     auto* two = new OptionButton("2");

@@ -17,9 +17,9 @@ class Grid : public ScreenTest {
         whole->addWidget(&grid);
         form.resize(400, 300);
         form.on(&grid, &FlexGrid::RowColChange,
-                [this] { log << QStringLiteral("%1,%2").arg(grid.Row()).arg(grid.Col()); });
+                [this] { log << QString("%1,%2").arg(grid.Row()).arg(grid.Col()); });
         form.on(&grid, &FlexGrid::Click,
-                [this] { log << QStringLiteral("click %1,%2").arg(grid.MouseRow()).arg(grid.MouseCol()); });
+                [this] { log << QString("click %1,%2").arg(grid.MouseRow()).arg(grid.MouseCol()); });
     }
 
     void fill(int rows, int cols) {
@@ -34,7 +34,7 @@ class Grid : public ScreenTest {
         clerk.settle();
         log.clear();
     }
-    static QString cellText(int row, int col) { return QStringLiteral("%1:%2").arg(row).arg(col); }
+    static QString cellText(int row, int col) { return QString("%1:%2").arg(row).arg(col); }
     std::string played() { return log.join(u' ').toStdString(); }
 
     static int raised(const std::function<void()>& step) {

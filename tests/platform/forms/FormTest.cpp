@@ -18,13 +18,13 @@ class Sample_frm : public Form {
     Q_OBJECT
 
  public:
-    Sample_frm() : Form("Sample_frm", QStringLiteral("見本")) {
+    Sample_frm() : Form("Sample_frm", "見本") {
         auto* whole = new QVBoxLayout(this);
         FieldLayout fields(*this);
         whole->addLayout(fields.layout());
         for (int i = 0; i < 3; ++i)
-            fields.row(QStringLiteral("欄")).text(ebox.add(i, new TextBox), 10);
-        whole->addLayout(ButtonBar(*this, Btn, {QStringLiteral("保存")}));
+            fields.row("欄").text(ebox.add(i, new TextBox), 10);
+        whole->addLayout(ButtonBar(*this, Btn, {"保存"}));
         ++built;
     }
 
@@ -49,7 +49,7 @@ class Other_frm : public Form {
     Q_OBJECT
 
  public:
-    Other_frm() : Form("Other_frm", QStringLiteral("別")) {
+    Other_frm() : Form("Other_frm", "別") {
         auto* whole = new QVBoxLayout(this);
         whole->addWidget(&Named(new CommandButton("OK"), "Btn"));
     }
@@ -166,10 +166,10 @@ TEST_F(Forms, AnEscapingErrorIsShownAndTheFormGoesOn) {
         clerk.enter();
     });
     clerk.click("Btn(0)");
-    EXPECT_EQ(clerk.lastSaid(), QStringLiteral("実行時エラー '6':\n\n") + ErrorText(6));
+    EXPECT_EQ(clerk.lastSaid(), "実行時エラー '6':\n\n" + ErrorText(6));
     clerk.answerMsgBox();
     clerk.click("Btn(0)");
-    EXPECT_TRUE(clerk.lastSaid().startsWith(QStringLiteral("実行時エラー '51':")));
+    EXPECT_TRUE(clerk.lastSaid().startsWith("実行時エラー '51':"));
     clerk.click("Btn(0)");
     EXPECT_EQ(clicks, 3);
 }
@@ -216,7 +216,7 @@ TEST_F(Forms, FatalErrorsEndTheProcessAfterTheBox) {
 TEST_F(Forms, MouseDownTellsButtonAndShiftOnTheFormAlone) {
     Sample_frm& form = sample();
     QStringList presses;
-    form.pressed = [&](int button, int shift) { presses << QStringLiteral("%1/%2").arg(button).arg(shift); };
+    form.pressed = [&](int button, int shift) { presses << QString("%1/%2").arg(button).arg(shift); };
     const QPoint bare(2, 2);
     QTest::mouseClick(&form, Qt::RightButton, Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier,
                       bare);
@@ -249,7 +249,7 @@ TEST_F(Forms, FieldsAndButtonsJoinTheWalkInTheirOrder) {
     QStringList walk;
     for (const QWidget* control : sample().Controls()) {
         if (TabIndex(control) >= 0)
-            walk << QStringLiteral("%1 %2").arg(TabIndex(control)).arg(control->objectName());
+            walk << QString("%1 %2").arg(TabIndex(control)).arg(control->objectName());
     }
     EXPECT_EQ(walk, QStringList({"0 ebox(0)", "1 ebox(1)", "2 ebox(2)", "3 Btn(0)"}));
 }

@@ -25,28 +25,27 @@ class DefinitionTest : public StoreTest {
         }
         return error;
     }
-    const TableDef& goods() { return *database_->engine().catalogue().find(QStringLiteral("GOODS")); }
+    const TableDef& goods() { return *database_->engine().catalogue().find("GOODS"); }
     const ColumnDef& column(const QString& name) {
         return goods().columns[static_cast<std::size_t>(goods().indexOf(name))];
     }
     Variant value(const QString& name) {
-        return database_->OpenRecordset(QStringLiteral("SELECT * FROM Goods WHERE Code=3"))[name];
+        return database_->OpenRecordset("SELECT * FROM Goods WHERE Code=3")[name];
     }
 
     Database* database_ = nullptr;
 };
 
 TEST_F(DefinitionTest, EveryKindIsReadBack) {
-    TableDef table{
-        QStringLiteral("Kinds"), {}, {{QStringLiteral("C1"), QStringLiteral("C2")}, {QStringLiteral("C3")}}};
+    TableDef table{"Kinds", {}, {{"C1", "C2"}, {"C3"}}};
     for (const int type : {1, 2, 3, 4, 5, 6, 7, 8, 10, 12}) {
         table.columns.push_back(
-            {QStringLiteral("C%1").arg(type), static_cast<FieldType>(type), type == 10 ? 30 : 0, type < 5});
+            {QString("C%1").arg(type), static_cast<FieldType>(type), type == 10 ? 30 : 0, type < 5});
     }
     ASSERT_EQ(define(Kind::CreateTable, table), 0);
     database_->Close();
     database_ = &open();
-    const TableDef* found = database_->engine().catalogue().find(QStringLiteral("kinds"));
+    const TableDef* found = database_->engine().catalogue().find("kinds");
     ASSERT_TRUE(found);
     EXPECT_EQ(found->name, u"Kinds");
     EXPECT_EQ(found->uniqueKeys, table.uniqueKeys);
@@ -68,29 +67,25 @@ TEST_F(DefinitionTest, ASecondRunOfTheSameStepFailsAndChangesNothing) {
         IndexDef index;
         int secondError;
     };
-    const QString name = QStringLiteral("Goods");
+    const QString name = "Goods";
     const Step steps[] = {
         {Kind::CreateTable, GoodsTable(), {}, {}, 3010},
-        {Kind::AlterColumn, {name, {}, {}}, {QStringLiteral("RTE"), FieldType::Currency}, {}, 3380},
-        {Kind::AddColumn, {name, {}, {}}, {QStringLiteral("Kensin"), FieldType::Integer}, {}, 3380},
-        {Kind::AddColumn, {name, {}, {}}, {QStringLiteral("Keiyaku"), FieldType::Text, 30}, {}, 3380},
-        {Kind::AlterColumn, {name, {}, {}}, {QStringLiteral("Kana"), FieldType::Text, 20}, {}, 3380},
-        {Kind::CreateIndex,
-         {name, {}, {}},
-         {},
-         {QStringLiteral("ByKana"), {QStringLiteral("Kana")}, false},
-         3075},
-        {Kind::DropColumn, {name, {}, {}}, {QStringLiteral("Flg")}, {}, 3383},
+        {Kind::AlterColumn, {name, {}, {}}, {"RTE", FieldType::Currency}, {}, 3380},
+        {Kind::AddColumn, {name, {}, {}}, {"Kensin", FieldType::Integer}, {}, 3380},
+        {Kind::AddColumn, {name, {}, {}}, {"Keiyaku", FieldType::Text, 30}, {}, 3380},
+        {Kind::AlterColumn, {name, {}, {}}, {"Kana", FieldType::Text, 20}, {}, 3380},
+        {Kind::CreateIndex, {name, {}, {}}, {}, {"ByKana", {"Kana"}, false}, 3075},
+        {Kind::DropColumn, {name, {}, {}}, {"Flg"}, {}, 3383},
     };
     for (const Step& step : steps) {
         EXPECT_EQ(define(step.kind, step.table, step.column, step.index), 0);
         EXPECT_EQ(define(step.kind, step.table, step.column, step.index), step.secondError);
     }
-    EXPECT_EQ(define(Kind::AlterColumn, {name, {}, {}}, {QStringLiteral("Nix"), FieldType::Long}), 3383);
-    EXPECT_EQ(define(Kind::AddColumn, {QStringLiteral("Nix"), {}, {}}, {QStringLiteral("A")}), 3371);
-    EXPECT_EQ(define(Kind::DropColumn, {name, {}, {}}, {QStringLiteral("Code")}), 3280);
-    EXPECT_EQ(column(QStringLiteral("Rte")).type, FieldType::Currency);
-    EXPECT_EQ(column(QStringLiteral("Kana")).size, 20);
+    EXPECT_EQ(define(Kind::AlterColumn, {name, {}, {}}, {"Nix", FieldType::Long}), 3383);
+    EXPECT_EQ(define(Kind::AddColumn, {"Nix", {}, {}}, {"A"}), 3371);
+    EXPECT_EQ(define(Kind::DropColumn, {name, {}, {}}, {"Code"}), 3280);
+    EXPECT_EQ(column("Rte").type, FieldType::Currency);
+    EXPECT_EQ(column("Kana").size, 20);
     EXPECT_EQ(goods().columns.size(), GoodsTable().columns.size() + 1);
     EXPECT_EQ(define(Kind::DropTable, {name, {}, {}}), 0);
     EXPECT_EQ(define(Kind::DropTable, {name, {}, {}}), 3371);
@@ -98,43 +93,42 @@ TEST_F(DefinitionTest, ASecondRunOfTheSameStepFailsAndChangesNothing) {
 
 TEST_F(DefinitionTest, AlteringConvertsTheValuesAndKeepsTheRest) {
     MakeTable(*database_, GoodsTable());
-    const TableDef name{QStringLiteral("Goods"), {}, {}};
-    Recordset rows = database_->OpenRecordset(QStringLiteral("SELECT * FROM Goods"));
+    const TableDef name{"Goods", {}, {}};
+    Recordset rows = database_->OpenRecordset("SELECT * FROM Goods");
     for (const int code : {3, 1}) {
         rows.AddNew();
-        rows.Fields(QStringLiteral("Code")) = std::int32_t{code};
-        rows.Fields(QStringLiteral("Kana")) = QStringLiteral("ｱｲｳｴｵ");
-        rows.Fields(QStringLiteral("Rte")) = static_cast<std::int16_t>(code * 100);
-        rows.Fields(QStringLiteral("Tanka")) = Currency::FromText(QStringLiteral("2.5"));
+        rows.Fields("Code") = std::int32_t{code};
+        rows.Fields("Kana") = "ｱｲｳｴｵ";
+        rows.Fields("Rte") = static_cast<std::int16_t>(code * 100);
+        rows.Fields("Tanka") = Currency::FromText("2.5");
         rows.Update();
     }
-    ASSERT_EQ(define(Kind::AlterColumn, name, {QStringLiteral("Rte"), FieldType::Currency}), 0);
-    EXPECT_EQ(value(QStringLiteral("Rte")), Variant(Currency(300)));
-    ASSERT_EQ(define(Kind::AlterColumn, name, {QStringLiteral("Tanka"), FieldType::Integer}), 0);
-    EXPECT_EQ(value(QStringLiteral("Tanka")), Variant(std::int16_t{2}));
-    ASSERT_EQ(define(Kind::AlterColumn, name, {QStringLiteral("Tanka"), FieldType::Text, 4}), 0);
-    EXPECT_EQ(value(QStringLiteral("Tanka")), Variant(u"2"));
-    EXPECT_EQ(define(Kind::AlterColumn, name, {QStringLiteral("Kana"), FieldType::Text, 4}), 3163)
+    ASSERT_EQ(define(Kind::AlterColumn, name, {"Rte", FieldType::Currency}), 0);
+    EXPECT_EQ(value("Rte"), Variant(Currency(300)));
+    ASSERT_EQ(define(Kind::AlterColumn, name, {"Tanka", FieldType::Integer}), 0);
+    EXPECT_EQ(value("Tanka"), Variant(std::int16_t{2}));
+    ASSERT_EQ(define(Kind::AlterColumn, name, {"Tanka", FieldType::Text, 4}), 0);
+    EXPECT_EQ(value("Tanka"), Variant(u"2"));
+    EXPECT_EQ(define(Kind::AlterColumn, name, {"Kana", FieldType::Text, 4}), 3163)
         << "what does not fit is not cut without a word";
-    EXPECT_EQ(define(Kind::AlterColumn, name, {QStringLiteral("Kana"), FieldType::Long}), 3421);
+    EXPECT_EQ(define(Kind::AlterColumn, name, {"Kana", FieldType::Long}), 3421);
     EXPECT_EQ(goods().uniqueKeys, GoodsTable().uniqueKeys);
-    EXPECT_TRUE(column(QStringLiteral("Flg")).zeroDefault);
+    EXPECT_TRUE(column("Flg").zeroDefault);
 }
 
 TEST_F(DefinitionTest, IndexesOutliveAnAlteredColumn) {
     MakeTable(*database_, GoodsTable());
-    const TableDef name{QStringLiteral("Goods"), {}, {}};
-    ASSERT_EQ(define(Kind::CreateIndex, name, {}, {QStringLiteral("ByKana"), {QStringLiteral("Kana")}, true}),
-              0);
+    const TableDef name{"Goods", {}, {}};
+    ASSERT_EQ(define(Kind::CreateIndex, name, {}, {"ByKana", {"Kana"}, true}), 0);
     EXPECT_EQ(goods().uniqueKeys.size(), 2U);
-    ASSERT_EQ(define(Kind::AlterColumn, name, {QStringLiteral("Rte"), FieldType::Long}), 0);
+    ASSERT_EQ(define(Kind::AlterColumn, name, {"Rte", FieldType::Long}), 0);
     EXPECT_EQ(goods().uniqueKeys.size(), 2U);
     database_->Close();
     database_ = &open();
-    database_->Execute(QStringLiteral("INSERT INTO Goods(Code,Kana) VALUES(1,'a')"));
-    database_->Execute(QStringLiteral("INSERT INTO Goods(Code,Kana) VALUES(2,'A')"));
+    database_->Execute("INSERT INTO Goods(Code,Kana) VALUES(1,'a')");
+    database_->Execute("INSERT INTO Goods(Code,Kana) VALUES(2,'A')");
     EXPECT_EQ(database_->RecordsAffected(), 0) << "texts that differ in case alone are one key";
-    ASSERT_EQ(define(Kind::DropIndex, name, {}, {QStringLiteral("ByKana"), {}, false}), 0);
+    ASSERT_EQ(define(Kind::DropIndex, name, {}, {"ByKana", {}, false}), 0);
     EXPECT_EQ(goods().uniqueKeys.size(), 1U);
 }
 

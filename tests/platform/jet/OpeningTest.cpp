@@ -20,11 +20,10 @@ class OpeningTest : public StoreTest {
         database.Close();
     }
     static void addRow(Database& database, int code) {
-        const TableDef& table = *database.engine().catalogue().find(QStringLiteral("goods"));
-        database.engine().insertRow(table, {QStringLiteral("Code"), QStringLiteral("Kana")},
-                                    {std::int64_t{code}, QStringLiteral("ｱｲｳｴｵ")});
+        const TableDef& table = *database.engine().catalogue().find("goods");
+        database.engine().insertRow(table, {"Code", "Kana"}, {std::int64_t{code}, "ｱｲｳｴｵ"});
     }
-    int openError(const QString& password = QStringLiteral("secret1")) {
+    int openError(const QString& password = "secret1") {
         return ErrorOf([&] { open(password).Close(); });
     }
 };
@@ -49,8 +48,8 @@ TEST_F(OpeningTest, TellsWhatIsWrongByNumber) {
         QString password;
         int error;
     };
-    const QString right = QStringLiteral("secret1");
-    const QString wrong = QStringLiteral("other");
+    const QString right = "secret1";
+    const QString wrong = "other";
     const Case cases[] = {
         {"sound", sound, right, 0},
         {"wrong password", sound, wrong, 3031},
@@ -101,29 +100,27 @@ TEST_F(OpeningTest, NothingReadableInTheBytes) {
     addRow(database, 1);
     database.Close();
     EXPECT_FALSE(bytesOf(path()).contains("CREATE TABLE"));
-    EXPECT_FALSE(bytesOf(path()).contains(QStringLiteral("ｱｲｳｴｵ").toUtf8()));
+    EXPECT_FALSE(bytesOf(path()).contains(QString("ｱｲｳｴｵ").toUtf8()));
     EXPECT_FALSE(bytesOf(path()).contains("secret1"));
 }
 
 TEST_F(OpeningTest, ClosingLetsGoAndEndsAllUse) {
     Database& database = create();
     MakeTable(database, GoodsTable());
-    Recordset rows = database.OpenRecordset(QStringLiteral("SELECT * FROM Goods"));
+    Recordset rows = database.OpenRecordset("SELECT * FROM Goods");
     {
         const Action saving;
         addRow(database, 7);
         DBEngine::Workspaces(0).Close();
     }
-    EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files),
-              QStringList{QStringLiteral("Store.MDB")});
-    EXPECT_EQ(ErrorOf([&] { database.Execute(QStringLiteral("DELETE * FROM Goods")); }), 3420);
+    EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files), QStringList{"Store.MDB"});
+    EXPECT_EQ(ErrorOf([&] { database.Execute("DELETE * FROM Goods"); }), 3420);
     EXPECT_EQ(ErrorOf([&] { database.RecordsAffected(); }), 3420);
     EXPECT_EQ(ErrorOf([&] { rows.Eof(); }), 3420);
     EXPECT_EQ(ErrorOf([&] { database.Close(); }), 3420);
-    ASSERT_TRUE(QFile::copy(path(), path(QStringLiteral("Copy.MDB"))));
-    Database& copy =
-        *DBEngine::Workspaces(0).OpenDatabase(path(QStringLiteral("Copy.MDB")), false, false, Connect());
-    EXPECT_EQ(count(copy, QStringLiteral("Goods")), 1);
+    ASSERT_TRUE(QFile::copy(path(), path("Copy.MDB")));
+    Database& copy = *DBEngine::Workspaces(0).OpenDatabase(path("Copy.MDB"), false, false, Connect());
+    EXPECT_EQ(count(copy, "Goods"), 1);
 }
 
 TEST_F(OpeningTest, CopyOfAnOpenStoreHoldsEverythingSoFar) {
@@ -131,13 +128,12 @@ TEST_F(OpeningTest, CopyOfAnOpenStoreHoldsEverythingSoFar) {
     MakeTable(database, GoodsTable());
     const Action saving;
     addRow(database, 1);
-    database.engine().copyTo(path(QStringLiteral("Copy.MDB")));
+    database.engine().copyTo(path("Copy.MDB"));
     addRow(database, 2);
-    Database& copy =
-        *DBEngine::Workspaces(0).OpenDatabase(path(QStringLiteral("Copy.MDB")), false, false, Connect());
-    EXPECT_EQ(count(copy, QStringLiteral("Goods")), 1);
-    EXPECT_EQ(count(database, QStringLiteral("Goods")), 2);
-    EXPECT_EQ(ErrorOf([&] { database.engine().copyTo(path(QStringLiteral("no/such/folder"))); }), 76);
+    Database& copy = *DBEngine::Workspaces(0).OpenDatabase(path("Copy.MDB"), false, false, Connect());
+    EXPECT_EQ(count(copy, "Goods"), 1);
+    EXPECT_EQ(count(database, "Goods"), 2);
+    EXPECT_EQ(ErrorOf([&] { database.engine().copyTo(path("no/such/folder")); }), 76);
 }
 
 TEST_F(OpeningTest, ACopyOfAFileIsSoundOrNotMade) {
@@ -145,39 +141,38 @@ TEST_F(OpeningTest, ACopyOfAFileIsSoundOrNotMade) {
         const Action fast;
         makeStore();
     }
-    const QString copy = path(QStringLiteral("Copy.MDB"));
+    const QString copy = path("Copy.MDB");
     DBEngine::CopyDatabase(path(), copy);
     const QByteArray sound = bytesOf(copy);
     EXPECT_EQ(sound, bytesOf(path()));
 
     // A desk whose power fails in the middle of a long write.
-    const QString journal = QStringLiteral("-journal");
+    const QString journal = "-journal";
     {
-        const Connection desk = OpenStoreFile(path(), QStringLiteral("secret1"));
+        const Connection desk = OpenStoreFile(path(), "secret1");
         akarix::Run(desk.get(), "PRAGMA cache_size=5");
         akarix::Run(desk.get(), "BEGIN IMMEDIATE");
         akarix::Run(desk.get(), "UPDATE Goods SET Kana='half'");
-        ASSERT_TRUE(QFile::copy(path(), path(QStringLiteral("Died"))));
-        ASSERT_TRUE(QFile::copy(path() + journal, path(QStringLiteral("Died")) + journal));
+        ASSERT_TRUE(QFile::copy(path(), path("Died")));
+        ASSERT_TRUE(QFile::copy(path() + journal, path("Died") + journal));
     }
     ASSERT_TRUE(QFile::remove(path()));
-    ASSERT_TRUE(QFile::rename(path(QStringLiteral("Died")), path()));
-    ASSERT_TRUE(QFile::rename(path(QStringLiteral("Died")) + journal, path() + journal));
+    ASSERT_TRUE(QFile::rename(path("Died"), path()));
+    ASSERT_TRUE(QFile::rename(path("Died") + journal, path() + journal));
     ASSERT_NE(bytesOf(path()), sound);
     DBEngine::CopyDatabase(path(), copy);
     ASSERT_TRUE(QFile::remove(path()));
     ASSERT_TRUE(QFile::copy(copy, path()));
     Database& restored = open();
-    EXPECT_EQ(count(restored, QStringLiteral("Goods")), 2000);
-    EXPECT_EQ(count(restored, QStringLiteral("Goods WHERE Kana='half'")), 0);
+    EXPECT_EQ(count(restored, "Goods"), 2000);
+    EXPECT_EQ(count(restored, "Goods WHERE Kana='half'"), 0);
     restored.Close();
 
     QByteArray damaged = sound;
     damaged.remove(10 * kPageSize, kPageSize);
     write(path(), damaged);
     EXPECT_EQ(ErrorOf([&] { DBEngine::CopyDatabase(path(), copy); }), 3343);
-    EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files),
-              (QStringList{QStringLiteral("Copy.MDB"), QStringLiteral("Store.MDB")}));
+    EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files), (QStringList{"Copy.MDB", "Store.MDB"}));
     write(path(), bytesOf(copy));
     EXPECT_EQ(openError(), 0) << "the older copy stands";
 }
@@ -188,8 +183,8 @@ TEST_F(OpeningTest, ExclusiveAndReadOnly) {
     made.Close();
     Workspace& workspace = DBEngine::Workspaces(0);
     Database& reader = *workspace.OpenDatabase(path(), false, true, Connect());
-    EXPECT_EQ(ErrorOf([&] { MakeTable(reader, GoodsTable(QStringLiteral("Further"))); }), 3027);
-    EXPECT_EQ(count(reader, QStringLiteral("Goods")), 0);
+    EXPECT_EQ(ErrorOf([&] { MakeTable(reader, GoodsTable("Further")); }), 3027);
+    EXPECT_EQ(count(reader, "Goods"), 0);
     reader.Close();
     workspace.OpenDatabase(path(), true, false, Connect());
     EXPECT_EQ(ErrorOf([&] { DBEngine::RepairDatabase(path()); }), 3045) << "somebody works with the file";

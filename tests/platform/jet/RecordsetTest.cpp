@@ -11,13 +11,13 @@ class RecordsetTest : public StoreTest {
         MakeTable(*database_, GoodsTable());
         const Action filling;
         for (int code = 1; code <= 3; ++code) {
-            database_->Execute(QStringLiteral("INSERT INTO Goods(Code,Kana) VALUES(%1,'ｱ%1')").arg(code));
+            database_->Execute(QString("INSERT INTO Goods(Code,Kana) VALUES(%1,'ｱ%1')").arg(code));
         }
     }
     Recordset rows(const QString& condition = QString()) {
-        return database_->OpenRecordset(QStringLiteral("SELECT * FROM Goods") + condition);
+        return database_->OpenRecordset("SELECT * FROM Goods" + condition);
     }
-    static int code(const Recordset& set) { return set[QStringLiteral("code")].As<std::int32_t>(); }
+    static int code(const Recordset& set) { return set["code"].As<std::int32_t>(); }
 
     Database* database_ = nullptr;
 };
@@ -32,7 +32,7 @@ TEST_F(RecordsetTest, MovesAndCounts) {
     EXPECT_EQ(code(set), 3);
     set.MoveNext();
     EXPECT_TRUE(set.Eof());
-    EXPECT_EQ(ErrorOf([&] { set[QStringLiteral("Code")]; }), 3021);
+    EXPECT_EQ(ErrorOf([&] { set["Code"]; }), 3021);
     EXPECT_EQ(ErrorOf([&] { set.MoveNext(); }), 3021);
     set.MovePrevious();
     EXPECT_EQ(code(set), 3);
@@ -40,30 +40,30 @@ TEST_F(RecordsetTest, MovesAndCounts) {
     set.MovePrevious();
     EXPECT_TRUE(set.Bof());
     EXPECT_EQ(ErrorOf([&] { set.MovePrevious(); }), 3021);
-    EXPECT_EQ(ErrorOf([&] { set.Fields(QStringLiteral("Nix")); }), 3265);
+    EXPECT_EQ(ErrorOf([&] { set.Fields("Nix"); }), 3265);
     EXPECT_EQ(ErrorOf([&] { set.Fields(6); }), 3265);
 }
 
 TEST_F(RecordsetTest, AnEmptySetHasNoRow) {
-    Recordset set = rows(QStringLiteral(" WHERE Code=99"));
+    Recordset set = rows(" WHERE Code=99");
     EXPECT_TRUE(set.Eof() && set.Bof());
     EXPECT_EQ(set.RecordCount(), 0);
     const std::function<void()> steps[] = {[&] { set.MoveFirst(); }, [&] { set.MoveLast(); },
                                            [&] { set.MoveNext(); },  [&] { set.MovePrevious(); },
-                                           [&] { set.Edit(); },      [&] { set[QStringLiteral("Code")]; }};
+                                           [&] { set.Edit(); },      [&] { set["Code"]; }};
     for (const auto& step : steps) {
         EXPECT_EQ(ErrorOf(step), 3021);
     }
-    set.FindFirst(QStringLiteral("Code=1"));
+    set.FindFirst("Code=1");
     EXPECT_TRUE(set.NoMatch());
 }
 
 TEST_F(RecordsetTest, FindsAndStaysWhereNothingIsFound) {
     Recordset set = rows();
-    set.FindFirst(QStringLiteral("Code=2"));
+    set.FindFirst("Code=2");
     EXPECT_FALSE(set.NoMatch());
     EXPECT_EQ(code(set), 2);
-    set.FindFirst(QStringLiteral("Code=9"));
+    set.FindFirst("Code=9");
     EXPECT_TRUE(set.NoMatch());
     EXPECT_EQ(code(set), 2);
 }
@@ -71,22 +71,22 @@ TEST_F(RecordsetTest, FindsAndStaysWhereNothingIsFound) {
 TEST_F(RecordsetTest, KeepsItsRowsWhateverHappensBehind) {
     Recordset set = rows();
     EXPECT_EQ(set.RecordCount(), 1);
-    database_->Execute(QStringLiteral("DELETE * FROM Goods"));
+    database_->Execute("DELETE * FROM Goods");
     set.MoveLast();
     EXPECT_EQ(set.RecordCount(), 3);
     set.Edit();
-    set.Fields(QStringLiteral("Rte")) = std::int16_t{1};
+    set.Fields("Rte") = std::int16_t{1};
     EXPECT_EQ(ErrorOf([&] { set.Update(); }), 3167);
 }
 
 TEST_F(RecordsetTest, AddsBehindTheRowsAndKeepsItsPlace) {
-    Recordset set = rows(QStringLiteral(" WHERE Code>1"));
+    Recordset set = rows(" WHERE Code>1");
     EXPECT_EQ(code(set), 2);
     set.AddNew();
-    EXPECT_TRUE(set[QStringLiteral("Kana")].IsNull());
-    EXPECT_EQ(set[QStringLiteral("Flg")], Variant(std::int16_t{0}));
-    set.Fields(QStringLiteral("Code")) = std::int32_t{9};
-    set.Fields(QStringLiteral("Kana")) = u"ｶ";
+    EXPECT_TRUE(set["Kana"].IsNull());
+    EXPECT_EQ(set["Flg"], Variant(std::int16_t{0}));
+    set.Fields("Code") = std::int32_t{9};
+    set.Fields("Kana") = u"ｶ";
     EXPECT_EQ(code(set), 9);
     set.Update();
     EXPECT_EQ(code(set), 2);
@@ -94,19 +94,19 @@ TEST_F(RecordsetTest, AddsBehindTheRowsAndKeepsItsPlace) {
     EXPECT_EQ(code(set), 9);
     EXPECT_EQ(set.RecordCount(), 3);
 
-    Recordset unread = rows(QStringLiteral(" WHERE Code>1"));
+    Recordset unread = rows(" WHERE Code>1");
     unread.AddNew();
-    unread.Fields(QStringLiteral("Code")) = std::int32_t{0};
+    unread.Fields("Code") = std::int32_t{0};
     unread.Update();
     EXPECT_EQ(code(unread), 2);
     unread.MoveLast();
     EXPECT_EQ(code(unread), 0) << "it belongs to the set, whatever the condition";
     EXPECT_EQ(unread.RecordCount(), 4);
 
-    Recordset empty = rows(QStringLiteral(" WHERE Code=99"));
+    Recordset empty = rows(" WHERE Code=99");
     EXPECT_TRUE(empty.Eof());
     empty.AddNew();
-    empty.Fields(QStringLiteral("Code")) = std::int32_t{100};
+    empty.Fields("Code") = std::int32_t{100};
     empty.Update();
     EXPECT_TRUE(empty.Eof());
     empty.MoveFirst();
@@ -117,22 +117,22 @@ TEST_F(RecordsetTest, EditsThePresentRow) {
     Recordset set = rows();
     set.MoveNext();
     set.Edit();
-    set.Fields(QStringLiteral("Tanka")) = Currency::FromText(QStringLiteral("12.5"));
-    set.Fields(QStringLiteral("Hizuke")) = Date(36526);
-    EXPECT_EQ(set[QStringLiteral("Tanka")], Variant(Currency::FromText(QStringLiteral("12.5"))));
+    set.Fields("Tanka") = Currency::FromText("12.5");
+    set.Fields("Hizuke") = Date(36526);
+    EXPECT_EQ(set["Tanka"], Variant(Currency::FromText("12.5")));
     set.CancelUpdate();
-    EXPECT_TRUE(set[QStringLiteral("Tanka")].IsNull());
+    EXPECT_TRUE(set["Tanka"].IsNull());
     set.Edit();
-    set.Fields(QStringLiteral("Tanka")) = std::int32_t{7};
+    set.Fields("Tanka") = std::int32_t{7};
     set.MoveNext();
     EXPECT_EQ(ErrorOf([&] { set.Update(); }), 3020) << "moving gives an edit up";
     set.MovePrevious();
-    EXPECT_TRUE(set[QStringLiteral("Tanka")].IsNull());
+    EXPECT_TRUE(set["Tanka"].IsNull());
     set.Edit();
-    set.Fields(QStringLiteral("Hizuke")) = u"2000/1/1";
+    set.Fields("Hizuke") = u"2000/1/1";
     set.Update();
-    EXPECT_EQ(set[QStringLiteral("Hizuke")], Variant(Date(36526)));
-    EXPECT_EQ(rows(QStringLiteral(" WHERE Code=2"))[QStringLiteral("Hizuke")], Variant(Date(36526)));
+    EXPECT_EQ(set["Hizuke"], Variant(Date(36526)));
+    EXPECT_EQ(rows(" WHERE Code=2")["Hizuke"], Variant(Date(36526)));
 }
 
 TEST_F(RecordsetTest, RefusesByNumber) {
@@ -173,7 +173,7 @@ TEST_F(RecordsetTest, RefusesByNumber) {
         EXPECT_EQ(put(value.column, value.value), value.error);
     }
     EXPECT_EQ(code(set), 2) << "half to even; a refused value changes nothing";
-    EXPECT_EQ(set[QStringLiteral("Kana")], Variant(u"123"));
+    EXPECT_EQ(set["Kana"], Variant(u"123"));
     EXPECT_EQ(ErrorOf([&] { set.Update(); }), 3022);
     EXPECT_EQ(put(u"Code", std::int32_t{5}), 0) << "a broken key can be mended";
     set.Update();
@@ -185,23 +185,23 @@ TEST_F(RecordsetTest, RefusesByNumber) {
     set.CancelUpdate();
     EXPECT_EQ(code(set), 1);
 
-    Recordset sums = database_->OpenRecordset(QStringLiteral("SELECT COUNT(Code) AS Kensu FROM Goods"));
+    Recordset sums = database_->OpenRecordset("SELECT COUNT(Code) AS Kensu FROM Goods");
     EXPECT_EQ(ErrorOf([&] { sums.AddNew(); }), 3027);
     EXPECT_EQ(ErrorOf([&] { sums.Edit(); }), 3027);
 
     set.Close();
     EXPECT_EQ(ErrorOf([&] { set.Close(); }), 3420);
     EXPECT_EQ(ErrorOf([&] { set.MoveFirst(); }), 3420);
-    EXPECT_EQ(ErrorOf([&] { database_->Execute(QStringLiteral("SELECT * FROM Goods")); }), 3065);
+    EXPECT_EQ(ErrorOf([&] { database_->Execute("SELECT * FROM Goods"); }), 3065);
 }
 
 TEST_F(RecordsetTest, FieldsTellTheirKindAndFollowTheirSet) {
     Recordset first = rows();
-    Field& field = first.Fields(QStringLiteral("KANA"));
+    Field& field = first.Fields("KANA");
     EXPECT_EQ(field.Name(), u"Kana");
     EXPECT_EQ(field.Type(), FieldType::Text);
     EXPECT_EQ(field.Size(), 10);
-    EXPECT_EQ(first.Fields(QStringLiteral("Code")).Size(), 4);
+    EXPECT_EQ(first.Fields("Code").Size(), 4);
     const Recordset moved = std::move(first);
     EXPECT_EQ(field.Value(), Variant(u"ｱ1"));
 }

@@ -17,21 +17,19 @@ using Row = std::vector<StoreValue>;
 using Contents = std::map<std::pair<QString, std::int64_t>, Row>;  // by table and row number
 
 TableDef Table(int number) {
-    TableDef table{
-        QStringLiteral("T%1").arg(number), {}, {{QStringLiteral("Nendo"), QStringLiteral("Deal")}}};
-    table.columns = {{QStringLiteral("Nendo"), FieldType::Integer},
-                     {QStringLiteral("Deal"), FieldType::Long}};
+    TableDef table{QString("T%1").arg(number), {}, {{"Nendo", "Deal"}}};
+    table.columns = {{"Nendo", FieldType::Integer}, {"Deal", FieldType::Long}};
     // Shapes repeat: what tells two tables of one shape apart is not in the rows.
     constexpr FieldType kKinds[] = {FieldType::Text, FieldType::Currency, FieldType::Date,
                                     FieldType::Integer};
     for (int i = 0; i < 2 + number % 10; ++i) {
-        table.columns.push_back({QStringLiteral("C%1").arg(i), kKinds[(i + number) % 4], 40, i == 3});
+        table.columns.push_back({QString("C%1").arg(i), kKinds[(i + number) % 4], 40, i == 3});
     }
     if (number == kTextKey) {
-        table.uniqueKeys = {{QStringLiteral("C0")}};
+        table.uniqueKeys = {{"C0"}};
     }
     if (number == kLongTexts) {
-        table.columns.push_back({QStringLiteral("Memo"), FieldType::Memo});
+        table.columns.push_back({"Memo", FieldType::Memo});
     }
     return table;
 }
@@ -40,7 +38,7 @@ StoreValue ValueFor(const ColumnDef& column, int table, int row) {
     const int seed = table * 100003 + row * 31;
     switch (column.type) {
         case FieldType::Text:
-            return QStringLiteral("名前%1").arg(seed);
+            return QString("名前%1").arg(seed);
         case FieldType::Memo:
             return QString(1400 + row * 10, QChar(u'あ' + row % 60));
         case FieldType::Currency:
@@ -69,7 +67,7 @@ class SalvageTest : public StoreTest {
     }
 
     static void fill(Database& database, int number, int rows) {
-        const TableDef& table = *database.engine().catalogue().find(QStringLiteral("T%1").arg(number));
+        const TableDef& table = *database.engine().catalogue().find(QString("T%1").arg(number));
         std::vector<QString> names;
         for (const ColumnDef& column : table.columns) {
             names.push_back(column.name);
@@ -117,7 +115,7 @@ class SalvageTest : public StoreTest {
                 << place.first.toStdString() << ' ' << place.second;
         }
         database.Close();
-        EXPECT_FALSE(QFile::exists(path() + QStringLiteral(".repair")));
+        EXPECT_FALSE(QFile::exists(path() + ".repair"));
         return static_cast<double>(found.size()) / static_cast<double>(written_.size());
     }
 
@@ -167,8 +165,8 @@ TEST_F(SalvageTest, ManyPagesLost) {
 TEST_F(SalvageTest, DeletedRowsDoNotComeBack) {
     write(path(), sound_);
     Database& database = open();
-    const QString table = QStringLiteral("T6");
-    database.Execute(QStringLiteral("DELETE * FROM T6"));
+    const QString table = "T6";
+    database.Execute("DELETE * FROM T6");
     std::erase_if(written_, [&](const auto& entry) { return entry.first.first == table; });
     database.Close();
     QByteArray bytes = bytesOf(path());
@@ -182,8 +180,8 @@ TEST_F(SalvageTest, RowsOlderThanAColumnGetItsDefault) {
     auto plan = std::make_shared<Plan>();
     plan->kind = Plan::Kind::Definition;
     plan->definition = Plan::Definition::AddColumn;
-    plan->table.name = QStringLiteral("T5");
-    plan->column = {QStringLiteral("Kensin"), FieldType::Integer, 0, true};
+    plan->table.name = "T5";
+    plan->column = {"Kensin", FieldType::Integer, 0, true};
     database.engine().define({plan, {}});
     written_ = contents(database);
     database.Close();
@@ -197,12 +195,11 @@ TEST_F(SalvageTest, TheRepairedFileIsAFullStore) {
     garble(bytes, pages() / 2);
     repaired(bytes);
     Database& database = open();
-    const TableDef& table = *database.engine().catalogue().find(QStringLiteral("T0"));
+    const TableDef& table = *database.engine().catalogue().find("T0");
     EXPECT_EQ(table.uniqueKeys.size(), 1U);
     const Row first = contents(database).begin()->second;
     EXPECT_EQ(ErrorOf([&] {
-                  database.engine().insertRow(table, {QStringLiteral("Nendo"), QStringLiteral("Deal")},
-                                              {first[0], first[1]});
+                  database.engine().insertRow(table, {"Nendo", "Deal"}, {first[0], first[1]});
               }),
               3022);
     MakeTable(database, GoodsTable());
@@ -217,10 +214,10 @@ TEST_F(SalvageTest, WhatCannotBeReadIsLeftAlone) {
         EXPECT_EQ(bytesOf(path()), bytes);
     }
     write(path(), sound_);
-    EXPECT_EQ(ErrorOf([&] { open(QStringLiteral("other")); }), 3031);
+    EXPECT_EQ(ErrorOf([&] { open("other"); }), 3031);
     EXPECT_EQ(ErrorOf([&] { DBEngine::RepairDatabase(path()); }), 3049) << "with the password last given";
     EXPECT_EQ(bytesOf(path()), sound_);
-    EXPECT_EQ(ErrorOf([&] { DBEngine::RepairDatabase(path(QStringLiteral("none"))); }), 3024);
+    EXPECT_EQ(ErrorOf([&] { DBEngine::RepairDatabase(path("none")); }), 3024);
 }
 
 }  // namespace

@@ -11,9 +11,9 @@ namespace akarix {
 namespace {
 
 QString cell(const Variant& value) {
-    if (value.IsNull()) return QStringLiteral("NULL");
+    if (value.IsNull()) return "NULL";
     const QString text = CStr(value);
-    return text.isEmpty() ? QStringLiteral("EMPTY") : text;
+    return text.isEmpty() ? "EMPTY" : text;
 }
 
 QStringList rowsOf(Recordset& rows, const SqlCase& test) {
@@ -23,7 +23,7 @@ QStringList rowsOf(Recordset& rows, const SqlCase& test) {
         for (int i = 0; i < rows.FieldCount(); ++i)
             names.append(rows.Fields(i).Name());
         const QString found = names.join(u'|');
-        if (found != test.columns) lines.append(QStringLiteral(": ") + found);
+        if (found != test.columns) lines.append(": " + found);
     }
     for (; !rows.Eof(); rows.MoveNext()) {
         QStringList cells;
@@ -31,7 +31,7 @@ QStringList rowsOf(Recordset& rows, const SqlCase& test) {
             cells.append(cell(rows.Fields(i).Value()));
         lines.append(cells.join(u'|'));
     }
-    if (lines.isEmpty()) lines.append(QStringLiteral("none"));
+    if (lines.isEmpty()) lines.append("none");
     return lines;
 }
 
@@ -40,11 +40,11 @@ QStringList outcome(Database& database, const SqlCase& test) {
     if (start.startsWith(u"SELECT", Qt::CaseInsensitive) || start.startsWith(u'(')) {
         Recordset rows = database.OpenRecordset(test.statement);
         const QStringList lines = rowsOf(rows, test);
-        return test.expected == QStringList{QStringLiteral("runs")} ? test.expected : lines;
+        return test.expected == QStringList{"runs"} ? test.expected : lines;
     }
     database.Execute(test.statement);
     const bool counted = test.expected.value(0).startsWith(u"changed");
-    return {counted ? QStringLiteral("changed %1").arg(database.RecordsAffected()) : QStringLiteral("ok")};
+    return {counted ? QString("changed %1").arg(database.RecordsAffected()) : "ok"};
 }
 
 }  // namespace
@@ -76,7 +76,7 @@ QStringList runSqlCase(Database& database, const SqlCase& test) {
     try {
         return outcome(database, test);
     } catch (const RuntimeError& error) {
-        const QString number = QStringLiteral("error %1").arg(error.number());
+        const QString number = QString("error %1").arg(error.number());
         if (test.expected == QStringList{number}) return test.expected;
         return {number, error.description()};
     }

@@ -15,7 +15,7 @@ class SqlScripts : public testing::TestWithParam<std::string> {};
 std::vector<std::string> scriptNames() {
     std::vector<std::string> names;
     const QDir folder(QStringLiteral(AKARIX_TEST_DATA));
-    for (const QString& file : folder.entryList({QStringLiteral("*.sqltest")}, QDir::Files, QDir::Name)) {
+    for (const QString& file : folder.entryList({"*.sqltest"}, QDir::Files, QDir::Name)) {
         names.push_back(file.chopped(8).toStdString());
     }
     return names;
@@ -23,10 +23,9 @@ std::vector<std::string> scriptNames() {
 
 TEST_P(SqlScripts, GiveWhatTheyExpect) {
     const QTemporaryDir folder;
-    Database& database = *DBEngine::Workspaces(0).CreateDatabase(folder.filePath(QStringLiteral("Test.MDB")),
-                                                                 QStringLiteral("MS Access;PWD=dialect"));
-    const QString path =
-        QStringLiteral(AKARIX_TEST_DATA "/%1.sqltest").arg(QString::fromStdString(GetParam()));
+    Database& database =
+        *DBEngine::Workspaces(0).CreateDatabase(folder.filePath("Test.MDB"), "MS Access;PWD=dialect");
+    const QString path = QString(AKARIX_TEST_DATA "/%1.sqltest").arg(QString::fromStdString(GetParam()));
     const std::vector<SqlCase> cases = readSqlScript(path);
     ASSERT_FALSE(cases.empty());
     for (const SqlCase& test : cases) {

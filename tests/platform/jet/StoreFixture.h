@@ -13,8 +13,8 @@
 
 namespace akarix {
 
-inline QString Connect(const QString& password = QStringLiteral("secret1")) {
-    return QStringLiteral("MS Access;PWD=") + password;
+inline QString Connect(const QString& password = "secret1") {
+    return "MS Access;PWD=" + password;
 }
 
 inline int ErrorOf(const std::function<void()>& step) {
@@ -39,17 +39,17 @@ class StoreTest : public ::testing::Test {
  protected:
     void TearDown() override { DBEngine::Workspaces(0).Close(); }
 
-    QString path(const QString& name = QStringLiteral("Store.MDB")) const { return folder_.filePath(name); }
+    QString path(const QString& name = "Store.MDB") const { return folder_.filePath(name); }
 
-    Database& create(const QString& name = QStringLiteral("Store.MDB")) {
+    Database& create(const QString& name = "Store.MDB") {
         return *DBEngine::Workspaces(0).CreateDatabase(path(name), Connect());
     }
-    Database& open(const QString& password = QStringLiteral("secret1")) {
+    Database& open(const QString& password = "secret1") {
         return *DBEngine::Workspaces(0).OpenDatabase(path(), false, false, Connect(password));
     }
 
     static int count(Database& database, const QString& table) {
-        Recordset rows = database.OpenRecordset(QStringLiteral("SELECT * FROM ") + table);
+        Recordset rows = database.OpenRecordset("SELECT * FROM " + table);
         if (rows.Eof()) {
             return 0;
         }
@@ -73,15 +73,15 @@ class StoreTest : public ::testing::Test {
 };
 
 /// Goods: a key, a text, money, a flag that defaults to 0.
-inline TableDef GoodsTable(const QString& name = QStringLiteral("Goods")) {
+inline TableDef GoodsTable(const QString& name = "Goods") {
     return {name,
-            {{QStringLiteral("Code"), FieldType::Long},
-             {QStringLiteral("Kana"), FieldType::Text, 10},
-             {QStringLiteral("Tanka"), FieldType::Currency},
-             {QStringLiteral("Rte"), FieldType::Integer},
-             {QStringLiteral("Hizuke"), FieldType::Date},
-             {QStringLiteral("Flg"), FieldType::Integer, 0, true}},
-            {{QStringLiteral("Code")}}};
+            {{"Code", FieldType::Long},
+             {"Kana", FieldType::Text, 10},
+             {"Tanka", FieldType::Currency},
+             {"Rte", FieldType::Integer},
+             {"Hizuke", FieldType::Date},
+             {"Flg", FieldType::Integer, 0, true}},
+            {{"Code"}}};
 }
 
 }  // namespace akarix

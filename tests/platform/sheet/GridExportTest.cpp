@@ -19,22 +19,19 @@ class GridExport : public testing::Test {
                const std::vector<int>& alignments) {
         const GridSource source{static_cast<int>(rows.size()), widths, alignments,
                                 [&rows](int r, int c) { return rows[static_cast<size_t>(r)][c]; }};
-        return WriteGridWorkbook(path_, QStringLiteral("請求一覧"), QStringLiteral("2011/3分"),
-                                 QStringLiteral("作成日 : 2011/03/25"), source);
+        return WriteGridWorkbook(path_, "請求一覧", "2011/3分", "作成日 : 2011/03/25", source);
     }
-    Sheet read() const { return ReadSheet(path_, QStringLiteral("Sheet1")); }
+    Sheet read() const { return ReadSheet(path_, "Sheet1"); }
 
     QTemporaryDir folder_;
-    QString path_ = folder_.filePath(QStringLiteral("一覧.xlsx"));
+    QString path_ = folder_.filePath("一覧.xlsx");
 };
 
 TEST_F(GridExport, WhatStandsWhere) {
-    ASSERT_TRUE(write(
-        {{QStringLiteral("ｺｰﾄﾞ"), QStringLiteral("id"), QStringLiteral("得意先"), QStringLiteral("請求額")},
-         {QStringLiteral("00012"), QStringLiteral("9"), QStringLiteral("ガス & <器具>"),
-          QStringLiteral("1,234")},
-         {QStringLiteral("00013"), QStringLiteral("9"), QString(), QStringLiteral("未")}},
-        {900, 10, 2400, 1200}, {centered, right, left, right}));
+    ASSERT_TRUE(write({{"ｺｰﾄﾞ", "id", "得意先", "請求額"},
+                       {"00012", "9", "ガス & <器具>", "1,234"},
+                       {"00013", "9", QString(), "未"}},
+                      {900, 10, 2400, 1200}, {centered, right, left, right}));
     const Sheet sheet = read();
     struct {
         CellAddress at;
@@ -54,7 +51,7 @@ TEST_F(GridExport, WhatStandsWhere) {
         EXPECT_EQ(sheet.shownText(row.at).toStdString(), row.text);
     EXPECT_EQ(sheet.extent(), (CellAddress{8, 4}));
     EXPECT_EQ(sheet.styleAt({2, 1}).font.size, 18);
-    EXPECT_EQ(sheet.styleAt({7, 1}).numberFormat, QStringLiteral("@"));
+    EXPECT_EQ(sheet.styleAt({7, 1}).numberFormat, "@");
     EXPECT_EQ(sheet.styleAt({7, 1}).horizontal, HorizontalAlign::Center);
     EXPECT_EQ(sheet.cells.at({7, 3}).number, 1234);
     for (const CellAddress at : {CellAddress{6, 1}, {8, 2}, {8, 3}}) {
@@ -70,7 +67,7 @@ TEST_F(GridExport, RightAlignedNumbersLookAsOnTheScreen) {
     const char* const numbers[] = {"0",       "-1,234,567", "1234567", "12.50",
                                    "1,234.5", "007",        "-3",      "99999999999"};
     const char* const texts[] = {"", "12%", "2011/03/25", "3-1", "12345678901234567890"};
-    std::vector<QStringList> rows{{QStringLiteral("数")}};
+    std::vector<QStringList> rows{{"数"}};
     for (const char* text : numbers)
         rows.push_back({QString::fromLatin1(text)});
     for (const char* text : texts)
@@ -83,22 +80,22 @@ TEST_F(GridExport, RightAlignedNumbersLookAsOnTheScreen) {
         EXPECT_EQ(sheet.cells.at(at).number.has_value(), i <= std::size(numbers)) << rows[i][0].toStdString();
     }
     EXPECT_EQ(sheet.shownText({2, 1}), QString());  // one column: no middle, no title
-    EXPECT_EQ(sheet.shownText({4, 1}), QStringLiteral("2011/3分"));
+    EXPECT_EQ(sheet.shownText({4, 1}), "2011/3分");
 }
 
 TEST_F(GridExport, WhatCannotBeWrittenLeavesNothing) {
     const QString file = path_;
-    path_ = folder_.filePath(QStringLiteral("無い/一覧.xlsx"));
-    EXPECT_FALSE(write({{QStringLiteral("a")}}, {900}, {left}));
-    path_ = folder_.filePath(QStringLiteral("ここ"));
-    ASSERT_TRUE(QDir().mkpath(path_ + QStringLiteral("/x")));
-    EXPECT_FALSE(write({{QStringLiteral("a")}}, {900}, {left}));
+    path_ = folder_.filePath("無い/一覧.xlsx");
+    EXPECT_FALSE(write({{"a"}}, {900}, {left}));
+    path_ = folder_.filePath("ここ");
+    ASSERT_TRUE(QDir().mkpath(path_ + "/x"));
+    EXPECT_FALSE(write({{"a"}}, {900}, {left}));
     EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList());
     path_ = file;
-    EXPECT_TRUE(write({{QStringLiteral("a")}}, {900}, {left}));
-    EXPECT_TRUE(write({{QStringLiteral("b")}}, {900}, {left}));
-    EXPECT_EQ(read().shownText({6, 1}), QStringLiteral("b"));
-    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{QStringLiteral("一覧.xlsx")});
+    EXPECT_TRUE(write({{"a"}}, {900}, {left}));
+    EXPECT_TRUE(write({{"b"}}, {900}, {left}));
+    EXPECT_EQ(read().shownText({6, 1}), "b");
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{"一覧.xlsx"});
 }
 
 }  // namespace

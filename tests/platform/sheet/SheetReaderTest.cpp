@@ -18,7 +18,7 @@ using Parts = std::vector<std::pair<std::string, std::string>>;
 
 class SheetReader : public testing::Test {
  protected:
-    QString path() const { return folder_.filePath(QStringLiteral("帳票.xlsx")); }
+    QString path() const { return folder_.filePath("帳票.xlsx"); }
     Sheet read(const char* name = "Sheet1") const { return ReadSheet(path(), QString::fromUtf8(name)); }
     QString failure(const char* name = "Sheet1") const {
         try {
@@ -27,7 +27,7 @@ class SheetReader : public testing::Test {
             EXPECT_EQ(error.number(), 1004);
             return error.description();
         }
-        return QStringLiteral("nothing raised");
+        return "nothing raised";
     }
 
     void put(const QByteArray& bytes) const {
@@ -120,9 +120,9 @@ TEST_F(SheetReader, StylesMergesAndPage) {
     }
     const Sheet sheet = read("sheet1");
     EXPECT_EQ(sheet.merges, (std::vector<CellRange>{{{2, 2}, {3, 4}}}));
-    EXPECT_EQ(sheet.shownText({2, 2}), QStringLiteral("請求書"));
+    EXPECT_EQ(sheet.shownText({2, 2}), "請求書");
     const CellStyle& style = sheet.styleAt({2, 2});
-    EXPECT_EQ(style.font.name, QStringLiteral("ＭＳ 明朝"));
+    EXPECT_EQ(style.font.name, "ＭＳ 明朝");
     EXPECT_EQ(style.font.size, 18);
     EXPECT_TRUE(style.font.bold && style.font.underline && !style.font.italic && !style.wrap &&
                 !style.shrink);
@@ -133,14 +133,14 @@ TEST_F(SheetReader, StylesMergesAndPage) {
     EXPECT_EQ(style.horizontal, HorizontalAlign::Distributed);
     EXPECT_EQ(style.vertical, VerticalAlign::Center);
     EXPECT_EQ(style.rotation, 255);
-    EXPECT_EQ(style.numberFormat, QStringLiteral("[$-411]ggge\"年\""));
-    EXPECT_EQ(sheet.styleAt({50, 50}).font.name, QStringLiteral("ＭＳ Ｐゴシック"));
+    EXPECT_EQ(style.numberFormat, "[$-411]ggge\"年\"");
+    EXPECT_EQ(sheet.styleAt({50, 50}).font.name, "ＭＳ Ｐゴシック");
 
-    EXPECT_EQ(sheet.shownText({5, 1}), QStringLiteral("-1,234"));
+    EXPECT_EQ(sheet.shownText({5, 1}), "-1,234");
     EXPECT_TRUE(sheet.styleAt({5, 1}).shrink);
     EXPECT_EQ(sheet.styleAt({5, 1}).indent, 2);
-    EXPECT_EQ(sheet.shownText({6, 1}), QStringLiteral("-2468"));
-    EXPECT_EQ(sheet.shownText({7, 1}), QStringLiteral("TRUE"));
+    EXPECT_EQ(sheet.shownText({6, 1}), "-2468");
+    EXPECT_EQ(sheet.shownText({7, 1}), "TRUE");
     EXPECT_EQ(sheet.rowHeight(10), 30);
     EXPECT_TRUE(sheet.rowHidden(11));
     EXPECT_EQ(sheet.columnWidth(1), 90);
@@ -159,9 +159,9 @@ TEST_F(SheetReader, StylesMergesAndPage) {
     EXPECT_EQ(page.titleFirstRow, 7);
     EXPECT_EQ(page.titleLastRow, 8);
     EXPECT_EQ(page.rowBreaks, (std::vector<int>{20, 40}));
-    EXPECT_EQ(page.headerText, QStringLiteral("&L&D&R&P/&N"));
+    EXPECT_EQ(page.headerText, "&L&D&R&P/&N");
     ASSERT_EQ(sheet.warnings.size(), 1);
-    EXPECT_TRUE(sheet.warnings[0].contains(QStringLiteral("数式")));
+    EXPECT_TRUE(sheet.warnings[0].contains("数式"));
 }
 
 TEST_F(SheetReader, StringsOfEveryKind) {
@@ -193,7 +193,7 @@ TEST_F(SheetReader, TargetsAndNamesAsOtherProgramsWriteThem) {
             "<definedName name='_xlnm.Print_Area' localSheetId='1'>Sheet2!$A$1</definedName>",
             target));
         const Sheet sheet = read();
-        EXPECT_EQ(sheet.shownText({1, 1}), QStringLiteral("5")) << target;
+        EXPECT_EQ(sheet.shownText({1, 1}), "5") << target;
         EXPECT_EQ(sheet.page.printArea, (CellRange{{1, 1}, {9, 11}}));
         EXPECT_EQ(sheet.page.titleFirstRow, 7);
         EXPECT_EQ(sheet.page.titleLastRow, 8);
@@ -224,28 +224,28 @@ TEST_F(SheetReader, ThemeIndexedAndTintedColors) {
     zip(parts);
     const Sheet sheet = read();
     EXPECT_EQ(sheet.styleAt({1, 1}).font.color, QColor(0x11, 0x22, 0x33));
-    EXPECT_EQ(sheet.styleAt({1, 1}).fill.name(), QStringLiteral("#808080"));
-    EXPECT_EQ(sheet.styleAt({1, 1}).numberFormat, QStringLiteral("[$-411]ggge\"年\"m\"月\"d\"日\""));
+    EXPECT_EQ(sheet.styleAt({1, 1}).fill.name(), "#808080");
+    EXPECT_EQ(sheet.styleAt({1, 1}).numberFormat, "[$-411]ggge\"年\"m\"月\"d\"日\"");
     EXPECT_EQ(sheet.styleAt({1, 2}).fill, QColor(Qt::red));
     EXPECT_EQ(sheet.styleAt({1, 2}).rotation, -45);
-    EXPECT_EQ(sheet.styleAt({1, 3}).fill.name(), QStringLiteral("#808080"));
+    EXPECT_EQ(sheet.styleAt({1, 3}).fill.name(), "#808080");
     EXPECT_FALSE(sheet.styleAt({1, 4}).fill.isValid());
 }
 
 TEST_F(SheetReader, NoWorkbook) {
     QFile::remove(path());
-    EXPECT_TRUE(failure().contains(QStringLiteral("見つからない")));
+    EXPECT_TRUE(failure().contains("見つからない"));
     for (const QByteArray& junk :
          {QByteArray(), QByteArray("PK\3\4"), QByteArray("\xD0\xCF\x11\xE0 old"), QByteArray(70000, 'x')}) {
         put(junk);
-        EXPECT_TRUE(failure().contains(QStringLiteral("形式"))) << junk.left(10).toStdString();
+        EXPECT_TRUE(failure().contains("形式")) << junk.left(10).toStdString();
     }
     zip({{"readme.txt", "a zip, but no workbook"}});
-    EXPECT_TRUE(failure().contains(QStringLiteral("形式")));
+    EXPECT_TRUE(failure().contains("形式"));
     zip(handMade(""));
-    EXPECT_TRUE(failure("Sheet2").contains(QStringLiteral("シート 'Sheet2' がありません")));
+    EXPECT_TRUE(failure("Sheet2").contains("シート 'Sheet2' がありません"));
     zip(handMade("", {}, {}, "worksheets/gone.xml"));
-    EXPECT_TRUE(failure().contains(QStringLiteral("シート 'Sheet1' がありません")));
+    EXPECT_TRUE(failure().contains("シート 'Sheet1' がありません"));
 }
 
 TEST_F(SheetReader, HostileParts) {
@@ -255,7 +255,7 @@ TEST_F(SheetReader, HostileParts) {
         "<mergeCells><mergeCell ref='A1:B'/></mergeCells>", "<sheetData><row>"};
     for (const char* part : refused) {
         zip(handMade(part));
-        EXPECT_NE(failure(), QStringLiteral("nothing raised")) << part;
+        EXPECT_NE(failure(), "nothing raised") << part;
     }
     zip(handMade(
         "<cols><col min='-5' max='2000000000' width='1e99' style='-3'/><col min='1' max='99999' "
@@ -285,7 +285,7 @@ TEST_F(SheetReader, HostileParts) {
     read();
     parts[3].second = std::string(200'000'000, ' ');
     zip(parts);
-    EXPECT_TRUE(failure().contains(QStringLiteral("大きすぎます")));
+    EXPECT_TRUE(failure().contains("大きすぎます"));
     std::string deep;
     for (int i = 0; i < 300'000; ++i)
         deep += "<a>";
@@ -296,7 +296,7 @@ TEST_F(SheetReader, HostileParts) {
 
 // A file that went wrong on its way is refused or read, but never takes the program down.
 TEST_F(SheetReader, DamagedFiles) {
-    ASSERT_TRUE(QFile::copy(QStringLiteral(AKARIX_SOURCE_DIR "/Prt/請求一覧表.xlsx"), path()));
+    ASSERT_TRUE(QFile::copy(AKARIX_SOURCE_DIR "/Prt/請求一覧表.xlsx", path()));
     const QByteArray whole = bytes();
     std::mt19937 random(20110325);
     const auto below = [&random](qsizetype bound) {

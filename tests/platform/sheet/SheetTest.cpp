@@ -8,9 +8,9 @@ namespace akarix {
 namespace {
 
 TEST(Sheet, Addresses) {
-    EXPECT_EQ(ParseRange(QStringLiteral("b5")), (CellRange{{5, 2}, {5, 2}}));
-    EXPECT_EQ(ParseRange(QStringLiteral("$K$61:B5")), (CellRange{{5, 2}, {61, 11}}));
-    EXPECT_EQ(ParseRange(QStringLiteral("XFD1048576")).first, (CellAddress{1048576, 16384}));
+    EXPECT_EQ(ParseRange("b5"), (CellRange{{5, 2}, {5, 2}}));
+    EXPECT_EQ(ParseRange("$K$61:B5"), (CellRange{{5, 2}, {61, 11}}));
+    EXPECT_EQ(ParseRange("XFD1048576").first, (CellAddress{1048576, 16384}));
     for (const char* bad :
          {"", "5", "B", "B0", "B-1", "5B", "A1:", ":A1", "XFE1", "A1048577", "A99999999999", "A1:B2:C3"}) {
         EXPECT_THROW(ParseRange(QString::fromLatin1(bad)), RuntimeError) << bad;
@@ -20,9 +20,9 @@ TEST(Sheet, Addresses) {
 TEST(Sheet, TypedValues) {
     Sheet sheet;
     CellStyle money, text, date;
-    money.numberFormat = QStringLiteral("#,##0");
-    text.numberFormat = QStringLiteral("@");
-    date.numberFormat = QStringLiteral("ggge\"年\"m\"月\"d\"日\"");
+    money.numberFormat = "#,##0";
+    text.numberFormat = "@";
+    date.numberFormat = "ggge\"年\"m\"月\"d\"日\"";
     sheet.styles = {CellStyle(), money, text, date};
     for (int column = 2; column <= 4; ++column)
         sheet.columnStyles[column] = column - 1;
@@ -44,7 +44,7 @@ TEST(Sheet, TypedValues) {
         {"=A1", "=A1", "=A1", "=A1", "=A1"},
     };
     for (const auto& row : table) {
-        sheet.setValue(QStringLiteral("A1:D1"), QString::fromUtf8(row.typed));
+        sheet.setValue("A1:D1", QString::fromUtf8(row.typed));
         EXPECT_EQ(sheet.shownText({1, 1}).toStdString(), row.general) << row.typed;
         EXPECT_EQ(sheet.shownText({1, 2}).toStdString(), row.money) << row.typed;
         EXPECT_EQ(sheet.shownText({1, 3}).toStdString(), row.text) << row.typed;
@@ -57,31 +57,31 @@ TEST(Sheet, BlankingABlockKeepsStylesAndNeighbours) {
     sheet.styles.resize(2);
     sheet.styles[1].top.style = BorderStyle::Thin;
     sheet.cells[{5, 2}].style = 1;
-    sheet.setValue(QStringLiteral("A4:L62"), QStringLiteral("x"));
-    sheet.setValue(QStringLiteral("B5:K61"), QString());
+    sheet.setValue("A4:L62", "x");
+    sheet.setValue("B5:K61", QString());
     EXPECT_EQ(sheet.shownText({5, 2}), QString());
     EXPECT_EQ(sheet.styleAt({5, 2}).top.style, BorderStyle::Thin);
     for (const CellAddress at : {CellAddress{4, 2}, {62, 2}, {30, 1}, {30, 12}})
-        EXPECT_EQ(sheet.shownText(at), QStringLiteral("x"));
-    sheet.setValue(QStringLiteral("A1:XFD1048576"), QString());
+        EXPECT_EQ(sheet.shownText(at), "x");
+    sheet.setValue("A1:XFD1048576", QString());
     EXPECT_EQ(sheet.extent(), (CellAddress{5, 2}));
-    EXPECT_THROW(sheet.setValue(QStringLiteral("A1:XFD1048576"), QStringLiteral("x")), RuntimeError);
+    EXPECT_THROW(sheet.setValue("A1:XFD1048576", "x"), RuntimeError);
 }
 
 TEST(Sheet, MergesKeepTheFirstValue) {
     Sheet sheet;
-    sheet.setValue(QStringLiteral("C2"), QStringLiteral("二"));
-    sheet.setValue(QStringLiteral("B3"), QStringLiteral("三"));
-    sheet.setMerged(QStringLiteral("B2:C3"), true);
-    EXPECT_EQ(sheet.shownText({2, 2}), QStringLiteral("二"));
+    sheet.setValue("C2", "二");
+    sheet.setValue("B3", "三");
+    sheet.setMerged("B2:C3", true);
+    EXPECT_EQ(sheet.shownText({2, 2}), "二");
     EXPECT_EQ(sheet.shownText({2, 3}) + sheet.shownText({3, 2}), QString());
 
-    sheet.setValue(QStringLiteral("B2:C3"), QStringLiteral("新"));
-    sheet.setMerged(QStringLiteral("C3:D5"), true);
+    sheet.setValue("B2:C3", "新");
+    sheet.setMerged("C3:D5", true);
     EXPECT_EQ(sheet.merges, (std::vector<CellRange>{{{2, 2}, {5, 4}}}));
-    sheet.setMerged(QStringLiteral("A1:B2"), false);
+    sheet.setMerged("A1:B2", false);
     EXPECT_TRUE(sheet.merges.empty());
-    EXPECT_EQ(sheet.shownText({2, 2}), QStringLiteral("新"));
+    EXPECT_EQ(sheet.shownText({2, 2}), "新");
     EXPECT_EQ(sheet.shownText({3, 3}), QString());
 }
 

@@ -7,8 +7,7 @@ namespace akarix {
 namespace {
 
 Sheet delivered(const char* name) {
-    return ReadSheet(QStringLiteral(AKARIX_SOURCE_DIR "/Prt/%1.xlsx").arg(QString::fromUtf8(name)),
-                     QStringLiteral("Sheet1"));
+    return ReadSheet(QString(AKARIX_SOURCE_DIR "/Prt/%1.xlsx").arg(QString::fromUtf8(name)), "Sheet1");
 }
 
 void expectOnePage(const Sheet& sheet) {
@@ -22,8 +21,8 @@ TEST(Templates, BillingList) {
     Sheet sheet = delivered("請求一覧表");
     expectOnePage(sheet);
     EXPECT_EQ(sheet.extent(), (CellAddress{63, 11}));
-    EXPECT_EQ(sheet.shownText({4, 11}), QStringLiteral("請求額"));
-    sheet.setValue(QStringLiteral("F2"), QStringLiteral("平成23年3月"));
+    EXPECT_EQ(sheet.shownText({4, 11}), "請求額");
+    sheet.setValue("F2", "平成23年3月");
     for (const int row : {5, 61}) {
         struct {
             const char *column, *typed, *shown;
@@ -37,9 +36,9 @@ TEST(Templates, BillingList) {
         }
         EXPECT_TRUE(sheet.styleAt({row, 3}).shrink);
     }
-    sheet.setValue(QStringLiteral("F63:K63"), QStringLiteral("1234567"));
-    EXPECT_EQ(sheet.shownText({63, 6}), QStringLiteral("1,234,567.0"));
-    EXPECT_EQ(sheet.shownText({63, 11}), QStringLiteral("1,234,567"));
+    sheet.setValue("F63:K63", "1234567");
+    EXPECT_EQ(sheet.shownText({63, 6}), "1,234,567.0");
+    EXPECT_EQ(sheet.shownText({63, 11}), "1,234,567");
     EXPECT_EQ(LayOutSheet(sheet).size(), 1U);
 }
 
@@ -51,25 +50,25 @@ TEST(Templates, CustomerList) {
         // Account numbers and codes with zeros in front, postal codes, dates in disguise: all stay as they
         // are.
         for (const char* typed : {"0012345", "0001-005", "2011/03/25", "1,234"}) {
-            sheet.setValue(QStringLiteral("D%1:G%1").arg(row), QString::fromLatin1(typed));
+            sheet.setValue(QString("D%1:G%1").arg(row), QString::fromLatin1(typed));
             for (int column = 4; column <= 7; ++column) {
                 EXPECT_EQ(sheet.shownText({row, column}), QString::fromLatin1(typed));
             }
         }
     }
-    EXPECT_TRUE(sheet.page.headerText.contains(QStringLiteral("&P")));
+    EXPECT_TRUE(sheet.page.headerText.contains("&P"));
 }
 
 TEST(Templates, PriceList) {
     Sheet sheet = delivered("価格表");
     expectOnePage(sheet);
-    sheet.setValue(QStringLiteral("C5:L24"), QStringLiteral("123456"));
-    EXPECT_EQ(sheet.shownText({5, 3}), QStringLiteral("123,456 "));
-    EXPECT_EQ(sheet.shownText({24, 12}), QStringLiteral("123,456 "));
+    sheet.setValue("C5:L24", "123456");
+    EXPECT_EQ(sheet.shownText({5, 3}), "123,456 ");
+    EXPECT_EQ(sheet.shownText({24, 12}), "123,456 ");
     EXPECT_TRUE(sheet.styleAt({24, 12}).shrink);
     for (const char* label : {"B5", "B24", "H2"}) {
-        sheet.setValue(QString::fromLatin1(label), QStringLiteral("0"));
-        EXPECT_EQ(sheet.shownText(ParseRange(QString::fromLatin1(label)).first), QStringLiteral("0"));
+        sheet.setValue(QString::fromLatin1(label), "0");
+        EXPECT_EQ(sheet.shownText(ParseRange(QString::fromLatin1(label)).first), "0");
     }
 }
 
@@ -95,7 +94,7 @@ TEST(Templates, Invoice) {
         CellAddress at = ParseRange(QString::fromLatin1(cell.cell)).first;
         for (const int shift : {0, rightHalf}) {
             at.column += shift;
-            const QString column = at.column > 26 ? QStringLiteral("A") + QChar('A' + at.column - 27)
+            const QString column = at.column > 26 ? QString("A") + QChar('A' + at.column - 27)
                                                   : QString(QChar('A' + at.column - 1));
             const QString address = column + QString::number(at.row);
             sheet.setValue(address, QString::fromUtf8(cell.typed));
@@ -103,8 +102,8 @@ TEST(Templates, Invoice) {
             EXPECT_TRUE(sheet.prints(address) && sheet.styleAt(at).shrink) << address.toStdString();
         }
     }
-    EXPECT_FALSE(sheet.prints(QStringLiteral("E15"))) << "covered by the amount";
-    EXPECT_FALSE(sheet.prints(QStringLiteral("AY5")));
+    EXPECT_FALSE(sheet.prints("E15")) << "covered by the amount";
+    EXPECT_FALSE(sheet.prints("AY5"));
 }
 
 }  // namespace
