@@ -1,58 +1,16 @@
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QTextStream>
-
 #include "RecordingSurface.h"
 #include "output/PrintReport.h"
 #include "output/ReportOwner.h"
 #include "output/RunReport.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DateSerial.h"
+#include "support/CaseFile.h"
 #include "values/Dates.h"
 
 namespace akarix {
 namespace {
-
-struct ScriptCase {
-    int line = 0;
-    bool restart = false;
-    QStringList script;
-    QStringList expected;
-};
-
-std::vector<ScriptCase> ReadCases(const QString& path) {
-    std::vector<ScriptCase> cases;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return cases;
-    QTextStream in(&file);
-    bool restart = true;
-    bool inScript = false;
-    for (int number = 1; !in.atEnd(); ++number) {
-        const QString line = in.readLine();
-        if (line.isEmpty()) restart = true;
-        if (line.isEmpty() || line.startsWith("# ")) {
-            inScript = false;
-        } else if (line.startsWith("> ")) {
-            if (!inScript) cases.push_back({number, std::exchange(restart, false), {}, {}});
-            inScript = true;
-            cases.back().script += line.mid(2);
-        } else {
-            inScript = false;
-            cases.back().expected += line;
-        }
-    }
-    return cases;
-}
-
-int Run(PrintReport& report, PrintSurface& surface) {
-    try {
-        RunReport(report, surface);
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 QStringList Print(PrintReport& report, RecordingSurface& surface, const QStringList& script) {
     report.Init();
@@ -60,10 +18,12 @@ QStringList Print(PrintReport& report, RecordingSurface& surface, const QStringL
         report.AddLine(line);
     }
     surface.calls.clear();
-    const int error = Run(report, surface);
-    QStringList calls = surface.calls;
-    if (error != 0) calls.insert(calls.size() - 1, QString("error %1").arg(error));
-    return calls;
+    try {
+        RunReport(report, surface);
+    } catch (const RuntimeError& error) {
+        surface.calls.insert(surface.calls.size() - 1, QString("error %1").arg(error.number()));
+    }
+    return surface.calls;
 }
 
 class PbScriptTest : public testing::Test {
@@ -76,18 +36,15 @@ class PbScriptTest : public testing::Test {
 };
 
 TEST_F(PbScriptTest, Scripts) {
-    const auto cases = ReadCases(AKARIX_TEST_DATA "/scripts.pbtest");
-    ASSERT_GT(cases.size(), 20U);
     std::optional<PrintReport> report;
     std::optional<RecordingSurface> surface;
-    for (const ScriptCase& c : cases) {
-        if (c.restart) {
+    for (const auto& [place, fresh, given, expected] : ReadScripts(AKARIX_TEST_DATA "/scripts.pbtest")) {
+        if (fresh) {
             report.emplace();
             surface.emplace();
         }
-        EXPECT_EQ(Print(*report, *surface, c.script).join('\n').toStdString(),
-                  c.expected.join('\n').toStdString())
-            << "scripts.pbtest:" << c.line;
+        EXPECT_EQ(Print(*report, *surface, given).join('\n').toStdString(), expected.join('\n').toStdString())
+            << place;
     }
 }
 
