@@ -3,6 +3,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DateSerial.h"
 #include "platform/sheet/SheetReader.h"
+#include "support/ListScreen.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 
@@ -62,17 +63,7 @@ class CustomerLedger : public ScreenTest {
         box.selectAll();
         clerk.fill(customer);
     }
-    QStringList shown(int first = 0) const {
-        QStringList lines;
-        for (int row = 1; row < list().Rows(); ++row) {
-            QStringList cells;
-            for (int col = first; col < list().Cols(); ++col) {
-                cells += list().TextMatrix(row, col);
-            }
-            lines += cells.join(u'|');
-        }
-        return lines;
-    }
+    QStringList shown(int first = 0) const { return GridRows(list(), first); }
     /// Customer and month of every row of the four tables that a month fills.
     static QString stored() {
         QStringList tables;
@@ -192,10 +183,7 @@ TEST_F(CustomerLedger, ASlipAndAPaymentOpenTheirDocuments) {
 
 TEST_F(CustomerLedger, TheGridGoesToAWorkbook) {
     showAccount("3", "1");
-    clerk.expect("SaveAs_frm", [this](QWidget&) {
-        clerk.find<TextBox>("Path").SetText(store.path("a.xlsx"));
-        clerk.click("Save");
-    });
+    AnswerSaveAs(clerk, store.path("a.xlsx"));
     clerk.click("excelCmd");
     const Sheet sheet = ReadSheet(store.path("a.xlsx"), "Sheet1");
     EXPECT_EQ(sheet.shownText({2, 4}), "消費先台帳");

@@ -4,6 +4,7 @@
 
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DateSerial.h"
+#include "support/CaseFile.h"
 
 namespace akarix {
 namespace {
@@ -32,36 +33,12 @@ TEST_F(Dates, ShowsWesternAndEraYears) {
 }
 
 TEST_F(Dates, ParsesWhatIsTyped) {
-    struct Case {
-        int mode;
-        QString typed;
-        QString date;        // western; empty for no date
-        QString strictDate;  // of the strict reader
-    };
-    const Case cases[] = {
-        {0, "3/15", "2011/03/15", ""},
-        {0, " 3.15 ", "2011/03/15", ""},
-        {0, "2011.3.15", "2011/03/15", ""},
-        {0, "2011/3/15", "2011/03/15", "2011/03/15"},
-        {0, "2012/2/29", "2012/02/29", "2012/02/29"},
-        {0, "2/30", "", ""},
-        {0, "2011/13/1", "", ""},
-        {0, "20110325", "", ""},
-        {0, "", "", ""},
-        {0, "/3/15", "", ""},
-        {0, "2011/3/", "", ""},
-        {0, "a/b", "", ""},
-        {1, "3/15", "2011/03/15", ""},
-        {1, "23/3/15", "2011/03/15", "2011/03/15"},
-        {1, "1/1/8", "1989/01/08", "1989/01/08"},
-        {1, "23/2/30", "", ""},
-    };
-    for (const Case& c : cases) {
-        gDateMode = static_cast<std::int16_t>(c.mode);
-        const Date date = ParseDate(c.typed);
-        const Date strict = ParseStrictDate(c.typed);
-        EXPECT_EQ(plain(date), c.date) << c.typed.toStdString() << " in mode " << c.mode;
-        EXPECT_EQ(plain(strict), c.strictDate) << c.typed.toStdString() << " in mode " << c.mode;
+    for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/typed.txt", "dates")) {
+        gDateMode = cells[0].toShort();
+        const Date date = ParseDate(cells[1]);
+        const Date strict = ParseStrictDate(cells[1]);
+        EXPECT_EQ(plain(date), cells.value(2)) << line;
+        EXPECT_EQ(plain(strict), cells.value(3)) << line;
     }
 }
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/runtime/RuntimeError.h"
+#include "support/CaseFile.h"
 #include "values/CellAddress.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
@@ -8,29 +9,13 @@
 namespace akarix {
 namespace {
 
-struct Filter {
-    QString typed;
-    QString numeric;
-    QString digits;
-    double value;
-};
+const char* const kTyped = AKARIX_TEST_DATA "/typed.txt";
 
 TEST(NumVal, FiltersBeforeReading) {
-    const Filter cases[] = {
-        {"", "0", "0", 0},
-        {".", "0", "0", 0},
-        {"-", "-", "0", 0},
-        {"¥1,200", "1200", "1200", 1200},
-        {"1-2", "1-2", "12", 1},
-        {" -3.5円", "-3.5", "35", -3.5},
-        {"1.2.3", "1.2.3", "123", 1.2},
-        {"12a34", "1234", "1234", 1234},
-        {"１２", "0", "0", 0},  // full-width digits are no digits here
-    };
-    for (const Filter& c : cases) {
-        EXPECT_EQ(KeepNumeric(c.typed), c.numeric) << c.typed.toStdString();
-        EXPECT_EQ(KeepDigits(c.typed), c.digits) << c.typed.toStdString();
-        EXPECT_EQ(NumVal(c.typed), c.value) << c.typed.toStdString();
+    for (const auto& [cells, line] : ReadTable(kTyped, "numbers")) {
+        EXPECT_EQ(KeepNumeric(cells[0]), cells[1]) << line;
+        EXPECT_EQ(KeepDigits(cells[0]), cells[2]) << line;
+        EXPECT_EQ(NumVal(cells[0]), cells[3].toDouble()) << line;
     }
 }
 
@@ -46,19 +31,10 @@ int errorOf(Convert convert) {
 }
 
 TEST(NumVal, ConversionsRaiseOnTextAsItStands) {
-    struct Case {
-        QString typed;
-        int integerError, longError, currencyError;
-    };
-    const Case cases[] = {
-        {"", 0, 0, 0},      {"abc", 0, 0, 0},        {"32767", 0, 0, 0},
-        {"70000", 6, 0, 0}, {"12a", 13, 13, 0},      {"1-2", 13, 13, 13},
-        {"1,200", 0, 0, 0}, {"9999999999", 6, 6, 0}, {"0円", 0, 0, 0},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(errorOf([&] { ToInteger(c.typed); }), c.integerError) << c.typed.toStdString();
-        EXPECT_EQ(errorOf([&] { ToLong(c.typed); }), c.longError) << c.typed.toStdString();
-        EXPECT_EQ(errorOf([&] { ToCurrency(c.typed); }), c.currencyError) << c.typed.toStdString();
+    for (const auto& [cells, line] : ReadTable(kTyped, "errors")) {
+        EXPECT_EQ(errorOf([&] { ToInteger(cells[0]); }), cells[1].toInt()) << line;
+        EXPECT_EQ(errorOf([&] { ToLong(cells[0]); }), cells[2].toInt()) << line;
+        EXPECT_EQ(errorOf([&] { ToCurrency(cells[0]); }), cells[3].toInt()) << line;
     }
     EXPECT_EQ(ToInteger("1,200"), 1200);
     EXPECT_EQ(ToLong("70000"), 70000);

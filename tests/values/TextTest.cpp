@@ -1,23 +1,13 @@
 #include "values/Text.h"
 
-#include <gtest/gtest.h>
+#include "support/CaseFile.h"
 
 namespace akarix {
 namespace {
 
 TEST(Text, CutsByBytesAndLosesASplitCharacter) {
-    struct Case {
-        const char16_t* text;
-        int bytes;
-        const char16_t* kept;
-    };
-    const Case cases[] = {
-        {u"あいう", 4, u"あい"}, {u"あいう", 5, u"あい"}, {u"あいう", 6, u"あいう"}, {u"ｱｲｳ", 2, u"ｱｲ"},
-        {u"aあb", 2, u"a"},      {u"㈱髙～", 5, u"㈱髙"}, {u"表示", 2, u"表"},       {u"abc", 0, u""},
-        {u"", 4, u""},           {u"ab𠮷", 9, u"ab?"},  // no place in the code page
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(CutBytes(QString::fromUtf16(c.text), c.bytes), QString::fromUtf16(c.kept));
+    for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/cut.txt")) {
+        EXPECT_EQ(CutBytes(cells[0], cells[1].toInt()), cells.value(2)) << line;
     }
 }
 

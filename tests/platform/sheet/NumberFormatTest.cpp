@@ -10,8 +10,8 @@ TEST(NumberFormat, FollowsTheTable) {
     for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/formats.txt")) {
         const QString code = cells.value(1);
         const bool text = cells[0].startsWith("t:");
-        const QString shown = text ? FormatText(cells[0].mid(2), code)
-                                   : FormatNumber(cells[0].toDouble(), code).text;
+        const QString shown =
+            text ? FormatText(cells[0].mid(2), code) : FormatNumber(cells[0].toDouble(), code).text;
         EXPECT_EQ(shown.toStdString(), cells.value(2).toStdString()) << line;
     }
 }

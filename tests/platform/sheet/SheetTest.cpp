@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/runtime/RuntimeError.h"
+#include "support/CaseFile.h"
 
 namespace akarix {
 namespace {
@@ -27,28 +28,11 @@ TEST(Sheet, TypedValues) {
     for (int column = 2; column <= 4; ++column)
         sheet.columnStyles[column] = column - 1;
 
-    struct {
-        const char *typed, *general, *money, *text, *date;
-    } const table[] = {
-        {"1234.50", "1234.5", "1,235", "1234.50", "明治36年5月18日"},
-        {"1,234", "1234", "1,234", "1,234", "明治36年5月18日"},
-        {"  -12 ", "-12", "-12", "  -12 ", "########"},
-        {"00012", "12", "12", "00012", "明治33年1月12日"},
-        {"12,34", "12,34", "12,34", "12,34", "12,34"},
-        {"1,234,5", "1,234,5", "1,234,5", "1,234,5", "1,234,5"},
-        {"-", "-", "-", "-", "-"},
-        {"1E5", "1E5", "1E5", "1E5", "1E5"},
-        {"03-1234-5678", "03-1234-5678", "03-1234-5678", "03-1234-5678", "03-1234-5678"},
-        {"2011/03/25", "2011/03/25", "2011/03/25", "2011/03/25", "平成23年3月25日"},
-        {"2011/02/30", "2011/02/30", "2011/02/30", "2011/02/30", "2011/02/30"},
-        {"=A1", "=A1", "=A1", "=A1", "=A1"},
-    };
-    for (const auto& row : table) {
-        sheet.setValue("A1:D1", QString::fromUtf8(row.typed));
-        EXPECT_EQ(sheet.shownText({1, 1}).toStdString(), row.general) << row.typed;
-        EXPECT_EQ(sheet.shownText({1, 2}).toStdString(), row.money) << row.typed;
-        EXPECT_EQ(sheet.shownText({1, 3}).toStdString(), row.text) << row.typed;
-        EXPECT_EQ(sheet.shownText({1, 4}).toStdString(), row.date) << row.typed;
+    for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/typed.txt")) {
+        sheet.setValue("A1:D1", cells[0]);
+        for (int column = 1; column <= 4; ++column) {
+            EXPECT_EQ(sheet.shownText({1, column}), cells[column]) << line;
+        }
     }
 }
 
