@@ -14,6 +14,8 @@
 namespace akarix {
 namespace {
 
+constexpr size_t kStrings = 3;  // the shared strings among the parts
+
 using Parts = std::vector<std::pair<std::string, std::string>>;
 
 class SheetReader : public testing::Test {
@@ -57,19 +59,21 @@ class SheetReader : public testing::Test {
     static Parts handMade(const std::string& sheet, const std::string& strings = {},
                           const std::string& names = {},
                           const std::string& target = "worksheets/sheet1.xml") {
-        const std::string kinds = "http://schemas.openxmlformats.org/officeDocument/2006/relationships/";
-        return {{"_rels/.rels", "<Relationships><Relationship Id='a' Type='" + kinds +
-                                    "officeDocument' Target='xl/workbook.xml'/></Relationships>"},
-                {"xl/workbook.xml",
-                 "<x:workbook xmlns:x='m' xmlns:r='n'><x:sheets><x:sheet name='Sheet1' sheetId='7' "
-                 "r:id='s'/></x:sheets><x:definedNames>" +
-                     names + "</x:definedNames></x:workbook>"},
-                {"xl/_rels/workbook.xml.rels",
-                 "<Relationships><Relationship Id='s' Type='" + kinds + "worksheet' Target='" + target +
-                     "'/><Relationship Id='t' Type='" + kinds +
-                     "sharedStrings' Target='/xl/sharedStrings.xml'/></Relationships>"},
-                {"xl/sharedStrings.xml", "<sst>" + strings + "</sst>"},
-                {"xl/worksheets/sheet1.xml", "<worksheet>" + sheet + "</worksheet>"}};
+        Parts parts;
+        for (const char* name :
+             {"_rels/.rels", "xl/workbook.xml", "xl/_rels/workbook.xml.rels", "xl/sharedStrings.xml",
+              "xl/worksheets/sheet1.xml", "xl/styles.xml", "xl/theme/theme1.xml"}) {
+            QFile file(QString(AKARIX_TEST_DATA "/book/") + name);
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+            const std::pair<const char*, const std::string&> blanks[] = {
+                {"$SHEET", sheet}, {"$STRINGS", strings}, {"$NAMES", names}, {"$TARGET", target}};
+            QByteArray text = file.readAll();
+            for (const auto& [mark, value] : blanks) {
+                text.replace(mark, QByteArray::fromStdString(value));
+            }
+            parts.emplace_back(name, text.toStdString());
+        }
+        return parts;
     }
 
     QTemporaryDir folder_;
@@ -186,12 +190,14 @@ TEST_F(SheetReader, StringsOfEveryKind) {
 TEST_F(SheetReader, TargetsAndNamesAsOtherProgramsWriteThem) {
     for (const char* target :
          {"worksheets/sheet1.xml", "/xl/worksheets/sheet1.xml", "../xl/./worksheets/Sheet1.xml"}) {
-        zip(handMade(
+        Parts parts = handMade(
             "<sheetData><row r='1'><c r='A1'><v>5</v></c></row></sheetData>", {},
             "<definedName name='_xlnm.Print_Area' localSheetId='0'>'It''s, A!1'!$A$1:$K$9</definedName>"
             "<definedName name='_xlnm.Print_Titles' localSheetId='0'>Sheet1!7:8</definedName>"
             "<definedName name='_xlnm.Print_Area' localSheetId='1'>Sheet2!$A$1</definedName>",
-            target));
+            target);
+        parts.resize(5);  // neither styles nor a theme
+        zip(parts);
         const Sheet sheet = read();
         EXPECT_EQ(sheet.shownText({1, 1}), "5") << target;
         EXPECT_EQ(sheet.page.printArea, (CellRange{{1, 1}, {9, 11}}));
@@ -201,27 +207,7 @@ TEST_F(SheetReader, TargetsAndNamesAsOtherProgramsWriteThem) {
 }
 
 TEST_F(SheetReader, ThemeIndexedAndTintedColors) {
-    Parts parts = handMade("<sheetData><row><c s='1'/><c s='2'/><c s='3'/><c s='9'/></row></sheetData>");
-    for (auto& [name, text] : parts) {
-        if (name != "xl/_rels/workbook.xml.rels") continue;
-        text.insert(text.find("</Rel"),
-                    "<Relationship Id='y' Type='x/styles' Target='styles.xml'/>"
-                    "<Relationship Id='z' Type='x/theme' Target='theme/theme1.xml'/>");
-    }
-    parts.emplace_back(
-        "xl/styles.xml",
-        "<styleSheet><fonts><font><sz val='9'/><name val='Calibri'/><color "
-        "theme='1'/></font></fonts><fills><fill/>"
-        "<fill><patternFill patternType='solid'><fgColor theme='0' tint='-0.5'/></patternFill></fill>"
-        "<fill><patternFill patternType='solid'><fgColor indexed='10'/></patternFill></fill>"
-        "<fill><patternFill patternType='mediumGray'/></fill></fills><borders><border/></borders>"
-        "<cellXfs><xf/><xf fillId='1' numFmtId='58'/><xf fillId='2'><alignment textRotation='135'/></xf>"
-        "<xf fillId='3'/></cellXfs></styleSheet>");
-    parts.emplace_back("xl/theme/theme1.xml",
-                       "<a:theme xmlns:a='d'><a:themeElements><a:clrScheme><a:dk1><a:sysClr val='windowText' "
-                       "lastClr='112233'/></a:dk1>"
-                       "<a:lt1><a:srgbClr val='FFFFFF'/></a:lt1></a:clrScheme></a:themeElements></a:theme>");
-    zip(parts);
+    zip(handMade("<sheetData><row><c s='1'/><c s='2'/><c s='3'/><c s='9'/></row></sheetData>"));
     const Sheet sheet = read();
     EXPECT_EQ(sheet.styleAt({1, 1}).font.color, QColor(0x11, 0x22, 0x33));
     EXPECT_EQ(sheet.styleAt({1, 1}).fill.name(), "#808080");
@@ -280,16 +266,16 @@ TEST_F(SheetReader, HostileParts) {
         bomb += "'>";
     }
     Parts parts = handMade("<sheetData/>");
-    parts[3].second = bomb + "]><sst><si><t>&y;</t></si></sst>";
+    parts[kStrings].second = bomb + "]><sst><si><t>&y;</t></si></sst>";
     zip(parts);
     read();
-    parts[3].second = std::string(200'000'000, ' ');
+    parts[kStrings].second = std::string(200'000'000, ' ');
     zip(parts);
     EXPECT_TRUE(failure().contains("大きすぎます"));
     std::string deep;
     for (int i = 0; i < 300'000; ++i)
         deep += "<a>";
-    parts[3].second = deep;
+    parts[kStrings].second = deep;
     zip(parts);
     failure();
 }
@@ -323,7 +309,7 @@ TEST_F(SheetReader, DamagedFiles) {
         "<si><t>地区</t></si>");
     for (int round = 0; round < 400; ++round) {
         Parts damaged = parts;
-        std::string& text = damaged[static_cast<size_t>(below(5))].second;
+        std::string& text = damaged[static_cast<size_t>(below(static_cast<qsizetype>(parts.size())))].second;
         const auto at = static_cast<size_t>(below(static_cast<qsizetype>(text.size())));
         if (round % 2)
             text[at] = static_cast<char>(random());
