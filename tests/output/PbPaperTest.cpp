@@ -42,13 +42,7 @@ class PbPaperTest : public ScreenTest {
         }
         return 0;
     }
-    QRectF box(const QString& word) const {
-        for (const auto& [text, rect] : PdfWords(path("out.pdf"))) {
-            if (text == word) return rect;
-        }
-        ADD_FAILURE() << "not on the page: " << word.toStdString();
-        return {};
-    }
+    QRectF box(const QString& word) const { return PdfBox(path("out.pdf"), word); }
 
  private:
     QTemporaryDir folder_;

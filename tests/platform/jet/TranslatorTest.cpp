@@ -121,28 +121,9 @@ TEST(Translator, KeepsTheDepthOfStatementsWithinWhatTheEngineTakes) {
     Database& database =
         *DBEngine::Workspaces(0).CreateDatabase(folder.filePath("Deep.MDB"), "MS Access;PWD=deep");
     database.Execute("CREATE TABLE T(Code Long)");
-    const struct {
-        QString open, middle, close;
-    } shapes[] = {
-        {"(", "Code=1", ")"},
-        {"NOT ", "Code=1", QString()},
-        {"- ", "Code=1", QString()},
-        {"Code=1 OR (Code=2 AND (", "Code=1", "))"},
-        {"1-(2*(", "Code", "))"},
-        {"ABS(", "Code", ")"},
-        {"IIF(Code=1,2,", "Code", ")"},
-        {"Code IN (SELECT Code FROM T WHERE ", "Code=1", ")"},
-        {"EXISTS (SELECT Code FROM T WHERE ", "Code=1", ")"},
-        {QString(), "Code", "+1"},
-        {QString(), "Code=1", " AND Code=1"},
-        {QString(), "Code=1", " XOR Code=1"},
-        {QString(), "Code", " MOD 2"},
-        {QString(), "Code", "&'a'"},
-
-    };
-    for (const auto& shape : shapes) {
+    for (const auto& [shape, line] : ReadTable(kPlans, "deep")) {
         for (const int depth : {3, 20, 60, 190, 800, 20000}) {
-            const QString sql = nested(shape.open, shape.middle, shape.close, depth);
+            const QString sql = nested(shape[0], shape[1], shape.value(2), depth);
             try {
                 Recordset rows = database.OpenRecordset(sql);
                 rows.Eof();
@@ -165,16 +146,7 @@ TEST(Translator, StandsBrokenStatements) {
                                  "Hi DateTime)")
                              .arg(table));
     }
-    const QStringList seeds{
-        "SELECT TOP 5 a.Code, First(b.Gaku) AS g FROM (T AS a LEFT JOIN U AS b ON a.Code = b.Code) "
-        "WHERE a.Namae LIKE '*x[!a-c]' AND b.Hi >= #1/2/2003# GROUP BY a.Code ORDER BY First(b.Gaku) "
-        "DESC",
-        "UPDATE T INNER JOIN U ON T.Code=U.Code SET T.Gaku = [U].[Gaku]*1.5, T.Namae='a''b' & U.Namae",
-        "INSERT INTO T(Code, Namae) SELECT IIF(Code IN (1,2),-3,Code), \"q\" FROM U UNION "
-        "SELECT 1, NULL",
-        "CREATE TABLE V(Code Long NOT NULL, Namae Text(5), CONSTRAINT k PRIMARY KEY (Code))",
-        "DELETE T.* FROM T INNER JOIN U ON T.Code=U.Code WHERE NOT EXISTS (SELECT * FROM U) XOR TRUE",
-    };
+    const auto seeds = ReadTable(kPlans, "sound");
     std::mt19937 random(7164);
     const auto pick = [&](qsizetype below) {
         return static_cast<qsizetype>(random() % static_cast<std::uint32_t>(below));
@@ -182,10 +154,10 @@ TEST(Translator, StandsBrokenStatements) {
     const Action action;
     int understood = 0;
     for (int round = 0; round < 4000; ++round) {
-        QStringList words = seeds[pick(seeds.size())].split(u' ');
+        QStringList words = seeds[random() % seeds.size()].cells[0].split(u' ');
         for (int change = round % 3; change < 3; ++change) {
             const qsizetype place = pick(words.size());
-            const QStringList other = seeds[pick(seeds.size())].split(u' ');
+            const QStringList other = seeds[random() % seeds.size()].cells[0].split(u' ');
             switch (random() % 4) {
                 case 0:
                     words[place] = other[pick(other.size())];

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QProcess>
 #include <QRectF>
 #include <QRegularExpression>
@@ -39,6 +41,15 @@ inline std::vector<std::pair<QString, QRectF>> PdfWords(const QString& path) {
                            QRectF(QPointF(number(1), number(2)), QPointF(number(3), number(4))));
     }
     return words;
+}
+
+/// The box of the first such word; empty, and a failure of the test, when there is none.
+inline QRectF PdfBox(const QString& path, const QString& word) {
+    for (const auto& [text, box] : PdfWords(path)) {
+        if (text == word) return box;
+    }
+    ADD_FAILURE() << "not on the page: " << word.toStdString();
+    return {};
 }
 
 }  // namespace akarix

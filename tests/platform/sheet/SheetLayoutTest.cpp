@@ -1,6 +1,5 @@
-#include <gmock/gmock.h>
-
 #include "platform/sheet/SheetPainter.h"
+#include "support/CaseFile.h"
 
 namespace akarix {
 namespace {
@@ -13,6 +12,22 @@ Sheet SheetOf(int rows, int columns) {
     Sheet sheet;
     sheet.cells[{rows, columns}].text = "end";
     return sheet;
+}
+
+void Set(Sheet& sheet, const QString& name, const QString& value) {
+    PageSetup& page = sheet.page;
+    if (name == "titles") {
+        page.titleFirstRow = value.section('-', 0, 0).toInt();
+        page.titleLastRow = value.section('-', 1).toInt();
+    }
+    if (name == "break") page.rowBreaks = {value.toInt()};
+    if (name == "fit") page.fitToPage = true;
+    if (name == "fitHeight") page.fitHeight = value.toInt();
+    if (name == "hidden") sheet.rowHeights[value.toInt()] = 0;
+    if (name == "tall") sheet.rowHeights[value.toInt()] = 2000;
+    if (name == "area") page.printArea = ParseRange(value);
+    if (name == "scale") page.scalePercent = value.toInt();
+    if (name == "merge") sheet.merges = {ParseRange(value)};
 }
 
 std::string Blocks(const Sheet& sheet) {
@@ -28,55 +43,13 @@ std::string Blocks(const Sheet& sheet) {
 }
 
 TEST(SheetLayoutTest, Breaks) {
-    struct Case {
-        const char* name;
-        int rows, columns;
-        std::function<void(Sheet&)> set;
-        const char* blocks;
-    };
-    const Case cases[] = {
-        {"empty sheet", 1, 1, [](Sheet& s) { s.cells.clear(); }, "1-1"},
-        {"exactly one page", 54, 1, [](Sheet&) {}, "1-54"},
-        {"one row more", 55, 1, [](Sheet&) {}, "1-54 55-55"},
-        {"title rows take room from the second page on", 157, 1,
-         [](Sheet& s) { s.page.titleFirstRow = s.page.titleLastRow = 4; }, "1-54 55-107 108-157"},
-        {"titles below the first break stay where they are", 120, 1,
-         [](Sheet& s) { s.page.titleFirstRow = 60, s.page.titleLastRow = 61; }, "1-54 55-108 109-120"},
-        {"a break behind a row", 60, 1, [](Sheet& s) { s.page.rowBreaks = {10}; }, "1-10 11-60"},
-        {"fitting has no use for breaks", 60, 1,
-         [](Sheet& s) { s.page.rowBreaks = {10}, s.page.fitToPage = true; }, "1-60"},
-        {"fit to the width alone", 60, 1, [](Sheet& s) { s.page.fitToPage = true, s.page.fitHeight = 0; },
-         "1-54 55-60"},
-        {"hidden rows need no room", 60, 1,
-         [](Sheet& s) {
-             for (int row = 1; row <= 6; ++row) {
-                 s.rowHeights[row] = 0;
-             }
-         },
-         "1-60"},
-        {"a row taller than the paper", 3, 1, [](Sheet& s) { s.rowHeights[2] = 2000; }, "1-1 2-2 3-3"},
-        {"the print area alone", 100, 9,
-         [](Sheet& s) {
-             s.page.printArea = CellRange{{3, 2}, {20, 5}};
-         },
-         "3-20/2-5"},
-        {"an area of whole columns ends with the sheet", 20, 3,
-         [](Sheet& s) {
-             s.page.printArea = CellRange{{1, 1}, {1048576, 2}};
-         },
-         "1-20/1-2"},
-        {"down before across", 60, 10, [](Sheet&) {}, "1-54/1-9 55-60/1-9 1-54/10-10 55-60/10-10"},
-        {"half the size", 108, 1, [](Sheet& s) { s.page.scalePercent = 50; }, "1-108"},
-        {"merges count", 1, 1,
-         [](Sheet& s) {
-             s.merges = {{{1, 1}, {60, 1}}};
-         },
-         "1-54 55-60"},
-    };
-    for (const Case& c : cases) {
-        Sheet sheet = SheetOf(c.rows, c.columns);
-        c.set(sheet);
-        EXPECT_EQ(Blocks(sheet), c.blocks) << c.name;
+    EXPECT_EQ(Blocks(Sheet()), "1-1");
+    for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/breaks.txt")) {
+        Sheet sheet = SheetOf(cells[0].toInt(), cells[1].toInt());
+        for (const QString& setting : cells[2].split(' ', Qt::SkipEmptyParts)) {
+            Set(sheet, setting.section('=', 0, 0), setting.section('=', 1));
+        }
+        EXPECT_EQ(Blocks(sheet), cells[3].toStdString()) << line;
     }
 }
 

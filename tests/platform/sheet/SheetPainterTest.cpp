@@ -17,9 +17,8 @@ class PaintedPage {
  public:
     explicit PaintedPage(const Sheet& sheet, size_t number = 0) {
         const auto pages = LayOutSheet(sheet);
-        const QString path = folder_.filePath("page.pdf");
         {
-            QPdfWriter writer(path);
+            QPdfWriter writer(path_);
             writer.setPageSize(QPageSize(QPageSize::A4));
             writer.setPageMargins(QMarginsF());
             writer.setResolution(1440);
@@ -27,23 +26,16 @@ class PaintedPage {
             PaintSheet(painter, sheet, pages[number], static_cast<int>(number) + 1,
                        static_cast<int>(pages.size()));
         }
-        text = PdfPages(path).value(0);
-        words_ = PdfWords(path);
+        text = PdfPages(path_).value(0);
     }
 
-    QRectF box(const QString& word) const {
-        for (const auto& [text_, rect] : words_) {
-            if (text_ == word) return rect;
-        }
-        ADD_FAILURE() << "not on the page: " << word.toStdString() << " in " << text.toStdString();
-        return {};
-    }
+    QRectF box(const QString& word) const { return PdfBox(path_, word); }
 
     QString text;
 
  private:
     QTemporaryDir folder_;
-    std::vector<std::pair<QString, QRectF>> words_;
+    QString path_ = folder_.filePath("page.pdf");
 };
 
 int Style(Sheet& sheet, const std::function<void(CellStyle&)>& set) {
