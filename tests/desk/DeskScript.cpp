@@ -1,0 +1,334 @@
+#include "desk/DeskScript.h"
+
+#include <QKeySequence>
+#include <QRegularExpression>
+#include <QTextStream>
+#include <utility>
+#include <vector>
+
+#include "platform/forms/Choice.h"
+#include "platform/forms/FlexGrid.h"
+#include "platform/forms/TextBox.h"
+#include "platform/runtime/CDate.h"
+#include "platform/runtime/Clock.h"
+#include "platform/sheet/SheetReader.h"
+#include "store/Settings.h"
+#include "support/ScratchStore.h"
+#include "support/ScreenTest.h"
+#include "toolkit/FieldWalk.h"
+#include "values/Dates.h"
+
+namespace akarix {
+namespace {
+
+struct Step {
+    int line = 0;
+    QString verb;
+    QString rest;
+    QStringList rows;
+    QStringList dialogs;
+};
+
+struct Case {
+    QString name;
+    int line = 0;
+    std::vector<Step> steps;
+};
+
+[[noreturn]] void wrong(const QString& what) {
+    throw std::runtime_error(what.toStdString());
+}
+
+QString firstWord(const QString& text) {
+    return text.section(u' ', 0, 0);
+}
+QString afterFirst(const QString& text) {
+    return text.section(u' ', 1);
+}
+
+std::vector<Case> readCases(const QString& path) {
+    QFile file(path);
+    if (!file.open(QFile::ReadOnly)) return {};
+    std::vector<Case> cases{{}};
+    QTextStream in(&file);
+    for (int number = 1; !in.atEnd(); ++number) {
+        const QString line = in.readLine();
+        std::vector<Step>& steps = cases.back().steps;
+        if (line.trimmed().isEmpty() || line.startsWith(u'#')) continue;
+        if (line.startsWith(u"== ")) {
+            cases.push_back({line.mid(3), number, cases.front().steps});
+        } else if (line.startsWith(u": ")) {
+            steps.back().rows += line.mid(2);
+        } else if (line.startsWith(u' ')) {
+            steps.back().dialogs += line.trimmed();
+        } else {
+            steps.push_back({number, firstWord(line), afterFirst(line), {}, {}});
+        }
+    }
+    cases.erase(cases.begin());
+    return cases;
+}
+
+/// "a(0-2)+b" as its names.
+QStringList namesIn(const QString& text) {
+    static const QRegularExpression range(QStringLiteral("^(.+)\\((\\d+)-(\\d+)\\)$"));
+    QStringList names;
+    for (const QString& name : text.split(u'+')) {
+        const QRegularExpressionMatch found = range.match(name);
+        if (!found.hasMatch()) {
+            names += name;
+            continue;
+        }
+        for (int i = found.captured(2).toInt(); i <= found.captured(3).toInt(); ++i) {
+            names += QStringLiteral("%1(%2)").arg(found.captured(1)).arg(i);
+        }
+    }
+    return names;
+}
+
+std::pair<int, int> placeIn(const QString& text) {
+    return {text.section(u',', 0, 0).toInt(), text.section(u',', 1).toInt()};
+}
+
+class DeskTest : public ScreenTest {
+ public:
+    DeskTest(QByteArray file, Case test, const DeskOpeners& openers)
+        : file_(std::move(file)), case_(std::move(test)), openers_(openers) {}
+
+ private:
+    void TestBody() override {
+        for (const Step& step : case_.steps) {
+            step_ = &step;
+            try {
+                const qsizetype heard = clerk.said().size();
+                prepareDialogs();
+                perform();
+                checkDialogs(heard);
+            } catch (const std::exception& error) {
+                ADD_FAILURE_AT(file_.constData(), step.line) << error.what();
+            }
+        }
+    }
+    void TearDown() override {
+        ScreenTest::TearDown();
+        SetClock(Date());
+        gDateMode = 0;
+        gPrintPreview = false;
+    }
+
+    void expect(const QString& found, const QString& wanted) const {
+        if (found == wanted) return;
+        ADD_FAILURE_AT(file_.constData(), step_->line)
+            << step_->verb.toStdString() << ' ' << step_->rest.toStdString() << "\nFound:\n"
+            << found.toStdString() << "\nWanted:\n"
+            << wanted.toStdString();
+    }
+    void expectRows(const QStringList& found) const { expect(found.join(u'\n'), step_->rows.join(u'\n')); }
+
+    // ---- dialogs
+
+    void prepareDialogs() {
+        for (const QString& dialog : step_->dialogs) {
+            const QString kind = firstWord(dialog);
+            const QString rest = afterFirst(dialog);
+            if (kind == u"alert") {
+                clerk.answerAlert();
+            } else if (kind == u"error") {
+                clerk.answerMsgBox();
+            } else if (kind == u"yes" || kind == u"no") {
+                clerk.answerConfirm(kind == u"yes");
+            } else if (kind == u"first" || kind == u"second") {
+                clerk.answerConfirmRev(kind == u"first");
+            } else if (kind == u"pick") {
+                clerk.expect(firstWord(rest), [this, rest](QWidget&) { pick(rest); });
+            } else if (kind == u"save") {
+                clerk.expect(QStringLiteral("SaveAs_frm"), [this, path = store_.path(rest)](QWidget&) {
+                    clerk.find<TextBox>(QStringLiteral("Path")).SetText(path);
+                    clerk.click(QStringLiteral("Save"));
+                });
+            } else if (kind == u"close") {
+                clerk.expect(rest, [this](QWidget& shown) { clerk.closeBox(shown); });
+            } else {
+                wrong(QStringLiteral("no such dialog: ") + dialog);
+            }
+        }
+    }
+    void pick(const QString& dialogAndCell) {
+        if (dialogAndCell.startsWith(u"HelpDeal_frm")) clerk.click(QStringLiteral("Btn(0)"));
+        const auto [row, col] = placeIn(afterFirst(dialogAndCell));
+        clerk.clickCell(clerk.find<FlexGrid>(QStringLiteral("List")), row, col);
+    }
+    void checkDialogs(qsizetype heard) const {
+        QStringList found;
+        QStringList wanted;
+        for (const QString& dialog : step_->dialogs) {
+            const QString kind = firstWord(dialog);
+            QString said = clerk.said().value(heard++, QStringLiteral("(no dialog)"));
+            if (kind == u"pick" || kind == u"save" || kind == u"close") continue;
+            const bool error = kind == u"error";
+            wanted +=
+                error ? QStringLiteral("実行時エラー '%1'").arg(afterFirst(dialog)) : afterFirst(dialog);
+            found += error ? said.left(wanted.last().size()) : said;
+        }
+        expect(found.join(u'\n'), wanted.join(u'\n'));
+    }
+
+    // ---- steps
+
+    void perform() {
+        using Doing = void (DeskTest::*)(const QString&);
+        static const std::map<QString, Doing> doings{
+            {u"today"_qs, &DeskTest::setToday},   {u"sql"_qs, &DeskTest::runSql},
+            {u"view"_qs, &DeskTest::define},      {u"fields"_qs, &DeskTest::define},
+            {u"open"_qs, &DeskTest::open},        {u"type"_qs, &DeskTest::type},
+            {u"in"_qs, &DeskTest::typeIn},        {u"put"_qs, &DeskTest::put},
+            {u"keys"_qs, &DeskTest::keys},        {u"press"_qs, &DeskTest::press},
+            {u"click"_qs, &DeskTest::click},      {u"cell"_qs, &DeskTest::clickCell},
+            {u"focus"_qs, &DeskTest::focus},      {u"shows"_qs, &DeskTest::shows},
+            {u"rows"_qs, &DeskTest::rows},        {u"grid"_qs, &DeskTest::wholeGrid},
+            {u"row"_qs, &DeskTest::gridRow},      {u"at"_qs, &DeskTest::cursor},
+            {u"count"_qs, &DeskTest::countRows},  {u"hidden"_qs, &DeskTest::hidden},
+            {u"visible"_qs, &DeskTest::visible},  {u"closed"_qs, &DeskTest::closed},
+            {u"sheet"_qs, &DeskTest::sheetShows},
+        };
+        const auto doing = doings.find(step_->verb);
+        if (doing == doings.end()) wrong(QStringLiteral("nobody knows how to ") + step_->verb);
+        (this->*doing->second)(step_->rest);
+    }
+
+    void setToday(const QString& date) { SetClock(CDate(date)); }
+    void runSql(const QString& statement) { gDb->Execute(statement); }
+    void define(const QString& nameAndMeaning) {
+        names_[firstWord(nameAndMeaning)] = afterFirst(nameAndMeaning);
+    }
+    void open(const QString& nameAndArgument) {
+        const auto opener = openers_.find(firstWord(nameAndArgument));
+        if (opener == openers_.end()) wrong(QStringLiteral("nobody knows how to open ") + nameAndArgument);
+        opener->second(afterFirst(nameAndArgument));
+        clerk.settle();
+    }
+
+    void type(const QString& texts) {
+        for (const QString& text : texts.split(u'|')) {
+            if (text == u"DEL") clerk.press(Qt::Key_Delete);
+            clerk.fill(text == u"DEL" ? QString() : text);
+        }
+    }
+    void typeIn(const QString& nameAndTexts) {
+        QWidget& control = clerk.control(firstWord(nameAndTexts));
+        if (auto* box = qobject_cast<TextBox*>(&control)) {
+            FocusSelect(*box);
+        } else {
+            control.setFocus();
+        }
+        if (nameAndTexts.contains(u' ')) type(afterFirst(nameAndTexts));
+    }
+    void put(const QString& nameAndText) {
+        clerk.find<TextBox>(firstWord(nameAndText)).SetText(afterFirst(nameAndText));
+    }
+    void keys(const QString& text) { clerk.type(text); }
+    void press(const QString& key) {
+        const QKeyCombination combination = QKeySequence(key)[0];
+        clerk.press(combination.key(), combination.keyboardModifiers());
+    }
+    void click(const QString& name) { clerk.click(name); }
+    void clickCell(const QString& gridAndCell) {
+        const auto [row, col] = placeIn(afterFirst(gridAndCell));
+        clerk.clickCell(grid(gridAndCell), row, col);
+    }
+
+    // ---- what is seen
+
+    void focus(const QString& name) { expect(clerk.focusedName(), name); }
+    void shows(const QString& namesAndTexts) {
+        const QString names = firstWord(namesAndTexts);
+        const auto known = names_.find(names);
+        QStringList texts;
+        for (const QString& name : namesIn(known == names_.end() ? names : known->second)) {
+            texts += shown(name);
+        }
+        expect(texts.join(u'|'), afterFirst(namesAndTexts));
+    }
+    QString shown(const QString& name) const {
+        const QWidget& control = clerk.control(name);
+        if (const auto* tick = qobject_cast<const CheckBox*>(&control)) return QString::number(tick->Value());
+        if (const auto* choice = qobject_cast<const OptionButton*>(&control)) {
+            return choice->Value() ? u"1"_qs : u"0"_qs;
+        }
+        return clerk.text(name);
+    }
+    void rows(const QString& question) {
+        const auto view = names_.find(firstWord(question));
+        if (view == names_.end()) return expectRows(ScratchStore::rows(question));
+        const bool asksFor = view->second.contains(u"%1"_qs);
+        expectRows(ScratchStore::rows(asksFor ? view->second.arg(afterFirst(question)) : view->second));
+    }
+
+    FlexGrid& grid(const QString& text) const { return clerk.find<FlexGrid>(firstWord(text)); }
+    /// The cells of a row; columns as "3", "2-4", or none for all.
+    static QString cells(const FlexGrid& grid, int row, const QString& columns) {
+        const int first = columns.section(u'-', 0, 0).toInt();
+        const int last = columns.isEmpty() ? grid.Cols() - 1 : columns.section(u'-', -1).toInt();
+        QStringList texts;
+        for (int col = first; col <= last; ++col) {
+            texts += grid.TextMatrix(row, col);
+        }
+        return texts.join(u'|');
+    }
+    void wholeGrid(const QString& gridAndColumns) {
+        const FlexGrid& list = grid(gridAndColumns);
+        QStringList found;
+        for (int row = 1; row < list.Rows(); ++row) {
+            found += cells(list, row, afterFirst(gridAndColumns));
+        }
+        expectRows(found);
+    }
+    void gridRow(const QString& text) {
+        expect(cells(grid(text), text.section(u' ', 1, 1).toInt(), text.section(u' ', 2, 2)),
+               text.section(u' ', 3));
+    }
+    void cursor(const QString& gridAndCell) {
+        const FlexGrid& list = grid(gridAndCell);
+        expect(QStringLiteral("%1,%2").arg(list.Row()).arg(list.Col()), afterFirst(gridAndCell));
+    }
+    void countRows(const QString& gridAndCount) {
+        expect(QString::number(grid(gridAndCount).Rows() - 1), afterFirst(gridAndCount));
+    }
+    void hidden(const QString& name) { EXPECT_FALSE(clerk.control(name).isVisible()) << name.toStdString(); }
+    void visible(const QString& name) { EXPECT_TRUE(clerk.control(name).isVisible()) << name.toStdString(); }
+    void closed(const QString& form) { EXPECT_FALSE(clerk.isOpen(form)) << form.toStdString(); }
+    void sheetShows(const QString& fileAndCells) {
+        const Sheet sheet = ReadSheet(store_.path(firstWord(fileAndCells)), u"Sheet1"_qs);
+        QStringList found;
+        for (const QString& cell : afterFirst(fileAndCells).split(u' ')) {
+            const auto [row, col] = placeIn(cell);
+            found += sheet.shownText({row, col}).trimmed();
+        }
+        expectRows(found);
+    }
+
+    QByteArray file_;
+    Case case_;
+    const DeskOpeners& openers_;
+    const Step* step_ = nullptr;
+    std::map<QString, QString> names_;
+    ScratchStore store_;
+};
+
+}  // namespace
+
+bool RegisterDeskScripts(const QString& folder, DeskOpeners openers) {
+    static const DeskOpeners known = std::move(openers);
+    const QDir scripts(folder, u"*.desk"_qs);
+    for (const QFileInfo& script : scripts.entryInfoList()) {
+        const QByteArray path = script.filePath().toUtf8();
+        for (const Case& test : readCases(script.filePath())) {
+            testing::RegisterTest(script.baseName().toUtf8(), test.name.toUtf8(), nullptr, nullptr, path,
+                                  test.line,
+                                  [path, test]() -> ScreenTest* { return new DeskTest(path, test, known); });
+        }
+    }
+    return !scripts.isEmpty();
+}
+
+}  // namespace akarix

@@ -1,0 +1,28 @@
+#include "desk/DeskScript.h"
+#include "entry/SlipG_frm.h"
+#include "entry/SlipN2_frm.h"
+#include "entry/Slip_frm.h"
+#include "entry/TorZan_frm.h"
+#include "values/Dates.h"
+
+namespace akarix {
+namespace {
+
+template <class F>
+void openOnSlip(const QString& number) {
+    std::int32_t dno = number.toInt();
+    Form::Instance<F>().fromexe(dno);
+}
+
+const bool kFound = RegisterDeskScripts(
+    QStringLiteral(AKARIX_TEST_DATA),
+    {{"Slip_frm", &Opens<Slip_frm>},
+     {"SlipG_frm", &Opens<SlipG_frm>},
+     {"SlipN2_frm", &Opens<SlipN2_frm>},
+     {"TorZan_frm", &Opens<TorZan_frm>},
+     {"saleOf", &openOnSlip<Slip_frm>},
+     {"paymentOf", &openOnSlip<SlipN2_frm>},
+     {"years", [](const QString& mode) { gDateMode = static_cast<std::int16_t>(mode.toInt()); }}});
+
+}  // namespace
+}  // namespace akarix
