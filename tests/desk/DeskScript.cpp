@@ -7,12 +7,12 @@
 #include <vector>
 
 #include "platform/forms/Choice.h"
-#include "platform/forms/FlexGrid.h"
 #include "platform/forms/TextBox.h"
 #include "platform/runtime/CDate.h"
 #include "platform/runtime/Clock.h"
 #include "platform/sheet/SheetReader.h"
 #include "store/Settings.h"
+#include "support/GridText.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 #include "toolkit/FieldWalk.h"
@@ -265,27 +265,18 @@ class DeskTest : public ScreenTest {
     }
 
     FlexGrid& grid(const QString& text) const { return clerk.find<FlexGrid>(firstWord(text)); }
-    /// The cells of a row; columns as "3", "2-4", or none for all.
-    static QString cells(const FlexGrid& grid, int row, const QString& columns) {
-        const int first = columns.section(u'-', 0, 0).toInt();
-        const int last = columns.isEmpty() ? grid.Cols() - 1 : columns.section(u'-', -1).toInt();
-        QStringList texts;
-        for (int col = first; col <= last; ++col) {
-            texts += grid.TextMatrix(row, col);
-        }
-        return texts.join(u'|');
+    /// First and last of the columns "2-4" or "3"; nothing are all.
+    static std::pair<int, int> columnsIn(const QString& text) {
+        if (text.isEmpty()) return {0, -1};
+        return {text.section(u'-', 0, 0).toInt(), text.section(u'-', -1).toInt()};
     }
     void wholeGrid(const QString& gridAndColumns) {
-        const FlexGrid& list = grid(gridAndColumns);
-        QStringList found;
-        for (int row = 1; row < list.Rows(); ++row) {
-            found += cells(list, row, afterFirst(gridAndColumns));
-        }
-        expectRows(found);
+        const auto [first, last] = columnsIn(afterFirst(gridAndColumns));
+        expectRows(GridRows(grid(gridAndColumns), first, last));
     }
     void gridRow(const QString& text) {
-        expect(cells(grid(text), text.section(u' ', 1, 1).toInt(), text.section(u' ', 2, 2)),
-               text.section(u' ', 3));
+        const auto [first, last] = columnsIn(text.section(u' ', 2, 2));
+        expect(GridRow(grid(text), text.section(u' ', 1, 1).toInt(), first, last), text.section(u' ', 3));
     }
     void cursor(const QString& gridAndCell) {
         const FlexGrid& list = grid(gridAndCell);

@@ -1,6 +1,6 @@
 #include "entry/PaymentHistory.h"
 
-#include "platform/forms/FlexGrid.h"
+#include "support/GridText.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 
@@ -12,39 +12,20 @@ namespace {
 class PaymentHistory : public testing::Test {
  protected:
     void SetUp() override {
-        ScratchStore::run(
-            "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku) "
-            "VALUES(1,2022,12,500,4000,0,4500);\n"
-            "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku) "
-            "VALUES(1,2023,4,0,5000,1200,600);\n"
-            "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku) VALUES(1,2023,3,0,1,2,3);\n"
-            "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku) VALUES(2,2023,4,9,9,9,9);\n"
-            "INSERT INTO Dny(Dno,Eda,Hizuke,Deal,Nendo,Getudo,Gaku) "
-            "VALUES(3,1,CDATE('2022/12/5'),1,2022,12,4500);\n"
-            "INSERT INTO Dny(Dno,Eda,Hizuke,Deal,Nendo,Getudo,Gaku) "
-            "VALUES(4,1,CDATE('2023/3/5'),1,2023,3,3);\n"
-            "INSERT INTO Dny(Dno,Eda,Hizuke,Deal,Nendo,Getudo,Gaku) "
-            "VALUES(5,1,CDATE('2023/3/25'),1,2023,4,100);\n"
-            "INSERT INTO Dny(Dno,Eda,Hizuke,Deal,Nendo,Getudo,Gaku) "
-            "VALUES(6,1,CDATE('2023/4/2'),1,2023,4,200);\n"
-            "INSERT INTO Dny(Dno,Eda,Hizuke,Deal,Nendo,Getudo,Gaku) "
-            "VALUES(6,2,CDATE('2023/4/2'),1,2023,4,300);\n"
-            "INSERT INTO Dny(Dno,Eda,Hizuke,Deal,Nendo,Getudo,Gaku) "
-            "VALUES(7,1,CDATE('2023/4/2'),2,2023,4,9);\n"
-            "INSERT INTO TempTtoD(Nendo,Getudo,Eda,GGaku) VALUES(1999,1,1,1)");
-    }
-
-    QStringList shown() const {
-        QStringList lines;
-        for (int row = 1; row < list.Rows(); ++row) {
-            QStringList cells;
-            for (int col = 0; col < list.Cols(); ++col) {
-                cells += list.TextMatrix(row, col);
+        const auto insert = [](const QString& table, std::initializer_list<const char*> rows) {
+            for (const char* row : rows) {
+                gDb->Execute("INSERT INTO " + table + " VALUES(" + row + ")");
             }
-            lines += cells.join(u'|');
-        }
-        return lines;
+        };
+        insert("TtoD(Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku)",
+               {"1,2022,12,500,4000,0,4500", "1,2023,4,0,5000,1200,600", "1,2023,3,0,1,2,3",
+                "2,2023,4,9,9,9,9"});
+        insert("Dny(Dno,Eda,Hizuke,Deal,Nendo,Getudo,Gaku)",
+               {"3,1,#2022/12/5#,1,2022,12,4500", "4,1,#2023/3/5#,1,2023,3,3", "5,1,#2023/3/25#,1,2023,4,100",
+                "6,1,#2023/4/2#,1,2023,4,200", "6,2,#2023/4/2#,1,2023,4,300", "7,1,#2023/4/2#,2,2023,4,9"});
+        insert("TempTtoD(Nendo,Getudo,Eda,GGaku)", {"1999,1,1,1"});
     }
+    QStringList shown() const { return GridRows(list); }
 
     ScratchStore store;
     FlexGrid list;

@@ -2,6 +2,7 @@
 
 #include "platform/forms/Form.h"
 #include "platform/runtime/RuntimeError.h"
+#include "support/GridText.h"
 #include "support/ScreenTest.h"
 
 namespace akarix {
@@ -56,12 +57,9 @@ class GridEditing : public ScreenTest {
 };
 
 TEST_F(GridEditing, AppliesTheColumnTable) {
-    EXPECT_EQ(sheet.list.Cols(), 3);
-    EXPECT_EQ(sheet.list.TextMatrix(0, 1), u"得意先"_qs);
-    EXPECT_EQ(sheet.list.ColWidth(2), 1500);
-    EXPECT_EQ(sheet.list.ColAlignment(0), 7);
-    EXPECT_EQ(sheet.list.ColAlignment(1), 1);
-    EXPECT_EQ(sheet.list.ColAlignment(2), 4);
+    EXPECT_EQ(GridRow(sheet.list, 0), u"ｺｰﾄﾞ|得意先|区分"_qs);
+    const auto aligned = [this](int col) { return sheet.list.ColAlignment(col); };
+    EXPECT_EQ((QList<int>{aligned(0), aligned(1), aligned(2)}), (QList<int>{7, 1, 4}));
 }
 
 TEST_F(GridEditing, LaysTheBoxOverTheCell) {
