@@ -39,18 +39,18 @@ TEST_F(DatabaseTest, TheDeliveredFileHasEveryTableAndItsSettings) {
 
 TEST_F(DatabaseTest, AmountsThatAreNotGivenAreZero) {
     const ScratchStore store;
-    ScratchStore::run(
-        "INSERT INTO TtoD(Deal,Nendo,Getudo) VALUES(1,2011,3);\n"
-        "INSERT INTO Dgd(Nendo,Getudo,Deal) VALUES(2011,3,1);\n"
-        "INSERT INTO Dud(Dno,Eda) VALUES(1,1);\n"
-        "INSERT INTO Dny(Dno) VALUES(1);\n");
-    EXPECT_EQ(ScratchStore::rows("SELECT ZenkaiGaku+GGaku+UGaku+Gaku-NGaku,NFlg,SyokiFlg FROM TtoD"),
-              QStringList{"0|0|0"});
-    EXPECT_EQ(ScratchStore::rows("SELECT ZenkaiMeter+KoukanMeter+KoukanGoMeter+KonkaiMeter+Suu+Gaku,Rte "
-                                 "FROM Dgd"),
-              QStringList{"0|0"});
-    EXPECT_EQ(ScratchStore::rows("SELECT Suu+Tanka+Gaku,CreateAuto FROM Dud"), QStringList{"0|0"});
-    EXPECT_EQ(ScratchStore::rows("SELECT Eda,Kubun,Gaku FROM Dny"), QStringList{"0|0|0"});
+    const char* const rows[][3] = {
+        {"TtoD(Deal,Nendo,Getudo) VALUES(1,2011,3)",
+         "ZenkaiGaku+GGaku+UGaku+Gaku-NGaku,NFlg,SyokiFlg FROM TtoD", "0|0|0"},
+        {"Dgd(Nendo,Getudo,Deal) VALUES(2011,3,1)",
+         "ZenkaiMeter+KoukanMeter+KoukanGoMeter+KonkaiMeter+Suu+Gaku,Rte FROM Dgd", "0|0"},
+        {"Dud(Dno,Eda) VALUES(1,1)", "Suu+Tanka+Gaku,CreateAuto FROM Dud", "0|0"},
+        {"Dny(Dno) VALUES(1)", "Eda,Kubun,Gaku FROM Dny", "0|0|0"},
+    };
+    for (const auto& [row, amounts, zeros] : rows) {
+        gDb->Execute(QString("INSERT INTO ") + row);
+        EXPECT_EQ(ScratchStore::rows(QString("SELECT ") + amounts), QStringList(zeros));
+    }
 }
 
 TEST_F(DatabaseTest, KeysDropTheSecondRow) {

@@ -1,12 +1,15 @@
 #include "store/Lookup.h"
 
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/CDate.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/Consignor.h"
+#include "support/CaseFile.h"
 #include "support/ScratchStore.h"
 
 namespace akarix {
 namespace {
+
+const char* const kDates = AKARIX_TEST_DATA "/dates.txt";
 
 class LookupTest : public testing::Test {
  protected:
@@ -68,20 +71,10 @@ TEST_F(LookupTest, DayOfAnEarlierReading) {
         "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2011,3,1,25);\n"
         "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2011,2,2,30);\n"
         "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2010,12,3,24);\n");
-    struct Case {
-        int year, month;
-        std::int32_t deal;
-        const char16_t* day;
-    };
-    const Case cases[] = {
-        {2011, 4, 1, u"2011/3/25"},  {2011, 3, 1, u""},  // its first reading is this month's
-        {2011, 4, 2, u""},                               // there is no 30th of February
-        {2011, 1, 3, u"2010/12/24"}, {2011, 1, 9, u""},
-    };
-    for (const Case& c : cases) {
+    for (const auto& [cells, line] : ReadTable(kDates, "read")) {
         QString text = "before";
-        PrevReadingDate(c.year, c.month, c.deal, text);
-        EXPECT_EQ(text, QString::fromUtf16(c.day)) << c.deal;
+        PrevReadingDate(cells[0].toInt(), cells[1].toInt(), cells[2].toInt(), text);
+        EXPECT_EQ(text, cells.value(3)) << line;
     }
 }
 
@@ -92,22 +85,11 @@ TEST_F(LookupTest, BillingMonthOfADate) {
         "INSERT INTO Deal(Code,Sime) VALUES(20,20);\n"
         "INSERT INTO Deal(Code,Sime) VALUES(100,0);\n"
         "INSERT INTO Deal(Code) VALUES(101);\n");
-    struct Case {
-        std::int32_t deal;
-        int year, month, day;
-        int nendo, getudo;
-    };
-    const Case cases[] = {
-        {31, 2011, 3, 31, 2011, 3}, {30, 2011, 3, 31, 2011, 4},  {20, 2011, 3, 20, 2011, 3},
-        {20, 2011, 3, 21, 2011, 4}, {20, 2010, 12, 31, 2011, 1}, {999, 2011, 12, 31, 2011, 12},
-        {100, 2011, 5, 1, 2011, 6}, {101, 2011, 12, 1, 2012, 1},
-    };
-    for (const Case& c : cases) {
+    for (const auto& [cells, line] : ReadTable(kDates, "billed")) {
         int nendo = 0;
         int getudo = 0;
-        DateToGetudo(c.deal, DateSerial(c.year, c.month, c.day), nendo, getudo);
-        EXPECT_EQ(nendo * 100 + getudo, c.nendo * 100 + c.getudo)
-            << c.deal << " on " << c.month << "/" << c.day;
+        DateToGetudo(cells[0].toInt(), CDate(cells[1]), nendo, getudo);
+        EXPECT_EQ(QString("%1/%2").arg(nendo).arg(getudo), cells[2]) << line;
     }
 }
 

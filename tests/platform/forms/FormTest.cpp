@@ -245,15 +245,6 @@ TEST_F(Forms, ControlsComeInTheOrderOfTheirMakingAndTheWalkByTabIndex) {
     EXPECT_EQ(clerk.focused(), right);
 }
 
-TEST_F(Forms, FieldsAndButtonsJoinTheWalkInTheirOrder) {
-    QStringList walk;
-    for (const QWidget* control : sample().Controls()) {
-        if (TabIndex(control) >= 0)
-            walk << QString("%1 %2").arg(TabIndex(control)).arg(control->objectName());
-    }
-    EXPECT_EQ(walk, QStringList({"0 ebox(0)", "1 ebox(1)", "2 ebox(2)", "3 Btn(0)"}));
-}
-
 TEST_F(Forms, SetFocusRefusesWhatCannotTakeIt) {
     Sample_frm& form = sample();
     const auto number = [](QWidget* control) {
