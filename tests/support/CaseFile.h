@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "support/PrintQString.h"
+
 namespace akarix {
 
 inline QStringList LinesOf(const QString& path) {

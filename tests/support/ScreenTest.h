@@ -2,16 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include <QString>
-#include <ostream>
-
 #include "clerk/Clerk.h"
-
-QT_BEGIN_NAMESPACE
-inline void PrintTo(const QString& text, std::ostream* stream) {
-    *stream << '"' << text.toStdString() << '"';
-}
-QT_END_NAMESPACE
+#include "support/PrintQString.h"
 
 namespace akarix {
 
