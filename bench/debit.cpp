@@ -3,6 +3,7 @@
 
 #include <QApplication>
 
+#include "BenchApplication.h"
 #include "DealerFiles.h"
 #include "Measure.h"
 #include "PeerDebit.h"
@@ -10,8 +11,6 @@
 #include "debit/DebitQuery.h"
 #include "debit/DebitReader.h"
 #include "debit/PostDebitFile.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Style.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DateSerial.h"
 
@@ -114,10 +113,6 @@ int run() {
 }  // namespace akarix::bench
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    akarix::ApplyStyle(application);
-    const int result = akarix::bench::run();
-    akarix::Form::DropInstances();
-    return result;
+    const akarix::bench::BenchApplication application(argc, argv);
+    return akarix::bench::run();
 }

@@ -4,6 +4,7 @@
 #include <unistd.h>
 #include <QApplication>
 
+#include "BenchApplication.h"
 #include "DealerFiles.h"
 #include "Documents.h"
 #include "Measure.h"
@@ -13,7 +14,6 @@
 #include "entry/TorZan_frm.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/Guard.h"
-#include "platform/forms/Style.h"
 #include "reports/RepoDaichou_frm.h"
 #include "store/FieldValue.h"
 #include "toolkit/Lookups.h"
@@ -195,10 +195,8 @@ void benchBooks() {
 
 int main(int argc, char** argv) {
     using namespace akarix::bench;
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
+    const BenchApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    akarix::ApplyStyle(application);
     akarix::SetActionHooks(&akarix::Action::Begin, &akarix::Action::End);
     printHead();
     benchBooks();

@@ -6,10 +6,10 @@
 #include <QApplication>
 #include <QFile>
 
+#include "BenchApplication.h"
 #include "DealerFiles.h"
 #include "Measure.h"
 #include "output/EX.h"
-#include "platform/forms/Style.h"
 #include "platform/print/Printer.h"
 #include "reports/InvoiceSheet.h"
 #include "store/FieldValue.h"
@@ -85,8 +85,6 @@ int run() {
 }  // namespace akarix::bench
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    akarix::ApplyStyle(application);
+    const akarix::bench::BenchApplication application(argc, argv);
     return akarix::bench::run();
 }

@@ -3,10 +3,10 @@
 #include <QApplication>
 #include <QFile>
 
+#include "BenchApplication.h"
 #include "DealerFiles.h"
 #include "Measure.h"
 #include "output/EX.h"
-#include "platform/forms/Style.h"
 #include "platform/print/Printer.h"
 #include "reports/RepoSeikyu_frm.h"
 
@@ -55,10 +55,6 @@ int run() {
 }  // namespace akarix::bench
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    akarix::ApplyStyle(application);
-    const int result = akarix::bench::run();
-    akarix::Form::DropInstances();
-    return result;
+    const akarix::bench::BenchApplication application(argc, argv);
+    return akarix::bench::run();
 }

@@ -3,13 +3,13 @@
 
 #include <QApplication>
 
+#include "BenchApplication.h"
 #include "DealerFiles.h"
 #include "Measure.h"
 #include "PeerSheet.h"
 #include "clerk/Clerk.h"
 #include "entry/SlipG_frm.h"
 #include "platform/forms/Guard.h"
-#include "platform/forms/Style.h"
 
 namespace akarix::bench {
 namespace {
@@ -98,10 +98,8 @@ void benchEnter(int customers, const char* work) {
 
 int main(int argc, char** argv) {
     using namespace akarix::bench;
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
+    const BenchApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    akarix::ApplyStyle(application);
     akarix::SetActionHooks(&akarix::Action::Begin, &akarix::Action::End);
     printHead();
     benchOpening();

@@ -1,4 +1,4 @@
-#include "TemplateBook.h"
+#include "StatementTable.h"
 
 namespace akarix {
 
@@ -7,18 +7,7 @@ namespace {
 constexpr int headRow = 4, firstDetail = 5, lastDetail = 46, totals = 47;
 constexpr uint32_t shade = 0xE4EAF0;
 
-/// A block of columns that the lines of the table share.
-struct Block {
-    const char16_t* first;
-    const char16_t* last;
-    int columns;
-    int pixels;  ///< of one column
-    const char16_t* head;
-    lxw_format_alignments align;
-    const char* numberFormat;
-};
-
-constexpr Block blocks[] = {
+constexpr StatementBlock blocks[] = {
     {u"A", u"D", 4, 13, u"得意先", LXW_ALIGN_RIGHT, "0"},
     {u"E", u"L", 8, 16, u"銀行-支店-種別-口座", LXW_ALIGN_CENTER, "@"},
     {u"M", u"S", 7, 24, u"預金者名", LXW_ALIGN_LEFT, "@"},
@@ -27,21 +16,11 @@ constexpr Block blocks[] = {
     {u"AI", u"AP", 8, 13, u"備考", LXW_ALIGN_LEFT, "@"},
 };
 
-QString rangeOf(const Block& block, int row) {
-    return QStringLiteral("%1%3:%2%3")
-        .arg(QString::fromUtf16(block.first), QString::fromUtf16(block.last))
-        .arg(row);
-}
-
 }  // namespace
 
 bool WriteBankStatementTemplate(const QString& path) {
     TemplateBook book(path);
-    std::vector<int> widths;
-    for (const Block& block : blocks) {
-        widths.insert(widths.end(), static_cast<size_t>(block.columns), block.pixels);
-    }
-    book.columns(widths);
+    AddStatementHead(book, blocks, headRow, shade);
     book.rows(1, 1, 27);
     book.rows(2, 2, 16.5);
     book.rows(3, 3, 13.5);
@@ -60,13 +39,12 @@ bool WriteBankStatementTemplate(const QString& path) {
     book.merged("AM2:AP2", QString(),
                 book.look({.size = 9, .align = LXW_ALIGN_RIGHT, .numberFormat = "@", .shrink = true}));
 
-    for (const Block& block : blocks) {
-        TemplateBook::Look look{.align = LXW_ALIGN_CENTER, .shrink = true, .framed = true, .fill = shade};
-        book.framed(rangeOf(block, headRow), QString::fromUtf16(block.head), look);
-        look = {.align = block.align, .numberFormat = block.numberFormat, .shrink = true, .framed = true};
+    for (const StatementBlock& block : blocks) {
+        TemplateBook::Look look{
+            .align = block.align, .numberFormat = block.numberFormat, .shrink = true, .framed = true};
         for (int row = firstDetail; row <= lastDetail; ++row) {
             look.lastLine = row == lastDetail;
-            book.framed(rangeOf(block, row), QString(), look);
+            book.framed(RangeOf(block, row), QString(), look);
         }
     }
     const TemplateBook::Look total{.size = 10,

@@ -1,4 +1,4 @@
-#include "TemplateBook.h"
+#include "StatementTable.h"
 
 namespace akarix {
 
@@ -7,19 +7,8 @@ namespace {
 constexpr int firstLabel = 7, lastLabel = 12, headRow = 16, firstDetail = 17, pageTotal = 51;
 constexpr uint32_t shade = 0xE4EAF0;
 
-/// A block of columns that the lines of the table share.
-struct Block {
-    const char16_t* first;
-    const char16_t* last;
-    int columns;
-    int pixels;  ///< of one column
-    const char16_t* head;
-    lxw_format_alignments align;
-    const char* numberFormat;
-};
-
 // The closing block cuts the lines otherwise, A to I and J to O: its words must find room there too.
-constexpr Block blocks[] = {
+constexpr StatementBlock blocks[] = {
     {u"A", u"D", 4, 19, u"番号", LXW_ALIGN_NONE, "0"},
     {u"E", u"I", 5, 27, u"得意先コード", LXW_ALIGN_RIGHT, "0"},
     {u"J", u"X", 15, 17, u"預金者名", LXW_ALIGN_LEFT, "@"},
@@ -29,12 +18,6 @@ constexpr Block blocks[] = {
 
 constexpr const char16_t* labels[] = {u"契約種別", u"受入事務センター", u"委託者コード",
                                       u"委託者名", u"振替日",           u"委託者口座番号"};
-
-QString rangeOf(const Block& block, int row) {
-    return QStringLiteral("%1%3:%2%3")
-        .arg(QString::fromUtf16(block.first), QString::fromUtf16(block.last))
-        .arg(row);
-}
 
 void addConsignor(TemplateBook& book) {
     int row = firstLabel;
@@ -56,11 +39,7 @@ void addConsignor(TemplateBook& book) {
 
 bool WritePostStatementTemplate(const QString& path) {
     TemplateBook book(path);
-    std::vector<int> widths;
-    for (const Block& block : blocks) {
-        widths.insert(widths.end(), static_cast<size_t>(block.columns), block.pixels);
-    }
-    book.columns(widths);
+    AddStatementHead(book, blocks, headRow, shade);
     book.rows(1, 1, 12);
     book.rows(2, 2, 16.5);
     book.rows(3, 3, 28);
@@ -82,18 +61,16 @@ bool WritePostStatementTemplate(const QString& path) {
     addConsignor(book);
     book.merged("A14:AG14", QStringLiteral("次のとおり口座振替を請求します。"), book.look({.size = 10}));
 
-    for (const Block& block : blocks) {
-        TemplateBook::Look look{.align = LXW_ALIGN_CENTER, .shrink = true, .framed = true, .fill = shade};
-        book.framed(rangeOf(block, headRow), QString::fromUtf16(block.head), look);
-        look = {.size = 10,
-                .align = block.align,
-                .numberFormat = block.numberFormat,
-                .shrink = true,
-                .framed = true};
+    for (const StatementBlock& block : blocks) {
+        TemplateBook::Look look{.size = 10,
+                                .align = block.align,
+                                .numberFormat = block.numberFormat,
+                                .shrink = true,
+                                .framed = true};
         for (int row = firstDetail; row <= pageTotal; ++row) {
             look.lastLine = row >= pageTotal - 1;
             look.bold = row == pageTotal;
-            book.framed(rangeOf(block, row), QString(), look);
+            book.framed(RangeOf(block, row), QString(), look);
         }
     }
     book.page("A1:AG51", 0.45, 0.4);
