@@ -9,6 +9,7 @@
 #include "DealerFiles.h"
 #include "Measure.h"
 #include "platform/forms/Form.h"
+#include "platform/forms/SingleInstance.h"
 #include "platform/forms/Style.h"
 #include "shell/main_menu.h"
 
@@ -51,6 +52,8 @@ int startProgram(int argc, char** argv) {
     const Clock::time_point start{Clock::duration(std::atoll(argv[1]))};
     QApplication application(argc, argv);
     ApplyStyle(application);
+    // A program running at the desk is none of its business.
+    SingleInstance::KeepIn(QDir::currentPath());
     const Watch watch(start);
     return main_menu::Start() ? QApplication::exec() : 1;
 }
@@ -58,8 +61,6 @@ int startProgram(int argc, char** argv) {
 int run(const QString& program) {
     DealerFiles files(kCustomers, kMonths);
     files.copy("Akarix");
-    // A guard of its own: a program running at the desk is none of its business.
-    qputenv("XDG_CACHE_HOME", QDir::currentPath().toUtf8());
     std::vector<Time> starts;
     for (int i = 0; i < kRuns; ++i) {
         QProcess process;

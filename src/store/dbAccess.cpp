@@ -3,6 +3,7 @@
 #include "platform/jet/DBEngine.h"
 #include "platform/runtime/RuntimeError.h"
 #include "platform/runtime/Str.h"
+#include "store/StoreClaim.h"
 
 namespace akarix {
 
@@ -37,6 +38,14 @@ QString ConnectText() {
 }
 
 bool OpenDb(void (*fail)(const QString& text, const QString& title)) {
+    // Another desk that opens the file is soon done.
+    const StoreClaim claim(DatabaseName(), std::chrono::seconds(1));
+    if (!claim.holder().isEmpty()) {
+        fail(QStringLiteral("%1 は %2 が使用中です。\r終わってから、もう一度起動してください。")
+                 .arg(DatabaseName(), claim.holder()),
+             QStringLiteral("エラー"));
+        return false;
+    }
     for (;;) {
         try {
             gWs = &DBEngine::Workspaces(0);

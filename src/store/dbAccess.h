@@ -14,8 +14,9 @@ QString DatabaseName();
 QString StorePassword();
 QString ConnectText();
 
-/// Opens the store; a damaged file is repaired and tried again without limit. Any other failure is told
-/// through `fail` with the ready text, and false comes back: the caller ends the program.
+/// Opens the store; a damaged file is repaired and tried again without limit. Any other failure, and a file
+/// that somebody else is working on alone, is told through `fail` with the ready text, and false comes back:
+/// the caller ends the program.
 bool OpenDb(void (*fail)(const QString& text, const QString& title));
 /// Brings an older file up to date; each step's failure is dropped.
 void MigrateDb();

@@ -8,6 +8,7 @@
 #include "platform/forms/SingleInstance.h"
 #include "platform/forms/TextBox.h"
 #include "store/Settings.h"
+#include "store/StoreClaim.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 #include "values/Dates.h"
@@ -19,8 +20,8 @@ class MainMenu : public ScreenTest {
  protected:
     /// The guard against a second program is this machine's; the one that may run here is no concern of ours.
     static void SetUpTestSuite() {
-        static const QTemporaryDir cache;
-        qputenv("XDG_CACHE_HOME", cache.path().toUtf8());
+        static const QTemporaryDir guard;
+        SingleInstance::KeepIn(guard.path());
     }
     /// Changes the store before the program is started.
     static void prepare(const QString& statements) {
@@ -136,12 +137,22 @@ TEST_F(MainMenu, TakesTheExactPasswordOnce) {
 }
 
 TEST_F(MainMenu, EndsWithoutAStore) {
+    const auto refused = [this] {
+        clickSplash();
+        clerk.answerMsgBox();
+        EXPECT_FALSE(main_menu::Start());
+        EXPECT_EQ(shownForms(), QList<QWidget*>());
+        return clerk.lastSaid();
+    };
+    {
+        const StoreClaim byTheCompanion(store.path());
+        EXPECT_EQ(
+            refused(),
+            u"Akarix.MDB は test_shell (%1) が使用中です。\n終わってから、もう一度起動してください。"_qs.arg(
+                QApplication::applicationPid()));
+    }
     ASSERT_TRUE(QFile::remove(store.path()));
-    clickSplash();
-    clerk.answerMsgBox();
-    EXPECT_FALSE(main_menu::Start());
-    EXPECT_TRUE(clerk.lastSaid().startsWith(u"エラー番号  3024"_qs));
-    EXPECT_EQ(shownForms(), QList<QWidget*>());
+    EXPECT_TRUE(refused().startsWith(u"エラー番号  3024"_qs));
 }
 
 // ---- the password

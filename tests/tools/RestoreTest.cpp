@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include "platform/forms/SingleInstance.h"
+#include "store/StoreClaim.h"
 #include "support/ScratchStore.h"
 #include "tools/AdminRun.h"
 
@@ -98,9 +100,33 @@ TEST_F(Restoring, WhatMustNotBeDoneIsRefused) {
 }
 
 TEST_F(Restoring, AFileInUseIsNotMadeAnew) {
-    const Holder program(DatabaseName());
-    EXPECT_THAT(run(QStringLiteral("create --force")).said, HasSubstr("使用中です"));
+    const auto refused = [] { return run(QStringLiteral("create --force")).said; };
+    {
+        const Holder program(DatabaseName());
+        EXPECT_THAT(refused(), HasSubstr("使用中です"));
+    }
+    {
+        const StoreClaim byAnother(DatabaseName());
+        EXPECT_THAT(refused(), HasSubstr("使用中です: test_tools ("));
+    }
+    {
+        // The desktop program of another user, whose open files are not told.
+        const QTemporaryDir guards;
+        SingleInstance::KeepIn(guards.path());
+        const SingleInstance here;
+        EXPECT_THAT(refused(), HasSubstr("Akarix が動いています"));
+        EXPECT_EQ(run(QStringLiteral("create other.mdb")).code, Done)
+            << "the file is guarded, not the machine";
+    }
+    SingleInstance::KeepIn({});
     EXPECT_EQ(contentsOf(DatabaseName()), today_);
+}
+
+TEST_F(Restoring, WhatADeadOneLeftDoesNotStandInTheWay) {
+    const QString name = QStringLiteral("9999999\nakarix-admin\n%1\n").arg(QSysInfo::machineHostName());
+    writeFile(QStringLiteral("Akarix.MDB.lock"), name.toUtf8());
+    EXPECT_EQ(run(QStringLiteral("restore 3")).code, Done);
+    EXPECT_FALSE(QFile::exists(QStringLiteral("Akarix.MDB.lock")));
 }
 
 }  // namespace

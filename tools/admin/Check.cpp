@@ -69,8 +69,7 @@ int checkFigures(const QString& path, int since) {
 }
 
 int checkFile(const QString& path, int since) {
-    const SingleInstance guard;
-    const QString holder = holderOf(path, guard.PrevInstance());
+    const QString holder = holderOf(path);
     if (!holder.isEmpty()) {
         tell(holder + QStringLiteral("\n  仕事の途中なら、台帳が合わないように見えることがあります。\n"));
     }

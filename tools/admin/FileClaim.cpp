@@ -2,9 +2,11 @@
 
 #include <QFileInfo>
 
+#include "platform/forms/SingleInstance.h"
 #include "platform/jet/RawFile.h"
 #include "platform/runtime/FileHolders.h"
 #include "platform/runtime/RuntimeError.h"
+#include "store/dbAccess.h"
 
 namespace akarix::admin {
 
@@ -21,22 +23,34 @@ bool isLocked(const QString& path) {
     }
 }
 
+/// The program of another user keeps its open files to itself, but not where it runs.
+bool programHas(const QString& path) {
+    const std::optional<QString> folder = SingleInstance::RunningIn();
+    if (!folder) return false;
+    const QFileInfo its(*folder + u'/' + DatabaseName());
+    return folder->isEmpty() || its.canonicalFilePath() == QFileInfo(path).canonicalFilePath();
+}
+
 }  // namespace
 
-QString holderOf(const QString& path, bool programRuns) {
+QString holderOf(const QString& path) {
     if (!QFileInfo(path).isFile()) return {};
-    const auto holders = FileHolders(path);
-    if (holders && !holders->isEmpty()) {
-        return QStringLiteral("%1 は使用中です: %2").arg(path, holders->join(QStringLiteral("、")));
+    const QStringList holders = FileHolders(path).value_or(QStringList());
+    if (!holders.isEmpty()) {
+        return QStringLiteral("%1 は使用中です: %2").arg(path, holders.join(QStringLiteral("、")));
     }
-    if (!holders && programRuns) return QStringLiteral("Akarix が動いています。");
+    if (programHas(path)) return QStringLiteral("Akarix が動いています。");
     if (isLocked(path)) return QStringLiteral("%1 はほかの机で使用中です。").arg(path);
     return {};
 }
 
-FileClaim::FileClaim(const QString& path) : refusal_(holderOf(path, guard_.PrevInstance())) {
-    if (!refusal_.isEmpty())
-        refusal_ += QStringLiteral("\nAkarix を終わらせてから、もう一度実行してください。");
+FileClaim::FileClaim(const QString& path) : claim_(path) {
+    if (!claim_.holder().isEmpty()) {
+        refusal_ = QStringLiteral("%1 は使用中です: %2").arg(path, claim_.holder());
+    } else {
+        refusal_ = holderOf(path);
+    }
+    if (!refusal_.isEmpty()) refusal_ += QStringLiteral("\n終わらせてから、もう一度実行してください。");
 }
 
 }  // namespace akarix::admin

@@ -2,16 +2,15 @@
 
 #include <QString>
 
-#include "platform/forms/SingleInstance.h"
+#include "store/StoreClaim.h"
 
 namespace akarix::admin {
 
-/// Who has a database file open.
-/// \param programRuns whether the desktop program is known to run; it counts where the machine does not tell
-/// which files are open. Empty when nobody has; otherwise a sentence that says who.
-QString holderOf(const QString& path, bool programRuns);
+/// Who has a database file open: empty when nobody has, otherwise a sentence that says who.
+QString holderOf(const QString& path);
 
-/// A command's claim to a file it is about to change: while it lives the desktop program does not start.
+/// A command's claim to a file it is about to change: while it lives the desktop program does not open the
+/// file, and says why. On other files it works on.
 class FileClaim {
  public:
     explicit FileClaim(const QString& path);
@@ -20,7 +19,7 @@ class FileClaim {
     const QString& refusal() const { return refusal_; }
 
  private:
-    SingleInstance guard_;
+    StoreClaim claim_;
     QString refusal_;
 };
 

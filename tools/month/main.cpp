@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QFile>
 #include <QTemporaryDir>
 #include <cstdio>
 
@@ -7,6 +6,7 @@
 #include "month/Failure.h"
 #include "month/MonthPlayer.h"
 #include "month/Options.h"
+#include "platform/forms/SingleInstance.h"
 #include "platform/forms/Style.h"
 #include "platform/runtime/RuntimeError.h"
 
@@ -43,10 +43,10 @@ int main(int argc, char** argv) {
     }
     // The scale is read when the application is made, so it is set before.
     if (options->scale != 1) qputenv("QT_SCALE_FACTOR", QByteArray::number(options->scale));
-    // The program is one to a user, by a mark in his cache. The month is played in a folder of its own, so it
-    // neither disturbs one at work nor waits for it.
-    static const QTemporaryDir cache;  // outlives the mark in it
-    qputenv("XDG_CACHE_HOME", QFile::encodeName(cache.path()));
+    // The program is one to a machine. The month is played in a folder of its own, so it neither disturbs one
+    // at work nor waits for it.
+    static const QTemporaryDir guard;  // outlives the mark in it
+    akarix::SingleInstance::KeepIn(guard.path());
     akarix::GoOffscreenWithoutDisplay();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -1,37 +1,32 @@
 #include "platform/forms/SingleInstance.h"
 
 #include <QDir>
-#include <QLockFile>
-#include <QStandardPaths>
-#include <QSysInfo>
+
+#include "platform/runtime/MachineMark.h"
 
 namespace akarix {
 namespace {
 
-/// The user's own folder; the machine's id keeps desks apart that share a home over the network.
+QString guardFolder;  ///< empty: the machine's own
+
 QString guardPath() {
-    QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
-    if (folder.isEmpty() || !QDir().mkpath(folder)) folder = QDir::tempPath();
-    return QStringLiteral("%1/akarix-%2.lock").arg(folder, QString::fromLatin1(QSysInfo::machineUniqueId()));
+    return (guardFolder.isEmpty() ? MachineMarkFolder() : guardFolder) + QStringLiteral("/akarix.lock");
 }
 
 }  // namespace
 
-struct SingleInstance::Impl {
-    QLockFile lock{guardPath()};
-    bool previous = false;
-};
-
-SingleInstance::SingleInstance() : impl_(std::make_unique<Impl>()) {
-    // A guard left behind by a killed process is known by its process number, not by its age.
-    impl_->lock.setStaleLockTime(0);
-    impl_->previous = !impl_->lock.tryLock(0) && impl_->lock.error() == QLockFile::LockFailedError;
+SingleInstance::SingleInstance() : mark_(std::make_unique<MachineMark>(guardPath())) {
+    previous_ = !mark_->take(QDir::current().canonicalPath());
 }
 
 SingleInstance::~SingleInstance() = default;
 
-bool SingleInstance::PrevInstance() const {
-    return impl_->previous;
+std::optional<QString> SingleInstance::RunningIn() {
+    return MachineMark::wordOf(guardPath());
+}
+
+void SingleInstance::KeepIn(const QString& folder) {
+    guardFolder = folder;
 }
 
 }  // namespace akarix

@@ -2,11 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <QCoreApplication>
+#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
 #include <memory>
+
+#include "platform/runtime/MachineMark.h"
 
 namespace akarix {
 namespace {
@@ -14,6 +19,7 @@ namespace {
 /// The second process of the tests below: takes the guard, says so, and waits to be ended.
 TEST(SingleInstanceChild, HoldsTheGuard) {
     if (!qEnvironmentVariableIsSet("AKARIX_TEST_GUARD_CHILD")) return;
+    SingleInstance::KeepIn(qEnvironmentVariable("AKARIX_TEST_GUARD_CHILD"));
     const SingleInstance guard;
     puts(guard.PrevInstance() ? "second" : "first");
     fflush(stdout);
@@ -22,13 +28,13 @@ TEST(SingleInstanceChild, HoldsTheGuard) {
 
 class Guard : public testing::Test {
  protected:
-    Guard() { qputenv("XDG_CACHE_HOME", folder.path().toLocal8Bit()); }
-    ~Guard() override { qunsetenv("XDG_CACHE_HOME"); }
+    Guard() { SingleInstance::KeepIn(folder.path()); }
+    ~Guard() override { SingleInstance::KeepIn({}); }
 
     std::unique_ptr<QProcess> startChild() {
         auto child = std::make_unique<QProcess>();
         auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("AKARIX_TEST_GUARD_CHILD", "1");
+        environment.insert("AKARIX_TEST_GUARD_CHILD", folder.path());
         child->setProcessEnvironment(environment);
         child->start(QCoreApplication::applicationFilePath(),
                      {"--gtest_filter=SingleInstanceChild.*", "--gtest_brief=1"});
@@ -47,9 +53,21 @@ TEST_F(Guard, TheSecondProcessSeesTheFirstUntilItIsKilled) {
     auto first = startChild();
     EXPECT_EQ(firstWord(*first), "first");
     EXPECT_TRUE(SingleInstance().PrevInstance());
+    EXPECT_EQ(SingleInstance::RunningIn(), QDir::current().canonicalPath());
     first->kill();
     first->waitForFinished();
+    EXPECT_EQ(SingleInstance::RunningIn(), std::nullopt);
     EXPECT_FALSE(SingleInstance().PrevInstance());
+}
+
+TEST_F(Guard, IsForEveryUserOfTheMachine) {
+    EXPECT_TRUE(QFile::permissions(MachineMarkFolder()) & QFile::WriteOther);
+    const mode_t strict = umask(077);
+    const SingleInstance guard;
+    umask(strict);
+    EXPECT_TRUE(QFile::permissions(folder.filePath("akarix.lock")) & QFile::WriteOther);
+    QFile::setPermissions(folder.filePath("akarix.lock"), QFile::ReadOwner);
+    EXPECT_TRUE(SingleInstance().PrevInstance()) << "of somebody who let it only be read";
 }
 
 TEST_F(Guard, GivesTheGuardBackAtItsEnd) {
