@@ -4,6 +4,7 @@
 
 #include "admin/Columns.h"
 #include "billing/Tto.h"
+#include "ledger/LeaseCheck.h"
 #include "ledger/LedgerProof.h"
 #include "ledger/ReadingCheck.h"
 #include "platform/jet/Action.h"
@@ -41,6 +42,14 @@ class ThreeMonths : public testing::Test {
         }
     }
 
+    static void purge(int deal, int month) {
+        for (const char16_t* table : {u"TtoD", u"Dgd", u"Dud", u"Dny"}) {
+            ScratchStore::run(
+                u"DELETE FROM %1 WHERE Nendo=2011 AND Getudo=%2 AND Deal=%3"_qs.arg(QString::fromUtf16(table))
+                    .arg(month)
+                    .arg(deal));
+        }
+    }
     static QString payment(int number, int deal, int month, int kubun, int yen) {
         return u"INSERT INTO Dny(Dno,Eda,Hizuke,Deal,Kubun,Gaku,Nendo,Getudo) "
                "VALUES(%1,%2,CDATE('2011/%3/15'),%4,%2,%5,2011,%3)"_qs.arg(number)
@@ -114,13 +123,77 @@ TEST_F(ThreeMonths, ADifferenceIsToldWithWhyItArose) {
 }
 
 TEST_F(ThreeMonths, WhatAPurgedMonthCarriedIsNotHeldAgainstTheNext) {
-    for (const char16_t* table : {u"TtoD", u"Dgd", u"Dud", u"Dny"}) {
-        ScratchStore::run(u"DELETE FROM %1 WHERE Nendo=2011 AND Getudo=1"_qs.arg(QString::fromUtf16(table)));
-    }
+    purge(1, 1);
+    purge(2, 1);
     const LedgerProof proof = ProveLedger(*gDb, [](int, int) {});
     EXPECT_TRUE(proof.findings.empty());
     EXPECT_EQ(proof.unproved, 1);
     EXPECT_EQ(proof.first, std::pair(2011, 2));
+}
+
+TEST_F(ThreeMonths, WhatOneCustomersPurgedMonthCarriedIsNoFaultUnlessItsDocumentsStand) {
+    purge(2, 1);
+    const LedgerProof proof = ProveLedger(*gDb, [](int, int) {});
+    EXPECT_TRUE(proof.findings.empty());
+    EXPECT_EQ(proof.purged, std::vector<std::int32_t>{2});
+    ScratchStore::run(slip(2, 2, 1, 400));
+    EXPECT_EQ(ProveLedger(*gDb, [](int, int) {}).findings.size(), 2U) << "no row in January, and a balance";
+}
+
+/// The second customer leases both things, the first an ACU, in all the months; a finding is
+/// "customer month fault line".
+TEST_F(ThreeMonths, TheMonthsLeaseSlips) {
+    ScratchStore::run(u"UPDATE Deal SET ACU=1;\nUPDATE Deal SET Keihou=1 WHERE Code=2"_qs);
+    for (int month = 1; month <= 3; ++month)
+        BuildMonthLedger(2011, month, DateSerial(2011, month + 1, 0));
+    const QString alarm = u"警報機リース代"_qs;
+    const auto line = [](int slip, int row, const char16_t* name) {
+        return u"INSERT INTO Dud(Dno,Eda,Deal,HinNamae,Gaku,Nendo,Getudo,CreateAuto) "
+               "VALUES(%1,%2,1,'%3',400,2011,3,1)"_qs.arg(slip)
+                   .arg(row)
+                   .arg(QString::fromUtf16(name));
+    };
+    const int march = ScratchStore::rows(u"SELECT Dno FROM Dud WHERE Deal=1 AND Getudo=3"_qs)[0].toInt();
+    const QString ended = u"UPDATE Deal SET ACU=0,Keihou=0"_qs;
+    struct {
+        const char* what;
+        QString plant;
+        QString told;
+    } const cases[] = {
+        {"nothing", {}, {}},
+        {"a line lost", u"DELETE FROM Dud WHERE Deal=2 AND Getudo=2 AND HinNamae='%1'"_qs.arg(alarm),
+         u"2 2 0 "_qs + alarm},
+        {"a slip lost", u"DELETE FROM Dud WHERE Deal=1 AND Getudo=3"_qs, u"1 3 0 ACUリース代"_qs},
+        {"a lease begun behind the run", u"UPDATE Deal SET Keihou=1"_qs, u"1 3 0 "_qs + alarm},
+        {"both ended", ended, {}},
+        {"a slip lost before the end", ended + u";\nDELETE FROM Dud WHERE Deal=1 AND Getudo=2"_qs,
+         u"1 2 0 ACUリース代"_qs},
+        {"a line that nobody leases", line(march, 2, u"警報機リース代"), u"1 3 1 "_qs + alarm},
+        {"a line twice", line(march, 2, u"ACUリース代"), u"1 3 2 ACUリース代"_qs},
+        {"a second slip", line(900, 1, u"ACUリース代"), u"1 3 3 "_qs},
+        {"one number for both", u"UPDATE Dud SET Dno=900,Eda=Deal*10+Eda WHERE CreateAuto=1 AND Getudo=2"_qs,
+         u"1 2 4 |2 2 4 "_qs},
+        {"a line of goods", line(march, 2, u"ホース"), u"1 3 5 ホース"_qs},
+    };
+    const QByteArray sound = admin::contentsOf(store_.path());
+    const auto findings = [] {
+        QStringList found;
+        for (const LeaseFinding& f : CheckLeases(*gDb, 0)) {
+            found += u"%1 %2 %3 %4"_qs.arg(f.deal).arg(f.getudo).arg(static_cast<int>(f.fault)).arg(f.line);
+        }
+        return found.join(u'|').toStdString();
+    };
+    for (const auto& [what, plant, told] : cases) {
+        CloseDb();
+        admin::writeFile(store_.path(), sound);
+        OpenDb([](const QString&, const QString&) {});
+        ScratchStore::run(plant);
+        EXPECT_EQ(findings(), told.toStdString()) << what;
+    }
+    ScratchStore::run(u"DELETE FROM Dud WHERE Deal=1 AND Getudo=3"_qs);
+    purge(2, 2);
+    EXPECT_EQ(findings(), "1 3 0 ACUリース代") << "what is purged is not missing";
+    EXPECT_TRUE(CheckLeases(*gDb, 201104).empty());
 }
 
 TEST_F(ThreeMonths, CheckTellsADealerAndAScript) {
@@ -147,6 +220,20 @@ TEST_F(ThreeMonths, CheckTellsADealerAndAScript) {
          "2011/04 から"},
         {u"UPDATE TtoD SET ZenkaiGaku=7,SyokiFlg=1 WHERE Deal=1 AND Getudo=3"_qs, {}, 0, "繰越を手で決めた"},
         {u"UPDATE Dgd SET Suu=-10,KonkaiMeter=20 WHERE Deal=1 AND Getudo=3"_qs, {}, 1, "使用量がマイナス"},
+        {u"DELETE FROM TtoD WHERE Deal=2 AND Getudo=1;\nDELETE FROM Dgd WHERE Deal=2 AND Getudo=1"_qs,
+         {},
+         0,
+         "はじめの月を消した得意先の、確かめられない繰越: 1 件（得意先 2）"},
+        {u"UPDATE Deal SET ACU=1 WHERE Code=1"_qs, {}, 1, "2011/03       1  山田        ACUリース代がない"},
+        {u"UPDATE Dgd SET ZenkaiMeter=25,Suu=15 WHERE Deal=1 AND Getudo=3"_qs,
+         {},
+         1,
+         "前回が、最後に読んだ値（30）と違う"},
+        {u"UPDATE Dgd SET KonkaiMeter=0,Suu=0,Gaku=0 WHERE Deal=2 AND Getudo=3;\n"
+         "UPDATE TtoD SET GGaku=0,Gaku=0 WHERE Deal=2 AND Getudo=3"_qs,
+         {},
+         1,
+         "読まないまま請求した（1 か月）"},
     };
     for (const auto& [plant, arguments, code, says] : cases) {
         withStore(plant);
@@ -237,6 +324,65 @@ TEST(Readings, OnesOutOfTheRowAreDoubted) {
                          .arg(static_cast<int>(reading.doubt));
         }
         EXPECT_EQ(found.join(u' ').toStdString(), doubted) << uses;
+    }
+}
+
+/// A customer's months, "previous-present" each, "previous-present/old end/new start" with an exchange, "."
+/// for a month without a row; all are billed but for one with a "?".
+TEST(Readings, EachBeginsWhereTheLastOneEnded) {
+    struct {
+        const char* months;
+        bool takesGas;
+        const char* doubted;  // month:doubt:usual
+    } const cases[] = {
+        {"0-100 100-120 120-150", true, ""},
+        {"0-100 100-120 110-150", true, "2:5:120"},
+        {"700-720", true, ""},  // nothing to hold it against
+        {"0-100 100-12/150/0 12-30", true, ""},
+        {"0-100 100-12/150/0 150-160", true, "2:5:12"},
+        {"0-100 100-0/130/0 0-20", true, ""},          // exchanged, and nothing used since
+        {"0-100 100-0 0-150", true, "1:6:1 2:5:100"},  // a month not read breaks the chain
+        {"0-100 100-0 100-150", true, "1:6:1"},        // and somebody has mended it
+        {"0-100 100-0 0-0 0-0 100-150", true, "1:6:3"},
+        {"0-100 100-0 0-0 0-0", false, "1:6:1"},  // the meter is gone, or so it seems
+        {"0-100 100-0?", true, ""},
+        {"0-100 0-0?", true, "1:5:100"},  // shown before the month ahead was read
+        {"0-0 0-0", false, ""},
+        {"0-0", true, "0:6:1"},
+        {"0-100 . . . . . . . . . . . . . . . . . . . . . . . . 90-120", true, "25:5:100"},
+    };
+    for (const auto& [months, takesGas, doubted] : cases) {
+        const ScratchStore store;
+        if (takesGas) ScratchStore::run(u"INSERT INTO Deal(Code,TankaPtn) VALUES(5,1)"_qs);
+        int month = -1;
+        for (const QString& told : QString::fromLatin1(months).split(u' ')) {
+            ++month;
+            if (told == u".") continue;
+            const QString date = u"%1,%2"_qs.arg(2010 + month / 12).arg(month % 12 + 1);
+            if (!told.endsWith(u'?'))
+                ScratchStore::run(u"INSERT INTO Syukei(Nen,Tuki) VALUES(%1)"_qs.arg(date));
+            const QStringList parts = told.chopped(told.endsWith(u'?') ? 1 : 0).split(u'/');
+            const int before = parts[0].section(u'-', 0, 0).toInt();
+            const int now = parts[0].section(u'-', 1).toInt();
+            const int oldEnd = parts.value(1).toInt();
+            const int use = oldEnd != 0 ? oldEnd - before + now : now != 0 ? now - before : 0;
+            ScratchStore::run(
+                u"INSERT INTO Dgd(Nendo,Getudo,Deal,ZenkaiMeter,KoukanMeter,KonkaiMeter,Suu,Gaku) "
+                "VALUES(%1,5,%2,%3,%4,%5,%6)"_qs.arg(date)
+                    .arg(before)
+                    .arg(oldEnd)
+                    .arg(now)
+                    .arg(use)
+                    .arg(use != 0 ? 2000 : 0));
+        }
+        QStringList found;
+        for (const DoubtfulReading& reading :
+             CheckReadings(*gDb, (2010 + month / 12 - 1) * 100 + month % 12 + 1)) {
+            found += u"%1:%2:%3"_qs.arg((reading.nendo - 2010) * 12 + reading.getudo - 1)
+                         .arg(static_cast<int>(reading.doubt))
+                         .arg(amountText(reading.usual));
+        }
+        EXPECT_EQ(found.join(u' ').toStdString(), doubted) << months;
     }
 }
 

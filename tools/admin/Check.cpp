@@ -28,11 +28,15 @@ const char* const helpText =
     "  1. ファイルをページごとに確かめます。\n"
     "  2. 台帳のすべての行を、検針、売上、入金と前の月の行から計算し直し、違うところを理由とともに\n"
     "     並べます。\n"
-    "  3. 人が見たほうがよい検針を並べます: 使用量がマイナス、使用量があるのに料金が 0、指針と\n"
-    "     使用量が合わない、その得意先の前の一年からかけ離れている。使用量 0 は空き家と見て挙げません。\n\n"
+    "  3. 請求処理をした月のリースの伝票を、得意先の印（ACU・警報機）と前後の月に合わせます: 一人に一枚、\n"
+    "     行は印のとおり、抜けも重なりもないこと。印を変えたあとは、請求処理をやり直すまで並びます。\n"
+    "  4. 人が見たほうがよい検針を並べます: 使用量がマイナス、使用量があるのに料金が 0、指針と\n"
+    "     使用量が合わない、前回が最後に読んだ値と違う、読まないまま請求した、その得意先の前の一年から\n"
+    "     かけ離れている。使用量 0 は空き家と見て挙げません。\n\n"
     "  --since 年/月   この月からあとのものだけを並べる、例 2011/4\n"
-    "                  （既定: 台帳は全部、検針は最後の一年）\n\n"
-    "手で決めた繰越は並べますが、誤りには数えません。\n"
+    "                  （既定: 台帳とリースは全部、検針は最後の一年）\n\n"
+    "手で決めた繰越は並べますが、誤りには数えません。台帳の画面で一人の分だけ消したはじめの月は、件数と\n"
+    "得意先だけを示します。\n"
     "終了コード: 0 異常なし、1 見つかったものがある、2 読めない（または使い方の誤り）\n";
 
 CustomerNames readNames(Database& db) {
@@ -59,13 +63,16 @@ int checkFigures(const QString& path, int since) {
     });
     tell(ledgerReport(proof, names));
 
+    const std::vector<LeaseFinding> leases = CheckLeases(store.db(), since);
+    tell(leaseReport(leases, names));
+
     const int from = since != 0 ? since : LastYearOfReadings(store.db());
     const auto doubtful = from != 0 ? CheckReadings(store.db(), from) : std::vector<DoubtfulReading>();
     tell(readingReport(doubtful, from, names));
 
     const bool isRight = std::all_of(proof.findings.begin(), proof.findings.end(),
                                      [](const LedgerFinding& f) { return f.cause == Cause::HandSet; });
-    return isRight && doubtful.empty() ? Clean : Found;
+    return isRight && leases.empty() && doubtful.empty() ? Clean : Found;
 }
 
 int checkFile(const QString& path, int since) {

@@ -49,12 +49,34 @@ QString wordOf(Doubt doubt, const QString& usual) {
             return QStringLiteral("使用量があるのに料金が 0");
         case Doubt::NotMeters:
             return QStringLiteral("指針からの計算（%1）と違う").arg(usual);
+        case Doubt::NotLast:
+            return QStringLiteral("前回が、最後に読んだ値（%1）と違う").arg(usual);
+        case Doubt::NeverRead:
+            return QStringLiteral("読まないまま請求した（%1 か月）").arg(usual);
         case Doubt::FarAbove:
             return QStringLiteral("この一年の最大（%1）よりはるかに多い").arg(usual);
         case Doubt::FarBelow:
             break;
     }
     return QStringLiteral("この一年の最小（%1）よりはるかに少ない").arg(usual);
+}
+
+QString wordOf(const LeaseFinding& finding) {
+    switch (finding.fault) {
+        case LeaseFault::Missing:
+            return QStringLiteral("%1がない").arg(finding.line);
+        case LeaseFault::NotLeased:
+            return QStringLiteral("得意先に印がないのに%1がある").arg(finding.line);
+        case LeaseFault::LineDoubled:
+            return QStringLiteral("%1が重なっている").arg(finding.line);
+        case LeaseFault::SlipDoubled:
+            return QStringLiteral("リースの伝票が何枚もある");
+        case LeaseFault::NumberShared:
+            return QStringLiteral("同じ番号の伝票がほかの月か得意先にもある");
+        case LeaseFault::UnknownLine:
+            break;
+    }
+    return QStringLiteral("リースではない行「%1」がある").arg(finding.line);
 }
 
 /// With thousands marks: "-1,234.5".
@@ -100,6 +122,14 @@ QString ledgerReport(const LedgerProof& proof, const CustomerNames& names) {
                 .arg(monthText(proof.first.first, proof.first.second))
                 .arg(proof.unproved);
     }
+    if (!proof.purged.empty()) {
+        QStringList customers;
+        for (const std::int32_t deal : proof.purged)
+            customers += QString::number(deal);
+        text += QStringLiteral("  はじめの月を消した得意先の、確かめられない繰越: %1 件（得意先 %2）\n")
+                    .arg(customers.size())
+                    .arg(customers.join(QStringLiteral("、")));
+    }
     for (const auto& [nendo, getudo] : proof.notYetBilled)
         text += QStringLiteral("  %1 はまだ請求処理をしていません。\n").arg(monthText(nendo, getudo));
     if (proof.findings.empty())
@@ -123,6 +153,18 @@ QString readingReport(const std::vector<DoubtfulReading>& doubtful, int fromMont
                    wordOf(reading.doubt, grouped(reading.usual))});
     }
     return text + QStringLiteral("  目を通してほしいもの: %1 件\n").arg(doubtful.size()) + table.text();
+}
+
+QString leaseReport(const std::vector<LeaseFinding>& findings, const CustomerNames& names) {
+    if (findings.empty()) return QStringLiteral("リースの伝票: 請求処理をした月と得意先の印に合います。\n");
+    Columns table({QStringLiteral("年月"), QStringLiteral(">得意先"), QStringLiteral("名前"),
+                   QStringLiteral(">伝票"), QStringLiteral("わけ")});
+    for (const LeaseFinding& finding : findings) {
+        table.add({monthText(finding.nendo, finding.getudo), QString::number(finding.deal),
+                   nameOf(finding.deal, names), finding.slip == 0 ? QString() : QString::number(finding.slip),
+                   wordOf(finding)});
+    }
+    return QStringLiteral("リースの伝票: 合わないところ %1\n").arg(findings.size()) + table.text();
 }
 
 }  // namespace akarix::admin

@@ -4,6 +4,7 @@
 #include <map>
 #include <vector>
 
+#include "ledger/LeaseCheck.h"
 #include "ledger/LedgerProof.h"
 #include "ledger/ReadingCheck.h"
 
@@ -13,6 +14,7 @@ using CustomerNames = std::map<std::int32_t, QString>;
 
 /// What a dealer reads of the checks: a line of sums, and a table of what was found.
 QString ledgerReport(const LedgerProof& proof, const CustomerNames& names);
+QString leaseReport(const std::vector<LeaseFinding>& findings, const CustomerNames& names);
 QString readingReport(const std::vector<DoubtfulReading>& doubtful, int fromMonth,
                       const CustomerNames& names);
 

@@ -153,6 +153,10 @@ class Walk {
             carried_[deal] = {month, row.carriedOut(), amountsOf(find(sales_, deal)),
                               amountsOf(find(payments_, deal))};
         }
+        for (const DocumentsOf* source : {&gas_, &sales_, &payments_}) {
+            for (const auto& [deal, documents] : *source)
+                documented_.insert(deal);
+        }
     }
 
  private:
@@ -217,9 +221,15 @@ class Walk {
         // The run carries for the customers it knows.
         if (!customers_.contains(deal)) return;
         if (before == carried_.end()) {
-            const bool isFirst = proof_.first == std::pair(month_.nendo, month_.getudo);
-            if (!isFirst) return note(deal, u"ZenkaiGaku", 0, row.zenkaiGaku, Cause::Unknown);
-            if (row.zenkaiGaku != 0) ++proof_.unproved;
+            if (row.zenkaiGaku == 0) return;
+            // A purge takes the documents with the rows.
+            if (documented_.contains(deal))
+                return note(deal, u"ZenkaiGaku", 0, row.zenkaiGaku, Cause::Unknown);
+            if (proof_.first == std::pair(month_.nendo, month_.getudo)) {
+                ++proof_.unproved;
+            } else {
+                proof_.purged.push_back(deal);
+            }
             return;
         }
         const Carried& carried = before->second;
@@ -240,6 +250,7 @@ class Walk {
     std::set<Code> customers_;
     std::map<Month, std::int64_t> runs_;
     std::map<Code, Carried> carried_;
+    std::set<Code> documented_;  ///< who has documents in an earlier month
 
     Month month_;
     std::optional<std::int64_t> run_;  ///< day of the month's last run

@@ -28,8 +28,10 @@ struct LedgerFinding {
 struct LedgerProof {
     int rows = 0;
     int months = 0;
-    int unproved = 0;           ///< balances carried into the first month, whose past is purged
-    int openings = 0;           ///< balances set by hand where the customer's rows begin
+    int unproved = 0;  ///< balances carried into the first month, whose past is purged
+    int openings = 0;  ///< balances set by hand where the customer's rows begin
+    std::vector<std::int32_t>
+        purged;                 ///< customers whose own first months are purged, and the balance with them
     std::pair<int, int> first;  ///< the ledger's first year and month
     std::vector<std::pair<int, int>> notYetBilled;  ///< years and months; only their payments are compared
     std::vector<LedgerFinding> findings;            ///< by month, then customer

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <deque>
+#include <optional>
+#include <set>
 
 #include "ledger/MeterUse.h"
 #include "ledger/Rows.h"
@@ -26,51 +28,135 @@ int countedMonth(std::int64_t nendo, std::int64_t getudo) {
     return static_cast<int>(nendo * 12 + getudo - 1);
 }
 
-/// The doubts of one reading, given the customer's year before it.
-void judge(DoubtfulReading reading, std::int64_t meters, const std::deque<PastUse>& year,
-           std::vector<DoubtfulReading>& doubtful) {
-    const auto doubt = [&](bool isSo, Doubt why, std::int64_t usual) {
+struct Reading {
+    std::int32_t deal = 0;
+    int nendo = 0;
+    int getudo = 0;
+    std::int64_t before = 0;
+    std::int64_t oldEnd = 0;  ///< of a meter that was exchanged
+    std::int64_t newStart = 0;
+    std::int64_t now = 0;
+    std::int64_t use = 0;
+    std::int64_t charge = 0;
+
+    int number() const { return nendo * 100 + getudo; }
+    bool neverRead() const { return now == 0 && use == 0 && charge == 0; }
+    /// What the meter shows at the end; a 0 only of one that has just been exchanged.
+    bool showsMeter() const { return now != 0 || (oldEnd != 0 && !neverRead()); }
+};
+
+/// Walks the readings, each customer's from the oldest to the newest.
+class Walk {
+ public:
+    Walk(Database& db, int from) : db_(db), from_(from) {
+        for (const auto& row : readNumbers(db, QStringLiteral("SELECT Code FROM Deal WHERE TankaPtn<>0")))
+            takesGas_.insert(static_cast<std::int32_t>(row[0]));
+        for (const auto& row : readNumbers(db, QStringLiteral("SELECT Nen,Tuki FROM Syukei")))
+            billed_.insert(static_cast<int>(row[0] * 100 + row[1]));
+    }
+
+    void add(const Reading& reading) {
+        if (reading.deal != deal_) beginCustomer(reading.deal);
+        const int month = countedMonth(reading.nendo, reading.getudo);
+        while (!year_.empty() && year_.front().month < month - 12)
+            year_.pop_front();
+        if (reading.number() >= from_) judge(reading);
+        wasRead_ = reading.showsMeter();
+        if (wasRead_) last_ = reading.now;
+        if (reading.use > 0) year_.push_back({month, reading.use});
+    }
+
+    std::vector<DoubtfulReading> doubtful;
+
+ private:
+    void beginCustomer(std::int32_t deal) {
+        deal_ = deal;
+        year_.clear();
+        last_.reset();
+        isOlderSought_ = false;
+        wasRead_ = false;
+        unread_ = 0;
+    }
+
+    void doubt(const Reading& reading, bool isSo, Doubt why, std::int64_t usual) {
         if (!isSo) return;
-        reading.doubt = why;
-        reading.usual = usual;
-        doubtful.push_back(reading);
-    };
-    const std::int64_t use = reading.use;
-    doubt(use < 0, Doubt::Negative, 0);
-    doubt(use > 0 && reading.charge == 0, Doubt::NoCharge, 0);
-    doubt(use != meters, Doubt::NotMeters, meters);
-    if (year.size() < fewestToCompare || use <= 0) return;
-    const auto [low, high] = std::minmax_element(
-        year.begin(), year.end(), [](const PastUse& a, const PastUse& b) { return a.use < b.use; });
-    doubt(use > high->use * timesAbove && use - high->use > leastGap, Doubt::FarAbove, high->use);
-    doubt(use * partBelow < low->use && low->use - use > leastGap, Doubt::FarBelow, low->use);
-}
+        doubtful.push_back({reading.deal, reading.nendo, reading.getudo, reading.before, reading.now,
+                            reading.use, reading.charge, why, usual});
+    }
+
+    void judge(const Reading& reading) {
+        judgePrevious(reading);
+        if (reading.neverRead()) return judgeUnread(reading);
+        unread_ = 0;
+        const std::int64_t use = reading.use;
+        const std::int64_t meters =
+            roundShown(meterUse(reading.before, reading.oldEnd, reading.newStart, reading.now), unit / 10);
+        doubt(reading, use < 0, Doubt::Negative, 0);
+        doubt(reading, use > 0 && reading.charge == 0, Doubt::NoCharge, 0);
+        doubt(reading, use != meters, Doubt::NotMeters, meters);
+        if (year_.size() < fewestToCompare || use <= 0) return;
+        const auto [low, high] = std::minmax_element(
+            year_.begin(), year_.end(), [](const PastUse& a, const PastUse& b) { return a.use < b.use; });
+        doubt(reading, use > high->use * timesAbove && use - high->use > leastGap, Doubt::FarAbove,
+              high->use);
+        doubt(reading, use * partBelow < low->use && low->use - use > leastGap, Doubt::FarBelow, low->use);
+    }
+
+    /// Behind a month that nobody read the next one starts at 0. In a row that is itself not read that
+    /// matters to nobody yet, and is told by the month before it.
+    void judgePrevious(const Reading& reading) {
+        if (reading.neverRead() && !wasRead_) return;
+        if (!last_) seekOlder(reading);
+        doubt(reading, last_ && *last_ != reading.before, Doubt::NotLast, last_.value_or(0));
+    }
+
+    /// A gap of several months is told once, where it begins.
+    void judgeUnread(const Reading& reading) {
+        const bool isDue = reading.before != 0 || takesGas_.contains(reading.deal);
+        if (!isDue || !billed_.contains(reading.number())) return;
+        if (unread_ == 0) {
+            doubt(reading, true, Doubt::NeverRead, 0);
+            unread_ = doubtful.size();
+        }
+        doubtful[unread_ - 1].usual += unit;
+    }
+
+    void seekOlder(const Reading& reading) {
+        if (isOlderSought_) return;
+        isOlderSought_ = true;
+        const auto found = readNumbers(
+            db_, QStringLiteral("SELECT TOP 1 KonkaiMeter FROM Dgd WHERE Deal=%1 AND Nendo*100+Getudo<%2 AND "
+                                "KonkaiMeter<>0 ORDER BY Nendo*100+Getudo DESC")
+                     .arg(reading.deal)
+                     .arg(reading.number()));
+        if (!found.empty()) last_ = found[0][0];
+    }
+
+    Database& db_;
+    int from_;
+    std::set<std::int32_t> takesGas_;
+    std::set<int> billed_;
+
+    std::int32_t deal_ = -1;
+    std::deque<PastUse> year_;
+    std::optional<std::int64_t> last_;  ///< what the customer's meter last showed
+    bool isOlderSought_ = false;
+    bool wasRead_ = false;    ///< in the row before
+    std::size_t unread_ = 0;  ///< place of the doubt that counts the months not read, from 1; 0: none
+};
 
 }  // namespace
 
 std::vector<DoubtfulReading> CheckReadings(Database& db, int fromMonth) {
-    std::vector<DoubtfulReading> doubtful;
-    std::deque<PastUse> year;
-    std::int64_t customer = -1;
+    Walk walk(db, fromMonth);
     for (const auto& row : readNumbers(
              db, QStringLiteral("SELECT Deal,Nendo,Getudo,ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,"
                                 "Suu,Gaku FROM Dgd WHERE Nendo*100+Getudo>=%1 ORDER BY Deal,Nendo,Getudo")
                      .arg(fromMonth - 100))) {
-        const bool neverRead = row[6] == 0 && row[7] == 0 && row[8] == 0;
-        if (neverRead) continue;
-        if (row[0] != customer) year.clear();
-        customer = row[0];
-        const int month = countedMonth(row[1], row[2]);
-        while (!year.empty() && year.front().month < month - 12)
-            year.pop_front();
-        if (row[1] * 100 + row[2] >= fromMonth) {
-            judge({static_cast<std::int32_t>(row[0]), static_cast<int>(row[1]), static_cast<int>(row[2]),
-                   row[3], row[6], row[7], row[8]},
-                  roundShown(meterUse(row[3], row[4], row[5], row[6]), unit / 10), year, doubtful);
-        }
-        if (row[7] > 0) year.push_back({month, row[7]});
+        walk.add({static_cast<std::int32_t>(row[0]), static_cast<int>(row[1]), static_cast<int>(row[2]),
+                  row[3], row[4], row[5], row[6], row[7], row[8]});
     }
-    return doubtful;
+    return std::move(walk.doubtful);
 }
 
 int LastYearOfReadings(Database& db) {

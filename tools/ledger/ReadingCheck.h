@@ -13,7 +13,9 @@ enum class Doubt {
     NoCharge,   ///< use, and nothing charged: no tariff band holds it
     NotMeters,  ///< the use that stands there is not what the meters say
     FarAbove,   ///< far above the customer's own year before
-    FarBelow
+    FarBelow,
+    NotLast,   ///< the previous reading is not what the meter showed when it was last read
+    NeverRead  ///< billed, and nobody has read the meter
 };
 
 /// Readings and use in 1/10,000 m³, the charge in 1/10,000 yen.
@@ -26,11 +28,15 @@ struct DoubtfulReading {
     std::int64_t use = 0;
     std::int64_t charge = 0;
     Doubt doubt = Doubt::Negative;
-    std::int64_t usual = 0;  ///< the year's highest or lowest use, or what the meters say
+    /// The year's highest or lowest use, what the meters say, what the meter last showed, or how many months
+    /// in a row nobody has read it.
+    std::int64_t usual = 0;
 };
 
 /// Looks through the readings from a month on (year * 100 + month), each held against those of its customer
-/// in the twelve months before. A use of nothing is not told of: houses stand empty. By customer and month.
+/// in the twelve months before, its previous reading against the last one however long ago. A use of nothing
+/// is not told of: houses stand empty; nor is a customer without gas who was never read. By customer and
+/// month.
 std::vector<DoubtfulReading> CheckReadings(Database& db, int fromMonth);
 
 /// Year * 100 + month of eleven months before the last one that has readings, so that a year is looked at; 0

@@ -1,0 +1,181 @@
+#include "ledger/LeaseCheck.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <set>
+#include <tuple>
+
+#include "ledger/Rows.h"
+#include "platform/jet/Database.h"
+
+namespace akarix {
+
+namespace {
+
+using Code = std::int32_t;
+
+struct Month {
+    int nendo = 0;
+    int getudo = 0;
+    friend auto operator<=>(const Month&, const Month&) = default;
+};
+
+struct Thing {
+    const char16_t* line;
+    const char16_t* mark;  ///< the customer's column
+};
+constexpr std::array<Thing, 2> things{{{u"ACUリース代", u"ACU"}, {u"警報機リース代", u"Keihou"}}};
+
+QString lineOf(std::size_t thing) {
+    return QString::fromUtf16(things[thing].line);
+}
+
+using PerThing = std::array<int, things.size()>;
+
+/// A customer's lease slips of one month.
+struct Slips {
+    std::set<Code> numbers;
+    PerThing lines{};
+    QStringList unknown;
+
+    Code number() const { return numbers.empty() ? 0 : *numbers.begin(); }
+};
+
+struct MonthOf {
+    Month month;
+    Slips slips;
+};
+
+class Walk {
+ public:
+    explicit Walk(Database& db) : db_(db) {
+        for (std::size_t i = 0; i < things.size(); ++i) {
+            const QString sql = QStringLiteral("SELECT Code FROM Deal WHERE %1=1");
+            for (const auto& row : readNumbers(db, sql.arg(QString::fromUtf16(things[i].mark))))
+                ++marks_[static_cast<Code>(row[0])][i];
+        }
+        for (const auto& row : readNumbers(db, QStringLiteral("SELECT Nen,Tuki FROM Syukei")))
+            billed_.insert({static_cast<int>(row[0]), static_cast<int>(row[1])});
+    }
+
+    std::vector<LeaseFinding> run() {
+        for (const Month month : billed_)
+            read(month);
+        for (const auto& [deal, months] : months_) {
+            for (std::size_t i = 0; i < things.size(); ++i)
+                judgeCourse(deal, months, i);
+            for (const MonthOf& entry : months)
+                judgeSlips(deal, entry);
+        }
+        return std::move(findings_);
+    }
+
+ private:
+    void read(Month month) {
+        const QString ofMonth =
+            QStringLiteral(" WHERE Nendo=%1 AND Getudo=%2").arg(month.nendo).arg(month.getudo);
+        std::map<Code, Slips> slips;
+        Recordset lines = db_.OpenRecordset(QStringLiteral("SELECT Deal,Dno,HinNamae FROM Dud") + ofMonth +
+                                            QStringLiteral(" AND CreateAuto=1"));
+        for (; !lines.Eof(); lines.MoveNext()) {
+            const auto number = [&lines](int field) {
+                const Variant value = lines.Fields(field).Value();
+                const Code* code = value.If<Code>();
+                return code != nullptr ? *code : 0;
+            };
+            const Variant name = lines.Fields(2).Value();
+            const QString* text = name.If<QString>();
+            add(slips[number(0)], month, number(0), number(1), text != nullptr ? *text : QString());
+        }
+        lines.Close();
+        for (const auto& row : readNumbers(db_, QStringLiteral("SELECT Deal FROM TtoD") + ofMonth)) {
+            const auto deal = static_cast<Code>(row[0]);
+            const auto found = slips.find(deal);
+            const bool everLeased = months_.contains(deal) || marks_.contains(deal);
+            if (found != slips.end() || everLeased)
+                months_[deal].push_back({month, found != slips.end() ? found->second : Slips()});
+        }
+    }
+
+    void add(Slips& slips, Month month, Code deal, Code number, const QString& name) {
+        slips.numbers.insert(number);
+        owners_[number].insert({month, deal});
+        for (std::size_t i = 0; i < things.size(); ++i) {
+            if (name == lineOf(i)) {
+                ++slips.lines[i];
+                return;
+            }
+        }
+        slips.unknown += name;
+    }
+
+    /// A lease has a beginning and at most one end. Whoever has the mark leases on; his first slip is due in
+    /// the last month.
+    void judgeCourse(Code deal, const std::vector<MonthOf>& months, std::size_t thing) {
+        const auto has = [&](std::size_t at) {
+            return at < months.size() && months[at].slips.lines[thing] > 0;
+        };
+        const auto marks = marks_.find(deal);
+        const bool isMarked = marks != marks_.end() && marks->second[thing] != 0;
+        const std::size_t none = months.size();
+        std::size_t first = none;
+        std::size_t last = none;
+        for (std::size_t at = 0; at < none; ++at) {
+            if (!has(at)) continue;
+            first = std::min(first, at);
+            last = at;
+        }
+        if (isMarked) {
+            first = std::min(first, none - 1);
+            last = none - 1;
+        }
+        if (first == none) return;
+        for (std::size_t at = first; at <= last; ++at) {
+            if (!has(at)) note(deal, months[at], LeaseFault::Missing, lineOf(thing));
+        }
+        // Who has ended a lease keeps his slips. One alone in the first month may be the end of a long row,
+        // unless another mark shows that the slip is still made anew with each run.
+        const bool isTold = months[first].month != *billed_.begin() || marks != marks_.end();
+        if (!isMarked && first == last && isTold)
+            note(deal, months[first], LeaseFault::NotLeased, lineOf(thing));
+    }
+
+    void judgeSlips(Code deal, const MonthOf& entry) {
+        const Slips& slips = entry.slips;
+        for (const QString& name : slips.unknown)
+            note(deal, entry, LeaseFault::UnknownLine, name);
+        for (const Code number : slips.numbers) {
+            if (owners_[number].size() > 1) note(deal, entry, LeaseFault::NumberShared, {});
+        }
+        if (slips.numbers.size() > 1) return note(deal, entry, LeaseFault::SlipDoubled, {});
+        for (std::size_t i = 0; i < things.size(); ++i) {
+            if (slips.lines[i] > 1) note(deal, entry, LeaseFault::LineDoubled, lineOf(i));
+        }
+    }
+
+    void note(Code deal, const MonthOf& entry, LeaseFault fault, const QString& line) {
+        findings_.push_back({deal, entry.month.nendo, entry.month.getudo, fault, line, entry.slips.number()});
+    }
+
+    Database& db_;
+    std::map<Code, PerThing> marks_;  ///< of today
+    std::set<Month> billed_;
+    std::map<Code, std::vector<MonthOf>> months_;  ///< of customers who lease, from the first slip or mark on
+    std::map<Code, std::set<std::pair<Month, Code>>> owners_;  ///< of a slip number
+    std::vector<LeaseFinding> findings_;
+};
+
+}  // namespace
+
+std::vector<LeaseFinding> CheckLeases(Database& db, int fromMonth) {
+    std::vector<LeaseFinding> findings = Walk(db).run();
+    std::erase_if(findings,
+                  [fromMonth](const LeaseFinding& f) { return f.nendo * 100 + f.getudo < fromMonth; });
+    std::stable_sort(findings.begin(), findings.end(), [](const LeaseFinding& a, const LeaseFinding& b) {
+        return std::tie(a.nendo, a.getudo, a.deal) < std::tie(b.nendo, b.getudo, b.deal);
+    });
+    return findings;
+}
+
+}  // namespace akarix
