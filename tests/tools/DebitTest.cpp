@@ -5,6 +5,11 @@
 
 #include "admin/Command.h"
 #include "admin/DebitCheck.h"
+#include "debit/BankDebitFile.h"
+#include "debit/Dealer.h"
+#include "debit/DebitQuery.h"
+#include "debit/PostDebitFile.h"
+#include "store/Consignor.h"
 
 namespace akarix::admin {
 namespace {
@@ -68,8 +73,8 @@ TEST(DebitCheck, Departures) {
         {{header(), one, kEnd}, "3: エンドレコードの順番ではない"},
         {{header(), one, totals}, "0: エンドレコードで終わっていない"},
         {{header(), one.left(100), totals, kEnd}, "2: 長さが 100 バイト（120 バイトのはず）"},
-        {{with(header(), 2, "21"), one, totals, kEnd},
-         "1: 種別（2-3桁目） 「21」 は定められた値（91）にない"},
+        {{with(header(), 2, "11"), one, totals, kEnd},
+         "1: 種別（2-3桁目） 「11」 は定められた値（91、21）にない"},
         {{with(header(), 55, "0431"), one, totals, kEnd}, "1: 引落日（55-58桁目） 月日ではない: 「0431」"},
         {{with(header(), 104, "x"), one, totals, kEnd},
          "1: ダミー（104-120桁目） 空白ではない: 「x                」"},
@@ -94,6 +99,85 @@ TEST(DebitCheck, Departures) {
         EXPECT_TRUE(check(records).contains(departure)) << departure << " not in\n" << joined(check(records));
     }
     EXPECT_EQ(check({"x"}).size(), 4) << "length, kind and end";
+}
+
+/// What the program has just written for the bank and for the post office.
+class WrittenRequest : public DebitTest {
+ protected:
+    void SetUp() override {
+        DebitTest::SetUp();
+        customer("1,'ｱｵｷ ﾀﾛｳ',10,123,5,1,'1234567',0", "5307");
+        customer("2,'ｲﾉｳｴ(ｺﾄﾞﾓ',20,9900,10010,1,'76543219',0", "3000");
+        customer("3,'ｳｴﾀﾞ',30,9900,10120,1,'12',500", "4280");
+    }
+    QList<QByteArray> bank() {
+        // The monthly query lacks the amount of the bill, at which the program's own run ends.
+        const QString sql = DebitQuery(123, 2023, 4).replace(" FROM TtoD", ",5307 AS Seikyu FROM TtoD");
+        Consignor consignor;
+        LoadBankConsignor(123, consignor);
+        return write(sql, BankRequest(FitBankConsignor(consignor), DateSerial(2023, 4, 27)));
+    }
+    QList<QByteArray> post(const RetransferDay& again) {
+        Consignor consignor;
+        LoadPostConsignor(consignor);
+        return write(DebitQuery(kPostOffice, 2023, 4),
+                     PostRequest(FitPostConsignor(consignor), DateSerial(2023, 4, 27), again));
+    }
+
+ private:
+    QList<QByteArray> write(const QString& sql, const RequestKind& kind) {
+        WriteRequest("A:\\x", gDb->OpenRecordset(sql), kind, shown);
+        const std::vector<QByteArray> records = SplitDebitRecords(readFile("Drive/A/x"));
+        return {records.begin(), records.end()};
+    }
+};
+
+TEST_F(WrittenRequest, IsFoundSound) {
+    EXPECT_EQ(joined(check(bank())), "request");
+    EXPECT_EQ(joined(check(post({"  ", "  "}))), "request");
+    EXPECT_EQ(joined(check(post({"05", "20"}))), "request");
+    customer("4,'ｴｸﾞﾁ',5,9900,123,1,'99',0", "700");
+    EXPECT_EQ(
+        joined(check(post({"05", "20"}))),
+        "request\n2: 支店番号が 3 けた以下（123）なので、レコードが 2 行に割れている。得意先 4 の支店を 5 "
+        "けたにして作り直す");
+    EXPECT_EQ(admin::Run({"debit", "Drive/A/x"}), 1);
+}
+
+TEST_F(WrittenRequest, ChangedAndComeBack) {
+    const struct {
+        const char* what;
+        std::vector<std::tuple<int, int, QByteArray>> changes;  ///< record, place, bytes
+        const char* told;
+    } cases[] = {
+        {"a second date that is none",
+         {{1, 104, "0231"}},
+         "request\n1: 再振替日（104-107桁目） 月日ではない: 「0231」"},
+        {"a bank's code",
+         {{2, 2, "0005"}},
+         "request\n2: 銀行（2-5桁目） 「0005」 は定められた値（9900）にない"},
+        {"a bank's field",
+         {{3, 43, "1"}},
+         "request\n3: ダミー（24-43桁目） 空白ではない: 「                   1」"},
+        {"come back", {{2, 112, "0"}, {3, 112, "1"}}, "result"},
+        {"nothing as good as a 0",
+         {{3, 112, "1"}, {4, 20, "000001000000003000000001000000000500"}},
+         "result"},
+        {"a sum that is not theirs",
+         {{3, 112, "0"}, {4, 20, "000001000000003000000001000000000500"}},
+         "result\n4: 振替済が 1件 3000円、データレコードの合計は 2件 3500円\n"
+         "4: 振替不能が 1件 500円、データレコードの合計は 0件 0円"},
+        {"no code",
+         {{3, 112, "7"}},
+         "result\n3: 結果（112桁目） 「7」 は定められた値（空白、0、1、2、3、4、8、9）にない"},
+    };
+    const QList<QByteArray> sound = post({"05", "20"});
+    for (const auto& [what, changes, told] : cases) {
+        QList<QByteArray> records = sound;
+        for (const auto& [record, place, bytes] : changes)
+            records[record - 1].replace(place - 1, bytes.size(), bytes);
+        EXPECT_EQ(joined(check(records)), told) << what;
+    }
 }
 
 TEST(DebitCheck, LineEnds) {

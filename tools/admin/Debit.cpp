@@ -16,8 +16,10 @@ enum DebitExit { Clean = 0, Departs = 1, Unreadable = 2 };
 
 const char* const helpText =
     "使い方: akarix-admin debit ファイル\n\n"
-    "口座振替の依頼ファイルか結果ファイルを項目ごとに表示し、公開されている 120 文字の様式と違うところを\n"
-    "挙げます。ファイルは変えません。\n\n"
+    "口座振替の依頼ファイルか結果ファイルを項目ごとに表示し、120 文字の様式と違うところを挙げます。様式は\n"
+    "ヘッダーの種別で決まります: 91 は公開されている銀行のもの、21 は郵便局のもの（再振替日があり、結果の\n"
+    "欄は空白）。Akarix が書いたファイルは様式どおりです。郵便局の支店番号が 3 けた以下の得意先は、\n"
+    "レコードが 2 行に割れるので挙げます。ファイルは変えません。\n\n"
     "終了コード: 0 様式どおり、1 違うところがある、2 読めない\n";
 
 /// Columns on a terminal: a full-width character takes two.
@@ -41,8 +43,8 @@ QString valueOf(const DebitField& field, const QByteArray& record) {
 }
 
 /// A header, trailer or odd record: a line a field.
-QString listed(qsizetype number, const QByteArray& record) {
-    const std::span<const DebitField> layout = DebitLayout(record.isEmpty() ? '\0' : record[0]);
+QString listed(qsizetype number, const QByteArray& record, DebitForm form) {
+    const std::span<const DebitField> layout = DebitLayout(form, record.isEmpty() ? '\0' : record[0]);
     QString text = QStringLiteral("%1: %2\n")
                        .arg(number)
                        .arg(layout.empty() ? FromCodePage932(record) : DebitKindName(record[0]));
@@ -74,16 +76,16 @@ struct Column {
 using Records = std::span<const QByteArray>;
 
 /// A stretch of data records: a line a record, without the columns that are blank in all of them.
-std::vector<Column> columnsOf(qsizetype first, Records records, bool isResult) {
+std::vector<Column> columnsOf(qsizetype first, Records records, const DebitReport& report) {
     std::vector<Column> columns{{QStringLiteral("番号"), true, {}}};
     for (std::size_t i = 0; i < records.size(); ++i) {
         columns[0].cells += QString::number(first + static_cast<qsizetype>(i));
     }
-    for (const DebitField& field : DebitLayout('2').subspan(1)) {
+    for (const DebitField& field : DebitLayout(report.form, '2').subspan(1)) {
         Column column{QString::fromUtf16(field.name), field.holds == DebitField::Holds::Number, {}};
         for (const QByteArray& record : records) {
             QString cell = valueOf(field, record);
-            if (isResult && field.place == kResultPlace && !cell.isEmpty())
+            if (report.isResult && field.place == kResultPlace && !cell.isEmpty())
                 cell += u' ' + DebitResultName(cell[0].toLatin1());
             column.cells += cell;
         }
@@ -94,8 +96,8 @@ std::vector<Column> columnsOf(qsizetype first, Records records, bool isResult) {
     return columns;
 }
 
-QString table(qsizetype first, Records records, bool isResult) {
-    const std::vector<Column> columns = columnsOf(first, records, isResult);
+QString table(qsizetype first, Records records, const DebitReport& report) {
+    const std::vector<Column> columns = columnsOf(first, records, report);
     QStringList lines(static_cast<qsizetype>(records.size()) + 1);
     for (const Column& column : columns) {
         const int width = column.width();
@@ -110,14 +112,15 @@ QString table(qsizetype first, Records records, bool isResult) {
     return text;
 }
 
-QString allRecords(const std::vector<QByteArray>& records, bool isResult) {
+QString allRecords(const DebitReport& report) {
+    const std::vector<QByteArray>& records = report.records;
     QString text;
     for (std::size_t i = 0; i < records.size();) {
         const auto isData = [](const QByteArray& record) { return record.startsWith('2'); };
         const auto from = records.begin() + static_cast<std::ptrdiff_t>(i);
         const auto to = std::find_if_not(from, records.end(), isData);
         const auto number = static_cast<qsizetype>(i) + 1;
-        text += to == from ? listed(number, *from) : table(number, Records(from, to), isResult);
+        text += to == from ? listed(number, *from, report.form) : table(number, Records(from, to), report);
         i += std::max<std::size_t>(1, static_cast<std::size_t>(to - from));
     }
     return text;
@@ -127,8 +130,10 @@ QString summary(const DebitReport& report) {
     const auto line = [](const QString& name, const DebitTally& tally) {
         return QStringLiteral("%1: %2件 %3円\n").arg(name).arg(tally.count).arg(tally.amount);
     };
+    const QString whose = report.form == DebitForm::Bank ? QString() : QStringLiteral("郵便局の");
     QString text =
-        line(report.isResult ? QStringLiteral("結果ファイル") : QStringLiteral("依頼ファイル"), report.all);
+        line(whose + (report.isResult ? QStringLiteral("結果ファイル") : QStringLiteral("依頼ファイル")),
+             report.all);
     for (std::size_t code = 0; report.isResult && code < report.byResult.size(); ++code) {
         const DebitTally& tally = report.byResult[code];
         const char digit = static_cast<char>('0' + code);
@@ -162,7 +167,7 @@ int showDebit(const QStringList& arguments) {
     if (records.front().startsWith('\xf1'))
         return unreadable(path, QStringLiteral("EBCDIC のファイルです。"));
     const DebitReport report = CheckDebitFile(records);
-    tell(allRecords(records, report.isResult) + u'\n' + summary(report));
+    tell(allRecords(report) + u'\n' + summary(report));
     return report.departures.empty() ? Clean : Departs;
 }
 

@@ -2,9 +2,8 @@
 
 #include <QByteArrayList>
 #include <algorithm>
+#include <set>
 #include <utility>
-
-#include "admin/DebitLayout.h"
 
 namespace akarix::admin {
 
@@ -16,11 +15,15 @@ char kindOf(const QByteArray& record) {
 
 class Check {
  public:
-    explicit Check(const std::vector<QByteArray>& records) : records_(records) {}
+    explicit Check(const std::vector<QByteArray>& lines) {
+        report_.form = DebitFormOf(lines.front());
+        putTogether(lines);
+    }
 
     DebitReport run() {
         for (const QByteArray& record : records_) {
             ++number_;
+            checkWhole(record);
             checkLength(record);
             checkOrder(kindOf(record));
             checkFields(record);
@@ -29,15 +32,46 @@ class Check {
         }
         number_ = 0;
         if (kindOf(records_.back()) != '9') depart(QStringLiteral("エンドレコードで終わっていない"));
-        // A request has 0 or nothing for every result, so where all went well the trailer alone tells.
-        const bool failed = std::any_of(report_.byResult.begin() + 1, report_.byResult.end(),
-                                        [](const DebitTally& tally) { return tally.count > 0; });
-        report_.isResult = failed || total(20).count + total(38).count > 0;
+        // A bank's request has 0 for every result, so where all went well the trailer alone tells; the post
+        // office's has nothing.
+        const auto answers = report_.byResult.begin() + (report_.form == DebitForm::Bank ? 1 : 0);
+        const bool isAnswered = std::any_of(answers, report_.byResult.end(),
+                                            [](const DebitTally& tally) { return tally.count > 0; });
+        report_.isResult = isAnswered || total(20).count + total(38).count > 0;
+        if (report_.form == DebitForm::PostOffice && report_.isResult) countBlanks();
         if (trailer_ > 0) checkTotals();
         return std::move(report_);
     }
 
  private:
+    /// Behind an office number that is too short a record goes on in a line of its own.
+    void putTogether(const std::vector<QByteArray>& lines) {
+        constexpr qsizetype kBefore = 20;  // the office number follows, one digit too long
+        constexpr qsizetype kFront = 24;
+        const QByteArray filler(20, ' ');
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            const bool isBroken = report_.form == DebitForm::PostOffice && kindOf(lines[i]) == '2' &&
+                                  lines[i].size() == kFront && i + 1 < lines.size() &&
+                                  lines[i + 1].startsWith(filler);
+            if (!isBroken) {
+                records_.push_back(lines[i]);
+                continue;
+            }
+            records_.push_back(lines[i].left(kBefore) + lines[i].mid(kBefore + 1) + lines[i + 1]);
+            broken_.insert(static_cast<qsizetype>(records_.size()));
+            ++i;
+        }
+    }
+
+    void checkWhole(const QByteArray& record) {
+        if (!broken_.contains(number_)) return;
+        depart(QStringLiteral(
+                   "支店番号が 3 けた以下（%1）なので、レコードが 2 行に割れている。得意先 %2 の支店を 5 "
+                   "けたにして作り直す")
+                   .arg(QString::fromLatin1(record.mid(20, 3)))
+                   .arg(record.mid(91, 20).toLongLong()));
+    }
+
     void depart(const QString& text) { report_.departures.push_back({number_, text}); }
 
     void checkLength(const QByteArray& record) {
@@ -49,7 +83,7 @@ class Check {
     void checkOrder(char kind) {
         const char before = number_ == 1 ? '\0' : kindOf(records_[static_cast<std::size_t>(number_ - 2)]);
         const QByteArray step{QByteArray(1, before) + kind};
-        if (DebitLayout(kind).empty()) {
+        if (DebitLayout(report_.form, kind).empty()) {
             depart(QStringLiteral("データ区分が 1、2、8、9 のどれでもない"));
         } else if (number_ == 1 ? kind != '1'
                                 : !QByteArrayList{"12", "18", "22", "28", "89"}.contains(step)) {
@@ -58,7 +92,7 @@ class Check {
     }
 
     void checkFields(const QByteArray& record) {
-        for (const DebitField& field : DebitLayout(kindOf(record))) {
+        for (const DebitField& field : DebitLayout(report_.form, kindOf(record))) {
             const QByteArray bytes = field.of(record);
             if (bytes.size() < field.width) break;  // told by the length
             const QString reason = FieldDeparture(field, bytes);
@@ -83,6 +117,17 @@ class Check {
         if (result >= '0' && result <= '9') add(report_.byResult[static_cast<std::size_t>(result - '0')]);
     }
 
+    /// In an answer of the post office nothing is as good as a 0.
+    void countBlanks() {
+        DebitTally blank = report_.all;
+        for (const DebitTally& tally : report_.byResult) {
+            blank.count -= tally.count;
+            blank.amount -= tally.amount;
+        }
+        report_.byResult[0].count += blank.count;
+        report_.byResult[0].amount += blank.amount;
+    }
+
     /// Count and amount in the trailer, at the place of the count.
     DebitTally total(int place) const {
         if (trailer_ == 0) return {};
@@ -104,14 +149,17 @@ class Check {
         };
         const DebitTally& debited = report_.byResult[0];
         compare(QStringLiteral("合計"), total(2), report_.all);
-        if (!report_.isResult) return;
+        const QByteArray& trailer = records_[static_cast<std::size_t>(trailer_ - 1)];
+        const bool isFilled = report_.form == DebitForm::Bank || !trailer.mid(19, 36).trimmed().isEmpty();
+        if (!report_.isResult || !isFilled) return;
         compare(QStringLiteral("振替済"), total(20), debited);
         compare(QStringLiteral("振替不能"), total(38),
                 {report_.all.count - debited.count, report_.all.amount - debited.amount});
     }
 
-    const std::vector<QByteArray>& records_;
     DebitReport report_;
+    std::vector<QByteArray>& records_ = report_.records;
+    std::set<qsizetype> broken_;  ///< numbers of records that were put together
     qsizetype number_ = 0;
     qsizetype trailer_ = 0;
 };

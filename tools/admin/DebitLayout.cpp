@@ -1,5 +1,6 @@
 #include "admin/DebitLayout.h"
 
+#include <QByteArrayList>
 #include <QDate>
 #include <algorithm>
 
@@ -12,29 +13,29 @@ namespace {
 using enum DebitField::Holds;
 
 // Places, widths and codes: the record of the Japanese banks' direct-debit exchange, as several banks publish
-// it.
-constexpr DebitField header[] = {
+// it. Akarix sets the two names of the header to the right, and the banks take them.
+constexpr DebitField bankHeader[] = {
     {1, 1, u"データ区分", Choice, "1"},
-    {2, 2, u"種別", Choice, "91"},
+    {2, 2, u"種別", Choice, "91|21"},
     {4, 1, u"コード区分", Choice, "0|1"},
     {5, 10, u"委託者コード", Digits},
     {15, 40, u"委託者名", Text},
     {55, 4, u"引落日", Day},
     {59, 4, u"取引銀行番号", Digits},
-    {63, 15, u"取引銀行名", Text},
+    {63, 15, u"取引銀行名", TextEitherSide},
     {78, 3, u"取引支店番号", Digits},
-    {81, 15, u"取引支店名", Text},
+    {81, 15, u"取引支店名", TextEitherSide},
     {96, 1, u"預金種目", Choice, "1|2|3|9"},
     {97, 7, u"口座番号", Digits},
     {104, 17, u"ダミー", Filler},
 };
-constexpr DebitField data[] = {
+constexpr DebitField bankData[] = {
     {1, 1, u"データ区分", Choice, "2"},
     {2, 4, u"銀行", Digits},
     {6, 15, u"銀行名", Text},
     {21, 3, u"支店", Digits},
     {24, 15, u"支店名", Text},
-    {39, 4, u"手形交換所", Clearing},
+    {39, 4, u"手形交換所", DigitsOrBlank},
     {43, 1, u"種目", Choice, "1|2|3|9"},
     {44, 7, u"口座番号", Digits},
     {51, 30, u"預金者名", Text},
@@ -44,10 +45,51 @@ constexpr DebitField data[] = {
     {kResultPlace, 1, u"結果", Choice, "0|1|2|3|4|8|9"},
     {113, 8, u"ダミー", Filler},
 };
-constexpr DebitField trailer[] = {
+constexpr DebitField bankTrailer[] = {
     {1, 1, u"データ区分", Choice, "8"}, {2, 6, u"合計件数", Number},     {8, 12, u"合計金額", Number},
     {20, 6, u"振替済件数", Number},     {26, 12, u"振替済金額", Number}, {38, 6, u"振替不能件数", Number},
     {44, 12, u"振替不能金額", Number},  {56, 65, u"ダミー", Filler},
+};
+// The post office tries a second time, has neither branch names nor kinds of account, and leaves blank in a
+// request what only its answer knows.
+constexpr DebitField postHeader[] = {
+    {1, 1, u"データ区分", Choice, "1"},
+    {2, 2, u"種別", Choice, "21"},
+    {4, 3, u"ダミー", Filler},
+    {7, 8, u"委託者コード", Digits},
+    {15, 40, u"委託者名", Text},
+    {55, 4, u"引落日", Day},
+    {59, 4, u"取引銀行番号", Choice, "9900"},
+    {63, 15, u"取引郵便局名", Text},
+    {78, 3, u"取引支店番号", Digits},
+    {81, 17, u"ダミー", Filler},
+    {98, 6, u"口座番号", Digits},
+    {104, 4, u"再振替日", DayOrBlank},
+    {108, 13, u"ダミー", Filler},
+};
+constexpr DebitField postData[] = {
+    {1, 1, u"データ区分", Choice, "2"},
+    {2, 4, u"銀行", Choice, "9900"},
+    {6, 15, u"郵便局名", Text},
+    {21, 3, u"支店", Digits},
+    {24, 20, u"ダミー", Filler},
+    {44, 7, u"口座番号", Digits},
+    {51, 30, u"預金者名", Text},
+    {81, 10, u"引落金額", Number},
+    {91, 1, u"新規", Choice, "0|1|2"},
+    {92, 20, u"顧客番号", Number},
+    {kResultPlace, 1, u"結果", Choice, " |0|1|2|3|4|8|9"},
+    {113, 8, u"ダミー", Filler},
+};
+constexpr DebitField postTrailer[] = {
+    {1, 1, u"データ区分", Choice, "8"},
+    {2, 6, u"合計件数", Number},
+    {8, 12, u"合計金額", Number},
+    {20, 6, u"振替済件数", DigitsOrBlank},
+    {26, 12, u"振替済金額", DigitsOrBlank},
+    {38, 6, u"振替不能件数", DigitsOrBlank},
+    {44, 12, u"振替不能金額", DigitsOrBlank},
+    {56, 65, u"ダミー", Filler},
 };
 constexpr DebitField end[] = {
     {1, 1, u"データ区分", Choice, "9"},
@@ -81,10 +123,10 @@ QString refusedCharacters(const QByteArray& bytes) {
     return refused;
 }
 
-QString textDeparture(const QByteArray& bytes) {
+QString textDeparture(const QByteArray& bytes, bool toTheLeft) {
     const QString refused = refusedCharacters(bytes);
     if (!refused.isEmpty()) return QStringLiteral("使えない文字「%1」").arg(refused);
-    if (bytes.startsWith(' ') && !isBlank(bytes)) return QStringLiteral("左詰めではない");
+    if (toTheLeft && bytes.startsWith(' ') && !isBlank(bytes)) return QStringLiteral("左詰めではない");
     return {};
 }
 
@@ -97,16 +139,33 @@ QString shown(const QByteArray& bytes) {
     return isBlank(bytes) ? QStringLiteral("空白") : QStringLiteral("「%1」").arg(FromCodePage932(bytes));
 }
 
+QString listed(const QByteArrayList& choices) {
+    QStringList shown;
+    for (const QByteArray& choice : choices)
+        shown += choice == " " ? QStringLiteral("空白") : QString::fromLatin1(choice);
+    return shown.join(QStringLiteral("、"));
+}
+
+template <std::size_t A, std::size_t B>
+std::span<const DebitField> either(DebitForm form, const DebitField (&bank)[A], const DebitField (&post)[B]) {
+    if (form == DebitForm::Bank) return bank;
+    return post;
+}
+
 }  // namespace
 
-std::span<const DebitField> DebitLayout(char kind) {
+DebitForm DebitFormOf(const QByteArray& header) {
+    return header.startsWith("121") ? DebitForm::PostOffice : DebitForm::Bank;
+}
+
+std::span<const DebitField> DebitLayout(DebitForm form, char kind) {
     switch (kind) {
         case '1':
-            return header;
+            return either(form, bankHeader, postHeader);
         case '2':
-            return data;
+            return either(form, bankData, postData);
         case '8':
-            return trailer;
+            return either(form, bankTrailer, postTrailer);
         case '9':
             return end;
         default:
@@ -155,20 +214,24 @@ QString FieldDeparture(const DebitField& field, const QByteArray& bytes) {
         case Digits:
         case Number:
             return isDigits(bytes) ? QString() : QStringLiteral("数字ではない: ") + shown(bytes);
-        case Text:
-            return textDeparture(bytes);
-        case Day:
-            return isDay(bytes) ? QString() : QStringLiteral("月日ではない: ") + shown(bytes);
-        case Choice:
-            return QByteArray(field.choices).split('|').contains(bytes)
-                       ? QString()
-                       : QStringLiteral("%1 は定められた値（%2）にない")
-                             .arg(shown(bytes),
-                                  QString::fromLatin1(field.choices).replace(u'|', QStringLiteral("、")));
-        case Clearing:
+        case DigitsOrBlank:
             return isDigits(bytes) || isBlank(bytes)
                        ? QString()
                        : QStringLiteral("数字でも空白でもない: ") + shown(bytes);
+        case Text:
+        case TextEitherSide:
+            return textDeparture(bytes, field.holds == Text);
+        case Day:
+        case DayOrBlank:
+            return isDay(bytes) || (field.holds == DayOrBlank && isBlank(bytes))
+                       ? QString()
+                       : QStringLiteral("月日ではない: ") + shown(bytes);
+        case Choice: {
+            const QByteArrayList choices = QByteArray(field.choices).split('|');
+            return choices.contains(bytes)
+                       ? QString()
+                       : QStringLiteral("%1 は定められた値（%2）にない").arg(shown(bytes), listed(choices));
+        }
         case Filler:
             return isBlank(bytes) ? QString() : QStringLiteral("空白ではない: ") + shown(bytes);
     }

@@ -6,9 +6,15 @@
 
 namespace akarix::admin {
 
-/// A field of the published direct-debit record of 120 single-byte characters.
+/// Whose record it is: the banks' is published; the post office fills the same 120 characters its own way.
+enum class DebitForm { Bank, PostOffice };
+
+/// By the type in the header, the first record of a file.
+DebitForm DebitFormOf(const QByteArray& header);
+
+/// A field of a direct-debit record of 120 single-byte characters.
 struct DebitField {
-    enum class Holds { Digits, Number, Text, Day, Choice, Clearing, Filler };
+    enum class Holds { Digits, Number, DigitsOrBlank, Text, TextEitherSide, Day, DayOrBlank, Choice, Filler };
 
     int place;  ///< counted from 1
     int width;
@@ -23,7 +29,7 @@ constexpr int kDebitRecord = 120;
 constexpr int kResultPlace = 112;
 
 /// The fields of a record by its kind '1', '2', '8' or '9'; none for any other.
-std::span<const DebitField> DebitLayout(char kind);
+std::span<const DebitField> DebitLayout(DebitForm form, char kind);
 /// "ヘッダー", "データ", "トレーラ", "エンド", or "不明".
 QString DebitKindName(char kind);
 /// What a result code says; empty for one that is not in the list.
