@@ -124,7 +124,8 @@ TEST_F(DebitFiles, WhatStopsAFile) {
         QString said;
     } cases[] = {
         {"no name for the file", "UPDATE Bnk SET fName=' '", unknown},
-        {"no consignor's name", "UPDATE Bnk SET fName='x',Itakusya=NULL", unknown},
+        {"no consignor's code", "UPDATE Bnk SET fName='x',ItakuCode=' '", unknown},
+        {"no consignor's name", "UPDATE Bnk SET ItakuCode='1',Itakusya=NULL", unknown},
         {"no branch", "UPDATE Bnk SET Itakusya='x',Stn=NULL", unknown},
         {"nobody owes anything", "UPDATE Bnk SET Stn=1", "該当が有りません。"},
         {"no consignor", "DELETE FROM Bnk", unknown},
@@ -164,6 +165,24 @@ TEST_F(DebitFiles, ADiskThatFillsUpInTheMiddleStaysOpen) {
     ASSERT_TRUE(QFile::link("/dev/full", "Drive/A/jiharai"));
     EXPECT_EQ(writePost(), kDiskFull);
     EXPECT_EQ(writePost(), "55");
+}
+
+TEST_F(DebitFiles, MoreAccountsThanAFileHolds) {
+    ScratchStore::run(
+        "DELETE FROM Deal;\n"
+        "CREATE TABLE N(I Long)");
+    for (int i = 0; i < 32; ++i)
+        gDb->Execute("INSERT INTO N(I) VALUES(" + QString::number(i) + ")");
+    gDb->Execute(
+        "INSERT INTO Deal(Code,Bnk,Stn,Kind,Koza) SELECT "
+        "a.I*1024+b.I*32+c.I+1,9900,10010,1,a.I*1024+b.I*32+c.I "
+        "FROM N AS a,N AS b,N AS c");
+    gDb->Execute("INSERT INTO TtoD(Deal,Nendo,Getudo,Gaku) SELECT Code,2023,4,100 FROM Deal WHERE Code>4");
+    EXPECT_EQ(ScratchStore::rows("SELECT COUNT(*) FROM Deal"), QStringList{"32768"});
+    EXPECT_EQ(writePost(), "6");
+    CloseAll();
+    gDb->Execute("DELETE FROM Deal WHERE Code=7");
+    EXPECT_EQ(finishPost().first(), "件数：32767\n金額：3292107.5");
 }
 
 TEST_F(DebitFiles, TheFolderInFrontOfTheName) {

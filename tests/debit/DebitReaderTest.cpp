@@ -77,6 +77,10 @@ TEST_F(ReadBack, PostsWhatWasDebited) {
     read(true, true);
     EXPECT_EQ(log(), (QStringList{"123|2023|4", "9900|2023|4"}));
     EXPECT_EQ(posted("Dno"), (QStringList{"0", "1", "2", "3"}));
+
+    SetClock(DateSerial(2024, 5, 15));
+    EXPECT_EQ(read(), "2 / 3 件　完了しました。") << "the same month of the next year is another disk";
+    EXPECT_EQ(log(), (QStringList{"123|2023|4", "9900|2023|4", "123|2024|4"}));
 }
 
 TEST_F(ReadBack, QuestionsThatAreDenied) {
@@ -135,6 +139,7 @@ TEST_F(ReadBack, FilesOfAllKinds) {
         {"cut before the result", data(1, 70).left(111) + "\r\n" + end(), "1 / 1" + all, {"1|70"}},
         {"an empty line counts", "\r\n" + end(), "1 / 1" + all, {"0|0"}},
         {"blanks in the amount", changed(81, "  1 2 \xa5   ", 10) + end(), "1 / 1" + all, {"1|12"}},
+        {"ten digits of yen", changed(81, "9876543210", 10) + end(), "1 / 1" + all, {"1|9876543210"}},
         {"a half-width name", changed(51, "\xb1\xb2\xb3", 3) + end(), "1 / 1" + all, {"1|5"}},
         {"a full-width character counts as one", changed(51, "\x82\xa0", 1) + end(), "1 / 1" + all, {"1|5"}},
         {"a comma parts the record", changed(61, ",", 1) + end(), "2 / 2" + all, {"0|0", "0|0"}},

@@ -22,14 +22,16 @@ using DebitFile = DebitTest;
 TEST_F(DebitFile, OfABank) {
     customer("1,'ｱｵｷ ﾀﾛｳ',10,123,5,1,'1234567',0", "5307");
     customer("2,'ｲﾉｳｴ(ｺﾄﾞﾓ',20,123,5,1,'7654321',0", "3000");
-    customer("3,'ｲﾉｳｴ',30,123,5,1,'7654321',700", "1500");  // shares the account
-    customer("4,'ｳｴﾀﾞ',5,123,12,2,'12',5000", "8000");      // asked for the fixed amount, first in the round
+    customer("3,'ｲﾉｳｴ',1,123,5,1,'7654321',700",
+             "1500");                                   // shares the account; first in the round, not in code
+    customer("4,'ｳｴﾀﾞ',5,123,12,2,'12',5000", "8000");  // asked for the fixed amount, first in the round
     customer("5,'ｴｸﾞﾁ',50,123,5,1,'1234567890',5000", "3000");
     customer("6,'オオノ商会',60,123,5,1,'66',0", "1000");
     customer("70,'ｶﾄｳ ｶﾅﾌﾘｶﾞﾅｶﾞ30ｼﾞﾕｳﾓｼﾞﾁﾖｳﾄﾞABCX',70,123,32767,12,'77',0",
              "12345678901");  // none of it fits
     customer("8,'ｷﾑﾗ',80,123,5,1,NULL,0", "8");
-    customer("9,'ｸﾛﾀﾞ',90,123,5,1,'7654321',0", "-200");  // has paid too much: not taken off
+    customer("80,'ｷﾑﾗ ｼﾞﾛｳ',81,123,5,2,'1234567',0", "1234567890");  // the first one's number, another kind
+    customer("9,'ｸﾛﾀﾞ',90,123,5,1,'7654321',0", "-200");             // has paid too much: not taken off
     customer("10,'ｹﾝﾓﾁ',95,123,5,1,'99',0", "0");
     customer("11,'ｺﾊﾞ',99,124,5,1,'11',0", "900");  // another bank's
     // The monthly query with the amount of the bill, as the bank's total counts it.
@@ -39,17 +41,19 @@ TEST_F(DebitFile, OfABank) {
     const DebitTotals totals = WriteRequest("A:\\FURIKAE", gDb->OpenRecordset(sql),
                                             BankRequest(FitBankConsignor(bank), kCreation), shown);
     EXPECT_EQ(readFile("Drive/A/FURIKAE"), golden("bank.request"));
-    EXPECT_EQ(totals.count, 7);
-    EXPECT_EQ(progress.first(), "1 / 7");
-    EXPECT_EQ(progress.last(), "7 / 7");
+    EXPECT_EQ(totals.count, 8);
+    EXPECT_EQ(progress.first(), "1 / 8");
+    EXPECT_EQ(progress.last(), "8 / 8");
 }
 
 TEST_F(DebitFile, OfThePostOffice) {
     customer("1,'ｱｵｷ ﾀﾛｳ',10,9900,10010,1,'12345678',0", "5307");
     customer("2,'ｲﾉｳｴ(ｺﾄﾞﾓ',20,9900,10010,1,'76543219',0", "3000");
-    customer("3,'ｲﾉｳｴ',30,9900,10010,1,'76543219',0", "1500");
+    customer("3,'ｲﾉｳｴ',1,9900,10010,1,'76543219',0",
+             "1500");                                     // shares the account, before the other in the round
     customer("4,'ｳｴﾀﾞ',40,9900,12,1,'12',5000", "8000");  // an office number without its own form
     customer("5,'ｴｸﾞﾁ',50,9900,1234,1,'1234567890',5000", "3000");
+    customer("6,'ｵｵﾉ',60,9900,123,1,'12345678',0", "9876543210");  // nor has this one
     Consignor post;
     LoadPostConsignor(post);
     WriteRequest("A:\\x", gDb->OpenRecordset(DebitQuery(kPostOffice, 2023, 4)),

@@ -68,6 +68,7 @@ TEST_F(Statements, TheBanksLinesAreBalances) {
 
 TEST_F(Statements, WhereThePagesTurn) {
     const QStringList bankTexts{"件", "0000001", "0000042", "0000043", "1ﾍﾟｰｼﾞ", "2ﾍﾟｰｼﾞ"};
+    // The sums are those of the balances, whatever fixed amount stands on the lines.
     const QStringList postTexts{"小計件数金額34件34000円", "合計件数", "ｶﾅ1001", "ｶﾅ1034", "ｶﾅ1035"};
     const struct {
         int lines;
@@ -81,15 +82,17 @@ TEST_F(Statements, WhereThePagesTurn) {
         {42, {"011010"}, {"10110", "01001"}},
         {43, {"011010", "100101"}, {"10110", "01001"}},
         {67, {"011010", "100101"}, {"10110", "00001", "01000"}},
+        {69, {"011010", "100101"}, {"10110", "10001", "01000"}},
     };
     int made = 0;
     for (const auto& [lines, onBank, onPost] : cases) {
         customers(123, made + 1, lines);
-        customers(9900, 1000 + made + 1, 1000 + lines);
+        customers(9900, 1000 + made + 1, 1000 + lines, 300);
         made = lines;
         EXPECT_EQ(seen(bank(), bankTexts), onBank) << lines;
         EXPECT_EQ(seen(post(), postTexts), onPost) << lines;
     }
+    expectTexts(post().last(), {"691069ｶﾅ106930010120-00001069", "合計件数69件", "合計金額69000円"});
 }
 
 TEST_F(Statements, ThePostOfficesLinesAreWhatIsDebitedAndItsSumsTheBalances) {
