@@ -41,7 +41,7 @@ bool OpenDb(void (*fail)(const QString& text, const QString& title)) {
     // Another desk that opens the file is soon done.
     const StoreClaim claim(DatabaseName(), std::chrono::seconds(1));
     if (!claim.holder().isEmpty()) {
-        fail(QStringLiteral("%1 は %2 が使用中です。\r終わってから、もう一度起動してください。")
+        fail(QStringLiteral("%1 は %2 が使っています。\r終わってから、もう一度起動してください。")
                  .arg(DatabaseName(), claim.holder()),
              QStringLiteral("エラー"));
         return false;

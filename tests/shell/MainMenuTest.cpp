@@ -148,7 +148,7 @@ TEST_F(MainMenu, EndsWithoutAStore) {
         const StoreClaim byTheCompanion(store.path());
         EXPECT_EQ(
             refused(),
-            u"Akarix.MDB は test_shell (%1) が使用中です。\n終わってから、もう一度起動してください。"_qs.arg(
+            u"Akarix.MDB は test_shell (%1) が使っています。\n終わってから、もう一度起動してください。"_qs.arg(
                 QApplication::applicationPid()));
     }
     ASSERT_TRUE(QFile::remove(store.path()));
