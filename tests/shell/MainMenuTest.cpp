@@ -148,8 +148,8 @@ TEST_F(MainMenu, EndsWithoutAStore) {
         const StoreClaim byTheCompanion(store.path());
         EXPECT_EQ(
             refused(),
-            u"Akarix.MDB は test_shell (%1) が使っています。\n終わってから、もう一度起動してください。"_qs.arg(
-                QApplication::applicationPid()));
+            u"Akarix.MDB は test_shell (%1) が使っています。\n終わってから、もう一度起動してください。"_qs
+                .arg(QApplication::applicationPid()));
     }
     ASSERT_TRUE(QFile::remove(store.path()));
     EXPECT_TRUE(refused().startsWith(u"エラー番号  3024"_qs));
