@@ -8,6 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <QFile>
+#include <algorithm>
+#include <cerrno>
 #else
 #include <QDir>
 #include <QLockFile>
