@@ -23,23 +23,37 @@ const QString printButton = QStringLiteral("Btn(0)");
 const QString showButton = QStringLiteral("Btn(1)");
 const QString exportButton = QStringLiteral("Btn(2)");
 
-}  // namespace
-
-void runBilling(Desk& desk) {
+void openBilling(Desk& desk) {
     openFromMenu(desk, 16, billingForm);
     std::map<QString, QString> typed = monthTyped(desk.options);
     typed[QStringLiteral("ebox(2)")] = DateText(DateSerial(desk.options.year, desk.options.month + 1, 0));
     walkTo(desk, QStringLiteral("ebox(5)"), typed);
+}
+
+void bill(Desk& desk) {
+    desk.clerk.click(QStringLiteral("Command(0)"));
+    const QString said = desk.clerk.lastSaid();
+    if (said != QStringLiteral("集計しました。")) throw Failure(QStringLiteral("請求処理: ") + said);
+    closeForm(desk, billingForm);
+}
+
+}  // namespace
+
+void runBilling(Desk& desk) {
+    openBilling(desk);
     takeForm(desk, QStringLiteral("billing"), billingForm);
     desk.clerk.expect(QStringLiteral("Alert_frm"), [&desk](QWidget& message) {
         desk.album.take(QStringLiteral("billing-done"), {&desk.clerk.form(billingForm), &message});
         desk.album.take(QStringLiteral("message"), {&message});
         desk.clerk.enter();
     });
-    desk.clerk.click(QStringLiteral("Command(0)"));
-    const QString said = desk.clerk.lastSaid();
-    if (said != QStringLiteral("集計しました。")) throw Failure(QStringLiteral("請求処理: ") + said);
-    closeForm(desk, billingForm);
+    bill(desk);
+}
+
+void runBillingAgain(Desk& desk) {
+    openBilling(desk);
+    desk.clerk.answerAlert();
+    bill(desk);
 }
 
 void showList(Desk& desk) {

@@ -1,7 +1,11 @@
 #include <QFile>
 #include <algorithm>
+#include <functional>
+#include <set>
 
+#include "admin/DebitCheck.h"
 #include "clerk/Clerk.h"
+#include "ledger/Rows.h"
 #include "month/Album.h"
 #include "month/DebitCheck.h"
 #include "month/Desk.h"
@@ -27,6 +31,8 @@ const QString writeButton = QStringLiteral("Command(2)");
 const QString readButton = QStringLiteral("Command(4)");
 const QString bankStatementButton = QStringLiteral("Command(5)");
 const QString postStatementButton = QStringLiteral("Command(6)");
+
+const QString branchBox = QStringLiteral("ebox(17)");  // of the customer
 
 QString onDisk(const Desk& desk, const QString& name) {
     return desk.folder.disk() + u'/' + name;
@@ -71,6 +77,42 @@ void requireSaid(Desk& desk, const QString& wanted) {
     }
 }
 
+QString branchOf(std::int32_t deal) {
+    return QString::number(
+        readNumbers(*gDb, QStringLiteral("SELECT Stn FROM Deal WHERE Code=%1").arg(deal))[0][0]);
+}
+
+/// From the proposed day of the second attempt to the message that the disk is done.
+void writeDisk(Desk& desk, const std::function<void()>& expectTotals) {
+    desk.clerk.answerConfirm(true);
+    desk.clerk.answerConfirm(true);
+    expectTotals();
+    desk.clerk.answerAlert();
+    desk.clerk.answerAlert();
+    desk.clerk.enter();
+}
+
+/// Those that akarix-admin's check of a disk finds fault with, counted from 1.
+std::set<qsizetype> recordsNamed(const QString& path) {
+    QFile file(path);
+    if (!file.open(QFile::ReadOnly)) throw Failure(path + QStringLiteral(" が読めません。"));
+    std::set<qsizetype> named;
+    for (const auto& departure : admin::CheckDebitFile(admin::SplitDebitRecords(file.readAll())).departures)
+        named.insert(departure.record);
+    return named;
+}
+
+/// The check names the broken record before the disk goes out; the customer gets his branch back.
+void mendBranch(Desk& desk) {
+    const auto named = recordsNamed(diskFile(desk));
+    const int behindHeader = desk.shortBranch.claim + 2;
+    if (!named.contains(behindHeader)) {
+        throw Failure(QStringLiteral("検査が %1 番目のレコードを挙げません。").arg(behindHeader));
+    }
+    ++desk.refusedDisks;
+    changeCustomer(desk, desk.shortBranch.deal, {{branchBox, desk.shortBranch.branch}});
+}
+
 }  // namespace
 
 void keepConsignors(Desk& desk) {
@@ -78,6 +120,15 @@ void keepConsignors(Desk& desk) {
                   QStringLiteral("bank-consignor"));
     keepConsignor(desk, 15, QStringLiteral("MstYubin_frm"), sample::postOffice,
                   QStringLiteral("post-consignor"));
+}
+
+// Keyed as a bank's branch is, the post office's breaks its record in two.
+void shortenBranch(Desk& desk) {
+    const DebitClaims claims = claimsOf(desk, sample::postOffice);
+    if (claims.empty()) return;
+    const auto claim = claims.size() / 2;
+    desk.shortBranch = {claims[claim].deal, static_cast<int>(claim), branchOf(claims[claim].deal)};
+    changeCustomer(desk, desk.shortBranch.deal, {{branchBox, desk.shortBranch.branch.left(3)}});
 }
 
 // The screen stays open until the disk is back.
@@ -102,14 +153,19 @@ void writeRequest(Desk& desk) {
     desk.clerk.bringToFront(billingForm);
     desk.clerk.click(writeButton);
     takeForm(desk, QStringLiteral("retransfer"), billingForm);
+    writeDisk(desk, [&desk] {
+        desk.clerk.expect(QStringLiteral("Printer_frm"),
+                          [&desk](QWidget&) { desk.clerk.press(Qt::Key_Escape); });
+    });
+    mendBranch(desk);
+
+    desk.clerk.bringToFront(billingForm);
+    desk.clerk.click(writeButton);
     const QString totals = onDisk(desk, QStringLiteral("total-sheet.pdf"));
-    desk.clerk.answerConfirm(true);
-    desk.clerk.answerConfirm(true);
-    expectPrinter(desk, totals);
-    desk.clerk.answerAlert();
-    desk.clerk.answerAlert();
-    desk.clerk.enter();
+    writeDisk(desk, [&] { expectPrinter(desk, totals); });
     requireFile(totals);
+    const auto named = recordsNamed(diskFile(desk));
+    if (!named.empty()) throw Failure(QStringLiteral("依頼のディスクが検査を通りません。"));
     const DebitFigures sums = totalsOf(wanted);
     requireSaid(desk, QStringLiteral("件数：%1\n金額：%2").arg(sums.asked).arg(sums.askedYen));
 

@@ -40,7 +40,7 @@ Sale newcomersSale(const Desk& desk) {
     const int day = 15;
     return {desk.newCustomer,
             DateSerial(desk.options.year, desk.options.month, day),
-            {goodsLine(desk.newItem, 1, desk.newItemPrice), taxLine(),
+            {goodsLine(desk.newItem, 10, desk.newItemPrice), taxLine(),
              textLine(QStringLiteral("配送・取付"), 3500), taxLine()}};
 }
 
@@ -53,7 +53,7 @@ std::map<QString, QString> textsOf(const Sale& sale) {
         if (isTax(sold)) {
             texts[amount] = QStringLiteral("*10");
         } else if (sold.item != 0) {
-            texts[ebox(21 + line)] = QString::number(sold.count);
+            texts[ebox(21 + line)] = QString::number(sold.tenths / 10.0);
         } else {
             texts[ebox(4 + 3 * line)] = sold.text;
             texts[amount] = QString::number(sold.yen);
@@ -91,7 +91,7 @@ void typePayment(Desk& desk, const Payment& payment) {
     int line = 0;
     for (const PaymentPart& part : payment.parts)
         typePart(desk, line++, part);
-    desk.typed.payments[number] = {payment.deal, totalOf(payment)};
+    desk.typed.payments[number] = {payment.deal, totalOf(payment), payment.nextMonth};
 }
 
 /// What the customer owed and paid in the half year before stands beside the slip.
@@ -115,6 +115,16 @@ void typeSlips(Desk& desk) {
         typeSale(desk, sale);
         saveDocument(desk);
     }
+    closeForm(desk, slipForm);
+}
+
+void typeLateSlip(Desk& desk) {
+    const Sale sale = lateSaleOf(*gDb, desk.options.year, desk.options.month);
+    if (sale.deal == 0) return;
+    openFromMenu(desk, 0, slipForm);
+    typeSale(desk, sale);
+    saveDocument(desk);
+    ++desk.lateSlips;
     closeForm(desk, slipForm);
 }
 

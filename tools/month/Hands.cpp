@@ -33,6 +33,19 @@ void walkTo(Desk& desk, const QString& end, const std::map<QString, QString>& te
     throw Failure(QStringLiteral("Enter で %1 に着きません。").arg(end));
 }
 
+void changeCustomer(Desk& desk, std::int32_t deal, const std::map<QString, QString>& texts,
+                    const QStringList& ticks) {
+    const QString form = QStringLiteral("MstDeal_frm");
+    const QString save = QStringLiteral("Btn(2)");
+    openFromMenu(desk, 13, form);
+    desk.clerk.fill(QString::number(deal));
+    walkTo(desk, save, texts);
+    for (const QString& tick : ticks)
+        desk.clerk.click(tick);
+    desk.clerk.click(save);
+    closeForm(desk, form);
+}
+
 std::map<QString, QString> monthTyped(const Options& options, int later) {
     const int index = options.year * 12 + options.month - 1 + later;
     return {{QStringLiteral("ebox(0)"), QString::number(index / 12)},

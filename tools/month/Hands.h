@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
+#include <cstdint>
 #include <map>
 
 namespace akarix::month {
@@ -13,6 +14,9 @@ struct Options;
 /// Presses a button of the menu board; the screen named is then in front.
 void openFromMenu(Desk& desk, int button, const QString& form);
 void closeForm(Desk& desk, const QString& form);
+/// Loads a customer, types what is given by field, changes the ticks named and saves.
+void changeCustomer(Desk& desk, std::int32_t deal, const std::map<QString, QString>& texts,
+                    const QStringList& ticks = {});
 /// Walks the fields of the screen in front by Enter up to the control named, typing what is given by field.
 /// Raises Failure when the walk does not lead there.
 void walkTo(Desk& desk, const QString& end, const std::map<QString, QString>& texts);

@@ -5,6 +5,7 @@
 #include "month/Desk.h"
 #include "month/Failure.h"
 #include "month/Hands.h"
+#include "month/InvoicePages.h"
 #include "month/Options.h"
 #include "month/Steps.h"
 #include "month/WorkFolder.h"
@@ -13,6 +14,7 @@
 #include "platform/print/PrinterSurface.h"
 #include "reports/InvoiceScript.h"
 #include "store/Settings.h"
+#include "store/dbAccess.h"
 
 namespace akarix::month {
 
@@ -59,6 +61,11 @@ void printInvoices(Desk& desk) {
     const QString path = desk.folder.path(QStringLiteral("invoices.pdf"));
     printTo(desk, printButton, path);
     desk.invoicePages = pagesOf(path);
+    const int wanted = invoicePagesOf(*gDb, desk.options.year, desk.options.month).all;
+    if (desk.invoicePages != wanted) {
+        throw Failure(
+            QStringLiteral("請求書が %1 頁のはずが %2 頁です。").arg(wanted).arg(desk.invoicePages));
+    }
 }
 
 // The drawn invoice breaks off at the balance, before anything is printed. Its script is left as it stands

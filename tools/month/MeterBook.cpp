@@ -28,6 +28,7 @@ MeterBook::MeterBook(Database& db, int year, int month) : month_(month) {
     for (const auto& row : readNumbers(db, QStringLiteral("SELECT Deal,Getudo,Suu FROM Dgd "
                                                           "WHERE Nendo*100+Getudo<%1")
                                                .arg(year * 100 + month))) {
+        if (row[2] < 0) continue;  // misread
         Sum& sum = sums[static_cast<std::int32_t>(row[0])];
         sum.tenths += row[2] / scaledTenth * 100 / seasonOf(row[1]);
         ++sum.months;
@@ -45,12 +46,18 @@ std::optional<MeterNote> MeterBook::note(std::int32_t deal, int before) const {
     if (found == usualTenths_.end()) return std::nullopt;
     const int mood = 85 + (deal * 37 + month_ * 11) % 31;  // no month is like another
     const int use = found->second * seasonOf(month_) / 100 * mood / 100;
-    constexpr int exchangeEvery = 97;
-    const bool exchanged = before + use > meterEnd || (before > 0 && deal % exchangeEvery == 11);
+    // One customer in so many, so that a small dealer's month has each of these too.
+    constexpr int every = 97;
+    const int turn = deal % every;
+    constexpr int readTooHigh = 12;  // in the month before
+    if (turn == 7 && before > readTooHigh) return MeterNote{.now = before - readTooHigh};
+    constexpr int notedTooLow = 1000;  // the old meter's end, by a wrong digit
+    const bool keyedWrong = turn == 13 && before > notedTooLow;
+    const bool exchanged = before + use > meterEnd || (before > 0 && turn == 11) || keyedWrong;
     if (!exchanged) return MeterNote{.now = before + use};
     const int onTheOld = std::min(use / 2, meterEnd - before);
     constexpr int testedAtTheWorks = 3;
-    return MeterNote{.exchangedAt = before + onTheOld,
+    return MeterNote{.exchangedAt = before + onTheOld - (keyedWrong ? notedTooLow : 0),
                      .startsAt = testedAtTheWorks,
                      .now = testedAtTheWorks + use - onTheOld};
 }

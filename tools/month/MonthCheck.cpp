@@ -4,6 +4,7 @@
 
 #include "ledger/ChargeCheck.h"
 #include "ledger/LedgerCheck.h"
+#include "ledger/LedgerProof.h"
 #include "ledger/Rows.h"
 #include "month/DebitCheck.h"
 #include "month/Failure.h"
@@ -70,12 +71,48 @@ QStringList compareDocuments(Database& db, int month, const QString& name, const
         const auto found = stored.extract(dno);
         if (found.empty()) {
             differences << QStringLiteral("%1 %2: 入力した伝票がありません。").arg(name).arg(dno);
-        } else if (found.mapped() != Stored{note.deal, month, note.yen * scaledYen}) {
+        } else if (found.mapped() !=
+                   Stored{note.deal, month + (note.nextMonth ? 1 : 0), note.yen * scaledYen}) {
             differences << QStringLiteral("%1 %2: 入力した内容と違います。").arg(name).arg(dno);
         }
     }
     for (const auto& [dno, document] : stored)
         differences << QStringLiteral("%1 %2: 入力していない伝票です。").arg(name).arg(dno);
+    return differences;
+}
+
+/// A slip of its own for each customer who leases anything, with a line for each device, and no other.
+QStringList compareLeases(Database& db, int year, int month, const TypedMonth& typed) {
+    using Fees = std::vector<std::int64_t>;  // in the order of the lines
+    std::map<std::int32_t, std::map<std::int64_t, Fees>> slips;
+    for (const auto& row : readNumbers(db, QStringLiteral("SELECT Deal,Dno,Gaku FROM Dud WHERE Nendo=%1 AND "
+                                                          "Getudo=%2 AND CreateAuto=1 ORDER BY Dno,Eda")
+                                               .arg(year)
+                                               .arg(month))) {
+        slips[static_cast<std::int32_t>(row[0])][row[1]].push_back(row[2] / scaledYen);
+    }
+    QStringList differences;
+    for (const auto& row : readNumbers(db, QStringLiteral("SELECT Code,ACU,Keihou FROM Deal"))) {
+        const auto deal = static_cast<std::int32_t>(row[0]);
+        Fees wanted;
+        if (row[1] == 1) wanted.push_back(typed.acuFee);
+        if (row[2] == 1) wanted.push_back(typed.alarmFee);
+        const auto stored = slips.extract(deal);
+        const bool right = wanted.empty() ? stored.empty()
+                                          : !stored.empty() && stored.mapped().size() == 1 &&
+                                                stored.mapped().begin()->second == wanted;
+        if (!right) differences << QStringLiteral("得意先 %1: リース伝票が違います。").arg(deal);
+    }
+    return differences;
+}
+
+/// The months around the one played: those before it, and what is paid for the one after.
+QStringList proveOtherMonths(Database& db, int year, int month) {
+    QStringList differences;
+    for (const LedgerFinding& finding : ProveLedger(db, [](int, int) {}).findings) {
+        const Difference& difference = finding.difference;
+        if (difference.nendo != year || difference.getudo != month) differences << describe(difference);
+    }
     return differences;
 }
 
@@ -89,6 +126,8 @@ void checkMonth(Database& db, int year, int month, const TypedMonth& typed) {
     differences +=
         compareDocuments(db, index, QStringLiteral("入金"), QStringLiteral("Dny WHERE"), typed.payments);
     differences += compareDebits(db, year, month, typed.debits);
+    differences += compareLeases(db, year, month, typed);
+    differences += proveOtherMonths(db, year, month);
     for (const auto& found : {CheckCharges(db, year, month), CheckLedgerMonth(db, year, month)}) {
         for (const Difference& difference : found)
             differences << describe(difference);

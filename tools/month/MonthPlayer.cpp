@@ -35,7 +35,7 @@ struct RoadStep {
 
 constexpr int monthEnd = 31;
 
-constexpr std::array<RoadStep, 28> road{{
+constexpr std::array<RoadStep, 32> road{{
     {u"起動", 1, startProgram},
     {u"料金表", 1, keepTariff},
     {u"地区マスター", 1, keepRoute},
@@ -43,6 +43,7 @@ constexpr std::array<RoadStep, 28> road{{
     {u"商品マスター", 1, keepGoods},
     {u"その他情報とリース料金", 1, keepSettings},
     {u"委託者マスター", 1, keepConsignors},
+    {u"支店を三桁にする", 1, shortenBranch},
     {u"口座振替明細書", 1, printStatements},
     {u"口座振替の依頼", 1, writeRequest},
     {u"口座振替の結果", 8, readResult},
@@ -52,6 +53,9 @@ constexpr std::array<RoadStep, 28> road{{
     {u"売上伝票の入力", 28, typeSlips},
     {u"入金の入力", 28, typePayments},
     {u"請求処理", monthEnd, runBilling},
+    {u"遅れた売上伝票", monthEnd, typeLateSlip},
+    {u"リースの終わり", monthEnd, endLease},
+    {u"二度目の請求処理", monthEnd, runBillingAgain},
     {u"一覧表の表示", monthEnd, showList},
     {u"一覧表の印刷", monthEnd, printList},
     {u"一覧表の書き出し", monthEnd, exportList},
@@ -156,6 +160,7 @@ QString playMonth(const Options& options) {
     Figures figures = readFigures(*gDb, options.year, options.month);
     figures.invoicePages = desk.invoicePages;
     figures.debit = totalsOf(desk.typed.debits);
+    figures.hardCases = hardCasesOf(*gDb, desk);
     const QString summary = summaryText(options.year, options.month, figures, times);
     writeText(folder.path(QStringLiteral("summary.txt")), summary);
     return summary;

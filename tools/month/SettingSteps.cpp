@@ -7,10 +7,11 @@ namespace akarix::month {
 
 namespace {
 
-/// Walked through and saved as it stands.
-void keepPage(Desk& desk, int button, const QString& form, const QString& save, const QString& picture) {
+/// Walked through, with what is given typed on the way, and saved.
+void keepPage(Desk& desk, int button, const QString& form, const QString& save, const QString& picture,
+              const std::map<QString, QString>& typed = {}) {
     openFromMenu(desk, button, form);
-    walkTo(desk, save, {});
+    walkTo(desk, save, typed);
     takeForm(desk, picture, form);
     desk.clerk.enter();
     closeForm(desk, form);
@@ -20,7 +21,11 @@ void keepPage(Desk& desk, int button, const QString& form, const QString& save, 
 
 void keepSettings(Desk& desk) {
     keepPage(desk, 18, QStringLiteral("etc_frm"), QStringLiteral("Btn(1)"), QStringLiteral("settings"));
-    keepPage(desk, 9, QStringLiteral("Keihoki_frm"), QStringLiteral("Btn"), QStringLiteral("lease-fees"));
+    desk.typed.alarmFee = 305;
+    desk.typed.acuFee = 1220;
+    keepPage(desk, 9, QStringLiteral("Keihoki_frm"), QStringLiteral("Btn"), QStringLiteral("lease-fees"),
+             {{QStringLiteral("ebox(0)"), QString::number(desk.typed.alarmFee)},
+              {QStringLiteral("ebox(1)"), QString::number(desk.typed.acuFee)}});
 }
 
 }  // namespace akarix::month

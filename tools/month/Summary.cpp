@@ -87,6 +87,9 @@ QString summaryText(int year, int month, const Figures& figures, const StepTimes
     text += line(QStringLiteral("口座振替の入金"), count(figures.debit.debited), records);
     text += line(QStringLiteral("振替入金額"), count(figures.debit.debitedYen), yen);
     text += u'\n';
+    for (const auto& [label, met] : figures.hardCases)
+        text += line(label, count(met), records);
+    text += u'\n';
     for (const StepTimes::Step& step : times.steps()) {
         text += line(step.name, QString::number(step.seconds, 'f', 2), QStringLiteral("秒"));
     }

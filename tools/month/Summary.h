@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "month/DebitFile.h"
+#include "month/HardCases.h"
 #include "month/StepTimes.h"
 
 namespace akarix {
@@ -27,6 +28,7 @@ struct Figures {
     std::int64_t after = 0;  ///< balance carried out of it
     std::int64_t invoicePages = 0;
     DebitFigures debit{};  ///< in yen
+    HardCases hardCases{};
 };
 
 Figures readFigures(Database& db, int year, int month);

@@ -14,8 +14,8 @@ namespace akarix::month {
 
 /// A line of a sale: goods, a text of its own, or the tax on the line above.
 struct SaleLine {
-    int item = 0;  ///< 0 for a text
-    int count = 0;
+    int item = 0;          ///< 0 for a text
+    int tenths = 0;        ///< how much of it; below 0 when it is given back
     std::int64_t yen = 0;  ///< of one piece, or of the whole text
     QString text{};
 };
@@ -26,7 +26,7 @@ struct Sale {
     std::vector<SaleLine> lines;
 };
 
-SaleLine goodsLine(int item, int count, std::int64_t price);
+SaleLine goodsLine(int item, int tenths, std::int64_t price);
 SaleLine textLine(const QString& text, std::int64_t yen);
 SaleLine taxLine();
 bool isTax(const SaleLine& line);
@@ -43,19 +43,23 @@ struct Payment {
     std::int32_t deal = 0;
     Date day;
     std::vector<PaymentPart> parts;
+    bool nextMonth = false;  ///< made after the closing day
 };
 
 std::int64_t totalOf(const Payment& payment);
 
-// What a month brings in beside the readings, the same for the same store and month. Each is dated so that it
-// counts for that month. Typing takes its time, so a large dealer's customers are sampled.
+// What a month brings in beside the readings, the same for the same store and month. Each sale is dated so
+// that it counts for that month. Typing takes its time, so a large dealer's customers are sampled.
 
 constexpr int mostSales = 60;
 constexpr int mostPayments = 300;
 
+/// Among them a new kitchen, whose invoice has more lines than a sheet.
 std::vector<Sale> salesOf(Database& db, int year, int month);
-/// Most customers pay what the month before left, some a part of it, a few nothing. Those of the post office
-/// are booked by its disk.
+/// Comes to the desk when the month is billed already: a part of the kitchen is given back.
+Sale lateSaleOf(Database& db, int year, int month);
+/// Most customers pay what the month before left, some a part of it or far more, a few nothing, and some only
+/// after their closing day. Those of the post office are booked by its disk.
 std::vector<Payment> paymentsOf(Database& db, int year, int month);
 
 }  // namespace akarix::month

@@ -13,6 +13,7 @@ namespace akarix::month {
 struct DocumentNote {
     std::int32_t deal = 0;
     std::int64_t yen = 0;
+    bool nextMonth = false;  ///< counts for the month after
     friend bool operator==(const DocumentNote&, const DocumentNote&) = default;
 };
 using DocumentNotes = std::map<std::int32_t, DocumentNote>;  ///< by number
@@ -23,6 +24,8 @@ struct TypedMonth {
     DocumentNotes slips{};
     DocumentNotes payments{};  ///< those the debit result has booked too
     DebitClaims debits{};      ///< as the post office gave them back
+    std::int64_t acuFee = 0;   ///< yen, of a month's lease
+    std::int64_t alarmFee = 0;
 };
 
 }  // namespace akarix::month

@@ -6,7 +6,8 @@
 
 namespace akarix::sample {
 
-/// A name and its reading in half-width kana, as a debit file wants it (no small kana).
+/// A name and its reading in half-width kana, as a debit file wants it (no small kana, a hyphen for a long
+/// sound).
 struct ReadName {
     QString name;
     QString kana;

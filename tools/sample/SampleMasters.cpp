@@ -24,25 +24,31 @@ constexpr int bounds[bandCount + 1] = {0, 5, 10, 20, 30, 999};
 
 struct TariffRow {
     Tariff pattern;
-    int basic;                   ///< yen
+    int basicTenths;             ///< of a yen
     int tenthsOfYen[bandCount];  ///< price of a cubic metre in each band
 };
 
 const TariffRow tariffs[] = {
-    {HouseTariff, 1700, {5800, 5600, 5350, 5100, 4900}},
-    {ApartmentTariff, 1900, {5950, 5750, 5500, 5250, 5050}},
-    {BusinessTariff, 2200, {5200, 4950, 4655, 4405, 4105}},
-    {BulkTariff, 3000, {4805, 4555, 4205, 3905, 3605}},
-    {PublicTariff, 2000, {5405, 5155, 4905, 4655, 4405}},
+    {HouseTariff, 17000, {5800, 5600, 5350, 5100, 4900}},
+    {ApartmentTariff, 19000, {5950, 5750, 5500, 5250, 5050}},
+    {BusinessTariff, 22000, {5200, 4950, 4655, 4405, 4105}},
+    {BulkTariff, 30005, {4805, 4555, 4205, 3905, 3605}},
+    {PublicTariff, 20005, {5405, 5155, 4905, 4655, 4405}},
 };
 
 const Item items[itemCount] = {
-    {1, u"ﾎﾞﾝﾍﾞ20", u"LPガス 20kgボンベ", 8800},  {2, u"ﾎﾞﾝﾍﾞ50", u"LPガス 50kgボンベ", 19800},
-    {3, u"ﾎﾞﾝﾍﾞ8", u"LPガス 8kgボンベ", 4200},    {10, u"ｶﾞｽｺﾝﾛ", u"ガスコンロ 2口", 29800},
-    {11, u"ｷﾕｳﾄｳｷ", u"ガス給湯器 16号", 138000},  {12, u"ｶﾞｽﾌｱﾝﾋｰﾀ", u"ガスファンヒーター", 42800},
-    {20, u"ｶﾞｽﾎｰｽ", u"ガスホース 9.5mm 1m", 580}, {21, u"ﾁﾖｳｾｲｷ", u"調整器", 6800},
-    {22, u"ｹｲﾎｳｷ", u"ガス警報器", 7480},          {30, u"ｼﾕﾂﾁﾖｳ", u"出張修理代", 4500},
-    {31, u"ﾊｲｶﾝｺｳｼﾞ", u"配管工事", 18000},        {taxItem, u"ｼﾖｳﾋｾﾞｲ", u"消費税", 0},
+    {1, u"ﾎﾞﾝﾍﾞ20", u"LPガス 20kgボンベ", 8800},
+    {2, u"ﾎﾞﾝﾍﾞ50", u"LPガス 50kgボンベ", 19800},
+    {3, u"ﾎﾞﾝﾍﾞ8", u"LPガス 8kgボンベ", 4200},
+    {10, u"ｶﾞｽｺﾝﾛ", u"ガスコンロ 2口", 29800},
+    {11, u"ｷﾕｳﾄｳｷ", u"ガス給湯器 16号", 138000},
+    {12, u"ｶﾞｽﾌｱﾝﾋｰﾀ", u"ガスファンヒーター", 42800},
+    {hoseItem, u"ｶﾞｽﾎｰｽ", u"ガスホース 9.5mm 1m", 583},
+    {21, u"ﾁﾖｳｾｲｷ", u"調整器", 6800},
+    {22, u"ｹｲﾎｳｷ", u"ガス警報器", 7480},
+    {30, u"ｼﾕﾂﾁﾖｳ", u"出張修理代", 4500},
+    {31, u"ﾊｲｶﾝｺｳｼﾞ", u"配管工事", 18000},
+    {taxItem, u"ｼﾖｳﾋｾﾞｲ", u"消費税", 0},
 };
 
 const CollectingBank banks[bankCount] = {
@@ -91,15 +97,15 @@ void fillRoutes() {
 void fillTariffs() {
     RowWriter table(QStringLiteral("GasKeisan"));
     for (const TariffRow& tariff : tariffs) {
-        int basic = tariff.basic;
+        int basicTenths = tariff.basicTenths;
         for (int band = 0; band < bandCount; ++band) {
             table.add({{QStringLiteral("Ptn"), number(tariff.pattern)},
                        {QStringLiteral("St"), number(bounds[band])},
                        {QStringLiteral("Ed"), number(bounds[band + 1])},
-                       {QStringLiteral("Kihon"), Currency(basic)},
+                       {QStringLiteral("Kihon"), Currency(basicTenths) / Currency(10)},
                        {QStringLiteral("Tanka"), Currency(tariff.tenthsOfYen[band]) / Currency(10)}});
-            // A band's basic charge holds what the bands below it cost, in whole yen.
-            basic += (bounds[band + 1] - bounds[band]) * tariff.tenthsOfYen[band] / 10;
+            // A band's basic charge holds what the bands below it cost.
+            basicTenths += (bounds[band + 1] - bounds[band]) * tariff.tenthsOfYen[band] / 10 * 10;
         }
     }
 }
@@ -171,6 +177,11 @@ void fillPostalCodes() {
 
 const Item& itemAt(int index) {
     return items[index];
+}
+
+int takenTenths(const Item& item, Dice& dice) {
+    if (item.code == hoseItem) return dice.between(5, 45);
+    return 10 * (item.price < 10000 ? dice.between(1, 3) : 1);
 }
 
 const CollectingBank& bankAt(int index) {

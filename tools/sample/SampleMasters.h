@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/runtime/Currency.h"
+#include "sample/Dice.h"
 
 namespace akarix::sample {
 
@@ -8,6 +8,7 @@ namespace akarix::sample {
 enum Tariff { HouseTariff = 1, ApartmentTariff = 2, BusinessTariff = 3, BulkTariff = 4, PublicTariff = 5 };
 
 constexpr int taxItem = 90;
+constexpr int hoseItem = 20;  ///< sold by the metre
 constexpr int taxPercent = 10;
 
 struct Item {
@@ -20,6 +21,8 @@ struct Item {
 /// The goods of the sample dealer; the tax line item is the last.
 constexpr int itemCount = 12;
 const Item& itemAt(int index);
+/// How much of it a customer takes, in tenths.
+int takenTenths(const Item& item, Dice& dice);
 
 struct CollectingBank {
     int code;

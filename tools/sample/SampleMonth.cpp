@@ -1,5 +1,8 @@
 #include "sample/SampleMonth.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "billing/Sub.h"
 #include "billing/Tto.h"
 #include "entry/GasUsage.h"
@@ -83,6 +86,10 @@ void MonthMaker::writeReading(Customer& customer, int year, int month) {
         exchangedAt = before + std::min(use / 2, meterEnd - before);
         after = dice_.percent(30) ? dice_.between(1, 9) : 0;
         customer.meterTenths = after + use - (exchangedAt - before);
+        constexpr int wrongDigit = 1000;  // in the old meter's end, now and then
+        if (exchangedAt > wrongDigit && exchanges_++ % 4 == 0) exchangedAt -= wrongDigit;
+    } else if (dice_.permille(4)) {
+        customer.meterTenths = std::max(0, before - dice_.between(1, 30));  // the last reading was too high
     } else {
         customer.meterTenths = before + use;
     }
@@ -140,9 +147,10 @@ void MonthMaker::writeSlip(const Customer& customer, Date day) {
     const int goods = dice_.percent(75) ? 1 : dice_.between(2, 3);
     for (int i = 0; i < goods; ++i) {
         const Item& item = itemAt(dice_.below(itemCount - 1));  // the last is the tax line
-        const int count = item.price < 10000 ? dice_.between(1, 3) : 1;
-        const Currency amount = Currency(item.price) * Currency(count);
-        add(item.code, QString::fromUtf16(item.name), amount, Currency(count), Currency(item.price));
+        const int returned = dice_.percent(3) ? -1 : 1;
+        const Currency count = tenths(returned * takenTenths(item, dice_));
+        const Currency amount = Fix(count * Currency(item.price));
+        add(item.code, QString::fromUtf16(item.name), amount, count, Currency(item.price));
         const Currency rate = Currency(taxPercent) / Currency(100);
         add(taxItem, QStringLiteral("消費税"), Fix(amount * rate), Currency(), Currency());
     }
@@ -159,6 +167,8 @@ void MonthMaker::writePayments(int year, int month) {
         if (!byDebit && roll < 14 && owed > Currency(2000)) {
             const Currency thousands = Fix(owed / Currency(2000));
             writePayment(customer, year, month, thousands * Currency(1000));
+        } else if (!byDebit && roll >= 98 && owed < Currency(20000)) {
+            writePayment(customer, year, month, owed * Currency(5));  // for months to come
         } else {
             writePayment(customer, year, month, owed);
         }
@@ -167,13 +177,11 @@ void MonthMaker::writePayments(int year, int month) {
 
 void MonthMaker::writePayment(const Customer& customer, int year, int month, Currency amount) {
     if (amount.IsZero()) return;
-    // Up to the closing day, so that the payment counts for this month.
-    const int lastDay = std::min(customer.closingDay, daysIn(year, month));
-    const int day = customer.bank != 0 ? 5 : dice_.between(1, lastDay);
-    const Date date = DateSerial(year, month, day);
+    const Date date = paymentDay(customer, year, month);
     int nendo = 0;
     int getudo = 0;
     DateToGetudo(customer.code, date, nendo, getudo);
+    if (getudo != month) paidAhead_[customer.code] += amount;
     const std::int32_t dno = nextPayment_++;
     int eda = 0;
     const auto add = [&](int paymentClass, Currency part, const QString& memo) {
@@ -196,7 +204,16 @@ void MonthMaker::writePayment(const Customer& customer, int year, int month, Cur
     }
 }
 
-/// What each customer owes at the end of the billed month.
+/// Most pay up to their closing day, so that it counts for this month; a few after it.
+Date MonthMaker::paymentDay(const Customer& customer, int year, int month) {
+    if (customer.bank != 0) return DateSerial(year, month, 5);
+    const int end = daysIn(year, month);
+    const int closing = std::min(customer.closingDay, end);
+    const bool isLate = closing < end && dice_.percent(8);
+    return DateSerial(year, month, isLate ? dice_.between(closing + 1, end) : dice_.between(1, closing));
+}
+
+/// What each customer owes at the end of the billed month, and has not yet paid after its closing day.
 void MonthMaker::readBalances(int year, int month) {
     owed_.clear();
     Recordset ledger = gDb->OpenRecordset(
@@ -209,6 +226,8 @@ void MonthMaker::readBalances(int year, int month) {
                                                         moneyOf(ledger[QStringLiteral("NGaku")]);
     }
     ledger.Close();
+    for (const auto& [deal, amount] : std::exchange(paidAhead_, {}))
+        owed_[deal] -= amount;
 }
 
 }  // namespace akarix::sample

@@ -28,6 +28,7 @@ class MonthMaker {
     void writeSlip(const Customer& customer, Date day);
     void writePayments(int year, int month);
     void writePayment(const Customer& customer, int year, int month, Currency amount);
+    Date paymentDay(const Customer& customer, int year, int month);
     void readBalances(int year, int month);
 
     std::vector<Customer>& customers_;
@@ -36,7 +37,9 @@ class MonthMaker {
     RowWriter slips_;
     RowWriter payments_;
     std::map<std::int32_t, Currency> owed_;
+    std::map<std::int32_t, Currency> paidAhead_;  // past the closing day: counts for the next month
     std::map<std::pair<int, std::int64_t>, Currency> charges_;  // by tariff and use
+    int exchanges_ = 0;
     std::int32_t nextSlip_ = 1;
     std::int32_t nextPayment_ = 1;
 };

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+namespace akarix {
+class Database;
+}
+
+namespace akarix::month {
+
+struct Desk;
+
+/// What a month meets beside the usual, and how often, by what it is called.
+using HardCases = std::vector<std::pair<QString, std::int64_t>>;
+
+/// Counted in the store where it stands there, else by what was done at the desk.
+HardCases hardCasesOf(Database& db, const Desk& desk);
+
+}  // namespace akarix::month
