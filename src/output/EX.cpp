@@ -21,6 +21,7 @@ struct Workbook {
     QString name;
     Sheet sheet;
     std::shared_ptr<PrintSink> document;  ///< begun by the first page that goes to the printer
+    int pages = 0;                        ///< printed or shown since the opening
 };
 
 struct PagedReport {
@@ -49,15 +50,16 @@ void FinishWhenAbandoned(const std::weak_ptr<PrintSink>& document) {
     }
 }
 
-/// The pages of the sheet as it stands now; they keep a copy, since the template is filled again.
-std::vector<PrintPage> PagesOf(const Sheet& filled) {
-    const auto sheet = std::make_shared<const Sheet>(filled);
+/// The pages of the sheet as it stands now; they keep a copy, since the template is filled again. Their
+/// numbers go on from the pages before.
+std::vector<PrintPage> NextPages(Workbook& open) {
+    const auto sheet = std::make_shared<const Sheet>(open.sheet);
     const std::vector<SheetPage> layout = LayOutSheet(*sheet);
+    const int count = open.pages + static_cast<int>(layout.size());
     std::vector<PrintPage> pages;
-    for (size_t i = 0; i < layout.size(); ++i) {
+    for (const SheetPage& part : layout) {
         pages.push_back({QSizeF(sheet->page.paperWidth, sheet->page.paperHeight),
-                         [sheet, part = layout[i], number = static_cast<int>(i) + 1,
-                          count = static_cast<int>(layout.size())](QPainter& painter) {
+                         [sheet, part, number = ++open.pages, count](QPainter& painter) {
                              PaintSheet(painter, *sheet, part, number, count);
                          }});
     }
@@ -73,7 +75,7 @@ void ExcelOpen(const QString& name) {
     if (!QFileInfo::exists(path)) {
         throw RuntimeError(1004, QStringLiteral("テンプレート '%1' が見つかりません。").arg(path));
     }
-    book = Workbook{name, CachedTemplate(path), nullptr};
+    book = Workbook{name, CachedTemplate(path), nullptr, 0};
 }
 
 void ExcelOpenPaged(const QString& name, int rows, int firstRow) {
@@ -96,7 +98,7 @@ void ExcelMerge(const QString& address, const QString& flag) {
 
 void ExcelPrintPage() {
     Workbook& open = OpenBook();
-    std::vector<PrintPage> pages = PagesOf(open.sheet);
+    std::vector<PrintPage> pages = NextPages(open);
     if (gPrintPreview) {
         ShowPreview(open.name, pages);
         return;

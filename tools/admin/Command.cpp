@@ -5,6 +5,7 @@
 #include "admin/Debit.h"
 #include "admin/Restore.h"
 #include "admin/Sample.h"
+#include "admin/Template.h"
 #include "admin/Terminal.h"
 #include "admin/Zip.h"
 #include "platform/runtime/RuntimeError.h"
@@ -22,7 +23,7 @@ QString overview() {
     }
     return text + QStringLiteral(
                       "\nコマンドの説明: akarix-admin コマンド --help\n"
-                      "終了コード: 0 正常、1 失敗、2 使い方の誤り。check と debit は 1 "
+                      "終了コード: 0 正常、1 失敗、2 使い方の誤り。check、debit、template は 1 "
                       "見つかったものがある、2 読めない\n");
 }
 
@@ -40,8 +41,8 @@ bool asksForHelp(const QStringList& arguments) {
 }  // namespace
 
 std::span<const Command> Commands() {
-    static const Command commands[] = {createCommand(),  sampleCommand(), checkCommand(),
-                                       restoreCommand(), zipCommand(),    debitCommand()};
+    static const Command commands[] = {createCommand(), sampleCommand(), checkCommand(),   restoreCommand(),
+                                       zipCommand(),    debitCommand(),  templateCommand()};
     return commands;
 }
 

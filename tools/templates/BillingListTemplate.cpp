@@ -32,8 +32,8 @@ constexpr Column columns[] = {{u"ｺｰﾄﾞ", u"", 48, LXW_ALIGN_RIGHT, "0"},
 
 bool WriteBillingListTemplate(const QString& path) {
     TemplateBook book(path);
-    constexpr int marginColumn = 6;
-    std::vector<int> widths{marginColumn};
+    constexpr int unused = 0;
+    std::vector<int> widths{unused};
     for (const Column& column : columns)
         widths.push_back(column.pixels);
     book.columns(widths);

@@ -13,10 +13,10 @@ constexpr uint32_t shade = 0xE4EAF0;
 
 bool WritePriceListTemplate(const QString& path) {
     TemplateBook book(path);
-    constexpr int marginColumn = 6;
+    constexpr int unused = 0;
     constexpr int labelWidth = 54;
     constexpr int priceWidth = 64;
-    std::vector<int> widths{marginColumn, labelWidth};
+    std::vector<int> widths{unused, labelWidth};
     widths.insert(widths.end(), prices, priceWidth);
     book.columns(widths);
     book.rows(1, 2, 21);

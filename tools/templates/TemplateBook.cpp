@@ -37,6 +37,12 @@ lxw_format* TemplateBook::look(const Look& look) {
 void TemplateBook::columns(const std::vector<int>& pixels) {
     for (size_t i = 0; i < pixels.size(); ++i) {
         const auto column = static_cast<uint16_t>(i);
+        if (pixels[i] == 0) {
+            // A width of 0 alone is taken for a mistake by some programs, which then show the column.
+            lxw_row_col_options hidden{.hidden = 1, .level = 0, .collapsed = 0};
+            worksheet_set_column_opt(sheet_, column, column, LXW_DEF_COL_WIDTH, nullptr, &hidden);
+            continue;
+        }
         WorkbookWriter::setColumnWidth(sheet_, column, column, pixels[i]);
     }
 }

@@ -37,7 +37,7 @@ class TemplateBook {
     lxw_format* look(const Look& look);
 
     lxw_worksheet* sheet() const { return sheet_; }
-    void columns(const std::vector<int>& pixels);
+    void columns(const std::vector<int>& pixels);  ///< 0 hides a column
     void rows(int first, int last, double points);
     void text(const char* address, const QString& text, lxw_format* format);
     void blank(int row, int column, lxw_format* format);

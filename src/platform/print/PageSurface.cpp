@@ -92,10 +92,9 @@ void PageSurface::draw(QPainter& painter, const Mark& mark) {
     }
     const Text& text = std::get<Text>(mark);
     painter.setPen(Qt::black);
-    painter.setFont(text.font->font());
     QPointF base = text.corner + QPointF(0, text.font->ascent());
     for (const QString& line : text.lines) {
-        painter.drawText(base, line);
+        text.font->draw(painter, base, line);
         base += QPointF(0, text.font->em());
     }
 }

@@ -1,8 +1,11 @@
 #include "platform/print/PaperFont.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QStringList>
+#include <algorithm>
 #include <deque>
 #include <vector>
 
@@ -53,6 +56,13 @@ Choice ChooseFamily(const QString& name) {
     return {family->substitute, true};
 }
 
+bool HasBoldFace(const QFont& font) {
+    const QString family = QFontInfo(font).family();
+    const QStringList styles = QFontDatabase::styles(family);
+    return std::any_of(styles.begin(), styles.end(),
+                       [&family](const QString& style) { return QFontDatabase::bold(family, style); });
+}
+
 }  // namespace
 
 PaperFont::PaperFont(const PaperFontKey& key) : em_(key.size * TwipsPerPoint) {
@@ -67,6 +77,17 @@ PaperFont::PaperFont(const PaperFontKey& key) : em_(key.size * TwipsPerPoint) {
     font_.setStrikeOut(key.strikeout);
     font_.setHintingPreference(QFont::PreferNoHinting);
     font_.setKerning(false);  // a text is as wide as its letters, so that their widths can be remembered
+    if (key.bold && !HasBoldFace(font_)) secondStrike_ = QFontMetricsF(font_).lineWidth() / 2;
+}
+
+void PaperFont::draw(QPainter& painter, QPointF base, const QString& text) const {
+    painter.setFont(font_);
+    painter.drawText(base, text);
+    // A face without a bold cut is struck twice in a PDF file. A screen makes such letters bolder by itself,
+    // but only small ones, and in twips none is small.
+    if (secondStrike_ > 0 && painter.paintEngine()->type() == QPaintEngine::Raster) {
+        painter.drawText(base - QPointF(secondStrike_, 0), text);
+    }
 }
 
 double PaperFont::width(const QString& text) {

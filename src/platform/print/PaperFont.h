@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QHash>
+#include <QPainter>
 
 namespace akarix {
 
@@ -30,12 +31,15 @@ class PaperFont {
     /// of the fonts that the templates are made for.
     double ascent() const { return em_ * 0.859; }
     double width(const QString& text);
+    /// Draws a text from its base line's left end, as bold on every device as in a PDF file.
+    void draw(QPainter& painter, QPointF base, const QString& text) const;
     /// True when the machine lacks the named font and another one stands in, whose figures may be wider.
     bool substituted() const { return substituted_; }
 
  private:
     QFont font_;
     double em_;
+    double secondStrike_ = 0;  ///< how far left of the first, in twips; 0: struck once
     bool substituted_ = false;
     QHash<char32_t, double> widths_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPageLayout>
 #include <QPainter>
 #include <QSizeF>
 #include <QString>
@@ -14,7 +15,12 @@ namespace akarix {
 struct PrintPage {
     QSizeF paper{595.276, 841.89};
     std::function<void(QPainter&)> draw;
+    /// On a printer, the drawing begins where the printer can print, and not at the paper's corner.
+    bool insideMargins = false;
 };
+
+/// The corner of what a device can print on, in twips from the paper's own; a file's is the paper's.
+QPointF PrintableCorner(const QPageLayout& layout);
 
 /// Where finished pages go.
 class PrintSink {

@@ -42,6 +42,7 @@ class DevicePages {
             painter_.save();
             const double unit = static_cast<double>(device_.logicalDpiX()) / TwipsPerInch;
             painter_.scale(unit, unit);
+            if (page.insideMargins) painter_.translate(PrintableCorner(device_.pageLayout()));
             page.draw(painter_);
             painter_.restore();
         }
@@ -118,6 +119,14 @@ class PdfSink : public PrintSink {
 };
 
 }  // namespace
+
+QPointF PrintableCorner(const QPageLayout& layout) {
+    constexpr double twipsPerPoint = 20;
+    QPageLayout own = layout;
+    own.setMode(QPageLayout::StandardMode);
+    own.setMargins(own.minimumMargins());
+    return own.paintRect(QPageLayout::Point).topLeft() * twipsPerPoint;
+}
 
 std::unique_ptr<PrintSink> OpenPrinterSink(const QString& documentName) {
     Printer& printer = Printer::Current();

@@ -10,6 +10,7 @@ PrinterSurface& PrinterSurface::Current() {
 void PrinterSurface::EndDoc() {
     if (blank()) return;
     PrintPage page = takePage();
+    page.insideMargins = true;  // scripts are laid out for the printer's own origin
     const auto job = OpenPrinterSink(QStringLiteral("Akarix"));
     job->add({std::move(page)});
     job->finish();

@@ -6,65 +6,39 @@
 namespace akarix {
 namespace {
 
-int Strength(BorderStyle style) {
-    switch (style) {
-        case BorderStyle::None:
-            return 0;
-        case BorderStyle::Hair:
-            return 1;
-        case BorderStyle::Dotted:
-            return 2;
-        case BorderStyle::Dashed:
-            return 3;
-        case BorderStyle::Thin:
-            return 4;
-        case BorderStyle::Medium:
-            return 5;
-        case BorderStyle::Double:
-            return 6;
-        case BorderStyle::Thick:
-            return 7;
-    }
-    return 0;
-}
-
 struct Line {
+    Line() = default;
+    explicit Line(const Border& border) : style(border.style), color(border.color.rgb()) {}
     BorderStyle style = BorderStyle::None;
     QRgb color = 0;
     friend auto operator<=>(const Line&, const Line&) = default;
 };
 
 Line Stronger(const Border& a, const Border& b) {
-    const Border& winner = Strength(b.style) > Strength(a.style) ? b : a;
-    return {winner.style, winner.color.rgb()};
+    return Line(b.style > a.style ? b : a);
 }
 
 QPen PenOf(const Line& line) {
-    double points = 0.65;
-    QList<qreal> dashes;
-    switch (line.style) {
-        case BorderStyle::Hair:
-            points = 0.4;
-            dashes = {1, 2};
-            break;
-        case BorderStyle::Dotted:
-            dashes = {1.5, 1.5};
-            break;
-        case BorderStyle::Dashed:
-            dashes = {5, 2.5};
-            break;
-        case BorderStyle::Medium:
-            points = 1.4;
-            break;
-        case BorderStyle::Thick:
-            points = 2.2;
-            break;
-        case BorderStyle::Double:
-            points = 0.6;
-            break;
-        default:
-            break;
-    }
+    constexpr double thin = 0.65, medium = 1.4;
+    struct Look {
+        double points;
+        QList<qreal> dashes;  ///< in widths of the line
+    };
+    static const std::map<BorderStyle, Look> looks{
+        {BorderStyle::Hair, {0.4, {1, 2}}},
+        {BorderStyle::Dotted, {thin, {1.5, 1.5}}},
+        {BorderStyle::DashDotDot, {thin, {9, 2.5, 2, 2.5, 2, 2.5}}},
+        {BorderStyle::DashDot, {thin, {9, 2.5, 2, 2.5}}},
+        {BorderStyle::Dashed, {thin, {5, 2.5}}},
+        {BorderStyle::Thin, {thin, {}}},
+        {BorderStyle::MediumDashDotDot, {medium, {7, 2, 2, 2, 2, 2}}},
+        {BorderStyle::MediumDashDot, {medium, {7, 2, 2, 2}}},
+        {BorderStyle::MediumDashed, {medium, {6, 2}}},
+        {BorderStyle::Medium, {medium, {}}},
+        {BorderStyle::Double, {0.6, {}}},
+        {BorderStyle::Thick, {2.2, {}}},
+    };
+    const auto& [points, dashes] = looks.at(line.style);
     QPen pen(QColor(line.color), points * TwipsPerPoint);
     // Square ends close the corners where lines meet.
     pen.setCapStyle(dashes.isEmpty() ? Qt::SquareCap : Qt::FlatCap);
@@ -78,7 +52,8 @@ class Lines {
     void add(const Line& line, QPointF from, QPointF to) {
         if (line.style == BorderStyle::None) return;
         QList<QLineF>& own = byPen_[line];
-        if (!own.isEmpty() && own.last().p2() == from && ((own.last().dx() == 0) == (to.x() == from.x()))) {
+        if (!own.isEmpty() && own.last().p2() == from &&
+            ((own.last().dx() == 0 && to.x() == from.x()) || (own.last().dy() == 0 && to.y() == from.y()))) {
             own.last().setP2(to);
         } else {
             own.append(QLineF(from, to));
@@ -92,11 +67,12 @@ class Lines {
                 painter.drawLines(pieces);
                 continue;
             }
-            const double apart = 0.75 * TwipsPerPoint;
             for (const QLineF& piece : pieces) {
-                const QPointF aside = piece.dx() == 0 ? QPointF(apart, 0) : QPointF(0, apart);
-                painter.drawLine(piece.translated(aside));
-                painter.drawLine(piece.translated(-aside));
+                QLineF aside = piece.normalVector();
+                aside.setLength(0.75 * TwipsPerPoint);
+                const QPointF apart(aside.dx(), aside.dy());
+                painter.drawLine(piece.translated(apart));
+                painter.drawLine(piece.translated(-apart));
             }
         }
     }
@@ -133,6 +109,16 @@ void PaintBorders(QPainter& painter, const PageGrid& grid, const PageCells& cell
             const Border& right = c < columns ? cells.style(r, c).left : none;
             lines.add(Stronger(left, right), {x, grid.y[static_cast<size_t>(r)]},
                       {x, grid.y[static_cast<size_t>(r) + 1]});
+        }
+    }
+    for (int r = 0; r < rows; ++r) {
+        for (int c = 0; c < columns; ++c) {
+            const bool merged = cells.merge(r, c) != PageCells::NoMerge;
+            if (merged && !cells.showsMerge(r, c)) continue;
+            const QRectF box = merged ? cells.mergeBox(r, c) : grid.cell(r, c);
+            const CellStyle& style = cells.style(r, c);
+            lines.add(Line(style.falling), box.topLeft(), box.bottomRight());
+            lines.add(Line(style.rising), box.bottomLeft(), box.topRight());
         }
     }
     lines.paint(painter);

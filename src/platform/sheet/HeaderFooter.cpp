@@ -22,10 +22,10 @@ enum Section { Left, Center, Right };
 /// Reads a header's codes: &L &C &R start a section, others stand for a value or change the font.
 class CodeReader {
  public:
-    CodeReader(const Sheet& sheet, int pageNumber, int pageCount)
-        : sheet_(sheet), pageNumber_(pageNumber), pageCount_(pageCount) {
+    CodeReader(const Sheet& sheet, double scale, int pageNumber, int pageCount)
+        : sheet_(sheet), scale_(scale), pageNumber_(pageNumber), pageCount_(pageCount) {
         const SheetFont& normal = sheet.styles.front().font;
-        normal_ = {normal.name, normal.size};
+        normal_ = {normal.name, normal.size * scale};
         font_ = normal_;
     }
 
@@ -110,7 +110,7 @@ class CodeReader {
         while (end < codes.size() && codes.at(end).isDigit()) {
             ++end;
         }
-        font_.size = std::max(1, codes.mid(at, end - at).toInt());
+        font_.size = std::max(1, codes.mid(at, end - at).toInt()) * scale_;
         return end - 1;
     }
 
@@ -127,6 +127,7 @@ class CodeReader {
     }
 
     const Sheet& sheet_;
+    double scale_;
     int pageNumber_, pageCount_;
     PaperFontKey normal_, font_;
     Section section_ = Center;
@@ -173,8 +174,7 @@ void PaintSection(QPainter& painter, const Runs& runs, Section section, const Pa
         if (section == Right) x = right - line.width;
         for (const Run& run : line.runs) {
             PaperFont& font = FontOnPaper(run.font);
-            painter.setFont(font.font());
-            painter.drawText(QPointF(x, top + line.em * 0.859), run.text);
+            font.draw(painter, QPointF(x, top + line.em * 0.859), run.text);
             x += font.width(run.text);
         }
         top += line.em;
@@ -183,12 +183,12 @@ void PaintSection(QPainter& painter, const Runs& runs, Section section, const Pa
 
 }  // namespace
 
-void PaintHeaderFooter(QPainter& painter, const Sheet& sheet, int pageNumber, int pageCount) {
+void PaintHeaderFooter(QPainter& painter, const Sheet& sheet, double scale, int pageNumber, int pageCount) {
     painter.setPen(Qt::black);
     for (const bool atBottom : {false, true}) {
         const QString& codes = atBottom ? sheet.page.footerText : sheet.page.headerText;
         if (codes.isEmpty()) continue;
-        const std::array<Runs, 3> sections = CodeReader(sheet, pageNumber, pageCount).read(codes);
+        const std::array<Runs, 3> sections = CodeReader(sheet, scale, pageNumber, pageCount).read(codes);
         for (const Section section : {Left, Center, Right}) {
             PaintSection(painter, sections[static_cast<size_t>(section)], section, sheet.page, atBottom);
         }

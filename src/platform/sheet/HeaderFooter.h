@@ -7,6 +7,7 @@
 namespace akarix {
 
 /// Draws the page setup's header and footer texts, in twips of the paper.
-void PaintHeaderFooter(QPainter& painter, const Sheet& sheet, int pageNumber, int pageCount);
+/// \param scale of their letters; the margins that they stand at stay
+void PaintHeaderFooter(QPainter& painter, const Sheet& sheet, double scale, int pageNumber, int pageCount);
 
 }  // namespace akarix

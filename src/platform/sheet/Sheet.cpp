@@ -46,7 +46,8 @@ bool isBlank(const Cell& cell) {
 bool isPainted(const CellStyle& style) {
     return style.fill.isValid() || style.left.style != BorderStyle::None ||
            style.right.style != BorderStyle::None || style.top.style != BorderStyle::None ||
-           style.bottom.style != BorderStyle::None;
+           style.bottom.style != BorderStyle::None || style.falling.style != BorderStyle::None ||
+           style.rising.style != BorderStyle::None;
 }
 
 }  // namespace
@@ -69,8 +70,7 @@ void Sheet::setValue(const QString& address, const QString& text) {
         for (auto it = cells.lower_bound(block.first); it != cells.end() && it->first.row <= block.last.row;
              ++it) {
             if (!block.contains(it->first)) continue;
-            it->second.text.clear();
-            it->second.number.reset();
+            it->second.blank();
         }
         return;
     }
@@ -87,9 +87,7 @@ void Sheet::setValue(const QString& address, const QString& text) {
             const int style = styleIndexAt(at);
             const QString& format = styles[static_cast<size_t>(style)].numberFormat;
             Cell& cell = cells[at];
-            cell.style = style;
-            cell.text.clear();
-            cell.number.reset();
+            cell = {.text = {}, .runs = {}, .number = {}, .style = style};
             if (number && format != QLatin1String("@")) {
                 cell.number = number->value;
             } else if (date && IsDateFormat(format)) {
@@ -123,8 +121,7 @@ void Sheet::setMerged(const QString& address, bool merged) {
          ++it) {
         if (!block.contains(it->first) || isBlank(it->second)) continue;
         if (!kept) kept = it->second;
-        it->second.text.clear();
-        it->second.number.reset();
+        it->second.blank();
     }
     if (!kept) return;
     const int style = styleIndexAt(block.first);

@@ -13,7 +13,22 @@ namespace akarix {
 
 enum class HorizontalAlign { General, Left, Center, Right, Fill, Justify, CenterAcross, Distributed };
 enum class VerticalAlign { Top, Center, Bottom, Justify, Distributed };
-enum class BorderStyle { None, Hair, Dotted, Dashed, Thin, Medium, Thick, Double };
+/// Of two that meet, the later one here is drawn.
+enum class BorderStyle {
+    None,
+    Hair,
+    Dotted,
+    DashDotDot,
+    DashDot,
+    Dashed,
+    Thin,
+    MediumDashDotDot,
+    MediumDashDot,
+    MediumDashed,
+    Medium,
+    Double,
+    Thick
+};
 
 struct Border {
     BorderStyle style = BorderStyle::None;
@@ -27,6 +42,7 @@ struct SheetFont {
     bool italic = false;
     bool underline = false;
     bool strikeout = false;
+    int raised = 0;  ///< 1 is superscript, -1 subscript, in small letters either way
     QColor color = Qt::black;
 };
 
@@ -34,6 +50,7 @@ struct CellStyle {
     SheetFont font;
     QColor fill;  ///< invalid: none
     Border left, right, top, bottom;
+    Border falling, rising;  ///< across the cell, from its upper and from its lower left corner
     HorizontalAlign horizontal = HorizontalAlign::General;
     VerticalAlign vertical = VerticalAlign::Bottom;
     bool wrap = false;
@@ -63,11 +80,20 @@ CellRange ParseRange(const QString& address);
 inline constexpr int lastSheetRow = 1048576;
 inline constexpr int lastSheetColumn = 16384;
 
+/// A stretch of a template's text.
+struct TextRun {
+    qsizetype length = 0;
+    std::optional<SheetFont> font;  ///< the cell's own when empty
+};
+
 /// A cell holds text or a number; a number is shown through its style's number format.
 struct Cell {
     QString text;
+    std::vector<TextRun> runs;  ///< the whole text, where parts of it have fonts of their own
     std::optional<double> number;
     int style = 0;  ///< index into Sheet::styles
+
+    void blank() { *this = {.text = {}, .runs = {}, .number = {}, .style = style}; }
 };
 
 struct PageSetup {
@@ -80,6 +106,7 @@ struct PageSetup {
     bool centerHorizontally = false, centerVertically = false;
     bool gridLines = false;
     QString headerText, footerText;  ///< with the codes &L &C &R &P &N &D ...
+    bool headersScale = true;        ///< these two are made smaller with the sheet
     std::optional<CellRange> printArea;
     int titleFirstRow = 0, titleLastRow = 0;  ///< rows repeated on each page; 0 is none
     std::vector<int> rowBreaks;               ///< a page ends behind these rows
@@ -100,8 +127,9 @@ class Sheet {
     QStringList warnings;  ///< what the reader met and cannot show (formulas, pictures, ...)
 
     /// Writes a value as typed into a spreadsheet: a text that is a plain number becomes one where the cell's
-    /// format is not "@", a year/month/day a date where the format shows dates; an empty text blanks the
-    /// block. Styles stay; of a merged block only the upper left cell takes a value. Bad address: 1004.
+    /// format is not "@", a year/month/day or month/day a date where the format shows dates; an empty text
+    /// blanks the block. Styles stay; of a merged block only the upper left cell takes a value. Bad address:
+    /// 1004.
     void setValue(const QString& address, const QString& text);
     /// Merges a block, which keeps its first value alone, or takes apart every merge that the block touches.
     void setMerged(const QString& address, bool merged);

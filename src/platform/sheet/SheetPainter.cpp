@@ -78,6 +78,8 @@ class PagePainter {
             shown.color = formatted.color;
         } else {
             shown.text = AsShown(sheet_.shownText(place.address), place.style.font.name);
+            // Marks that a format adds to the text would shift the runs.
+            if (shown.text.size() == place.cell->text.size()) shown.runs = place.cell->runs;
         }
         const bool merged = cells_.merge(place.r, place.c) != PageCells::NoMerge;
         if (!merged && place.style.horizontal == HorizontalAlign::CenterAcross) {
@@ -125,7 +127,7 @@ class PagePainter {
 
 void PaintSheet(QPainter& painter, const Sheet& sheet, const SheetPage& page, int pageNumber, int pageCount) {
     painter.save();
-    PaintHeaderFooter(painter, sheet, pageNumber, pageCount);
+    PaintHeaderFooter(painter, sheet, sheet.page.headersScale ? page.scale : 1, pageNumber, pageCount);
     painter.translate(page.originX * TwipsPerPoint, page.originY * TwipsPerPoint);
     painter.scale(page.scale, page.scale);
     PagePainter(painter, sheet, page).paint();

@@ -31,19 +31,6 @@ QString unescaped(QString value) {
     return value;
 }
 
-// The text of a string item: its own or that of its runs. The readings beside them (rPh) are not part of it.
-QString stringItem(const pugi::xml_node& item) {
-    QString value;
-    for (const auto& child : item) {
-        if (isNamed(child, "t")) {
-            value += QString::fromUtf8(child.text().get());
-        } else if (isNamed(child, "r")) {
-            value += QString::fromUtf8(childNamed(child, "t").text().get());
-        }
-    }
-    return unescaped(value);
-}
-
 struct Paper {
     int code;
     double width, height;  ///< millimetres
@@ -87,7 +74,7 @@ class Reader {
 
  private:
     [[noreturn]] void noSheet() const {
-        parts_.fail(QStringLiteral("シート '%1' がありません。").arg(sheet_.name));
+        throw RuntimeError(9, QStringLiteral("シート '%1' がありません。").arg(sheet_.name));
     }
 
     void openWorkbook() {
@@ -116,6 +103,27 @@ class Reader {
         if (sheetPart_.isEmpty()) noSheet();
     }
 
+    // The text of a string item: its own or that of its runs. The readings beside them (rPh) are not part of
+    // it.
+    Cell stringItem(const pugi::xml_node& item) const {
+        Cell held;
+        bool plain = true;
+        for (const auto& child : item) {
+            const bool run = isNamed(child, "r");
+            if (!run && !isNamed(child, "t")) continue;
+            const QString value =
+                unescaped(QString::fromUtf8((run ? childNamed(child, "t") : child).text().get()));
+            held.text += value;
+            held.runs.push_back({value.size(), {}});
+            if (const auto look = childNamed(child, "rPr")) {
+                held.runs.back().font = readFont_(look);
+                plain = false;
+            }
+        }
+        if (plain) held.runs.clear();
+        return held;
+    }
+
     // A part that the workbook names once, by its kind.
     void loadRelated(QStringView type, pugi::xml_document& document) {
         for (const auto& relation : relations_) {
@@ -133,8 +141,8 @@ class Reader {
         WorkbookStyles read = ReadStyles(styles, theme);
         sheet_.styles = std::move(read.cells);
         normal_ = read.normal;
+        readFont_ = read.readFont;
         digitPixels_ = DigitPixels(normal_);
-        if (read.diagonals) sheet_.warnings += QStringLiteral("斜めの罫線は印刷されません。");
         for (const CellStyle& style : sheet_.styles)
             isDate_.push_back(IsDateFormat(style.numberFormat));
         for (const auto& item : strings.document_element()) {
@@ -160,6 +168,7 @@ class Reader {
 
     void readColumns(const pugi::xml_node& cols) {
         int done = 0;
+        bool thin = false;
         for (const auto& node : cols) {
             const int first = std::max(node.attribute("min").as_int(), done + 1);
             const int last = std::min(node.attribute("max").as_int(), lastSheetColumn);
@@ -171,10 +180,15 @@ class Reader {
                     sheet_.columnWidths[column] = 0;
                 } else if (width) {
                     sheet_.columnWidths[column] = ColumnPoints(length(width, 255), digitPixels_);
+                    thin = thin || sheet_.columnWidths[column] <= 0;
                 }
                 if (style > 0) sheet_.columnStyles[column] = style;
             }
             done = std::max(done, last);
+        }
+        if (thin) {
+            sheet_.warnings += QStringLiteral(
+                "幅 0 の列は、ほかの表計算ソフトでは見えてしまいます。隠すには「非表示」にします。");
         }
     }
 
@@ -230,7 +244,9 @@ class Reader {
         const char* type = node.attribute("t").value();
         const auto is = [type](const char* name) { return std::strcmp(type, name) == 0; };
         if (is("inlineStr")) {
-            cell.text = stringItem(childNamed(node, "is"));
+            const int style = cell.style;
+            cell = stringItem(childNamed(node, "is"));
+            cell.style = style;
             return;
         }
         const auto valueNode = childNamed(node, "v");
@@ -239,7 +255,9 @@ class Reader {
         if (is("s")) {
             bool ok = false;
             const auto index = static_cast<size_t>(value.trimmed().toUInt(&ok));
-            if (ok && index < strings_.size()) cell.text = strings_[index];
+            if (!ok || index >= strings_.size()) return;
+            cell.text = strings_[index].text;
+            cell.runs = strings_[index].runs;
         } else if (is("b")) {
             cell.text = value.trimmed() == "1" ? QStringLiteral("TRUE") : QStringLiteral("FALSE");
         } else if (is("str") || is("e") || is("d")) {
@@ -309,6 +327,7 @@ class Reader {
         const auto texts = childNamed(root, "headerFooter");
         page.headerText = unescaped(QString::fromUtf8(childNamed(texts, "oddHeader").text().get()));
         page.footerText = unescaped(QString::fromUtf8(childNamed(texts, "oddFooter").text().get()));
+        page.headersScale = isOn(texts.attribute("scaleWithDoc"), true);
         for (const auto& node : childNamed(root, "rowBreaks")) {
             const int row = node.attribute("id").as_int();
             if (row >= 1 && row < lastSheetRow) page.rowBreaks.push_back(row);
@@ -388,6 +407,9 @@ class Reader {
         for (const auto& [element, what] : unshown) {
             if (childNamed(root, element)) sheet_.warnings += QString::fromUtf16(what);
         }
+        if ((sheet_.page.headerText + sheet_.page.footerText).contains(u"&N", Qt::CaseInsensitive)) {
+            sheet_.warnings += QStringLiteral("総ページ数は、そのページまでの数になります。");
+        }
     }
 
     WorkbookParts parts_;
@@ -399,7 +421,8 @@ class Reader {
     bool from1904_ = false;
     SheetFont normal_;
     int digitPixels_ = 8;
-    std::vector<QString> strings_;
+    std::function<SheetFont(const pugi::xml_node&)> readFont_;
+    std::vector<Cell> strings_;
     std::vector<bool> isDate_;
     int formulas_ = 0;
     QString firstFormula_;

@@ -113,17 +113,17 @@ class Reader {
             borders_.push_back(borders(node));
 
         WorkbookStyles styles;
-        styles.diagonals = diagonals_;
         for (const auto& node : childNamed(root_, "cellXfs"))
             styles.cells.push_back(cellStyle(node));
         if (styles.cells.empty()) styles.cells.emplace_back();
         styles.normal = normalFont(styles.cells.front().font);
+        styles.readFont = [*this](const pugi::xml_node& node) { return font(node); };
         return styles;
     }
 
  private:
     struct Borders {
-        Border left, right, top, bottom;
+        Border left, right, top, bottom, falling, rising;
     };
 
     void readTheme(const pugi::xml_node& theme) {
@@ -166,7 +166,9 @@ class Reader {
 
     SheetFont font(const pugi::xml_node& node) const {
         SheetFont font;
-        if (const auto name = childNamed(node, "name")) font.name = text(name.attribute("val"));
+        for (const char* tag : {"name", "rFont"}) {
+            if (const auto name = childNamed(node, tag)) font.name = text(name.attribute("val"));
+        }
         if (const auto size = childNamed(node, "sz")) {
             font.size = std::clamp(size.attribute("val").as_double(font.size), 1.0, 409.0);
         }
@@ -175,6 +177,8 @@ class Reader {
         font.strikeout = flag(node, "strike");
         const auto underline = childNamed(node, "u");
         font.underline = underline && std::strcmp(underline.attribute("val").value(), "none") != 0;
+        const QByteArray place = childNamed(node, "vertAlign").attribute("val").value();
+        font.raised = place == "superscript" ? 1 : place == "subscript" ? -1 : 0;
         font.color = color(childNamed(node, "color"), Qt::black);
         return font;
     }
@@ -203,31 +207,36 @@ class Reader {
     }
 
     Border border(const pugi::xml_node& node) const {
-        static const QHash<QByteArray, BorderStyle> styles{{"hair", BorderStyle::Hair},
-                                                           {"dotted", BorderStyle::Dotted},
-                                                           {"dashed", BorderStyle::Dashed},
-                                                           {"thin", BorderStyle::Thin},
-                                                           {"medium", BorderStyle::Medium},
-                                                           {"thick", BorderStyle::Thick},
-                                                           {"double", BorderStyle::Double},
-                                                           {"mediumDashed", BorderStyle::Dashed},
-                                                           {"dashDot", BorderStyle::Dashed},
-                                                           {"mediumDashDot", BorderStyle::Dashed},
-                                                           {"slantDashDot", BorderStyle::Dashed},
-                                                           {"dashDotDot", BorderStyle::Dotted},
-                                                           {"mediumDashDotDot", BorderStyle::Dotted}};
+        static const QHash<QByteArray, BorderStyle> styles{
+            {"hair", BorderStyle::Hair},
+            {"dotted", BorderStyle::Dotted},
+            {"dashed", BorderStyle::Dashed},
+            {"thin", BorderStyle::Thin},
+            {"medium", BorderStyle::Medium},
+            {"thick", BorderStyle::Thick},
+            {"double", BorderStyle::Double},
+            {"mediumDashed", BorderStyle::MediumDashed},
+            {"dashDot", BorderStyle::DashDot},
+            {"mediumDashDot", BorderStyle::MediumDashDot},
+            {"slantDashDot", BorderStyle::MediumDashDot},
+            {"dashDotDot", BorderStyle::DashDotDot},
+            {"mediumDashDotDot", BorderStyle::MediumDashDotDot}};
         return {styles.value(node.attribute("style").value(), BorderStyle::None),
                 color(childNamed(node, "color"), Qt::black)};
     }
 
-    Borders borders(const pugi::xml_node& node) {
+    Borders borders(const pugi::xml_node& node) const {
         const auto side = [&](const char* name, const char* other) {
             const auto found = childNamed(node, name);
             return border(found ? found : childNamed(node, other));
         };
-        const auto diagonal = childNamed(node, "diagonal");
-        if (border(diagonal).style != BorderStyle::None) diagonals_ = true;
-        return {side("left", "start"), side("right", "end"), side("top", "top"), side("bottom", "bottom")};
+        const Border diagonal = border(childNamed(node, "diagonal"));
+        return {side("left", "start"),
+                side("right", "end"),
+                side("top", "top"),
+                side("bottom", "bottom"),
+                isOn(node.attribute("diagonalDown")) ? diagonal : Border(),
+                isOn(node.attribute("diagonalUp")) ? diagonal : Border()};
     }
 
     CellStyle cellStyle(const pugi::xml_node& node) const {
@@ -239,6 +248,8 @@ class Reader {
         style.right = lines.right;
         style.top = lines.top;
         style.bottom = lines.bottom;
+        style.falling = lines.falling;
+        style.rising = lines.rising;
         const int format = node.attribute("numFmtId").as_int();
         style.numberFormat = formats_.contains(format) ? formats_[format] : builtInFormat(format);
         align(style, childNamed(node, "alignment"));
@@ -292,7 +303,6 @@ class Reader {
     std::vector<SheetFont> fonts_;
     std::vector<QColor> fills_;
     std::vector<Borders> borders_;
-    bool diagonals_ = false;
 };
 
 }  // namespace

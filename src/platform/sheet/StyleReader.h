@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <pugixml.hpp>
 #include <vector>
 
@@ -10,7 +11,7 @@ namespace akarix {
 struct WorkbookStyles {
     std::vector<CellStyle> cells;  ///< never empty; a cell's style is an index into these
     SheetFont normal;              ///< the font that column widths are counted in
-    bool diagonals = false;        ///< some style has diagonal lines, which a sheet here cannot show
+    std::function<SheetFont(const pugi::xml_node&)> readFont;  ///< of a part of a cell's text
 };
 
 /// Reads a workbook's style part; the theme gives the colours that styles name by number. Empty documents are

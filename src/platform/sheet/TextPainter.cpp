@@ -19,7 +19,11 @@ constexpr int Upright = 255;
 /// Figures of the substitute fonts are up to 15 % wider than those the templates were made with.
 constexpr double NarrowestLetters = 0.86;
 
+/// Of letters above or below the line.
+constexpr double SmallLetters = 0.65;
+
 PaperFont& FontOf(const SheetFont& font, double size) {
+    if (font.raised != 0) size *= SmallLetters;
     return FontOnPaper({font.name, size, font.bold, font.italic, font.underline, font.strikeout});
 }
 
@@ -76,6 +80,40 @@ QStringList Pieces(const QString& text) {
     return pieces;
 }
 
+/// Breaks a text into lines.
+/// \param measure the width of a part that begins at a place in the text
+template <class Measure>
+QStringList Wrapped(const QString& text, double room, Measure measure) {
+    QStringList lines;
+    qsizetype start = 0;  // of the paragraph
+    for (const QString& paragraph : text.split(QLatin1Char('\n'))) {
+        QTextBoundaryFinder finder(QTextBoundaryFinder::Line, paragraph);
+        QString line;
+        for (qsizetype from = 0, to = finder.toNextBoundary(); to > 0;
+             from = to, to = finder.toNextBoundary()) {
+            QString piece = paragraph.mid(from, to - from);
+            // Blanks at a line's end need no room.
+            if (!line.isEmpty() && measure(start + from - line.size(), (line + piece).trimmed()) > room) {
+                lines += line;
+                line.clear();
+            }
+            // As many letters as fit, at least one.
+            while (measure(start + to - piece.size(), piece.trimmed()) > room && piece.size() > 1) {
+                qsizetype length = 1;
+                while (measure(start + to - piece.size(), piece.left(length + 1)) <= room) {
+                    ++length;
+                }
+                lines += piece.left(length);
+                piece.remove(0, length);
+            }
+            line += piece;
+        }
+        lines += line;
+        start += paragraph.size() + 1;
+    }
+    return lines;
+}
+
 class TextSetter {
  public:
     TextSetter(QPainter& painter, const CellStyle& style, const ShownText& shown)
@@ -84,7 +122,12 @@ class TextSetter {
           shown_(shown),
           box_(shown.box),
           font_(&FontOf(style.font, style.font.size)),
-          align_(Resolved(style.horizontal, shown.number)) {}
+          align_(Resolved(style.horizontal, shown.number)) {
+        const bool inPlace = Wraps(style) || !shown.text.contains(QLatin1Char('\n'));
+        rich_ = inPlace && style.horizontal != HorizontalAlign::Fill &&
+                style.horizontal != HorizontalAlign::Distributed;
+        chooseFonts(1);
+    }
 
     void paint() {
         painter_.setPen(shown_.color.isValid() ? shown_.color : style_.font.color);
@@ -107,7 +150,8 @@ class TextSetter {
     void paintLines() {
         QStringList lines;
         if (!shown_.number && (Wraps(style_) || align_ == HorizontalAlign::Distributed)) {
-            lines = WrapText(shown_.text, style_.font, room());
+            lines = Wrapped(shown_.text, room(),
+                            [this](qsizetype from, const QString& part) { return width(from, part); });
         } else {
             QString line = shown_.text;
             lines += line.remove(QLatin1Char('\n'));
@@ -118,8 +162,13 @@ class TextSetter {
 
         const double height = font_->em() * static_cast<double>(lines.size());
         double widest = 0;
+        std::vector<qsizetype> starts;
+        qsizetype from = 0;
         for (const QString& line : lines) {
-            widest = std::max(widest, font_->width(line) * squeeze);
+            starts.push_back(from);
+            widest = std::max(widest, width(from, line) * squeeze);
+            from += line.size();
+            if (from < shown_.text.size() && shown_.text.at(from) == QLatin1Char('\n')) ++from;
         }
         const QRectF spill(QPointF(std::min(box_.left(), shown_.spillLeft), box_.top()),
                            QPointF(std::max(box_.right(), shown_.spillRight), box_.bottom()));
@@ -128,15 +177,14 @@ class TextSetter {
             painter_.save();
             painter_.setClipRect(spill, Qt::IntersectClip);
         }
-        painter_.setFont(font_->font());
         double top = BlockTop(box_, style_.vertical, height);
         double pitch = font_->em();
         if (style_.vertical == VerticalAlign::Distributed && lines.size() > 1 && height < box_.height()) {
             pitch += (box_.height() - height - 2 * EdgePadding) / static_cast<double>(lines.size() - 1);
             top = box_.top() + EdgePadding;
         }
-        for (const QString& line : lines) {
-            paintLine(line, top + font_->ascent(), squeeze);
+        for (qsizetype i = 0; i < lines.size(); ++i) {
+            paintLine(starts[static_cast<size_t>(i)], lines.at(i), top + font_->ascent(), squeeze);
             top += pitch;
         }
         if (clipped) painter_.restore();
@@ -150,10 +198,9 @@ class TextSetter {
     /// Makes a line too wide fit where it must: a smaller font when the cell shrinks, narrower letters where
     /// a substitute font alone is the reason, marks for a number. Gives the factor to draw its width by.
     double fitLine(QString& line) {
-        const double width = font_->width(line);
+        const double width = this->width(0, line);
         if (style_.shrink && width > room()) {
-            const double smaller = style_.font.size * std::max(0.05, room() / width);
-            font_ = &FontOf(style_.font, std::floor(smaller * TwipsPerPoint) / TwipsPerPoint);
+            chooseFonts(std::max(0.05, room() / width));
             return 1;
         }
         const double edges = shown_.number ? box_.width() : shown_.spillRight - shown_.spillLeft;
@@ -166,8 +213,8 @@ class TextSetter {
         return 1;
     }
 
-    void paintLine(const QString& line, double baseline, double squeeze) {
-        const double width = font_->width(line) * squeeze;
+    void paintLine(qsizetype from, const QString& line, double baseline, double squeeze) {
+        const double width = this->width(from, line) * squeeze;
         const double padding = std::clamp((box_.width() - indent() - width) / 2, NumberPadding, SidePadding);
         double x = 0;
         switch (align_) {
@@ -183,7 +230,15 @@ class TextSetter {
             default:
                 x = box_.left() + (squeeze < 1 || shown_.number ? padding : SidePadding) + indent();
         }
-        drawAt({x, baseline}, line, squeeze);
+        if (squeeze == 1) {
+            draw({x, baseline}, from, line);
+            return;
+        }
+        painter_.save();
+        painter_.translate(x, baseline);
+        painter_.scale(squeeze, 1);
+        draw({}, from, line);
+        painter_.restore();
     }
 
     void paintSpread(const QString& line, double baseline) {
@@ -193,27 +248,71 @@ class TextSetter {
             total += font_->width(piece);
         }
         if (pieces.size() < 2 || total > room()) {
-            drawAt({box_.center().x() - font_->width(line) / 2, baseline}, line, 1);
+            font_->draw(painter_, {box_.center().x() - font_->width(line) / 2, baseline}, line);
             return;
         }
         const double gap = (room() - total) / static_cast<double>(pieces.size() - 1);
         double x = box_.left() + SidePadding + indent();
         for (const QString& piece : pieces) {
-            drawAt({x, baseline}, piece, 1);
+            font_->draw(painter_, {x, baseline}, piece);
             x += font_->width(piece) + gap;
         }
     }
 
-    void drawAt(QPointF at, const QString& text, double squeeze) {
-        if (squeeze == 1) {
-            painter_.drawText(at, text);
-            return;
+    /// A stretch of the text in one font.
+    struct Stretch {
+        qsizetype from, to;
+        PaperFont* font;
+        double rise;  ///< of its base line above the line's
+        QColor color;
+    };
+
+    /// The fonts of the text's stretches, made smaller by a factor; the tallest one gives the line its
+    /// height.
+    void chooseFonts(double factor) {
+        const auto fontOf = [factor](const SheetFont& font) {
+            const double size = font.size * factor;
+            return &FontOf(font, factor == 1 ? size : std::floor(size * TwipsPerPoint) / TwipsPerPoint);
+        };
+        font_ = fontOf(style_.font);
+        stretches_.clear();
+        qsizetype from = 0;
+        for (const TextRun& run : rich_ ? shown_.runs : std::vector<TextRun>()) {
+            const SheetFont& font = run.font ? *run.font : style_.font;
+            PaperFont* own = fontOf(font);
+            const double rise = font.raised > 0 ? 0.5 : font.raised < 0 ? -0.2 : 0;
+            stretches_.push_back({from, from + run.length, own, own->em() * rise, font.color});
+            if (own->em() > font_->em()) font_ = own;
+            from += run.length;
         }
-        painter_.save();
-        painter_.translate(at);
-        painter_.scale(squeeze, 1);
-        painter_.drawText(QPointF(), text);
-        painter_.restore();
+    }
+
+    /// Gives each stretch of a part of the text with its own letters.
+    template <class Use>
+    void forStretches(qsizetype from, const QString& part, Use use) const {
+        for (const Stretch& stretch : stretches_) {
+            const qsizetype begin = std::max<qsizetype>(stretch.from - from, 0);
+            const qsizetype end = std::min(stretch.to - from, part.size());
+            if (begin < end) use(stretch, part.mid(begin, end - begin));
+        }
+    }
+
+    /// \param from where the part begins in the text
+    double width(qsizetype from, const QString& part) const {
+        if (stretches_.empty()) return font_->width(part);
+        double sum = 0;
+        forStretches(from, part,
+                     [&](const Stretch& stretch, const QString& own) { sum += stretch.font->width(own); });
+        return sum;
+    }
+
+    void draw(QPointF base, qsizetype from, const QString& line) {
+        if (stretches_.empty()) font_->draw(painter_, base, line);
+        forStretches(from, line, [&](const Stretch& stretch, const QString& own) {
+            painter_.setPen(stretch.color);
+            stretch.font->draw(painter_, base - QPointF(0, stretch.rise), own);
+            base.rx() += stretch.font->width(own);
+        });
     }
 
     /// Text on its side is a level text in a turned box: what was along the page is now across.
@@ -294,7 +393,6 @@ class TextSetter {
 
         painter_.save();
         painter_.setClipRect(box_, Qt::IntersectClip);
-        painter_.setFont(font_->font());
         for (const QString& letters : columns) {
             double pitch = em;
             double y = BlockTop(box_, style_.vertical, em * static_cast<double>(letters.size()));
@@ -323,13 +421,13 @@ class TextSetter {
             painter_.save();
             painter_.translate(square.center());
             painter_.rotate(90);
-            painter_.drawText(QPointF(-width / 2, font_->ascent() - square.height() / 2), text);
+            font_->draw(painter_, QPointF(-width / 2, font_->ascent() - square.height() / 2), text);
             painter_.restore();
             return;
         }
         QPointF at(square.center().x() - width / 2, square.top() + font_->ascent());
         if (cornered.contains(letter)) at += QPointF(square.width() * 0.6, -square.height() * 0.6);
-        painter_.drawText(at, text);
+        font_->draw(painter_, at, text);
     }
 
     QPainter& painter_;
@@ -338,16 +436,9 @@ class TextSetter {
     QRectF box_;
     PaperFont* font_;
     HorizontalAlign align_;
+    bool rich_ = false;
+    std::vector<Stretch> stretches_;
 };
-
-/// As many letters as fit, at least one.
-qsizetype FittingLength(PaperFont& font, const QString& text, double width) {
-    qsizetype length = 1;
-    while (length < text.size() && font.width(text.left(length + 1)) <= width) {
-        ++length;
-    }
-    return length;
-}
 
 }  // namespace
 
@@ -362,28 +453,7 @@ void PaintText(QPainter& painter, const CellStyle& style, const ShownText& shown
 
 QStringList WrapText(const QString& text, const SheetFont& sheetFont, double width) {
     PaperFont& font = FontOf(sheetFont, sheetFont.size);
-    QStringList lines;
-    for (const QString& paragraph : text.split(QLatin1Char('\n'))) {
-        QTextBoundaryFinder finder(QTextBoundaryFinder::Line, paragraph);
-        QString line;
-        for (qsizetype from = 0, to = finder.toNextBoundary(); to > 0;
-             from = to, to = finder.toNextBoundary()) {
-            QString piece = paragraph.mid(from, to - from);
-            // Blanks at a line's end need no room.
-            if (!line.isEmpty() && font.width((line + piece).trimmed()) > width) {
-                lines += line;
-                line.clear();
-            }
-            while (font.width(piece.trimmed()) > width && piece.size() > 1) {
-                const qsizetype length = FittingLength(font, piece, width);
-                lines += piece.left(length);
-                piece.remove(0, length);
-            }
-            line += piece;
-        }
-        lines += line;
-    }
-    return lines;
+    return Wrapped(text, width, [&font](qsizetype, const QString& part) { return font.width(part); });
 }
 
 }  // namespace akarix

@@ -9,6 +9,7 @@ namespace akarix {
 /// What a cell shows and the room it has, in twips.
 struct ShownText {
     QString text;
+    std::vector<TextRun> runs;
     bool number = false;
     QColor color;
     QRectF box;            ///< the cell, or the merge

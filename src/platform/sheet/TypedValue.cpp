@@ -3,6 +3,9 @@
 #include <QDate>
 #include <QList>
 
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DatePart.h"
+
 namespace akarix {
 
 std::optional<TypedNumber> ParseTypedNumber(QStringView text) {
@@ -44,12 +47,20 @@ std::optional<TypedNumber> ParseTypedNumber(QStringView text) {
 
 std::optional<double> ParseTypedDate(QStringView text) {
     const QList<QStringView> parts = text.trimmed().split(u'/');
-    if (parts.size() != 3) return std::nullopt;
-    int numbers[3];
-    for (int i = 0; i < 3; ++i) {
+    if (parts.size() != 2 && parts.size() != 3) return std::nullopt;
+    QList<int> numbers;
+    for (const QStringView part : parts) {
         bool ok = false;
-        numbers[i] = parts[i].toInt(&ok);
+        numbers += part.toInt(&ok);
         if (!ok) return std::nullopt;
+    }
+    if (numbers.size() == 2) {
+        int year = Year(Today());
+        if (numbers == QList<int>{2, 29}) {
+            while (!QDate::isLeapYear(year))
+                --year;
+        }
+        numbers.prepend(year);
     }
     const QDate date(numbers[0], numbers[1], numbers[2]);
     // Serials count a 29 February 1900 that never was; only later days are plain differences.

@@ -15,7 +15,8 @@ struct TypedNumber {
 };
 std::optional<TypedNumber> ParseTypedNumber(QStringView text);
 
-/// The serial of a date typed as year/month/day; nothing for any other text.
+/// The serial of a date typed as year/month/day, or as month/day of this year (29 February: of the last year
+/// that had one); nothing for any other text.
 std::optional<double> ParseTypedDate(QStringView text);
 
 }  // namespace akarix

@@ -1,0 +1,78 @@
+#include "admin/Template.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "admin/TemplateCheck.h"
+#include "admin/Terminal.h"
+#include "platform/runtime/RuntimeError.h"
+#include "platform/sheet/SheetReader.h"
+
+namespace akarix::admin {
+
+namespace {
+
+enum Finding { Clean = 0, Found = 1, Unreadable = 2 };
+
+const char* const helpText =
+    "使い方: akarix-admin template ファイル...\n\n"
+    "帳票の雛形（Prt の中のブック）を調べます。中身は変えません。\n"
+    "  1. シート「Sheet1」があるか。\n"
+    "  2. 帳票が書くセルが、すべて印刷されるか: 印刷の範囲の外、隠れた行や列、結合に隠れたもの、\n"
+    "     狭すぎるものを並べます。\n"
+    "  3. 印刷されないもの、印刷で変わるもの（図、数式、条件付き書式など）を並べます。\n\n"
+    "どの帳票のものかは、ファイルの名前の始まりで見分けます（請求書.xlsx、請求書 控え.xlsx）。\n"
+    "終了コード: 0 異常なし、1 見つかったものがある、2 読めない（または使い方の誤り）\n";
+
+Finding checkTemplate(const QString& path) {
+    constexpr int noSuchSheet = 9;
+    const QStringList names = ReportNames();
+    const auto report = std::find_if(
+        names.begin(), names.end(),
+        [file = QFileInfo(path).fileName()](const QString& name) { return file.startsWith(name); });
+    if (report == names.end()) {
+        tellError(QStringLiteral("%1: どの帳票の雛形か分かりません。名前は %2 のどれかで始まります。\n")
+                      .arg(path, names.join(u'、')));
+        return Unreadable;
+    }
+    QStringList faults;
+    try {
+        faults = TemplateFaults(ReadSheet(path, QStringLiteral("Sheet1")), *report);
+    } catch (const RuntimeError& error) {
+        if (error.number() != noSuchSheet) {
+            tellError(
+                QStringLiteral("%1: エラー %2: %3\n").arg(path).arg(error.number()).arg(error.description()));
+            return Unreadable;
+        }
+        faults += error.description();
+    }
+    tell(path + QStringLiteral(": ") + (faults.isEmpty() ? QStringLiteral("正常\n") : QStringLiteral("\n")));
+    for (const QString& fault : faults) {
+        tell(QStringLiteral("  - %1\n").arg(fault));
+    }
+    return faults.isEmpty() ? Clean : Found;
+}
+
+int checkTemplates(const QStringList& arguments) {
+    QCommandLineParser parser;
+    const bool understood = parser.parse(QStringList(QString()) + arguments);
+    if (!understood || parser.positionalArguments().isEmpty()) {
+        tellWrongUse(QStringLiteral("template"));
+        return WrongUse;
+    }
+    int worst = Clean;
+    for (const QString& path : parser.positionalArguments()) {
+        worst = std::max<int>(worst, checkTemplate(path));
+    }
+    return worst;
+}
+
+}  // namespace
+
+Command templateCommand() {
+    return {QStringLiteral("template"), QStringLiteral("帳票の雛形を調べる"), QString::fromUtf8(helpText),
+            checkTemplates};
+}
+
+}  // namespace akarix::admin
