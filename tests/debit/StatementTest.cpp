@@ -105,6 +105,18 @@ TEST_F(Statements, ThePostOfficesLinesAreWhatIsDebitedAndItsSumsTheBalances) {
     EXPECT_FALSE(page.contains("小計"));
 }
 
+TEST_F(Statements, TheClosingBlocksFiguresHaveColumnsJToO) {
+    customer("1,'ｶﾅ',1,9900,10120,1,'1',0", "99999999999999");
+    AnswerPrinter(clerk, store.path("out.pdf"));
+    PrintPostStatement(2023, 4, "2023/4/26", DateSerial(2023, 4, 20));
+    // Seventeen pixels a column: the figure shrinks to six of them, not to the one that stood alone before,
+    // nor does it spread over the fifteen of the lines above.
+    constexpr double column = 17 * 0.75;
+    const double width = PdfBox("out.pdf", "99999999999999円").width();
+    EXPECT_GT(width, 5 * column);
+    EXPECT_LT(width, 6 * column);
+}
+
 TEST_F(Statements, WhatComesToNothing) {
     EXPECT_EQ(post(true), QStringList());
     EXPECT_EQ(clerk.lastSaid(), "該当データが有りません。");

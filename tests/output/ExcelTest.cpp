@@ -66,10 +66,11 @@ class ExcelTest : public ScreenTest {
         ScreenTest::TearDown();
     }
 
-    void writeTemplate(const QString& name, const QString& text) {
+    void writeTemplate(const QString& name, const QString& text, const char* header = "") {
         lxw_workbook* book = workbook_new(QString("Prt/%1.xlsx").arg(name).toUtf8().constData());
         lxw_worksheet* sheet = workbook_add_worksheet(book, "Sheet1");
         worksheet_write_string(sheet, 0, 3, text.toUtf8().constData(), nullptr);
+        worksheet_set_header(sheet, header);
         ASSERT_EQ(workbook_close(book), LXW_NO_ERROR);
     }
     QStringList printed(const QString& name = "out.pdf") const {
@@ -97,16 +98,17 @@ class ExcelTest : public ScreenTest {
 };
 
 TEST_F(ExcelTest, PagesOfOneOpeningStandInOneFileWithTheValuesOfTheirTime) {
+    writeTemplate("台帳", "雛形", "&P頁");
     ExcelOpen("台帳");
     printPage("一");
     printPage("二");
     ExcelClose();
-    EXPECT_EQ(printed(), QStringList({"一雛形", "二雛形"}));
+    EXPECT_EQ(printed(), QStringList({"1頁一雛形", "2頁二雛形"}));
 
     ExcelOpen("台帳");  // fresh from the template, into a file of its own
     ExcelPrintPage();
     ExcelClose();
-    EXPECT_EQ(printed("out (2).pdf"), QStringList({"雛形"}));
+    EXPECT_EQ(printed("out (2).pdf"), QStringList({"1頁雛形"}));
 }
 
 TEST_F(ExcelTest, AChangedTemplateIsReadAgain) {

@@ -222,6 +222,10 @@ QStringList TemplateFaults(const Sheet& sheet, const QString& report) {
     }
     const size_t pages = LayOutSheet(sheet).size();
     if (pages > 1) faults += QStringLiteral("1 枚に収まらず、%1 枚に分かれます。").arg(pages);
+    if ((sheet.page.headerText + sheet.page.footerText).contains(u"&N", Qt::CaseInsensitive)) {
+        faults += QStringLiteral(
+            "総ページ数は、そのページまでの数になります。");  // the end is not known before it comes
+    }
     return faults + sheet.warnings;
 }
 

@@ -87,7 +87,7 @@ void Sheet::setValue(const QString& address, const QString& text) {
             const int style = styleIndexAt(at);
             const QString& format = styles[static_cast<size_t>(style)].numberFormat;
             Cell& cell = cells[at];
-            cell = {.text = {}, .runs = {}, .number = {}, .style = style};
+            cell = {{}, {}, style};
             if (number && format != QLatin1String("@")) {
                 cell.number = number->value;
             } else if (date && IsDateFormat(format)) {

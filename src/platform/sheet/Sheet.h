@@ -89,11 +89,11 @@ struct TextRun {
 /// A cell holds text or a number; a number is shown through its style's number format.
 struct Cell {
     QString text;
-    std::vector<TextRun> runs;  ///< the whole text, where parts of it have fonts of their own
     std::optional<double> number;
-    int style = 0;  ///< index into Sheet::styles
+    int style = 0;                   ///< index into Sheet::styles
+    std::vector<TextRun> runs = {};  ///< the whole text, where parts of it have fonts of their own
 
-    void blank() { *this = {.text = {}, .runs = {}, .number = {}, .style = style}; }
+    void blank() { *this = {{}, {}, style}; }
 };
 
 struct PageSetup {

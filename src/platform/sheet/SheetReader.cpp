@@ -407,9 +407,6 @@ class Reader {
         for (const auto& [element, what] : unshown) {
             if (childNamed(root, element)) sheet_.warnings += QString::fromUtf16(what);
         }
-        if ((sheet_.page.headerText + sheet_.page.footerText).contains(u"&N", Qt::CaseInsensitive)) {
-            sheet_.warnings += QStringLiteral("総ページ数は、そのページまでの数になります。");
-        }
     }
 
     WorkbookParts parts_;

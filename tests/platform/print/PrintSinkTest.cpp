@@ -89,6 +89,17 @@ TEST_F(PrintSinkTest, TargetsThatCannotBeWrittenRaise482) {
     EXPECT_EQ(ErrorOf([] { OpenPrinterSink("a"); }), 482);
 }
 
+TEST(PrintableCornerTest, IsWhereThePrinterCanPrint) {
+    const auto corner = [](QPageLayout::Orientation turned, QPageLayout::Unit unit, QMarginsF unprintable) {
+        QPageLayout layout(QPageSize(QPageSize::A4), turned, QMarginsF(), unit, unprintable);
+        layout.setMode(QPageLayout::FullPageMode);
+        return PrintableCorner(layout);
+    };
+    EXPECT_EQ(corner(QPageLayout::Portrait, QPageLayout::Point, {12, 18, 12, 36}), QPointF(240, 360));
+    EXPECT_EQ(corner(QPageLayout::Landscape, QPageLayout::Inch, {0.25, 0.5, 0, 0}), QPointF(360, 720));
+    EXPECT_EQ(corner(QPageLayout::Portrait, QPageLayout::Point, {}), QPointF());
+}
+
 TEST(PaperFontTest, SpellingsOfAFontGiveTheSameOne) {
     const auto family = [](const char* name) {
         return FontOnPaper({QString(name), 10}).font().families().front();

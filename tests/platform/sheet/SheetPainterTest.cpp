@@ -4,9 +4,11 @@
 
 #include <QImage>
 #include <QPdfWriter>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include "platform/print/PdfText.h"
+#include "platform/print/PreviewPages.h"
 #include "platform/sheet/TextPainter.h"
 
 namespace akarix {
@@ -30,6 +32,11 @@ class PaintedPage {
     }
 
     QRectF box(const QString& word) const { return PdfBox(path_, word); }
+    /// At two pixels to the point.
+    QImage picture() const {
+        QProcess::execute("pdftoppm", {"-r", "144", "-png", "-singlefile", path_, path_.chopped(4)});
+        return QImage(path_.chopped(3) + "png");
+    }
 
     QString text;
 
@@ -133,6 +140,77 @@ TEST(SheetPainterTest, RepeatedTitlesAndPageNumbers) {
     EXPECT_NEAR(second.box("right").right(), 595.276 - 50.4, 1);
 }
 
+/// How many pixels of a picture a piece of paper blackens, in points from the sheet's own corner.
+double Ink(const QImage& picture, const QRectF& where) {
+    const QRect pixels = QRectF((where.topLeft() + QPointF(50.4, 54)) * 2, where.size() * 2).toRect();
+    double sum = 0;
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+        for (int x = pixels.left(); x <= pixels.right(); ++x) {
+            sum += 1 - picture.pixelColor(x, y).lightnessF();
+        }
+    }
+    return sum;
+}
+
+TEST(SheetPainterTest, ThePreviewShowsLettersAsBoldAsThePaper) {
+    Sheet sheet;
+    for (int look = 0; look < 16; ++look) {
+        Put(sheet, {look + 1, 1}, "請求書 12,345 円也", [look](CellStyle& s) {
+            s.font.bold = look & 1, s.font.italic = look & 2, s.font.underline = look & 4;
+            s.font.strikeout = look & 8;
+        });
+    }
+    const QImage paper = PaintedPage(sheet).picture();
+    constexpr int gap = 12, percentOfTwoPixels = 150;
+    PrintPage page;
+    page.draw = [&](QPainter& painter) { PaintSheet(painter, sheet, LayOutSheet(sheet)[0], 1, 1); };
+    PreviewPages preview({page});
+    preview.setZoom(percentOfTwoPixels);
+    preview.resize(preview.documentSize() + QSize(20, 4));
+    preview.show();
+    const QImage shown = preview.viewport()->grab().toImage().copy(QRect(QPoint(gap, gap), paper.size()));
+    double plain = 0;
+    for (int look = 0; look < 16; ++look) {
+        const QRectF line(0, 13.5 * look, 130, 13);
+        const double onPaper = Ink(paper, line);
+        EXPECT_NEAR(Ink(shown, line), onPaper, onPaper * 0.1) << look;
+        if (look % 2 == 1) {
+            EXPECT_GT(Ink(shown, line), plain * 1.15) << look;
+        }
+        plain = Ink(shown, line);
+    }
+}
+
+TEST(SheetPainterTest, PartsOfATextKeepTheirFonts) {
+    Sheet sheet;
+    Put(sheet, {1, 1}, "base 3 up2 big", [](CellStyle& s) { s.wrap = true, s.font.name = "ＭＳ ゴシック"; });
+    sheet.rowHeights[1] = 60;
+    SheetFont raised, big;
+    raised.raised = 1;
+    big.size = 22;
+    sheet.cells[{1, 1}].runs = {{5, {}}, {2, raised}, {4, {}}, {3, big}};
+    sheet.columnWidths[1] = 60;
+    const PaintedPage page(sheet);
+    const QRectF base = page.box("base"), up = page.box("3"), down = page.box("up2");
+    EXPECT_NEAR(up.height(), base.height() * 0.65, 1);
+    EXPECT_LT(up.center().y(), base.center().y() - 1);
+    EXPECT_NEAR(down.height(), base.height(), 1);
+    EXPECT_NEAR(page.box("big").height(), base.height() * 2, 1);
+    EXPECT_GT(page.box("big").top(), base.bottom()) << "too wide for the first line";
+}
+
+TEST(SheetPainterTest, HeadersShrinkWithTheSheet) {
+    Sheet sheet;
+    sheet.page.headerText = "&L見出し";
+    const double whole = PaintedPage(sheet).box("見出し").width();
+    sheet.page.scalePercent = 50;
+    const QRectF half = PaintedPage(sheet).box("見出し");
+    EXPECT_NEAR(half.width(), whole / 2, 0.5);
+    EXPECT_NEAR(half.left(), sheet.page.left, 1);
+    sheet.page.headersScale = false;
+    EXPECT_NEAR(PaintedPage(sheet).box("見出し").width(), whole, 0.1);
+}
+
 TEST(SheetPainterTest, WrappingKeepsMarksFromTheLinesHead) {
     SheetFont font;
     font.name = "ＭＳ ゴシック";
@@ -153,6 +231,7 @@ class Picture {
         painter.scale(0.1, 0.1);
         PaintSheet(painter, sheet, LayOutSheet(sheet).front(), 1, 1);
     }
+    const QImage& image() const { return image_; }
     QColor at(double x, double y) const {
         return image_.pixelColor(static_cast<int>((x + 50.4) * 2), static_cast<int>((y + 54) * 2));
     }
@@ -179,6 +258,36 @@ TEST(SheetPainterTest, TheStrongerOfTwoLinesIsDrawnAndNoneInsideAMerge) {
     EXPECT_EQ(picture.at(54, 34), QColor(Qt::green));
     EXPECT_EQ(picture.at(108, 34), QColor(Qt::red));
     EXPECT_EQ(picture.at(54, 20), QColor(Qt::white));
+}
+
+TEST(SheetPainterTest, BrokenAndSlantedLines) {
+    const auto inkOf = [](BorderStyle style) {
+        Sheet sheet;
+        Put(sheet, {1, 1}, "", [&](CellStyle& cell) { cell.bottom = {style, Qt::black}; });
+        sheet.columnWidths[1] = 400;
+        return Ink(Picture(sheet).image(), {0, 11.5, 400, 4});
+    };
+    const struct {
+        BorderStyle broken, whole;
+        double share;
+    } cases[] = {{BorderStyle::Dashed, BorderStyle::Thin, 5 / 7.5},
+                 {BorderStyle::DashDot, BorderStyle::Thin, 11 / 16.0},
+                 {BorderStyle::DashDotDot, BorderStyle::Thin, 13 / 20.5},
+                 {BorderStyle::MediumDashed, BorderStyle::Medium, 6 / 8.0},
+                 {BorderStyle::MediumDashDot, BorderStyle::Medium, 9 / 13.0},
+                 {BorderStyle::MediumDashDotDot, BorderStyle::Medium, 11 / 17.0}};
+    for (const auto& [broken, whole, share] : cases) {
+        EXPECT_NEAR(inkOf(broken), inkOf(whole) * share, inkOf(whole) * 0.05) << static_cast<int>(broken);
+    }
+    Sheet sheet;
+    const Border red{BorderStyle::Medium, Qt::red}, blue{BorderStyle::Medium, Qt::blue};
+    Put(sheet, {1, 1}, "", [&](CellStyle& s) { s.falling = red, s.rising = blue; });
+    sheet.merges = {{{1, 1}, {2, 2}}};
+    const Picture picture(sheet);
+    EXPECT_EQ(picture.at(27, 6.75), QColor(Qt::red));
+    EXPECT_EQ(picture.at(81, 20.25), QColor(Qt::red));
+    EXPECT_EQ(picture.at(81, 6.75), QColor(Qt::blue));
+    EXPECT_EQ(picture.at(54, 3), QColor(Qt::white));
 }
 
 TEST(SheetPainterTest, TextIsCutWhereANeighbourHoldsAValue) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/DateSerial.h"
 #include "platform/runtime/RuntimeError.h"
 #include "support/CaseFile.h"
 
@@ -28,12 +30,14 @@ TEST(Sheet, TypedValues) {
     for (int column = 2; column <= 4; ++column)
         sheet.columnStyles[column] = column - 1;
 
+    SetClock(DateSerial(2023, 12, 31));
     for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/typed.txt")) {
         sheet.setValue("A1:D1", cells[0]);
         for (int column = 1; column <= 4; ++column) {
             EXPECT_EQ(sheet.shownText({1, column}), cells[column]) << line;
         }
     }
+    SetClock({});
 }
 
 TEST(Sheet, BlankingABlockKeepsStylesAndNeighbours) {
