@@ -6,8 +6,7 @@
 
 namespace akarix {
 
-/// "Sheet1" of a workbook, read again only when the file has changed. Raises 1004 when it cannot be read, 9
-/// without that sheet.
+/// "Sheet1" of a workbook, read again only when the file has changed. Raises 1004 when it cannot be read.
 const Sheet& CachedTemplate(const QString& path);
 
 }  // namespace akarix

@@ -6,7 +6,6 @@
 
 #include "admin/TemplateCheck.h"
 #include "admin/Terminal.h"
-#include "platform/runtime/RuntimeError.h"
 #include "platform/sheet/SheetReader.h"
 
 namespace akarix::admin {
@@ -26,7 +25,6 @@ const char* const helpText =
     "終了コード: 0 異常なし、1 見つかったものがある、2 読めない（または使い方の誤り）\n";
 
 Finding checkTemplate(const QString& path) {
-    constexpr int noSuchSheet = 9;
     const QStringList names = ReportNames();
     const auto report = std::find_if(
         names.begin(), names.end(),
@@ -39,13 +37,12 @@ Finding checkTemplate(const QString& path) {
     QStringList faults;
     try {
         faults = TemplateFaults(ReadSheet(path, QStringLiteral("Sheet1")), *report);
-    } catch (const RuntimeError& error) {
-        if (error.number() != noSuchSheet) {
-            tellError(
-                QStringLiteral("%1: エラー %2: %3\n").arg(path).arg(error.number()).arg(error.description()));
-            return Unreadable;
-        }
+    } catch (const MissingSheet& error) {
         faults += error.description();
+    } catch (const RuntimeError& error) {
+        tellError(
+            QStringLiteral("%1: エラー %2: %3\n").arg(path).arg(error.number()).arg(error.description()));
+        return Unreadable;
     }
     tell(path + QStringLiteral(": ") + (faults.isEmpty() ? QStringLiteral("正常\n") : QStringLiteral("\n")));
     for (const QString& fault : faults) {

@@ -1,10 +1,10 @@
 #include "platform/sheet/SheetReader.h"
 
+#include <QFileInfo>
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 
-#include "platform/runtime/RuntimeError.h"
 #include "platform/sheet/ColumnWidth.h"
 #include "platform/sheet/NumberFormat.h"
 #include "platform/sheet/StyleReader.h"
@@ -53,7 +53,9 @@ double measure(const QString& value) {
 
 class Reader {
  public:
-    Reader(const QString& path, const QString& name) : parts_(path) { sheet_.name = name; }
+    Reader(const QString& path, const QString& name) : parts_(path), file_(QFileInfo(path).fileName()) {
+        sheet_.name = name;
+    }
 
     Sheet read() {
         openWorkbook();
@@ -74,7 +76,7 @@ class Reader {
 
  private:
     [[noreturn]] void noSheet() const {
-        throw RuntimeError(9, QStringLiteral("シート '%1' がありません。").arg(sheet_.name));
+        throw MissingSheet(1004, QStringLiteral("'%1': シート '%2' がありません。").arg(file_, sheet_.name));
     }
 
     void openWorkbook() {
@@ -410,6 +412,7 @@ class Reader {
     }
 
     WorkbookParts parts_;
+    QString file_;  ///< its name, for messages
     Sheet sheet_;
     pugi::xml_document workbook_;
     std::vector<WorkbookParts::Relation> relations_;
