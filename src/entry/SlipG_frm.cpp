@@ -152,7 +152,7 @@ void SlipG_frm::layOut() {
     }
     constexpr int kScrollBar = 24;
     constexpr int kGridHeight = 460;
-    List_->setMinimumSize(width + kScrollBar, kGridHeight);
+    List_->SetRoom({width + kScrollBar, kGridHeight});
     tBox_ = &Named(new TextBox(this), QStringLiteral("tBox"));
     tBox_->setAlignment(Qt::AlignRight);  // all that is typed into the grid are numbers
     tBox_->hide();

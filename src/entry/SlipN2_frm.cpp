@@ -137,8 +137,8 @@ QVBoxLayout* SlipN2_frm::layOutHistory() {
         .note(QStringLiteral("年"))
         .text(addBox(ebox, kHistoryMonth, ImeMode::Off), kMonthBytes)
         .note(QStringLiteral("月から"))
-        .button(Btn.add(kShow, new CommandButton(QStringLiteral("表示"))))
-        .widget(ledgerEnd_);
+        .button(Btn.add(kShow, new CommandButton(QStringLiteral("表示"))));
+    start.row({}).widget(ledgerEnd_);
 
     List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
     EmptyHistory(*List_);

@@ -126,8 +126,7 @@ QVBoxLayout* GTanka_frm::layOutTable() {
     List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
     List_->SetFixedRows(1);
     constexpr int kHeight = 420;
-    List_->setMinimumSize(Twips(kUsageWidth) + PriceTable::kPrices * Twips(kPriceWidth) + kScrollBar,
-                          kHeight);
+    List_->SetRoom({Twips(kUsageWidth) + PriceTable::kPrices * Twips(kPriceWidth) + kScrollBar, kHeight});
 
     auto* table = new QVBoxLayout;
     table->setSpacing(kSpacing);

@@ -27,6 +27,7 @@
 #include "reports/RepoSeikyu_frm.h"
 #include "reports/SeikyuPrt_frm.h"
 #include "shell/Backup.h"
+#include "shell/Guide_frm.h"
 #include "shell/Keihoki_frm.h"
 #include "shell/Opening_frm.h"
 #include "shell/SysFunc_frm.h"
@@ -127,6 +128,7 @@ bool main_menu::Start() {
     static SingleInstance guard;
     if (guard.PrevInstance()) return false;
     SetActionHooks(&Action::Begin, &Action::End);
+    Form::SetHelp(&Guide_frm::OpenFor);
 
     bool running = false;
     RunGuarded([&running] {

@@ -19,9 +19,7 @@ QString cellText(const Variant& value, const QString& format) {
 }  // namespace
 
 LookupForm::LookupForm(const QString& name)
-    : EntryForm(name, QStringLiteral("さがす")), List_(&Named(new FlexGrid(this), QStringLiteral("List"))) {
-    List_->setMinimumHeight(Twips(6000));
-}
+    : EntryForm(name, QStringLiteral("さがす")), List_(&Named(new FlexGrid(this), QStringLiteral("List"))) {}
 
 void LookupForm::forgetChoice() {
     chosen_ = false;
@@ -45,7 +43,7 @@ void LookupForm::showColumns(const std::vector<ListColumn>& columns) {
         if (List_->FixedRows() > 0) List_->SetTextMatrix(0, col, column.title);
         width += Twips(column.width);
     }
-    List_->setMinimumWidth(width);
+    List_->SetRoom({width, Twips(6000)});
 }
 
 void LookupForm::fill(const QString& sql, const std::vector<ListColumn>& columns) {

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTableView>
+#include <QWindow>
 
 #include "platform/forms/Form.h"
 
@@ -37,6 +38,14 @@ double exactFont(const QWidget* control) {
     return kept.isValid() ? kept.toDouble() : control->fontInfo().pixelSize();
 }
 
+/// A desk may tell the new size of a maximised window before it says that it is maximised.
+bool fills(const QWidget& form, const QRect& area) {
+    if (form.isMaximized() || form.isFullScreen()) return true;
+    const QMargins frame = form.windowHandle() != nullptr ? form.windowHandle()->frameMargins() : QMargins();
+    const QSize left = area.marginsRemoved(frame).size();
+    return form.width() >= left.width() && form.height() >= left.height();
+}
+
 }  // namespace
 
 void ResizeForm(Form& form, QSizeF previous) {
@@ -56,11 +65,10 @@ void ResizeForm(Form& form, QSizeF previous) {
             control->setFont(font);
         }
     }
-    if (const QScreen* screen = form.screen()) {
-        const QRect area = screen->availableGeometry();
-        form.move(area.left() + (area.width() - form.frameGeometry().width()) / 2,
-                  area.top() + (area.height() - form.frameGeometry().height()) / 2);
-    }
+    const QRect area = form.screen()->availableGeometry();
+    if (fills(form, area)) return;
+    form.move(area.left() + (area.width() - form.frameGeometry().width()) / 2,
+              area.top() + (area.height() - form.frameGeometry().height()) / 2);
 }
 
 }  // namespace akarix

@@ -1,6 +1,7 @@
 #include "shell/main_menu.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -251,6 +252,21 @@ TEST_F(MainMenu, TheBoardIsScaledWithItsWindow) {
     menu.resize(menu.width() / 2, menu.height() / 3);
     clerk.settle();
     EXPECT_EQ(button.geometry(), before);
+}
+
+TEST_F(MainMenu, MaximisedTheBoardStaysWhereTheDeskHasPutIt) {
+    ASSERT_TRUE(start());
+    clerk.settle();
+    Form& menu = clerk.form(u"main_menu"_qs);
+    menu.setAttribute(Qt::WA_Moved, false);
+    menu.showMaximized();
+    clerk.settle();
+    EXPECT_GT(menu.width(), menu.screen()->availableGeometry().width() - 10);
+    EXPECT_FALSE(menu.testAttribute(Qt::WA_Moved));
+    menu.showNormal();
+    menu.resize(600, 400);
+    clerk.settle();
+    EXPECT_TRUE(menu.testAttribute(Qt::WA_Moved)) << "any other size is centred";
 }
 
 TEST_F(MainMenu, ClosingTheMenuCopiesTheStoreAndEndsTheProgram) {

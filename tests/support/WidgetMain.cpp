@@ -6,8 +6,8 @@
 #include "platform/forms/Style.h"
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    akarix::HushOffscreen();
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (platform.isEmpty() || platform == "offscreen") akarix::GoOffscreen();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     akarix::ApplyStyle(application);

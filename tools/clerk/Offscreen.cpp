@@ -1,11 +1,20 @@
 #include "clerk/Offscreen.h"
 
 #include <QByteArray>
+#include <QFile>
 #include <QString>
+#include <QTemporaryFile>
 
 namespace akarix {
 
 namespace {
+
+// In pixels of the program: 1366x768 at 125 % are 1093x614 of them.
+constexpr char kScreens[] = R"({"screens": [
+    {"name": "desk", "x": 0, "y": 0, "width": 2880, "height": 1620, "logicalDpi": 96},
+    {"name": "small 1024x768", "x": 2880, "y": 0, "width": 1024, "height": 768, "logicalDpi": 96},
+    {"name": "small 1366x768", "x": 3904, "y": 0, "width": 1093, "height": 614, "logicalDpi": 96}
+]})";
 
 QtMessageHandler standardHandler;
 
@@ -19,7 +28,13 @@ void handleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
 
 }  // namespace
 
-void HushOffscreen() {
+void GoOffscreen() {
+    static QTemporaryFile screens;  // read when the application is made
+    QByteArray platform = "offscreen";
+    if (screens.open() && screens.write(kScreens) > 0 && screens.flush()) {
+        platform += ":configfile=" + QFile::encodeName(screens.fileName());
+    }
+    qputenv("QT_QPA_PLATFORM", platform);
     if (standardHandler == nullptr) standardHandler = qInstallMessageHandler(handleMessage);
 }
 
@@ -27,8 +42,7 @@ void GoOffscreenWithoutDisplay() {
     for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
         if (!qEnvironmentVariableIsEmpty(name)) return;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    HushOffscreen();
+    GoOffscreen();
 }
 
 }  // namespace akarix

@@ -295,6 +295,24 @@ void FlexGrid::Refresh() {
     viewport()->update();
 }
 
+void FlexGrid::SetRoom(QSize wanted) {
+    wanted_ = wanted;
+    updateGeometry();
+}
+
+QSize FlexGrid::sizeHint() const {
+    return wanted_.isValid() ? wanted_.expandedTo(minimumSizeHint()) : QTableView::sizeHint();
+}
+
+QSize FlexGrid::minimumSizeHint() const {
+    constexpr int leastWidth = 240;
+    constexpr int leastRows = 5;
+    const int bars = horizontalScrollBar()->sizeHint().height() + 2 * frameWidth();
+    const int height =
+        horizontalHeader()->sizeHint().height() + leastRows * verticalHeader()->defaultSectionSize() + bars;
+    return {wanted_.isValid() ? std::min(wanted_.width(), leastWidth) : leastWidth, height};
+}
+
 void FlexGrid::keyboardSearch(const QString& /*search*/) {
     // A stray letter must not carry the present row away through 32,000 rows.
 }

@@ -61,6 +61,11 @@ class FlexGrid : public QTableView {
     int CellHeight() { return CellRect().height() * 15; }
     void Refresh();
 
+    /// The size in pixels the grid asks for. It takes less where its form has less, and scrolls.
+    void SetRoom(QSize wanted);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
     void keyboardSearch(const QString& search) override;
 
  signals:
@@ -96,6 +101,7 @@ class FlexGrid : public QTableView {
 
     Model* model_;
     std::vector<int> widths_;  ///< twips
+    QSize wanted_;
     int row_ = 0;
     int col_ = 0;
     int mouseRow_ = -1;

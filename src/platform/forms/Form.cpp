@@ -7,9 +7,14 @@
 #include <QLayout>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QShortcut>
+#include <QStyleHints>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
+
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/FitToRoom.h"
 
 namespace akarix {
 namespace {
@@ -44,6 +49,11 @@ void giveKeyboardBack(QWidget& control) {
     QTimer::singleShot(0, qApp, [] { keyboardDue().clear(); });
 }
 
+std::function<void(const Form&)>& helpStep() {
+    static std::function<void(const Form&)> step;
+    return step;
+}
+
 bool hasGrowingChild(const QWidget* form) {
     const auto areas = form->findChildren<QAbstractScrollArea*>();
     return std::any_of(areas.begin(), areas.end(), [](const QAbstractScrollArea* area) {
@@ -52,11 +62,22 @@ bool hasGrowingChild(const QWidget* form) {
     });
 }
 
+/// What the desk draws around a window, told by one that stands already; else what most desks draw.
+QMargins frameAround(const QWidget& form) {
+    if (form.windowFlags().testFlag(Qt::FramelessWindowHint)) return {};
+    for (const QWindow* window : QGuiApplication::topLevelWindows()) {
+        const bool framed = window->isVisible() && !window->flags().testFlag(Qt::FramelessWindowHint);
+        if (framed && !window->frameMargins().isNull()) return window->frameMargins();
+    }
+    return {4, 32, 4, 4};
+}
+
 }  // namespace
 
 Form::Form(const QString& name, const QString& caption) {
     setObjectName(name);
     setWindowTitle(caption);
+    addKeys();
 }
 
 void Form::Show() {
@@ -126,6 +147,10 @@ void Form::DropInstances() {
         delete form.data();
 }
 
+void Form::SetHelp(std::function<void(const Form& asking)> help) {
+    helpStep() = std::move(help);
+}
+
 Form* Form::adopt(Form* instance) {
     instances().removeIf([](const QPointer<Form>& form) { return form.isNull(); });
     instances().append(instance);
@@ -154,6 +179,35 @@ void Form::mousePressEvent(QMouseEvent* event) {
     });
 }
 
+/// As shortcuts, since not every control lets go of a key it has no use for.
+void Form::addKeys() {
+    const auto add = [this](const QKeySequence& keys, auto action) {
+        auto* shortcut = new QShortcut(keys, this);
+        shortcut->setAutoRepeat(false);
+        on(shortcut, &QShortcut::activated, action);
+    };
+    add(Qt::Key_F1, [this] {
+        if (helpStep()) helpStep()(*this);
+    });
+    add(Qt::CTRL | Qt::Key_S, [this] { pressKeep(); });
+}
+
+void Form::pressKeep() {
+    // A second stroke by a slip of the hand would keep the screen that the first one has emptied.
+    if (!keptJustNow_.hasExpired()) return;
+    CommandButton* first = nullptr;
+    for (QWidget* control : Controls()) {
+        auto* button = qobject_cast<CommandButton*>(control);
+        if (button == nullptr || !button->Caption().endsWith(u"保存")) continue;
+        if (first == nullptr || TabIndex(button) < TabIndex(first)) first = button;
+    }
+    if (first == nullptr || !first->isVisible() || !first->isEnabled()) return;
+    // The keyboard goes to the button, as under the mouse, so that the field it was in is left by its rules.
+    first->setFocus(Qt::ShortcutFocusReason);
+    if (focusWidget() == first) first->click();
+    keptJustNow_.setRemainingTime(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+}
+
 void Form::present(QWidget* owner) {
     if (!arranged_) arrange();
     if (!isVisible()) place(owner);
@@ -168,6 +222,7 @@ void Form::present(QWidget* owner) {
 
 void Form::arrange() {
     arranged_ = true;
+    ownSize_ = testAttribute(Qt::WA_Resized);
     QWidget* previous = nullptr;
     QList<QWidget*> walk = Controls();
     walk.removeIf([](const QWidget* control) { return TabIndex(control) < 0; });
@@ -185,17 +240,22 @@ void Form::arrange() {
 }
 
 void Form::place(QWidget* owner) {
-    adjustToContents();
     const QScreen* screen = owner != nullptr ? owner->screen() : QWidget::screen();
     const QRect room = screen->availableGeometry();
+    const QMargins frame = frameAround(*this);
+    fit(room.marginsRemoved(frame).size());
     const QRect around = owner != nullptr ? owner->frameGeometry() : room;
-    QRect wanted(QPoint(), size());
-    wanted.moveCenter(around.center());
+    QRect wanted = QRect(QPoint(), size()).marginsAdded(frame);
+    if (owner != nullptr || !placed_) {
+        wanted.moveCenter(around.center());
+    } else {
+        wanted.moveTopLeft(pos());
+    }
     wanted.moveLeft(
-        std::clamp(wanted.left(), room.left(), std::max(room.left(), room.right() - wanted.width())));
+        std::clamp(wanted.left(), room.left(), std::max(room.left(), room.right() + 1 - wanted.width())));
     wanted.moveTop(
-        std::clamp(wanted.top(), room.top(), std::max(room.top(), room.bottom() - wanted.height())));
-    if (owner != nullptr || !placed_) move(wanted.topLeft());
+        std::clamp(wanted.top(), room.top(), std::max(room.top(), room.bottom() + 1 - wanted.height())));
+    if (!placed_ || wanted.topLeft() != pos()) move(wanted.topLeft());
     placed_ = true;
     if (owner != nullptr) {
         winId();  // a window handle is needed to stay above the owner
@@ -203,16 +263,20 @@ void Form::place(QWidget* owner) {
     }
 }
 
-void Form::adjustToContents() {
+void Form::fit(QSize room) {
     ensurePolished();
-    if (layout() == nullptr) return;
-    layout()->activate();
-    if (!placed_ || layout()->sizeConstraint() == QLayout::SetFixedSize) {
-        const QSize wanted =
-            layout()->sizeConstraint() == QLayout::SetFixedSize || !testAttribute(Qt::WA_Resized) ? sizeHint()
-                                                                                                  : size();
-        resize(wanted.expandedTo(layout()->minimumSize()));
-    }
+    if (layout() != nullptr) FitToRoom(*this, room);
+    resize(wantedSize().boundedTo(room));
+    hint_ = sizeHint();
+}
+
+/// A form of fixed size has that of its contents. Any other keeps what the operator made of it, until its
+/// contents ask for something else.
+QSize Form::wantedSize() const {
+    if (layout() == nullptr) return size();
+    const bool fixed = layout()->sizeConstraint() == QLayout::SetFixedSize;
+    const bool asks = !ownSize_ && sizeHint() != hint_;
+    return (fixed || asks ? sizeHint() : size()).expandedTo(layout()->minimumSize());
 }
 
 }  // namespace akarix

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QPointer>
 #include <QWidget>
 #include <functional>
@@ -17,7 +18,10 @@ class QEventLoop;
 namespace akarix {
 
 /// A screen. Built in code by its constructor; shown modeless or modally; closed by hiding (it stays loaded,
-/// with what is on it) or by unloading (the next Instance() builds it anew).
+/// with what is on it) or by unloading (the next Instance() builds it anew). It opens within its screen: what
+/// does not fit moves closer together, and scrolls where that is not enough.
+///
+/// On every form F1 asks for help, and Ctrl+S presses the first button of the walk that is called 保存.
 class Form : public QWidget {
     Q_OBJECT
 
@@ -78,6 +82,8 @@ class Form : public QWidget {
         }
         return *static_cast<F*>(instance.data());
     }
+    /// What F1 does; nothing until it has been said.
+    static void SetHelp(std::function<void(const Form& asking)> help);
     /// Takes every such instance away at once, shown or hidden, without asking it.
     static void DropInstances();
 
@@ -93,16 +99,22 @@ class Form : public QWidget {
 
  private:
     static Form* adopt(Form* instance);
+    void addKeys();
+    void pressKeep();
     void present(QWidget* owner);
     void arrange();
     void place(QWidget* owner);
-    void adjustToContents();
+    void fit(QSize room);
+    QSize wantedSize() const;
 
     QEventLoop* modalLoop_ = nullptr;
+    QDeadlineTimer keptJustNow_;
     std::optional<bool> resizable_;
+    QSize hint_;  ///< what the contents asked for when the size was last taken from them
     int nextTabIndex_ = 0;
     bool arranged_ = false;
     bool placed_ = false;
+    bool ownSize_ = false;
     bool unloaded_ = false;
 };
 

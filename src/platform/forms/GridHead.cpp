@@ -24,7 +24,7 @@ void ReserveRoom(FlexGrid& grid, int height) {
     for (int column = 0; column < grid.Cols(); ++column) {
         width += Twips(grid.ColWidth(column));
     }
-    grid.setMinimumSize(width, height);
+    grid.SetRoom({width, height});
 }
 
 }  // namespace akarix

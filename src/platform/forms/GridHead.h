@@ -15,7 +15,7 @@ struct GridHead {
 
 /// Gives an empty grid these columns under a fixed head row.
 void SetHeads(FlexGrid& grid, std::span<const GridHead> heads);
-/// Keeps a grid wide enough for all its columns and the scroll bar. \param height pixels
+/// Asks for room for all columns of a grid and the scroll bar. \param height pixels
 void ReserveRoom(FlexGrid& grid, int height);
 
 }  // namespace akarix

@@ -1,6 +1,6 @@
 #include "platform/forms/Form.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QTest>
 
 #include "platform/forms/CommandButton.h"
@@ -91,6 +91,27 @@ TEST_F(Forms, AnUnloadedFormOutlivesTheDialogsOfItsAction) {
     clerk.settle();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(watched.isNull());
+}
+
+TEST_F(Forms, HelpAndKeepHaveAKeyOnEveryForm) {
+    QStringList pressed;
+    Form::SetHelp([&](const Form& asking) { pressed << "help of " + asking.objectName(); });
+    Sample_frm& form = sample();
+    form.on(&form.Btn(0), &CommandButton::Click, [&] { pressed << "kept"; });
+    form.on(&form.ebox(0), &TextBox::LostFocus, [&] { pressed << "left"; });
+    clerk.press(Qt::Key_F1);
+    clerk.press(Qt::Key_S, Qt::ControlModifier);
+    clerk.press(Qt::Key_S, Qt::ControlModifier);  // a slip of the hand
+    EXPECT_EQ(pressed, QStringList({"help of Sample_frm", "left", "kept"}));
+    pressed.clear();
+    QTest::qWait(QApplication::doubleClickInterval());
+    form.Btn(0).setEnabled(false);
+    clerk.press(Qt::Key_S, Qt::ControlModifier);
+    form.Btn(0).setEnabled(true);
+    form.Btn(0).setVisible(false);
+    clerk.press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(pressed, QStringList());
+    form.SetHelp({});
 }
 
 TEST_F(Forms, CloseBoxAsksAndEscapeDoesNotClose) {
