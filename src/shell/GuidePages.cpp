@@ -15,6 +15,8 @@ namespace {
 
 constexpr int kTextWidth = 760;  // longer lines are hard to follow
 constexpr int kEdge = 16;
+constexpr int kAboveHeading = 20;
+constexpr int kWholeWidth = 100;  // per cent
 
 /// Installed, the guide lies in the share folder beside the program's; in a build tree beside the sources.
 QString guideFolder() {
@@ -42,6 +44,9 @@ void nameHeading(const QTextBlock& heading) {
     QTextCursor cursor(heading);
     cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
     cursor.mergeCharFormat(name);
+    QTextBlockFormat apart;
+    apart.setTopMargin(kAboveHeading);
+    cursor.mergeBlockFormat(apart);
 }
 
 void rule(QTextFrame& frame) {
@@ -50,8 +55,11 @@ void rule(QTextFrame& frame) {
         if (table == nullptr) continue;
         QTextTableFormat format = table->format();
         format.setBorder(1);
-        format.setBorderCollapse(true);
+        format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
         format.setBorderBrush(QColor(colours::line));
+        format.setBorderCollapse(false);
+        format.setCellSpacing(0);
+        format.setWidth(QTextLength(QTextLength::PercentageLength, kWholeWidth));
         format.setCellPadding(4);
         table->setFormat(format);
     }

@@ -78,13 +78,12 @@ void Guide_frm::OpenFor(const Form& form) {
 
 /// A modal dialog leaves only the windows that stand on it at work.
 void Guide_frm::showBeside() {
-    winId();
     const QWidget* dialog = QApplication::activeModalWidget();
     QWindow* below = dialog != nullptr ? dialog->windowHandle() : nullptr;
-    if (windowHandle()->transientParent() != below) {
-        if (isVisible()) hide();
-        windowHandle()->setTransientParent(below);
-    }
+    Show();
+    if (windowHandle()->transientParent() == below) return;
+    hide();
+    windowHandle()->setTransientParent(below);
     Show();
 }
 
