@@ -245,7 +245,8 @@ TEST_F(PlayedMonth, EveryScreenIsPictured) {
           u"post-consignor", u"retransfer",      u"debit-result", u"reading-sheet", u"slip",
           u"payment",        u"billing",         u"message",      u"billing-list",  u"printer",
           u"preview",        u"invoices",        u"account",      u"account-slip",  u"opening-balances",
-          u"backup-place",   u"backup"}) {
+          u"slip-lookup",    u"payment-lookup",  u"bank-lookup",  u"error",         u"backup-place",
+          u"backup"}) {
         const QStringList found = pictures.filter(QRegularExpression(u"^[0-9]{2}-%1\\.png$"_qs.arg(name)));
         ASSERT_EQ(found.size(), 1) << QString::fromUtf16(name).toStdString();
         EXPECT_FALSE(QImage(path(u"screens/"_qs + found[0])).isNull());

@@ -35,7 +35,7 @@ struct RoadStep {
 
 constexpr int monthEnd = 31;
 
-constexpr std::array<RoadStep, 32> road{{
+constexpr std::array<RoadStep, 33> road{{
     {u"起動", 1, startProgram},
     {u"料金表", 1, keepTariff},
     {u"地区マスター", 1, keepRoute},
@@ -67,6 +67,7 @@ constexpr std::array<RoadStep, 32> road{{
     {u"消費先台帳の書き出し", monthEnd, exportAccount},
     {u"台帳から伝票を開く", monthEnd, openAccountSlip},
     {u"得意先残の表示", monthEnd, showBalances},
+    {u"一覧とエラー", monthEnd, showLookups},
     {u"終了", monthEnd, endProgram},
 }};
 

@@ -37,6 +37,7 @@ void showAccount(Desk& desk);
 void exportAccount(Desk& desk);
 void openAccountSlip(Desk& desk);
 void showBalances(Desk& desk);
+void showLookups(Desk& desk);
 void endProgram(Desk& desk);
 
 }  // namespace akarix::month
