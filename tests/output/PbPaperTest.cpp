@@ -111,6 +111,7 @@ TEST_F(PbPaperTest, ThePreviewShowsThePageAndPrintsNothing) {
         auto& view = clerk.find<PreviewPages>("Pages");
         EXPECT_EQ(clerk.focusedName(), "Pages");
         EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0);
+        window.resize(window.width(), window.height() / 2);
         clerk.press(Qt::Key_PageDown);
         EXPECT_GT(view.verticalScrollBar()->value(), 0);
         clerk.press(Qt::Key_Escape);
