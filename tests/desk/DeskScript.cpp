@@ -189,7 +189,8 @@ class DeskTest : public ScreenTest {
             {u"row"_qs, &DeskTest::gridRow},      {u"at"_qs, &DeskTest::cursor},
             {u"count"_qs, &DeskTest::countRows},  {u"hidden"_qs, &DeskTest::hidden},
             {u"visible"_qs, &DeskTest::visible},  {u"closed"_qs, &DeskTest::closed},
-            {u"sheet"_qs, &DeskTest::sheetShows},
+            {u"sheet"_qs, &DeskTest::sheetShows}, {u"double"_qs, &DeskTest::doubleClick},
+            {u"close"_qs, &DeskTest::closeBox},
         };
         const auto doing = doings.find(step_->verb);
         if (doing == doings.end()) wrong(QStringLiteral("nobody knows how to ") + step_->verb);
@@ -232,6 +233,8 @@ class DeskTest : public ScreenTest {
         clerk.press(combination.key(), combination.keyboardModifiers());
     }
     void click(const QString& name) { clerk.click(name); }
+    void closeBox(const QString& form) { clerk.closeBox(clerk.form(form)); }
+    void doubleClick(const QString& name) { clerk.doubleClick(name); }
     void clickCell(const QString& gridAndCell) {
         const auto [row, col] = placeIn(afterFirst(gridAndCell));
         clerk.clickCell(grid(gridAndCell), row, col);

@@ -24,7 +24,7 @@ namespace akarix {
 ///   put ebox(2) 北町              sets a text without going there
 ///   keys 12                      types without Enter
 ///   press Shift+Backtab          one key
-///   click Btn(2)                 or "cell List 2,0": the cell of a grid
+///   click Btn(2)                 or "cell List 2,0": the cell of a grid; "double Btn(2)" is a double-click
 ///     yes この地区を削除します。      indented: a dialog that comes of the line above, what it says, its
 ///     answer
 ///   focus ebox(0)
@@ -35,8 +35,8 @@ namespace akarix {
 ///   : 1|北町|0
 ///
 /// Dialogs: alert, yes, no, (of the reversed question) first, second, each with its text; error and a number;
-/// pick DIALOG row,col in a lookup's list; save FILE; close DIALOG. "open", "at", "count", "hidden",
-/// "visible", "closed" and "sheet" speak for themselves.
+/// pick DIALOG row,col in a lookup's list; save FILE; close DIALOG. "open", "close", "at", "count",
+/// "hidden", "visible", "closed" and "sheet" speak for themselves.
 using DeskOpeners = std::map<QString, std::function<void(const QString& argument)>>;
 
 template <class F>

@@ -9,6 +9,7 @@
 #include <vector>
 
 class QWidget;
+class QWindow;
 
 namespace akarix {
 
@@ -69,6 +70,9 @@ class Clerk : public QObject {
     // --- the mouse
     void click(QWidget& widget, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void click(const QString& name) { click(control(name)); }
+    /// Twice in quick succession at one place, the second time on whatever stands there by then.
+    void doubleClick(QWidget& widget);
+    void doubleClick(const QString& name) { doubleClick(control(name)); }
     /// Row and column count as the grid counts them: row 0 is the head where there is one.
     void clickCell(FlexGrid& grid, int row, int col);
     /// The close box of a window.
@@ -111,6 +115,7 @@ class Clerk : public QObject {
 
     void dialogOpened(QWidget& dialog);
     void compose(const QString& text);
+    static void clickAt(QWindow& window, QPoint place, int time);
     void complain(const QString& text);
     static QString words(const QWidget& dialog);
 

@@ -31,7 +31,7 @@ void OptionButton::SetCaption(const QString& caption) {
 
 void OptionButton::keyPressEvent(QKeyEvent* event) {
     if (isEnter(event)) {
-        if (!event->isAutoRepeat()) focusNextPrevChild(true);
+        focusNextPrevChild(true);
         event->accept();
         return;
     }

@@ -31,8 +31,7 @@ void CommandButton::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            // A held Enter walks through the fields; it must not run on into the button at their end.
-            if (!event->isAutoRepeat()) click();
+            click();
             break;
         case Qt::Key_Left:
         case Qt::Key_Up:

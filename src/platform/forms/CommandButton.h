@@ -9,7 +9,8 @@ namespace akarix {
 /// What a press leads to. The look sets apart what keeps the work and what takes data away.
 enum class ButtonWeight { Plain, Keeps, Removes };
 
-/// A button: pressed by a click, by Space and by Enter. The arrow keys walk to its neighbours in tab order.
+/// A button: pressed by a click, by Space and by Enter (see GuardPresses). The arrow keys walk to its
+/// neighbours in tab order.
 class CommandButton : public QPushButton {
     Q_OBJECT
 

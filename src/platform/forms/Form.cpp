@@ -15,6 +15,7 @@
 
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/FitToRoom.h"
+#include "platform/forms/PressGuard.h"
 
 namespace akarix {
 namespace {
@@ -78,6 +79,7 @@ Form::Form(const QString& name, const QString& caption) {
     setObjectName(name);
     setWindowTitle(caption);
     addKeys();
+    GuardPresses();
 }
 
 void Form::Show() {

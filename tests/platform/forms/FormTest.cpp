@@ -174,6 +174,28 @@ TEST_F(Forms, DialogsInARowLeaveTheKeyboardWhereItWas) {
     EXPECT_EQ(clerk.focusedName(), "Btn(0)");
 }
 
+TEST_F(Forms, TheSecondOfADoubleClickDoesNothingToWhatHasComeUnderTheMouse) {
+    Sample_frm& form = sample();
+    auto& other = Form::Instance<Other_frm>();
+    auto& ok = *other.findChild<CommandButton*>("Btn");
+    int pressed = 0;
+    form.on(&ok, &CommandButton::Click, [&] { ++pressed; });
+    form.on(&form.Btn(0), &CommandButton::Click, [&] { SetFocus(&form.ebox(0)); });
+    clerk.doubleClick("Btn(0)");
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)") << "nor does it take the keyboard back";
+
+    form.on(&form.Btn(0), &CommandButton::Click, [&] {
+        other.Show();
+        const QWidget& under = form.Btn(0);
+        other.move(other.pos() + under.mapToGlobal(under.rect().center()) -
+                   ok.mapToGlobal(ok.rect().center()));
+    });
+    clerk.doubleClick("Btn(0)");
+    EXPECT_EQ(pressed, 0);
+    clerk.click(ok);
+    EXPECT_EQ(pressed, 1);
+}
+
 TEST_F(Forms, AnEscapingErrorIsShownAndTheFormGoesOn) {
     Sample_frm& form = sample();
     int clicks = 0;
