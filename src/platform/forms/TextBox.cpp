@@ -4,9 +4,11 @@
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
+#include <algorithm>
 
 #include "platform/forms/Control.h"
 #include "platform/forms/FocusMove.h"
+#include "platform/runtime/CodePage932.h"
 #include "platform/runtime/StrConv.h"
 
 namespace akarix {
@@ -20,14 +22,20 @@ QString toHalfKatakana(const QString& text) {
     return StrConv(StrConv(text, Katakana), NarrowChars);
 }
 
+bool types(const QKeyEvent& press) {
+    return !press.text().isEmpty() && press.text().front().isPrint() &&
+           !(press.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
 }  // namespace
 
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
     RegisterControl(this);
     setTextMargins(2, 0, 2, 0);
     connect(this, &QLineEdit::textEdited, this, [this] {
-        if (imeMode_ == ImeMode::KatakanaHalf && !composing_) narrowKana();
+        if (!composing_ && !fitting_) fitEdit();
     });
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { before_ = text; });
 }
 
 void TextBox::SetIMEMode(ImeMode mode) {
@@ -93,26 +101,77 @@ void TextBox::inputMethodEvent(QInputMethodEvent* event) {
     if (wasComposing && !composing_ && !event->commitString().isEmpty()) {
         commitKey_.setRemainingTime(commitKeyMilliseconds);
     }
-    if (imeMode_ == ImeMode::KatakanaHalf && !event->commitString().isEmpty()) {
-        QInputMethodEvent narrowed(event->preeditString(), event->attributes());
-        narrowed.setCommitString(toHalfKatakana(event->commitString()), event->replacementStart(),
-                                 event->replacementLength());
-        QLineEdit::inputMethodEvent(&narrowed);
-        event->setAccepted(narrowed.isAccepted());
+    const QString& commit = event->commitString();
+    const QString kept = fitting(
+        taken(commit), restOf(cursorPosition() + event->replacementStart(), event->replacementLength()));
+    if (kept != commit) {
+        QInputMethodEvent fitted(event->preeditString(), event->attributes());
+        fitted.setCommitString(kept, event->replacementStart(), event->replacementLength());
+        QLineEdit::inputMethodEvent(&fitted);
+        event->setAccepted(fitted.isAccepted());
         return;
     }
     QLineEdit::inputMethodEvent(event);
 }
 
-void TextBox::narrowKana() {
-    const QString narrow = toHalfKatakana(text());
-    if (narrowing_ || narrow == text()) return;
-    narrowing_ = true;
-    const auto cursor = toHalfKatakana(text().left(cursorPosition())).length();
-    selectAll();
-    insert(narrow);  // unlike setText this can be undone
-    setCursorPosition(static_cast<int>(cursor));
-    narrowing_ = false;
+// Pastes and drops come in by Qt's own ways and are made fit behind them; a key that is refused here leaves
+// nothing to undo.
+void TextBox::keyPressEvent(QKeyEvent* event) {
+    if (types(*event)) {
+        const QString kept = fitting(taken(event->text()), restOf(0, 0));
+        if (kept != event->text()) {
+            if (!kept.isEmpty()) insert(kept);
+            event->accept();
+            return;
+        }
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+/// A text as the box's input method takes it in.
+QString TextBox::taken(const QString& coming) const {
+    switch (imeMode_) {
+        case ImeMode::Off:
+            return StrConv(coming, NarrowChars);
+        case ImeMode::KatakanaHalf:
+            return toHalfKatakana(coming);
+        default:
+            return coming;
+    }
+}
+
+/// As much of it as there is room for beside the rest.
+QString TextBox::fitting(const QString& coming, const QString& rest) const {
+    if (maxBytes_ == 0 || coming.isEmpty()) return coming;
+    const int room = maxBytes_ - ByteLength932(rest);
+    QString kept = coming;
+    while (!kept.isEmpty() && ByteLength932(kept) > room)
+        kept.chop(kept.back().isLowSurrogate() ? 2 : 1);
+    return kept;
+}
+
+/// What stays when the selection, or else the stretch given, is replaced.
+QString TextBox::restOf(int start, int length) const {
+    QString rest = text();
+    if (hasSelectedText()) return rest.remove(selectionStart(), selectionLength());
+    return length > 0 ? rest.remove(start, length) : rest;
+}
+
+void TextBox::fitEdit() {
+    // What came in ends at the cursor and begins where the text differs from the one before.
+    const QString now = text();
+    const int end = cursorPosition();
+    const qsizetype latest = std::min<qsizetype>({end, before_.size(), end - (now.size() - before_.size())});
+    int start = 0;
+    while (start < latest && now[start] == before_[start])
+        ++start;
+    const QString coming = now.mid(start, end - start);
+    const QString kept = fitting(taken(coming), now.left(start) + now.mid(end));
+    if (kept == coming) return;
+    fitting_ = true;
+    setSelection(start, end - start);
+    insert(kept);  // unlike setText this can be undone
+    fitting_ = false;
 }
 
 void TextBox::focusInEvent(QFocusEvent* event) {

@@ -11,7 +11,7 @@ namespace akarix {
 enum class ImeMode {
     NoControl = 0,
     On = 1,
-    Off = 2,  ///< plain half-width typing; the input method is not asked
+    Off = 2,  ///< plain half-width typing; the input method is not asked, and what comes in wide is narrowed
     Hiragana = 4,
     KatakanaHalf = 6,  ///< kana and wide letters are turned into their half-width forms as they come in
 };
@@ -26,7 +26,8 @@ class TextBox : public QLineEdit {
 
     QString Text() const { return text(); }
     void SetText(const QString& text) { setText(text); }
-    /// In bytes of code page 932; 0 is no limit. Not enforced while typing: the field walk cuts.
+    /// In bytes of code page 932; 0 is no limit. A key that would make the text longer is refused, what is
+    /// pasted or committed is cut to what fits; the program's own text the field walk cuts.
     int MaxLength() const { return maxBytes_; }
     void SetMaxLength(int bytes) { maxBytes_ = bytes; }
     ImeMode IMEMode() const { return imeMode_; }
@@ -45,6 +46,7 @@ class TextBox : public QLineEdit {
 
  protected:
     bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -53,12 +55,16 @@ class TextBox : public QLineEdit {
  private:
     bool takesKey(const QKeyEvent& press);
     bool belongsToInputMethod(const QKeyEvent& press);
-    void narrowKana();
+    QString taken(const QString& coming) const;
+    QString fitting(const QString& coming, const QString& rest) const;
+    QString restOf(int start, int length) const;
+    void fitEdit();
 
     int maxBytes_ = 0;
     ImeMode imeMode_ = ImeMode::NoControl;
     bool composing_ = false;
-    bool narrowing_ = false;
+    QString before_;            ///< the text before the edit under way
+    bool fitting_ = false;      ///< an edit is being made fit
     QDeadlineTimer commitKey_;  ///< until then a press is taken for the one that committed the composition
 };
 

@@ -141,9 +141,43 @@ TEST_F(Controls, InputMethodIsOffForNumbers) {
     TextBox& box = show(new TextBox);
     box.SetIMEMode(ImeMode::Off);
     EXPECT_THROW(clerk.type("あ"), std::runtime_error);
+    box.insert("－２２２．５円");  // as a paste does
+    EXPECT_EQ(box.Text(), u"-222.5円");
     box.SetIMEMode(ImeMode::NoControl);
-    clerk.type("あ");
-    EXPECT_EQ(box.Text(), u"あ");
+    box.SetText({});
+    clerk.type("あ１");
+    EXPECT_EQ(box.Text(), u"あ１");
+}
+
+TEST_F(Controls, ABoxTakesNoMoreThanItsBytes) {
+    TextBox& box = show(new TextBox);
+    box.SetMaxLength(5);
+    clerk.type("1234567");
+    EXPECT_EQ(box.Text(), u"12345");
+    box.SetSelStart(1);
+    clerk.type("9");
+    EXPECT_EQ(box.Text(), u"12345");
+    box.SetSelLength(2);
+    clerk.type("9");  // in the place of two others
+    EXPECT_EQ(box.Text(), u"1945");
+
+    box.SetText("1145");
+    box.SetSelStart(1);
+    box.insert("1あ");  // as a paste does
+    EXPECT_EQ(box.Text(), u"11145") << "of what is pasted the beginning";
+    EXPECT_EQ(box.SelStart(), 2);
+
+    box.SetText("12");
+    input(box, "漢字入", {});
+    EXPECT_EQ(box.Text(), u"12");
+    input(box, {}, "漢字入");
+    EXPECT_EQ(box.Text(), u"12漢") << "two bytes each, and the composition was left alone";
+
+    box.SetText("1234567");  // the program's own text is longer already
+    clerk.type("8");
+    EXPECT_EQ(box.Text(), u"1234567");
+    clerk.press(Qt::Key_Backspace);
+    EXPECT_EQ(box.Text(), u"123456");
 }
 
 TEST_F(Controls, FocusEventsFollowTheFieldsNotTheWindows) {
@@ -180,14 +214,39 @@ TEST_F(Controls, ButtonsClickByEnterAndSpaceAndWalkByArrows) {
     clerk.press(Qt::Key_Enter, Qt::KeypadModifier);
     clerk.press(Qt::Key_Space);
     EXPECT_EQ(clicks, 3);
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
-    QApplication::sendEvent(&button, &held);
-    EXPECT_EQ(clicks, 3);
+    for (const int key : {Qt::Key_Return, Qt::Key_Space}) {
+        QKeyEvent held(QEvent::KeyPress, key, {}, {}, true);
+        QApplication::sendEvent(&button, &held);
+        QTest::keyRelease(&button, static_cast<Qt::Key>(key));
+        EXPECT_EQ(clicks, 3) << "held since a field before";
+    }
     clerk.up();
     EXPECT_EQ(clerk.focusedName(), u"first");
     SetFocus(&button);
     clerk.press(Qt::Key_Right);
     EXPECT_EQ(clerk.focusedName(), u"last");
+}
+
+TEST_F(Controls, ADoubleClickIsOnePressOfWhateverIsPressed) {
+    auto& button = show(new CommandButton("b"));
+    auto* tick = new CheckBox("c");
+    tick->setMaximumWidth(tick->sizeHint().width());
+    auto* picture = new Image;
+    for (QWidget* control : {static_cast<QWidget*>(tick), static_cast<QWidget*>(picture)})
+        line->addWidget(control);
+    form.on(&button, &CommandButton::Click, [this] { seen << "button"; });
+    form.on(tick, &CheckBox::Click, [this] { seen << "tick"; });
+    form.on(picture, &Image::Click, [this] { seen << "picture"; });
+    for (QWidget* control :
+         {static_cast<QWidget*>(&button), static_cast<QWidget*>(tick), static_cast<QWidget*>(picture)}) {
+        clerk.doubleClick(*control);
+        clerk.click(*control);
+    }
+    EXPECT_EQ(seen.join(u' '), u"button button tick tick picture picture");
+
+    last.SetText("word");  // in a text it marks the word, as everywhere
+    clerk.doubleClick(last);
+    EXPECT_EQ(last.selectedText(), u"word");
 }
 
 TEST_F(Controls, ComboKeepsItsSelectionWhileItsRowsChange) {
