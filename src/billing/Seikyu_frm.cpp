@@ -12,6 +12,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "toolkit/DateBox.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
@@ -81,7 +82,7 @@ void Seikyu_frm::layOut() {
         .text(addBox(ebox, kCreation, ImeMode::Off), kDateBytes)
         .name(*lYobi1_, kWeekdayBytes);
     fields.row(QStringLiteral("銀行ｺｰﾄﾞ"))
-        .text(addBox(ebox, kBank, ImeMode::Off), 4)
+        .text(addBox(ebox, kBank, ImeMode::Off), kIntegerBytes)
         .lookup(F6.add(0, new Image));
     TextBox& eSaihi = Named(new TextBox, QStringLiteral("eSaihi"));
     fields.row({}).widget(saihiHead).text(eSaihi, kDateBytes).name(*lyobi2, kWeekdayBytes).widget(saihiHint);

@@ -13,6 +13,7 @@
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
 #include "toolkit/DateBox.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldTable.h"
 #include "toolkit/FieldWalk.h"
 #include "toolkit/Lookups.h"
@@ -40,7 +41,6 @@ constexpr LineBoxes boxesOf(int line) {
     return {3 + 3 * line, 4 + 3 * line, 21 + line, 27 + line, 5 + 3 * line};
 }
 
-constexpr int kCodeBytes = 8;
 constexpr int kNameBytes = 40;
 
 QString yen(Currency amount) {
@@ -74,21 +74,19 @@ void Slip_frm::layOutHead() {
     constexpr int kDateBytes = 10;
     FieldLayout head(*this);
     head.row(QStringLiteral("伝票番号"))
-        .text(addBox(ebox, kNumber, ImeMode::Off), kCodeBytes)
+        .text(addBox(ebox, kNumber, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(kPickSlip, new Image));
     head.nextColumn();
     head.row(QStringLiteral("日付")).text(addBox(ebox, kDate, ImeMode::Off), kDateBytes);
     head.nextColumn();
     head.row(QStringLiteral("得意先"))
-        .text(addBox(ebox, kDeal, ImeMode::Off), kCodeBytes)
+        .text(addBox(ebox, kDeal, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(kPickDeal, new Image))
         .name(addName(QStringLiteral("sNamae")), kNameBytes);
     body().addLayout(head.layout());
 }
 
 void Slip_frm::layOutLines() {
-    // No figure of the store is longer: leaving a field never cuts one.
-    constexpr int kFigureBytes = 20;
     constexpr int kSuuShown = 11;
     constexpr int kTankaShown = 14;
     constexpr int kGakuShown = 17;
@@ -104,10 +102,10 @@ void Slip_frm::layOutLines() {
         const auto figure = [&](int column, int index, int shownBytes) {
             TextBox& box = addBox(ebox, index, ImeMode::Off);
             box.setAlignment(Qt::AlignRight);
-            lines.cell(line, column).text(box, kFigureBytes, shownBytes);
+            lines.cell(line, column).text(box, kCurrencyBytes, shownBytes);
         };
         lines.cell(line, 0)
-            .text(addBox(ebox, boxes.code, ImeMode::Off), kCodeBytes)
+            .text(addBox(ebox, boxes.code, ImeMode::Off), kLongKeyBytes)
             .lookup(F6.add(kPickItem + line, new Image));
         lines.cell(line, 1).text(addBox(ebox, boxes.name, ImeMode::Hiragana), kNameBytes);
         figure(2, boxes.suu, kSuuShown);

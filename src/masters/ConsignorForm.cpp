@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "toolkit/FieldBytes.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 
@@ -21,8 +22,8 @@ struct Shape {
 
 // The names go into the request file as they are typed here, and the file knows half-width kana alone.
 constexpr std::array<Shape, 12> kShapes{{
-    {u"Code", 4, ImeMode::Off, u"0000"},
-    {u"Stn", 3, ImeMode::Off, u"000"},
+    {u"Code", kIntegerBytes, ImeMode::Off, u"0000"},
+    {u"Stn", kIntegerBytes, ImeMode::Off, u"000"},
     {u"BkName", 15, ImeMode::KatakanaHalf},
     {u"StnName", 15, ImeMode::KatakanaHalf},
     {u"ItakuCode", 10},

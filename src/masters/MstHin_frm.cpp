@@ -1,5 +1,7 @@
 #include "masters/MstHin_frm.h"
 
+#include "toolkit/FieldBytes.h"
+
 namespace akarix {
 
 namespace {
@@ -23,7 +25,7 @@ FieldTable fields() {
          .label = QStringLiteral("コード"),
          .column = QStringLiteral("Code"),
          .kind = FieldKind::Long,
-         .bytes = 8,
+         .bytes = kLongKeyBytes,
          .lookup = FieldLookup{0, QStringLiteral("Hin"), QStringLiteral("ALL")}},
         {.index = 1,
          .label = QStringLiteral("ﾌﾘｶﾞﾅ"),
@@ -39,7 +41,8 @@ FieldTable fields() {
          .label = QStringLiteral("単価"),
          .column = QStringLiteral("Tanka"),
          .kind = FieldKind::Currency,
-         .bytes = 12,
+         .bytes = kCurrencyBytes,
+         .shownBytes = kCurrencyShown,
          .display = Masked(QStringLiteral("###,###"))},
     };
 }

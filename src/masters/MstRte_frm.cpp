@@ -1,5 +1,7 @@
 #include "masters/MstRte_frm.h"
 
+#include "toolkit/FieldBytes.h"
+
 namespace akarix {
 
 namespace {
@@ -21,7 +23,7 @@ FieldTable fields() {
          .label = QStringLiteral("コード"),
          .column = QStringLiteral("Code"),
          .kind = FieldKind::Integer,
-         .bytes = 5,
+         .bytes = kIntegerBytes,
          .lookup = FieldLookup{0, QStringLiteral("Rte"), QStringLiteral("ALL")}},
         {.index = 1,
          .label = QStringLiteral("ﾌﾘｶﾞﾅ"),
@@ -37,7 +39,7 @@ FieldTable fields() {
          .label = QStringLiteral("検針日"),
          .column = QStringLiteral("Kensin"),
          .kind = FieldKind::Integer,
-         .bytes = 2,
+         .bytes = kIntegerBytes,
          .display = Masked(QStringLiteral("##"))},
     };
 }

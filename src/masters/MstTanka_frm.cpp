@@ -14,6 +14,7 @@
 #include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
@@ -50,6 +51,7 @@ MstTanka_frm::MstTanka_frm()
     body->addWidget(List_, 1);
 
     wireKeys(ebox, [this](int index) { return enter(index); });
+    goRoundPast(ebox(kPattern));
     on(Opt, &OptionButton::Click, [this](int) { drawGrid(); });
     const auto press = [this](Button button, auto action) {
         on(&Btn(button), &CommandButton::Click, std::move(action));
@@ -65,12 +67,13 @@ MstTanka_frm::MstTanka_frm()
 
 QBoxLayout* MstTanka_frm::layOutFields() {
     FieldLayout fields(*this);
-    const auto row = [&](const char16_t* caption, int index, int bytes) {
-        fields.row(QString::fromUtf16(caption)).text(addBox(ebox, index, ImeMode::Off), bytes);
+    const auto row = [&](const char16_t* caption, int index, int bytes, int shownBytes) {
+        fields.row(QString::fromUtf16(caption)).text(addBox(ebox, index, ImeMode::Off), bytes, shownBytes);
     };
-    row(u"パターン", kPattern, 5);
-    row(u"容量", kCapacity, 6);
-    row(u"単価", kPrice, 10);
+    constexpr int kCapacityShown = 8;
+    row(u"パターン", kPattern, kIntegerBytes, 0);
+    row(u"容量", kCapacity, kCurrencyBytes, kCapacityShown);
+    row(u"単価", kPrice, kCurrencyBytes, kCurrencyShown);
 
     auto* kinds = new QVBoxLayout;
     int index = 0;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "store/Lookup.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
@@ -33,7 +34,7 @@ FieldTable fields() {
          .label = QStringLiteral("コード"),
          .column = QStringLiteral("Code"),
          .kind = FieldKind::Long,
-         .bytes = 8,
+         .bytes = kLongKeyBytes,
          .lookup = FieldLookup{}},
         {.index = 1,
          .label = QStringLiteral("ﾌﾘｶﾞﾅ"),

@@ -16,6 +16,7 @@
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "toolkit/FilterTerms.h"
 #include "values/NumStr.h"
@@ -91,7 +92,6 @@ RepoSeikyu_frm::RepoSeikyu_frm() : EntryForm(QStringLiteral("RepoSeikyu_frm"), Q
 }
 
 void RepoSeikyu_frm::layOut() {
-    constexpr int kCodeBytes = 8;
     constexpr int kNameBytes = 30;
     auto* body = new QVBoxLayout(this);
     FieldLayout fields(*this);
@@ -103,7 +103,7 @@ void RepoSeikyu_frm::layOut() {
     const auto coded = [&](const char16_t* caption, int field, int picture, const char16_t* name) {
         auto* label = &Named(new Label({}, this), QString::fromUtf16(name));
         fields.row(QString::fromUtf16(caption))
-            .text(addBox(ebox, field, ImeMode::Off), kCodeBytes)
+            .text(addBox(ebox, field, ImeMode::Off), kLongKeyBytes)
             .lookup(F6.add(picture, new Image))
             .name(*label, kNameBytes);
         return label;

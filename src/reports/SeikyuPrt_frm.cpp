@@ -23,6 +23,7 @@
 #include "store/Settings.h"
 #include "store/dbAccess.h"
 #include "toolkit/DateBox.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "toolkit/FilterTerms.h"
 #include "values/NumStr.h"
@@ -145,7 +146,6 @@ void SeikyuPrt_frm::layOut() {
 
 QLayout* SeikyuPrt_frm::layOutFields() {
     constexpr int kDateBytes = 10;
-    constexpr int kCodeBytes = 8;
     constexpr int kNameBytes = 30;
     FieldLayout fields(*this);
     fields.row(QStringLiteral("年月"))
@@ -157,7 +157,7 @@ QLayout* SeikyuPrt_frm::layOutFields() {
     const auto coded = [&](const char16_t* caption, int field, int picture, const char16_t* name) {
         auto* label = &Named(new Label({}, this), QString::fromUtf16(name));
         fields.row(QString::fromUtf16(caption))
-            .text(addBox(ebox, field, ImeMode::Off), kCodeBytes)
+            .text(addBox(ebox, field, ImeMode::Off), kLongKeyBytes)
             .lookup(F6.add(picture, new Image))
             .name(*label, kNameBytes);
         return label;

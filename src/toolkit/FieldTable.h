@@ -38,6 +38,7 @@ struct MasterField {
     QString column;  ///< empty: on the screen only
     FieldKind kind = FieldKind::Text;
     int bytes = 0;
+    int shownBytes = 0;  ///< the box's width where it differs
     ImeMode ime = ImeMode::Off;
     DisplayRule display = {};  ///< none: the plain text of the value
     QString note = {};         ///< told behind the box

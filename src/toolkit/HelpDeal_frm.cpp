@@ -1,6 +1,7 @@
 #include "toolkit/HelpDeal_frm.h"
 
 #include "store/Lookup.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
@@ -26,7 +27,7 @@ HelpDeal_frm::HelpDeal_frm() : LookupForm(QStringLiteral("HelpDeal_frm")) {
     search.row(QStringLiteral("名前")).text(addBox(ebox, 1, ImeMode::Hiragana), 40);
     sRte = &Named(new Label, QStringLiteral("sRte"));
     search.row(QStringLiteral("地区"))
-        .text(addBox(ebox, 2, ImeMode::Off), 5)
+        .text(addBox(ebox, 2, ImeMode::Off), kIntegerBytes)
         .lookup(F6.add(0, new Image))
         .name(*sRte, 30);
     QHBoxLayout* buttons = ButtonBar(*this, Btn, {QStringLiteral("さがす")});

@@ -63,7 +63,7 @@ void MasterForm::addFields(const FieldTable& fields) {
 void MasterForm::addField(const MasterField& field) {
     if (field.newColumn) rows_.nextColumn();
     FieldLine row = rows_.row(field.label);
-    row.text(addBox(ebox, field.index, field.ime), field.bytes);
+    row.text(addBox(ebox, field.index, field.ime), field.bytes, field.shownBytes);
     if (field.lookup) row.lookup(F6.add(field.lookup->picture, new Image));
     if (!field.nameLabel.isEmpty()) {
         row.name(addName(field.nameLabel), kNameBytes);
