@@ -13,6 +13,7 @@
 #include "platform/runtime/CLng.h"
 #include "store/dbAccess.h"
 #include "toolkit/Dentaku_frm.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
@@ -65,9 +66,13 @@ QVBoxLayout* GTanka_frm::layOutBands() {
     struct Line {
         const char16_t* caption;
         int bytes;
+        int shownBytes = 0;
     };
-    constexpr std::array<Line, 5> kLines{
-        {{u"パターン", 5}, {u"開始使用量", 5}, {u"～終了使用量", 5}, {u"基本料", 10}, {u"単価", 10}}};
+    constexpr std::array<Line, 5> kLines{{{u"パターン", kIntegerBytes},
+                                          {u"開始使用量", kIntegerBytes},
+                                          {u"～終了使用量", kIntegerBytes},
+                                          {u"基本料", kCurrencyBytes, kCurrencyShown},
+                                          {u"単価", kCurrencyBytes, kCurrencyShown}}};
     const auto walker = [](const char16_t* caption, const char16_t* name) {
         constexpr int kWidth = 40;
         auto* button = &Named(new CommandButton(QString::fromUtf16(caption)), QString::fromUtf16(name));
@@ -80,7 +85,7 @@ QVBoxLayout* GTanka_frm::layOutBands() {
     for (std::size_t i = 0; i < kLines.size(); ++i) {
         const int index = static_cast<int>(i);
         FieldLine line = fields.row(QString::fromUtf16(kLines[i].caption));
-        line.text(addBox(ebox, index, ImeMode::Off), kLines[i].bytes);
+        line.text(addBox(ebox, index, ImeMode::Off), kLines[i].bytes, kLines[i].shownBytes);
         if (index == kPattern) line.widget(cmdLeft_).widget(cmdRight_);
     }
     const auto row = [this](std::initializer_list<std::pair<Button, const char16_t*>> buttons) {
@@ -147,6 +152,7 @@ void GTanka_frm::orderWalk() {
          std::initializer_list<QWidget*>{cmdLeft_, cmdRight_, Command1_, Check1_, Check2_}) {
         JoinWalk(*this, *control);
     }
+    goRoundPast(ebox(kPattern));
 }
 
 void GTanka_frm::wire() {
@@ -303,6 +309,7 @@ void GTanka_frm::showBand(const TariffBand& band) {
 
 void GTanka_frm::showAllBands() {
     Check1_->SetValue(1);
+    if (Check2_->Value() == 0) table_.Clear();
     for (int row = 1; row < ListK_->Rows(); ++row) {
         if (ListK_->TextMatrix(row, kColMark) == kKeep) addToTable(bandOf(row));
     }

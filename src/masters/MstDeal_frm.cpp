@@ -14,6 +14,7 @@
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "toolkit/ZipAddress.h"
 #include "values/NumStr.h"
@@ -77,34 +78,46 @@ MasterField text(int index, const char16_t* label, const char16_t* column, int b
             .ime = ime};
 }
 
-MasterField number(int index, const char16_t* label, const char16_t* column, FieldKind kind, int bytes,
+MasterField number(int index, const char16_t* label, const char16_t* column, FieldKind kind,
                    const char16_t* note = u"") {
+    const auto bytes = [kind] {
+        switch (kind) {
+            case FieldKind::Long:
+                return kLongBytes;
+            case FieldKind::Integer:
+                return kIntegerBytes;
+            default:
+                return kCurrencyBytes;
+        }
+    };
     return {.index = index,
             .label = QString::fromUtf16(label),
             .column = QString::fromUtf16(column),
             .kind = kind,
-            .bytes = bytes,
+            .bytes = bytes(),
             .note = QString::fromUtf16(note)};
 }
 
 FieldTable fields() {
     const QString all = QStringLiteral("ALL");
-    MasterField code = number(kCode, u"コード", u"Code", FieldKind::Long, 8);
+    MasterField code = number(kCode, u"コード", u"Code", FieldKind::Long);
+    code.bytes = kLongKeyBytes;
     code.lookup = FieldLookup{0, QStringLiteral("Deal"), {}};
-    MasterField route = number(kRoute, u"地区", u"Rte", FieldKind::Integer, 5);
+    MasterField route = number(kRoute, u"地区", u"Rte", FieldKind::Integer);
     route.lookup = FieldLookup{3, QStringLiteral("Rte"), all};
     route.nameLabel = QStringLiteral("sRte");
     route.nameOf = routeName;
-    MasterField sime = number(kSime, u"締日", u"Sime", FieldKind::Integer, 2, u"末締めは 31 ");
+    MasterField sime = number(kSime, u"締日", u"Sime", FieldKind::Integer, u"末締めは 31 ");
     sime.newColumn = true;
-    MasterField bank = number(16, u"銀行", u"Bnk", FieldKind::Integer, 4);
+    MasterField bank = number(16, u"銀行", u"Bnk", FieldKind::Integer);
     bank.display = MaskedUnlessZero(QStringLiteral("0000"));
-    MasterField branch = number(kStn, u"支店", u"Stn", FieldKind::Integer, 5, u"郵便局は2文字目から3文字");
+    MasterField branch = number(kStn, u"支店", u"Stn", FieldKind::Integer, u"郵便局は2文字目から3文字");
     branch.display = branchText;
-    MasterField kind = number(18, u"種類", u"Kind", FieldKind::Integer, 1, u"1:普通 2：当座");
+    MasterField kind = number(18, u"種類", u"Kind", FieldKind::Integer, u"1:普通 2：当座");
     kind.display = Masked(QStringLiteral("#"));
     MasterField account = text(19, u"口座番号", u"Koza", 10, ImeMode::Off);
-    MasterField fixedDebit = number(kDiscGaku, u"毎月引落額", u"DiscGaku", FieldKind::Currency, 10);
+    MasterField fixedDebit = number(kDiscGaku, u"毎月引落額", u"DiscGaku", FieldKind::Currency);
+    fixedDebit.shownBytes = kCurrencyShown;
     fixedDebit.display = MaskedUnlessZero({});
     return {
         code,
@@ -118,13 +131,13 @@ FieldTable fields() {
         text(7, u"電話", u"TEL", 15, ImeMode::Off),
         text(8, u"ファックス", u"Fax", 15, ImeMode::Off),
         sime,
-        number(10, u"支払方法", u"SH", FieldKind::Integer, 1, u"1:集金  2:振込"),
-        number(11, u"地図", u"Map", FieldKind::Integer, 5),
-        number(12, u"施設販売", u"Sisetu", FieldKind::Integer, 1,
+        number(10, u"支払方法", u"SH", FieldKind::Integer, u"1:集金  2:振込"),
+        number(11, u"地図", u"Map", FieldKind::Integer),
+        number(12, u"施設販売", u"Sisetu", FieldKind::Integer,
                u"0:不明 1:学校等 2:病院等\n3:公会堂等 4:料飲店等 5:その他\n6:共同住宅 7:一般住宅"),
-        number(13, u"締切", u"Simekiri", FieldKind::Integer, 5),
-        number(kHaisou, u"順路", u"Haisou", FieldKind::Long, 8),
-        number(15, u"単価ﾊﾟﾀｰﾝ", u"TankaPtn", FieldKind::Integer, 5),
+        number(13, u"締切", u"Simekiri", FieldKind::Integer),
+        number(kHaisou, u"順路", u"Haisou", FieldKind::Long),
+        number(15, u"単価ﾊﾟﾀｰﾝ", u"TankaPtn", FieldKind::Integer),
         bank,
         branch,
         kind,
@@ -167,13 +180,12 @@ void MstDeal_frm::addLeases() {
 }
 
 void MstDeal_frm::addListFields() {
-    constexpr int kCodeBytes = 8;
     constexpr int kNameBytes = 24;
     auto* group = new QGroupBox(QStringLiteral("取引先一覧"), this);
     FieldLayout rows(*this);
     const auto bound = [&](int field, int picture, const char16_t* caption, const char16_t* nameLabel) {
         rows.row(QString::fromUtf16(caption))
-            .text(addBox(ebox, field, ImeMode::Off), kCodeBytes)
+            .text(addBox(ebox, field, ImeMode::Off), kLongKeyBytes)
             .lookup(F6.add(picture, new Image))
             .name(addName(QString::fromUtf16(nameLabel)), kNameBytes);
     };
@@ -181,8 +193,9 @@ void MstDeal_frm::addListFields() {
     bound(kTo, 2, u"コード至", u"sNamaeE");
     rows.nextColumn();
     TextBox& bank = Named(new TextBox, QStringLiteral("eSearchBnk"));
+    bank.SetIMEMode(ImeMode::Off);
     searchBank_.add(0, &bank);
-    rows.row(QStringLiteral("銀行コード")).text(bank, 4).lookup(F6.add(4, new Image));
+    rows.row(QStringLiteral("銀行コード")).text(bank, kIntegerBytes).lookup(F6.add(4, new Image));
     rows.row({}).button(Btn.add(kPrint, new CommandButton(QStringLiteral("印刷"))));
     group->setLayout(rows.layout());
     body().addWidget(group);
@@ -195,20 +208,20 @@ void MstDeal_frm::addListFields() {
         F6(4), QStringLiteral("Bnk"), {}, bank, [](int) {}, 0);
 }
 
-// The row's own fields lead to Save; the fields of the list and the ticks are walked behind it.
+// The row's own fields and its ticks lead to Save; the fields of the list are walked behind it.
 void MstDeal_frm::orderWalk() {
     std::vector<QWidget*> walk;
     for (const MasterField& field : fields()) {
         walk.push_back(&ebox(field.index));
     }
+    walk.insert(walk.end(), {ChkACU_, ChkKeihou_, ChkNoSeikyu_});
     for (const int button : {kSave, kClear, kRemove}) {
         walk.push_back(&Btn(button));
     }
     for (const QString& name : {QStringLiteral("cmdLeft"), QStringLiteral("cmdRight")}) {
         walk.push_back(findChild<CommandButton*>(name));
     }
-    walk.insert(walk.end(), {BtnDiscGaku_, &ebox(kFrom), &ebox(kTo), &searchBank_(0), &Btn(kPrint), ChkACU_,
-                             ChkKeihou_, ChkNoSeikyu_});
+    walk.insert(walk.end(), {BtnDiscGaku_, &ebox(kFrom), &ebox(kTo), &searchBank_(0), &Btn(kPrint)});
     for (std::size_t place = 0; place < walk.size(); ++place) {
         SetTabIndex(walk[place], static_cast<int>(place));
     }
@@ -237,6 +250,10 @@ bool MstDeal_frm::enter(int index) {
         case kTo:
             nameLabel(QStringLiteral("sNamaeE")).SetCaption(dealName(NumVal(ebox(kTo).Text())));
             break;
+        case kDiscGaku:
+            FitMaxLength(ebox(kDiscGaku));
+            SetFocus(ChkACU_);  // ticks stand outside the walk of the fields
+            return false;
         default:
             break;
     }

@@ -50,6 +50,14 @@ void EntryForm::wireKeys(const ControlArray<ComboBox>& lists) {
     });
 }
 
+bool EntryForm::focusNextPrevChild(bool next) {
+    const bool moved = Form::focusNextPrevChild(next);
+    if (moved && next && loadingBox_ != nullptr && focusWidget() == loadingBox_) {
+        NextField(*this, TabIndex(loadingBox_));
+    }
+    return moved;
+}
+
 void EntryForm::wireLookup(Image& picture, const QString& table, const QString& mode, TextBox& box,
                            const PressEnter& press, int field) {
     WireLookup(*this, picture, table, mode, box, [press, field] { press(field); });

@@ -29,9 +29,17 @@ class EntryForm : public Form {
     /// The same for lists, which ask nothing: Enter and Tab go on, Shift+Tab goes back, the arrows choose.
     void wireKeys(const ControlArray<ComboBox>& lists);
 
+    /// Keeps a held or repeated Tab from running past the last button into the box whose Enter loads, which
+    /// drops what was typed: the walk goes round to the field behind it.
+    void goRoundPast(TextBox& loadingBox) { loadingBox_ = &loadingBox; }
+    bool focusNextPrevChild(bool next) override;
+
     /// Wires a lookup picture: the code picked there goes into `box`, then Enter is pressed in field `field`.
     void wireLookup(Image& picture, const QString& table, const QString& mode, TextBox& box,
                     const PressEnter& press, int field);
+
+ private:
+    TextBox* loadingBox_ = nullptr;
 };
 
 }  // namespace akarix

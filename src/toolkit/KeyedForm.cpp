@@ -53,6 +53,7 @@ void KeyedForm::addBar(const std::vector<BarButton>& buttons, QVBoxLayout* place
     QVBoxLayout* around = place ? place : body_;
     around->addStretch();
     around->addLayout(buttonRow_);
+    goRoundPast(ebox(kCode));
 }
 
 void KeyedForm::setWalk(const QString& left, const QString& right) {
