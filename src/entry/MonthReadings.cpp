@@ -44,7 +44,7 @@ void MonthReadings::open(const QString& filter, const QString& day) const {
 QHash<std::int32_t, QString> MonthReadings::names(const QString& filter) const {
     QHash<std::int32_t, QString> names;
     Recordset customers =
-        gDb->OpenRecordset(QStringLiteral("SELECT Code,Namae FROM Deal  WHERE Code>0") + filter);
+        gDb->OpenRecordset(QStringLiteral("SELECT Code,Namae FROM Deal  WHERE Code Is Not Null") + filter);
     if (customers.Eof()) return names;
     const Field& code = customers.Fields(QStringLiteral("Code"));
     const Field& name = customers.Fields(QStringLiteral("Namae"));

@@ -21,6 +21,7 @@
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "toolkit/CellBox.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "toolkit/FilterTerms.h"
 #include "values/NumStr.h"
@@ -111,6 +112,11 @@ SlipG_frm::SlipG_frm() : EntryForm(QStringLiteral("SlipG_frm"), QStringLiteral("
     on(&Btn(kDelete), &CommandButton::Click, [this] { askAndDelete(); });
     on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
     on(&Btn(kExport), &CommandButton::Click, [this] { exportGrid(); });
+    on(List_, &FlexGrid::KeyDown, [this](KeyEvent& event) {
+        if (event.KeyCode != key::Tab || event.Shift != 0) return;
+        event.KeyCode = 0;
+        SetFocus(Command1_);
+    });
     WireCellBox(
         *this, *List_, *tBox_, [this] { openEditor(); }, [this](KeyEvent& event) { cellKey(event); });
 }
@@ -122,8 +128,6 @@ SlipG_frm::~SlipG_frm() {
 }
 
 void SlipG_frm::layOut() {
-    constexpr int kRouteBytes = 5;
-    constexpr int kCodeBytes = 8;
     constexpr int kNameBytes = 30;
     FieldLayout fields(*this);
     fields.row(QStringLiteral("検針日"))
@@ -131,16 +135,16 @@ void SlipG_frm::layOut() {
         .note(QStringLiteral("年"))
         .text(addBox(ebox, kMonth, ImeMode::Off), 2)
         .note(QStringLiteral("月分"))
-        .text(addBox(ebox, kDay, ImeMode::Off), 2)
+        .text(addBox(ebox, kDay, ImeMode::Off), kIntegerBytes)
         .note(QStringLiteral("日"));
     sRte_ = &Named(new Label({}, this), QStringLiteral("sRte"));
     fields.row(QStringLiteral("地区"))
-        .text(addBox(ebox, kRoute, ImeMode::Off), kRouteBytes, kCodeBytes)
+        .text(addBox(ebox, kRoute, ImeMode::Off), kIntegerBytes, kLongKeyBytes)
         .lookup(F6.add(0, new Image))
         .name(*sRte_, kNameBytes);
     Command1_ = &Named(new CommandButton(QStringLiteral("表示")), QStringLiteral("Command1"));
     fields.row(QStringLiteral("コード"))
-        .text(addBox(ebox, kCustomer, ImeMode::Off), kCodeBytes)
+        .text(addBox(ebox, kCustomer, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(1, new Image))
         .button(*Command1_);
 
@@ -160,9 +164,19 @@ void SlipG_frm::layOut() {
     auto* body = new QVBoxLayout(this);
     body->addLayout(fields.layout());
     body->addWidget(List_, 1);
-    body->addLayout(ButtonBar(*this, Btn,
-                              {QStringLiteral("画面クリア"), QStringLiteral("削除"), QStringLiteral("保存"),
-                               QStringLiteral("Excel")}));
+    // From the sheet the walk leads to its keeping, and to what takes it away last.
+    auto* bar = new QHBoxLayout;
+    bar->addStretch();
+    const auto button = [this, bar](Button index, const QString& caption) {
+        CommandButton& added = Btn.add(index, new CommandButton(caption));
+        JoinWalk(*this, added);
+        bar->addWidget(&added);
+    };
+    button(kSave, QStringLiteral("保存"));
+    button(kExport, QStringLiteral("Excel"));
+    button(kClear, QStringLiteral("画面クリア"));
+    button(kDelete, QStringLiteral("削除"));
+    body->addLayout(bar);
 }
 
 void SlipG_frm::defineColumns() {
@@ -178,6 +192,7 @@ void SlipG_frm::defineColumns() {
 }
 
 void SlipG_frm::init() {
+    if (!mayDropReadings()) return;
     List_->SetRows(1);
     defineColumns();
     defaultDay_ =
@@ -185,13 +200,27 @@ void SlipG_frm::init() {
     clear();
 }
 
-void SlipG_frm::fromexe(int nendo, int getudo, std::int32_t deal) {
-    if (nendo < 1 || getudo < 1 || deal < 1) return;
+void SlipG_frm::fromexe(std::int16_t& Nendo, std::int16_t& Getudo, std::int32_t& Deal) {
+    if (Nendo < 1 || Getudo < 1 || Deal < 1 || !mayDropReadings()) return;
     init();
-    ebox(kYear).SetText(NumStr(nendo));
-    ebox(kMonth).SetText(NumStr(getudo));
-    ebox(kCustomer).SetText(NumStr(deal));
+    ebox(kYear).SetText(NumStr(Nendo));
+    ebox(kMonth).SetText(NumStr(Getudo));
+    ebox(kCustomer).SetText(NumStr(Deal));
     showMonth();
+}
+
+void SlipG_frm::QueryUnload(bool& cancel) {
+    cancel = !mayDropReadings();
+}
+
+/// False when the clerk wants to keep what stands on the sheet.
+bool SlipG_frm::mayDropReadings() {
+    if (unsaved_ && AskConfirmRev(QStringLiteral("保存していない検針値を捨てますか？"),
+                                  QStringLiteral("いいえ"), QStringLiteral("捨てる"))) {
+        return false;
+    }
+    unsaved_ = false;
+    return true;
 }
 
 void SlipG_frm::clear() {
@@ -204,6 +233,7 @@ void SlipG_frm::clear() {
     Command1_->setEnabled(true);
     List_->SetRows(1);
     tBox_->hide();
+    unsaved_ = false;
     FocusSelect(ebox(kYear));
 }
 
@@ -258,6 +288,7 @@ void SlipG_frm::showMonth() {
         FocusSelect(ebox(field));
         return;
     }
+    if (!mayDropReadings()) return;
     List_->SetRows(1);
     List_->Refresh();
     Recordset rows = month().show(filter(), KeepNumeric(ebox(kDay).Text()));
@@ -353,11 +384,11 @@ void SlipG_frm::confirmCell() {
         case kColKoukanMeter:
         case kColKoukanGoMeter:
         case kColGaku:
-            List_->SetText(tBox_->Text());
+            takeCell();
             LeaveCell(*List_, *tBox_);
             break;
         case kColKonkaiMeter:
-            List_->SetText(tBox_->Text());
+            takeCell();
             calculateRow(row);
             if (row + 1 < List_->Rows()) {
                 GridNextRow();
@@ -367,12 +398,17 @@ void SlipG_frm::confirmCell() {
             break;
         case kColHi:
             if (!isDayOfMonth(tBox_->Text())) break;
-            List_->SetText(tBox_->Text());
+            takeCell();
             LeaveCell(*List_, *tBox_);
             break;
         default:
             break;
     }
+}
+
+void SlipG_frm::takeCell() {
+    List_->SetText(tBox_->Text());
+    unsaved_ = true;
 }
 
 void SlipG_frm::calculateRow(int row) {

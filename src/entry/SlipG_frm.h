@@ -12,17 +12,21 @@ namespace akarix {
 
 /// The monthly reading sheet: a row a customer in the order of the round, readings typed straight into the
 /// grid. The grid is the working copy of the month; nothing but a month's opening is written before the save.
+/// Readings confirmed since are given up only after a question, except by 画面クリア and 削除.
 class SlipG_frm : public EntryForm, public GridForm {
  public:
     SlipG_frm();
     ~SlipG_frm() override;
     void init();
-    /// Opens the sheet on one customer's month.
-    void fromexe(int nendo, int getudo, std::int32_t deal);
+    /// Opens the sheet on one customer's month; numbers below 1 change nothing.
+    void fromexe(std::int16_t& Nendo, std::int16_t& Getudo, std::int32_t& Deal);
 
     TextBox& tBox() override { return *tBox_; }
     ComboBox* cbBox() override { return nullptr; }
     void SetCombo(const QString& /*gridName*/) override {}
+
+ protected:
+    void QueryUnload(bool& cancel) override;
 
  private:
     void layOut();
@@ -30,6 +34,7 @@ class SlipG_frm : public EntryForm, public GridForm {
     bool enter(int index);
     void takeRouteDay();
     void clear();
+    bool mayDropReadings();
 
     QString filter() const;
     MonthReadings month() const;
@@ -42,6 +47,7 @@ class SlipG_frm : public EntryForm, public GridForm {
     void openEditor();
     void cellKey(KeyEvent& event);
     void confirmCell();
+    void takeCell();
     void calculateRow(int row);
     bool isDayOfMonth(const QString& day) const;
 
@@ -53,6 +59,7 @@ class SlipG_frm : public EntryForm, public GridForm {
     FlexGrid* List_ = nullptr;
     TextBox* tBox_ = nullptr;
     std::int16_t defaultDay_ = 0;
+    bool unsaved_ = false;  ///< readings were confirmed since the sheet was last filled or emptied
 };
 
 }  // namespace akarix

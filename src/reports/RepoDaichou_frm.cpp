@@ -18,6 +18,7 @@
 #include "reports/AccountGrid.h"
 #include "reports/MonthPurge.h"
 #include "store/Lookup.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
@@ -32,9 +33,11 @@ void openReadings(const QString& month, std::int32_t customer) {
     const QString day = month + QStringLiteral("/01");
     if (!IsDate(day)) return;
     const Date date = CDate(day);
+    auto nendo = static_cast<std::int16_t>(Year(date));
+    auto getudo = static_cast<std::int16_t>(Month(date));
     auto& sheet = Form::Instance<SlipG_frm>();
     sheet.Show();
-    sheet.fromexe(Year(date), Month(date), customer);
+    sheet.fromexe(nendo, getudo, customer);
 }
 
 template <class Screen>
@@ -80,7 +83,6 @@ void RepoDaichou_frm::layOut() {
 }
 
 QLayout* RepoDaichou_frm::layOutHead() {
-    constexpr int kCodeBytes = 8;
     constexpr int kNameBytes = 40;
     constexpr int kMoneyBytes = 14;
     FieldLayout fields(*this);
@@ -91,7 +93,7 @@ QLayout* RepoDaichou_frm::layOutHead() {
         .note(QStringLiteral("月以降"));
     sNamae_ = &Named(new Label({}, this), QStringLiteral("sNamae"));
     fields.row(QStringLiteral("得意先"))
-        .text(addBox(ebox, kCustomer, ImeMode::Off), kCodeBytes)
+        .text(addBox(ebox, kCustomer, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(0, new Image))
         .name(*sNamae_, kNameBytes);
     fields.nextColumn();

@@ -22,6 +22,13 @@ const bool kFound = RegisterDeskScripts(
      {"TorZan_frm", &Opens<TorZan_frm>},
      {"saleOf", &openOnSlip<Slip_frm>},
      {"paymentOf", &openOnSlip<SlipN2_frm>},
+     {"readingsOf",
+      [](const QString& customer) {
+          std::int16_t nendo = 2023;
+          std::int16_t getudo = 4;
+          std::int32_t deal = customer.toInt();
+          Form::Instance<SlipG_frm>().fromexe(nendo, getudo, deal);
+      }},
      {"years", [](const QString& mode) { gDateMode = static_cast<std::int16_t>(mode.toInt()); }}});
 
 }  // namespace

@@ -62,12 +62,16 @@ TEST_F(ReadingSheet, MoreRowsThanASheetHoldsAreTheRunTimesError) {
 TEST_F(ReadingSheet, AnotherScreenOpensItOnOneCustomer) {
     addCustomers(2);
     const auto opened = [] { return ScratchStore::rows("SELECT Deal FROM Dgd").join(','); };
-    auto& sheet = Form::Instance<SlipG_frm>();
-    sheet.fromexe(2023, 0, 2);
+    const auto open = [](std::int16_t month) {
+        std::int16_t year = 2023;
+        std::int32_t customer = 2;
+        Form::Instance<SlipG_frm>().fromexe(year, month, customer);
+    };
+    open(0);
     EXPECT_EQ(opened(), "");
-    sheet.fromexe(2023, 13, 2);
+    open(13);
     EXPECT_EQ(clerk.focusedName(), "ebox(1)") << "asked for, and no month of the year";
-    sheet.fromexe(2023, 4, 2);
+    open(4);
     EXPECT_EQ(opened(), "2");
     EXPECT_EQ(clerk.text("ebox(0)") + '/' + clerk.text("ebox(1)") + '/' + clerk.text("ebox(4)"), "2023/4/2");
     EXPECT_EQ(clerk.focusedName(), "tBox");
