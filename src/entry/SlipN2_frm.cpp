@@ -14,6 +14,7 @@
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
 #include "toolkit/DateBox.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "toolkit/Lookups.h"
 #include "values/NumStr.h"
@@ -36,13 +37,9 @@ enum Box {
 enum Button { kClear, kDelete, kSave, kSaveOpening, kShow };
 enum Picture { kPickSlip, kPickCustomer };
 
-constexpr int kCodeBytes = 8;
 constexpr int kDateBytes = 10;
 constexpr int kYearBytes = 4;
 constexpr int kMonthBytes = 2;
-// No figure of the store is longer: leaving a field never cuts one.
-constexpr int kFigureBytes = 20;
-constexpr int kFigureShown = 12;
 
 DocumentTexts texts() {
     return {.highest = QStringLiteral("SELECT MAX(Dno) AS tDno FROM Dny"),
@@ -93,10 +90,10 @@ void SlipN2_frm::layOutHead(QVBoxLayout& column) {
     constexpr int kNameBytes = 30;
     FieldLayout head(*this);
     head.row(QStringLiteral("伝票番号"))
-        .text(addBox(ebox, kNumber, ImeMode::Off), kCodeBytes)
+        .text(addBox(ebox, kNumber, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(kPickSlip, new Image));
     head.row(QStringLiteral("得意先"))
-        .text(addBox(ebox, kCustomer, ImeMode::Off), kCodeBytes)
+        .text(addBox(ebox, kCustomer, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(kPickCustomer, new Image))
         .name(addName(QStringLiteral("sNamae")), kNameBytes);
     head.row(QStringLiteral("入金日")).text(addBox(ebox, kDate, ImeMode::Off), kDateBytes);
@@ -114,7 +111,7 @@ void SlipN2_frm::layOutLines(QVBoxLayout& column) {
         lines.cell(line, 0).combo(dKubun.add(line, new ComboBox), kClassShown);
         TextBox& amount = addBox(eGaku, line, ImeMode::Off);
         amount.setAlignment(Qt::AlignRight);
-        lines.cell(line, 1).text(amount, kFigureBytes, kFigureShown);
+        lines.cell(line, 1).text(amount, kCurrencyBytes, kCurrencyShown);
         lines.cell(line, 2).text(addBox(eNaiyo, line, ImeMode::Hiragana), kTextBytes);
     }
     Label& total = addName(QStringLiteral("sTotal"));
@@ -162,7 +159,7 @@ QGroupBox* SlipN2_frm::layOutOpening() {
         .note(QStringLiteral("年"))
         .text(addBox(ebox, kOpeningMonth, ImeMode::Off), kMonthBytes)
         .note(QStringLiteral("月請求の前回請求額"))
-        .text(amount, kFigureBytes, kFigureShown)
+        .text(amount, kCurrencyBytes, kCurrencyShown)
         .button(Btn.add(kSaveOpening, new CommandButton(QStringLiteral("繰越保存"))))
         .note(QStringLiteral("初期繰り越しの削除は0でエンター"));
     return group;
@@ -174,10 +171,7 @@ void SlipN2_frm::wire() {
     wireKeys(eGaku, goOn);
     wireKeys(eNaiyo, goOn);
     wireKeys(dKubun);
-    on(eGaku, &TextBox::LostFocus, [this](int line) {
-        eGaku(line).SetText(yen(ToCurrency(eGaku(line).Text())));
-        showTotal();
-    });
+    on(eGaku, &TextBox::LostFocus, [this](int) { showTotal(); });
     WireLookup(
         *this, F6(kPickSlip),
         [this] { return requireCustomer() ? PickPayment(number(kCustomer)) : QString(); }, ebox(kNumber),

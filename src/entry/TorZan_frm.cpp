@@ -15,6 +15,7 @@
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
 #include "toolkit/CellBox.h"
+#include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "toolkit/FilterTerms.h"
 #include "values/NumStr.h"
@@ -53,8 +54,6 @@ TorZan_frm::TorZan_frm() : EntryForm(QStringLiteral("TorZan_frm"), QStringLitera
 }
 
 void TorZan_frm::layOut() {
-    constexpr int kRouteBytes = 5;
-    constexpr int kCodeBytes = 8;
     constexpr int kNameBytes = 30;
     constexpr int kGridHeight = 420;
     const auto button = [this](Button index, const char16_t* caption) -> CommandButton& {
@@ -70,11 +69,11 @@ void TorZan_frm::layOut() {
         .text(addBox(ebox, kMonth, ImeMode::Off), 2)
         .note(QStringLiteral("月度"));
     fields.row(QStringLiteral("地区"))
-        .text(addBox(ebox, kRoute, ImeMode::Off), kRouteBytes, kCodeBytes)
+        .text(addBox(ebox, kRoute, ImeMode::Off), kIntegerBytes, kLongKeyBytes)
         .lookup(F6.add(kPickRoute, new Image))
         .name(*sRte_, kNameBytes);
     fields.row(QStringLiteral("コード"))
-        .text(addBox(ebox, kCustomer, ImeMode::Off), kCodeBytes)
+        .text(addBox(ebox, kCustomer, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(kPickCustomer, new Image))
         .name(*sNamae_, kNameBytes)
         .button(button(kShow, u"表示"));
@@ -215,9 +214,11 @@ void TorZan_frm::confirm() {
     SetFocus(&Btn(kSave));
 }
 
-/// The box follows the grid's cursor.
+/// The box follows the grid's cursor; at the ends it is laid on the same cell anew.
 void TorZan_frm::moveTo(int row) {
-    if (List_->Col() == kColZan && row >= 1 && row < List_->Rows()) List_->SetRow(row);
+    if (List_->Col() != kColZan) return;
+    if (row < 1 || row >= List_->Rows()) return openBox();
+    List_->SetRow(row);
 }
 
 }  // namespace akarix

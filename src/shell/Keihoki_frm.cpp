@@ -40,9 +40,10 @@ Keihoki_frm::Keihoki_frm()
 }
 
 void Keihoki_frm::init() {
-    ClearControls(*this);
     Recordset rows =
         gDb->OpenRecordset(QStringLiteral("SELECT * FROM UserOP WHERE Code=2 or Code=3 ORDER BY Code"));
+    // A single missing row leaves its field as it stands.
+    if (rows.Eof()) ClearControls(*this);
     for (; !rows.Eof(); rows.MoveNext()) {
         const int field = longOf(rows[QStringLiteral("Code")]) - kFirstCode;
         const double fee = NumVal(NullToEmpty(rows[QStringLiteral("contents")]));

@@ -29,14 +29,14 @@ constexpr std::array<Setting, 3> kSettings{{{1, kClosingDay}, {2, kPrinting}, {3
 }  // namespace
 
 etc_frm::etc_frm() : EntryForm(QStringLiteral("etc_frm"), QStringLiteral("その他")) {
-    constexpr int kBytes = 10;  // whatever is typed is stored; only the shown text is short
-    constexpr int kShownBytes = 4;
+    constexpr int kAnyBytes = 0;  // whatever is typed is stored; only the shown text is short
+    constexpr int kShownBytes = 6;
     auto* body = new QVBoxLayout(this);
     body->setSpacing(16);
     FieldLayout fields(*this);
     const auto row = [&](const QString& caption, int field) {
         FieldLine line = fields.row(caption);
-        line.text(addBox(ebox, field, ImeMode::Off), kBytes, kShownBytes);
+        line.text(addBox(ebox, field, ImeMode::Off), kAnyBytes, kShownBytes);
         return line;
     };
     row(QStringLiteral("得意先　締日"), kClosingDay).note(QStringLiteral("得意先登録時にデフォルトで表示"));
@@ -50,8 +50,9 @@ etc_frm::etc_frm() : EntryForm(QStringLiteral("etc_frm"), QStringLiteral("その
 }
 
 void etc_frm::init() {
-    ClearControls(*this);
     Recordset rows = gDb->OpenRecordset(QStringLiteral("SELECT * FROM zSysFunc WHERE Code>=1 and Code<=3"));
+    // A single missing row leaves its field as it stands.
+    if (rows.Eof()) ClearControls(*this);
     for (; !rows.Eof(); rows.MoveNext()) {
         const std::int32_t code = longOf(rows[QStringLiteral("Code")]);
         for (const Setting& setting : kSettings) {

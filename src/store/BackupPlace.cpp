@@ -1,9 +1,11 @@
 #include "store/BackupPlace.h"
 
+#include <QDir>
 #include <QScopeGuard>
 
 #include "platform/runtime/Input.h"
 #include "platform/runtime/Open.h"
+#include "platform/runtime/Path.h"
 #include "platform/runtime/Print.h"
 #include "values/NumStr.h"
 
@@ -28,7 +30,12 @@ void WriteBackupPlace(const QString& place) {
 }
 
 QString BackupFolder(const QString& place) {
-    return place.endsWith(u'\\') ? place : place + u'\\';
+    QString folder = place;
+    while (folder.endsWith(u'\\') || folder.endsWith(u'/'))
+        folder.chop(1);
+    // A place written the drives' way goes on in it; any other ends as the machine's own paths do.
+    const bool likeDrives = folder.contains(u'\\') || !DriveRoot(place).isEmpty();
+    return folder + (likeDrives ? QChar(u'\\') : QDir::separator());
 }
 
 QString BackupCopy(const QString& place, int weekday) {

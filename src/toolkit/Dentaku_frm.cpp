@@ -10,6 +10,7 @@
 #include "platform/forms/MemoBox.h"
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/RuntimeError.h"
 #include "toolkit/Evaluate.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumVal.h"
@@ -90,7 +91,12 @@ void Dentaku_frm::answerMemo() {
 }
 
 void Dentaku_frm::reformatAnswer() {
-    if (HasText(eAns_->Text())) ShowAnswer(CCur(NumVal(eAns_->Text())));
+    if (!HasText(eAns_->Text())) return;
+    try {
+        ShowAnswer(CCur(NumVal(eAns_->Text())));
+    } catch (const RuntimeError&) {
+        // More digits than an amount has are no answer of this window; they stay as they were typed.
+    }
 }
 
 QString Dentaku_frm::ShowAnswer(Currency value) {

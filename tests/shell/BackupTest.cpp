@@ -87,6 +87,11 @@ TEST_F(Backup, WhatCannotBeCopiedIsPassedOver) {
         setPlace(place);
         BackUp();
     }
+    setPlace(store.path("bk").toUtf8() + "\\\r\n");
+    clerk.answerAlert();
+    BackUp();
+    EXPECT_EQ(clerk.lastSaid(),
+              QDir::toNativeSeparators(store.path("bk/")) + u"へバックアップコピーしました。"_qs);
     setPlace("d:\\bk,daily\r\n");
     clerk.answerAlert();
     BackUp();
@@ -96,7 +101,7 @@ TEST_F(Backup, WhatCannotBeCopiedIsPassedOver) {
     BackUp();
     EXPECT_EQ(bytesOf(u"Drive/D/bk/Akarix1.MDB"_qs), before) << "a sound copy is not lost to a damaged file";
     EXPECT_EQ(copies().size(), 1);
-    EXPECT_EQ(clerk.said().size(), 1);
+    EXPECT_EQ(clerk.said().size(), 2);
 }
 
 TEST_F(Backup, WithoutAPlaceItFails) {

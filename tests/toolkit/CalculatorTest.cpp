@@ -2,6 +2,7 @@
 
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/MemoBox.h"
+#include "platform/forms/TextBox.h"
 #include "support/ScreenTest.h"
 #include "toolkit/Dentaku_frm.h"
 #include "toolkit/Evaluate.h"
@@ -79,6 +80,10 @@ TEST_F(Calculator, DecimalsAreTakenFromTheShownText) {
     choose(0);
     choose(3);
     EXPECT_EQ(clerk.text(u"eAns"_qs), u"1,234,568.000"_qs);
+    const QString noAmount(20, u'9');
+    clerk.find<TextBox>(u"eAns"_qs).SetText(noAmount);
+    choose(1);
+    EXPECT_EQ(clerk.text(u"eAns"_qs), noAmount) << "and nothing is reported";
 }
 
 TEST_F(Calculator, ClearsButKeepsTheDecimals) {
