@@ -3,8 +3,8 @@
 #include "debit/DebitQuery.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Trim.h"
 #include "values/NumStr.h"
-#include "values/Text.h"
 
 namespace akarix {
 

@@ -6,9 +6,9 @@
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/Open.h"
 #include "platform/runtime/Print.h"
+#include "platform/runtime/Trim.h"
 #include "store/Consignor.h"
 #include "values/NumStr.h"
-#include "values/Text.h"
 
 namespace akarix {
 

@@ -9,6 +9,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Fix.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Trim.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -205,7 +206,7 @@ void Slip_frm::enterLine(int line, int index) {
     } else if (index == boxes.tanka) {
         putAmount(line, figure(boxes.suu) * figure(boxes.tanka));
     } else if (index == boxes.gaku && line > 0) {
-        const QString typed = ebox(boxes.gaku).Text().trimmed();
+        const QString typed = Trim(ebox(boxes.gaku).Text());
         if (!typed.startsWith(u'*')) return;
         const Currency rate = ToCurrency(typed.mid(1)) / 100;
         putAmount(line, figure(boxesOf(line - 1).gaku) * rate);

@@ -10,9 +10,9 @@
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
+#include "platform/runtime/Trim.h"
 #include "values/Dates.h"
 #include "values/NumStr.h"
-#include "values/Text.h"
 
 namespace akarix {
 namespace {

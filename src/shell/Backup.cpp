@@ -10,9 +10,9 @@
 #include "platform/runtime/MkDir.h"
 #include "platform/runtime/Path.h"
 #include "platform/runtime/RuntimeError.h"
+#include "platform/runtime/Trim.h"
 #include "store/BackupPlace.h"
 #include "store/dbAccess.h"
-#include "values/Text.h"
 
 namespace akarix {
 

@@ -11,6 +11,7 @@
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/RuntimeError.h"
+#include "platform/runtime/Trim.h"
 #include "toolkit/Evaluate.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumVal.h"

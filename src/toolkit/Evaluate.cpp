@@ -4,7 +4,7 @@
 
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/RuntimeError.h"
-#include "values/Text.h"
+#include "platform/runtime/Trim.h"
 
 namespace akarix {
 

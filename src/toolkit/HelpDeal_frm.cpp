@@ -1,11 +1,11 @@
 #include "toolkit/HelpDeal_frm.h"
 
+#include "platform/runtime/Trim.h"
 #include "store/Lookup.h"
 #include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
-#include "values/Text.h"
 
 namespace akarix {
 

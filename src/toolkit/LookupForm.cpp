@@ -5,6 +5,7 @@
 
 #include "platform/forms/Label.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Trim.h"
 #include "store/dbAccess.h"
 #include "values/Text.h"
 

@@ -6,9 +6,9 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/IsDate.h"
+#include "platform/runtime/Trim.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
-#include "values/Text.h"
 
 namespace akarix {
 

@@ -2,6 +2,7 @@
 
 #include "platform/runtime/CStr.h"
 #include "platform/runtime/CodePage932.h"
+#include "platform/runtime/Trim.h"
 
 namespace akarix {
 
@@ -39,16 +40,6 @@ QString CutBytes(const QString& text, int bytes) {
         end += width;
     }
     return FromCodePage932(all.left(end));
-}
-
-QString Trim(const QString& text) {
-    qsizetype from = 0;
-    qsizetype to = text.size();
-    while (from < to && text[from] == u' ')
-        ++from;
-    while (to > from && text[to - 1] == u' ')
-        --to;
-    return text.mid(from, to - from);
 }
 
 }  // namespace akarix

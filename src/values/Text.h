@@ -17,7 +17,5 @@ QString EmptyToBlank(const QString& text);
 bool HasText(const Variant& value);
 /// The first bytes of the text in code page 932; a double-byte character split by the cut is lost.
 QString CutBytes(const QString& text, int bytes);
-/// Trims blanks as the run time's Trim does: half-width blanks only.
-QString Trim(const QString& text);
 
 }  // namespace akarix
