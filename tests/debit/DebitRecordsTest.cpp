@@ -28,8 +28,8 @@ TEST_F(DebitFile, OfABank) {
     customer("5,'ｴｸﾞﾁ',50,123,5,1,'1234567890',5000", "3000");
     customer("6,'オオノ商会',60,123,5,1,'66',0", "1000");
     customer("70,'ｶﾄｳ ｶﾅﾌﾘｶﾞﾅｶﾞ30ｼﾞﾕｳﾓｼﾞﾁﾖｳﾄﾞABCX',70,123,32767,12,'77',0",
-             "12345678901");  // none of it fits
-    customer("8,'ｷﾑﾗ',80,123,5,1,NULL,0", "8");
+             "12345678901");                                         // none of it fits
+    customer("8,'ｷ𠮷ﾗ',80,123,5,1,NULL,0", "8");                     // two marks: the record keeps its length
     customer("80,'ｷﾑﾗ ｼﾞﾛｳ',81,123,5,2,'1234567',0", "1234567890");  // the first one's number, another kind
     customer("9,'ｸﾛﾀﾞ',90,123,5,1,'7654321',0", "-200");             // has paid too much: not taken off
     customer("10,'ｹﾝﾓﾁ',95,123,5,1,'99',0", "0");

@@ -26,13 +26,22 @@ void U_CALLCONV writeDot(const void*, UConverterToUnicodeArgs* args, const char*
     ucnv_cbToUWriteUChars(args, &kDot, 1, 0, status);
 }
 
+/// A character without a place in the code page becomes a mark for each of the two places that a pair takes
+/// in a text, so that a record counted out in characters keeps its length in bytes.
+void U_CALLCONV writeMarks(const void*, UConverterFromUnicodeArgs* args, const UChar*, int32_t length,
+                           UChar32, UConverterCallbackReason reason, UErrorCode* status) {
+    if (reason > UCNV_IRREGULAR) return;
+    *status = U_ZERO_ERROR;
+    ucnv_cbFromUWriteBytes(args, "??", length, 0, status);
+}
+
 // A converter carries state and must not be shared between threads; opening one is slow.
 UConverter* converter() {
     static thread_local const std::unique_ptr<UConverter, CloseConverter> kept = [] {
         UErrorCode status = U_ZERO_ERROR;
         std::unique_ptr<UConverter, CloseConverter> opened(ucnv_open("ibm-943_P15A-2003", &status));
         if (U_FAILURE(status)) throw RuntimeError(48);
-        ucnv_setSubstChars(opened.get(), "?", 1, &status);
+        ucnv_setFromUCallBack(opened.get(), writeMarks, nullptr, nullptr, nullptr, &status);
         ucnv_setToUCallBack(opened.get(), writeDot, nullptr, nullptr, nullptr, &status);
         // ¥, 〜 and − from keyboards of other systems become the code page's own signs.
         ucnv_setFallback(opened.get(), true);

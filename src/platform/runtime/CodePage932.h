@@ -5,7 +5,8 @@
 
 namespace akarix {
 
-/// The ANSI code page of a Japanese system (Windows-31J). A character without a place becomes "?", a byte
+/// The ANSI code page of a Japanese system (Windows-31J). A character without a place becomes "?", or
+/// "??" where it takes a pair of UTF-16, a byte
 /// that stands for nothing "・".
 /// Mapping: ICU's ibm-943_P15A-2003 (alias windows-31j), with the control characters straight; ～ ① ㈱ 髙
 /// survive both ways.
