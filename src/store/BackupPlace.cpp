@@ -1,8 +1,10 @@
 #include "store/BackupPlace.h"
 
 #include <QDir>
+#include <QFile>
 #include <QScopeGuard>
 
+#include "platform/runtime/Dir.h"
 #include "platform/runtime/Input.h"
 #include "platform/runtime/Open.h"
 #include "platform/runtime/Path.h"
@@ -12,7 +14,10 @@
 namespace akarix {
 
 QString BackupPlaceFile() {
-    return QStringLiteral("BKPath");
+    const QString name = QStringLiteral("BKPath");
+    if (QFile::exists(name)) return name;
+    const QString found = Dir(name);
+    return found.isEmpty() ? name : found;
 }
 
 QString ReadBackupPlace() {

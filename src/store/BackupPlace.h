@@ -4,8 +4,8 @@
 
 namespace akarix {
 
-/// The folder of the backup copies, kept in the file BKPath of the current directory; reading raises 53 where
-/// none was ever chosen.
+/// The folder of the backup copies, kept in the file BKPath of the current directory, in any case of its
+/// letters; reading raises 53 where none was ever chosen.
 QString BackupPlaceFile();
 QString ReadBackupPlace();
 void WriteBackupPlace(const QString& place);

@@ -57,6 +57,13 @@ TEST_F(Backup, ThePlaceIsOfferedAndKept) {
     EXPECT_EQ(clerk.lastSaid(), u"d:\\控えで更新します。"_qs) << "an emptied box is the old place";
     changePlace(u"e:\\"_qs, false);
     EXPECT_EQ(bytesOf(u"BKPath"_qs), "d:\\\x8d\x54\x82\xa6\r\n");
+
+    ASSERT_TRUE(QFile::rename(u"BKPath"_qs, u"BKPATH"_qs)) << "as an older system wrote it";
+    changePlace({}, true);
+    EXPECT_EQ(clerk.lastSaid(), u"d:\\控えで更新します。"_qs);
+    changePlace(u"e:\\"_qs, true);
+    EXPECT_EQ(bytesOf(u"BKPATH"_qs), "e:\\\r\n");
+    EXPECT_FALSE(QFile::exists(u"BKPath"_qs));
 }
 
 TEST_F(Backup, AWeekOfCopies) {
