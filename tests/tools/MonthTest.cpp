@@ -366,7 +366,7 @@ TEST(MonthProgram, ARunThatGoesWrongEndsWithAWord) {
         // The list cannot be printed, which the program tells in a box that the road does not expect.
         {{u"--customers"_qs, u"2"_qs, u"--out"_qs, folder.filePath(u"out"_qs), u"--templates"_qs, templates},
          1,
-         "一覧表の印刷: unexpected dialog: 1004"},
+         "一覧表の印刷: 思わぬ画面が出ました: 1004"},
     };
     for (const auto& [arguments, exitCode, says] : cases) {
         const Outcome run = runProgram(arguments);

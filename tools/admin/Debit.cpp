@@ -161,7 +161,8 @@ int showDebit(const QStringList& arguments) {
     }
     const QString& path = arguments.first();
     QFile file(path);
-    if (!file.open(QFile::ReadOnly)) return unreadable(path, file.errorString());
+    if (!file.open(QFile::ReadOnly))
+        return unreadable(path, QStringLiteral("ファイルが見つからないか、開けません。"));
     const std::vector<QByteArray> records = SplitDebitRecords(file.readAll());
     if (records.empty()) return unreadable(path, QStringLiteral("空のファイルです。"));
     if (records.front().startsWith('\xf1'))

@@ -285,13 +285,13 @@ void Clerk::dialogOpened(QWidget& dialog) {
     const QString text = words(dialog);
     said_ << text;
     if (expected_.empty() || !isCalled(dialog, expected_.front().name)) {
-        complain(QStringLiteral("unexpected dialog: ") + text);
+        complain(QStringLiteral("思わぬ画面が出ました: ") + text);
         shut(dialog);
         return;
     }
     QTimer::singleShot(patience_, this, [this, shown, text] {
         if (!shown || QApplication::activeModalWidget() != shown) return;
-        complain(QStringLiteral("still standing: ") + text);
+        complain(QStringLiteral("画面が閉じません: ") + text);
         shut(*shown);
     });
     const Expected expected = std::move(expected_.front());
@@ -300,7 +300,7 @@ void Clerk::dialogOpened(QWidget& dialog) {
     try {
         expected.answer(dialog);
     } catch (const std::exception& error) {
-        complain(QStringLiteral("answering \"%1\": %2").arg(text, QString::fromUtf8(error.what())));
+        complain(QStringLiteral("画面「%1」に答えられません: %2").arg(text, QString::fromUtf8(error.what())));
         if (shown) shut(*shown);
     }
 }

@@ -1,6 +1,8 @@
 #include "platform/forms/Guard.h"
 
 #include <QString>
+#include <QtGlobal>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -75,9 +77,11 @@ bool RunGuarded(const std::function<void()>& handler) {
         return true;
     } catch (const RuntimeError& error) {
         return showAndFail(error);
+    } catch (const std::bad_alloc&) {
+        return showAndFail(RuntimeError(7));
     } catch (const std::exception& error) {
-        return showAndFail(
-            RuntimeError(51, QStringLiteral("%1\n%2").arg(ErrorText(51), QString::fromUtf8(error.what()))));
+        qWarning("%s", error.what());  // words for a programmer, not for the clerk
+        return showAndFail(RuntimeError(51));
     }
 }
 

@@ -45,6 +45,13 @@ int ClassicNumber(int code, int extended) {
     }
 }
 
+/// The tables or columns that a constraint's message names behind its English words.
+QString ConstrainedNames(const QByteArray& message) {
+    const QByteArray mark = "failed: ";
+    const qsizetype place = message.indexOf(mark);
+    return place < 0 ? QString() : QString::fromUtf8(message.mid(place + mark.size()));
+}
+
 }  // namespace
 
 void RaiseEngineError(sqlite3* connection) {
@@ -53,7 +60,7 @@ void RaiseEngineError(sqlite3* connection) {
     if (const int number = FunctionErrorNumber(message)) {
         throw RuntimeError(number);
     }
-    throw StoreError(ClassicNumber(extended & 0xff, extended), QString::fromUtf8(message));
+    throw StoreError(ClassicNumber(extended & 0xff, extended), ConstrainedNames(message));
 }
 
 Statement Prepare(sqlite3* connection, const QByteArray& sql) {
