@@ -87,7 +87,8 @@ void WriteGroup::commitOutOfTurn() {
     try {
         commit();
     } catch (...) {
-        pending_ = std::current_exception();
+        // A group that is still open waits for the next commit; one that is lost must be told.
+        if (!open_) pending_ = std::current_exception();
     }
 }
 

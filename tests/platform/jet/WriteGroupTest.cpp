@@ -1,14 +1,18 @@
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <chrono>
 #include <csignal>
 #include <thread>
 
 #include "platform/jet/Action.h"
+#include "platform/jet/StoreFile.h"
 #include "platform/jet/StoreFixture.h"
 #include "platform/jet/Workspace.h"
+#include "platform/jet/WriteGroup.h"
 
 namespace akarix {
 namespace {
@@ -104,6 +108,66 @@ TEST_F(WriteGroupTest, AFailedStatementTakesNothingWithIt) {
     EXPECT_EQ(ErrorOf([&] { addOrRaise(2); }), 3022);
     add(*database_, 3);
     EXPECT_EQ(seen(), 3) << "outside an action, too";
+}
+
+/// Lets the timer of a waiting group run out.
+void Wait() {
+    for (int i = 0; i < 80; ++i) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+}
+
+TEST_F(WriteGroupTest, ATimedCommitThatTheFileHasNoRoomForIsTold) {
+    int none = 0;
+    const QCoreApplication application(none, nullptr);
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit whole{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &whole), 0);
+    const rlimit full{static_cast<rlim_t>(QFileInfo(path()).size()), whole.rlim_max};
+    const auto fill = [&] {
+        add(*database_, 1);
+        database_->Execute("UPDATE Goods SET Kana='ｱ'");
+        for (int code = 2; code < 400; ++code) {
+            database_->engine().insertRow(*database_->engine().catalogue().find("Goods"), {"Code", "Kana"},
+                                          {std::int64_t{code}, "ｱｲｳｴｵｶｷｸｹｺ"});
+        }
+    };
+    EXPECT_NE(ErrorOf([&] {
+                  const Action action;
+                  fill();
+                  setrlimit(RLIMIT_FSIZE, &full);
+                  Wait();
+                  setrlimit(RLIMIT_FSIZE, &whole);
+              }),
+              0)
+        << "nothing else happened in the action, and still it ends with the error";
+    EXPECT_EQ(seen(), 0);
+    {
+        const Action action;
+        fill();
+    }
+    EXPECT_EQ(seen(), 399) << "told once, and the next action writes again";
+}
+
+TEST_F(WriteGroupTest, ATimedCommitThatFindsTheFileLockedIsMadeUpFor) {
+    int none = 0;
+    const QCoreApplication application(none, nullptr);
+    const Connection own = OpenStoreFile(path(), "secret1");
+    const Connection reader = OpenStoreFile(path(), "secret1");
+    sqlite3_busy_handler(own.get(), nullptr, nullptr);  // does not wait for the reader
+    akarix::Run(reader.get(), "BEGIN");
+    akarix::Run(reader.get(), "SELECT COUNT(*) FROM Goods");
+    {
+        WriteGroup group(own.get());
+        const Action action;
+        group.begin();
+        akarix::Run(own.get(), "INSERT INTO Goods(Code) VALUES(1)");
+        group.end();
+        Wait();
+        akarix::Run(reader.get(), "COMMIT");
+    }
+    EXPECT_EQ(seen(), 1);
 }
 
 /// Adds pairs of rows, one pair an action, and tells each that ended.
