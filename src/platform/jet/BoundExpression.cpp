@@ -43,7 +43,7 @@ struct SameHead {
     }
     bool operator()(const BoundLiteral& a, const BoundLiteral& b) const {
         return a.literal.kind == b.literal.kind && a.literal.value == b.literal.value &&
-               a.negated == b.negated && a.use == b.use && a.lifted == b.lifted;
+               a.negated == b.negated && a.use == b.use && a.lifted == b.lifted && a.target == b.target;
     }
     bool operator()(const BoundBoolean& a, const BoundBoolean& b) const { return a.value == b.value; }
     bool operator()(const BoundArithmetic& a, const BoundArithmetic& b) const { return a.op == b.op; }

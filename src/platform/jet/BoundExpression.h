@@ -27,6 +27,8 @@ struct BoundLiteral {
     int lifted = -1;
     bool negated = false;
     LiteralUse use = LiteralUse::Natural;
+    const ColumnDef* target =
+        nullptr;  ///< the column it goes into; none: it is only compared or computed with
 };
 
 struct BoundNull {};

@@ -4,6 +4,7 @@
 
 #include "platform/jet/Coercion.h"
 #include "platform/jet/DialectError.h"
+#include "platform/jet/StoreError.h"
 
 namespace akarix {
 namespace {
@@ -43,6 +44,18 @@ RuntimeError notUpdatable() {
     return dialectError(3073, QStringLiteral("更新可能なクエリであることが必要です。"));
 }
 
+/// What a new row must have and is not given.
+void checkRequired(const BoundInsert& bound) {
+    for (std::size_t i = 0; i < bound.table->columns.size(); ++i) {
+        const ColumnDef& column = bound.table->columns[i];
+        if (!column.required || column.zeroDefault) continue;
+        if (std::find(bound.columns.begin(), bound.columns.end(), static_cast<int>(i)) ==
+            bound.columns.end()) {
+            throw StoreError(3314, column.name);
+        }
+    }
+}
+
 }  // namespace
 
 BoundInsert ChangeBinder::bind(const ParsedInsert& parsed) {
@@ -50,6 +63,7 @@ BoundInsert ChangeBinder::bind(const ParsedInsert& parsed) {
     bound.table = queries_.tableNamed(parsed.table);
     bound.columns = columnsOf(parsed, *bound.table);
     if (!parsed.query) {
+        checkRequired(bound);
         if (parsed.values.size() != bound.columns.size()) throw countsDiffer();
         const Scope nothing;
         ExpressionBinder binder = queries_.expressions(nothing);
@@ -73,6 +87,7 @@ BoundInsert ChangeBinder::bind(const ParsedInsert& parsed) {
             bound.columns.push_back(column);
         }
     }
+    checkRequired(bound);
     for (BoundSelect& member : query->members) {
         if (member.items.size() != bound.columns.size()) throw countsDiffer();
         for (std::size_t i = 0; i < member.items.size(); ++i) {

@@ -17,6 +17,18 @@ void BindAll(sqlite3_stmt* statement, const StoreRow& values) {
     }
 }
 
+// The engine passes over rows whose key is taken and so cannot be told to take the others back on an error.
+void RunWhollyOrNot(sqlite3* connection, sqlite3_stmt* statement) {
+    Run(connection, "SAVEPOINT change");
+    try {
+        Run(connection, statement);
+    } catch (...) {
+        sqlite3_exec(connection, "ROLLBACK TO change;RELEASE change", nullptr, nullptr, nullptr);
+        throw;
+    }
+    Run(connection, "RELEASE change");
+}
+
 // Holds the file against writers, not against readers, while it lives.
 class SharedLock {
  public:
@@ -84,11 +96,15 @@ std::vector<StoreRow> CipherEngine::rows(const BoundStatement& statement) {
     return all;
 }
 
-void CipherEngine::write(sqlite3_stmt* statement, const StoreRow& values) {
+void CipherEngine::write(sqlite3_stmt* statement, const StoreRow& values, bool mayStopHalfway) {
     group_->begin();
     try {
         BindAll(statement, values);
-        Run(connection_.get(), statement);
+        if (mayStopHalfway) {
+            RunWhollyOrNot(connection_.get(), statement);
+        } else {
+            Run(connection_.get(), statement);
+        }
     } catch (...) {
         group_->failed();
         throw;
@@ -97,7 +113,7 @@ void CipherEngine::write(sqlite3_stmt* statement, const StoreRow& values) {
 
 std::int64_t CipherEngine::change(const BoundStatement& statement) {
     sqlite3* open = connection();
-    write(statements_->of(statement.plan), statement.arguments);
+    write(statements_->of(statement.plan), statement.arguments, statement.plan->computes);
     const int changed = sqlite3_changes(open);
     group_->end();
     return changed;

@@ -28,7 +28,7 @@ class CipherEngine final : public Engine {
 
  private:
     sqlite3* connection() const;
-    void write(sqlite3_stmt* statement, const StoreRow& values);
+    void write(sqlite3_stmt* statement, const StoreRow& values, bool mayStopHalfway = false);
 
     Connection connection_;
     Catalogue catalogue_;

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 
+#include "platform/jet/BoundQuery.h"
+#include "platform/jet/ColumnKind.h"
 #include "platform/jet/DialectError.h"
 #include "platform/jet/SqlFunctions.h"
+#include "platform/jet/StoreError.h"
 
 namespace akarix {
 namespace {
@@ -142,7 +145,9 @@ BoundPtr toKind(const BoundPtr& expression, Kind kind) {
     return expression;
 }
 
-BoundPtr toColumn(const BoundPtr& expression, const ColumnDef& column) {
+namespace {
+
+BoundPtr stored(const BoundPtr& expression, const ColumnDef& column) {
     const Kind kind = kindOf(column.type);
     const Kind given = expression->kind;
     if (given == Kind::Null) return expression;
@@ -178,6 +183,49 @@ BoundPtr toColumn(const BoundPtr& expression, const ColumnDef& column) {
             break;
     }
     return expression;
+}
+
+/// Whether every value comes from a column that holds nothing the other one cannot.
+bool comesFitting(const BoundExpression& expression, const ColumnDef& column) {
+    if (column.required) return false;
+    if (const auto* place = std::get_if<BoundColumn>(&expression.node)) {
+        if (place->table->derived) return false;
+        const ColumnDef& from = place->table->definition->columns[static_cast<std::size_t>(place->column)];
+        return from.type == column.type &&
+               (column.type != FieldType::Text || TextWidth(from) <= TextWidth(column));
+    }
+    const auto* aggregate = std::get_if<BoundAggregate>(&expression.node);
+    if (!aggregate) return false;
+    switch (aggregate->op) {
+        case AggregateOp::Min:
+        case AggregateOp::Max:
+        case AggregateOp::First:
+        case AggregateOp::Last:
+            return comesFitting(*aggregate->operand, column);
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+BoundPtr toColumn(const BoundPtr& expression, const ColumnDef& column) {
+    if (expression->kind == Kind::Null) {
+        if (column.required) throw StoreError(3314, column.name);
+        return expression;
+    }
+    const BoundPtr value = stored(expression, column);
+    if (const auto* literal = std::get_if<BoundLiteral>(&value->node)) {
+        // What it says is looked at when the statement is given its values, which costs the engine nothing.
+        BoundLiteral aimed = *literal;
+        aimed.target = &column;
+        return makeBound(aimed, value->kind, value.get());
+    }
+    if (comesFitting(*value, column)) return value;
+    return makeBound(BoundCall{&sqlFunction("akarix_fit"),
+                               {value, makeWhole(static_cast<int>(column.type)), makeWhole(column.size),
+                                makeWhole(column.required ? 1 : 0)}},
+                     value->kind, value.get());
 }
 
 Kind commonKind(Kind a, Kind b) {

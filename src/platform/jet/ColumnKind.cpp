@@ -75,6 +75,24 @@ QByteArray Check(const ColumnDef& column) {
                : length + " BETWEEN 1 AND " + QByteArray::number(TextWidth(column));
 }
 
+/// Whether a value is a number that a column of numbers can hold.
+bool InRange(const KindForm& form, const StoreValue& value) {
+    const auto* whole = std::get_if<std::int64_t>(&value);
+    if (form.storage == Storage::Whole) {
+        if (!whole || form.type == FieldType::Currency) {
+            return whole;
+        }
+        const auto number = static_cast<double>(*whole);
+        return number >= form.low && number <= form.high;
+    }
+    const auto* real = std::get_if<double>(&value);
+    if (!whole && !real) {
+        return false;
+    }
+    const double number = whole ? static_cast<double>(*whole) : *real;
+    return number >= form.low && number <= form.high;
+}
+
 }  // namespace
 
 QByteArray ColumnDeclaration(const ColumnDef& column) {
@@ -124,25 +142,33 @@ bool Fits(const ColumnDef& column, const StoreValue& value) {
         return true;
     }
     const KindForm& form = FormOf(column.type);
+    if (form.storage != Storage::Text) {
+        return InRange(form, value);
+    }
+    const auto* text = std::get_if<QString>(&value);
+    return text && !text->isEmpty() &&
+           (column.type == FieldType::Memo || text->size() <= 2 * TextWidth(column));
+}
+
+int MisfitOf(const ColumnDef& column, const StoreValue& value) {
+    if (std::holds_alternative<std::monostate>(value)) {
+        return column.required ? 3314 : 0;
+    }
+    const KindForm& form = FormOf(column.type);
     const auto* text = std::get_if<QString>(&value);
     if (form.storage == Storage::Text) {
-        return text && !text->isEmpty() &&
-               (column.type == FieldType::Memo || text->size() <= 2 * TextWidth(column));
-    }
-    const auto* whole = std::get_if<std::int64_t>(&value);
-    const auto* real = std::get_if<double>(&value);
-    if (form.storage == Storage::Whole) {
-        if (!whole) {
-            return false;
+        if (!text) {
+            return 3421;
         }
-        const auto number = static_cast<double>(*whole);
-        return column.type == FieldType::Currency || (number >= form.low && number <= form.high);
+        if (text->isEmpty()) {
+            return 3315;
+        }
+        return column.type == FieldType::Text && text->size() > TextWidth(column) ? 3163 : 0;
     }
-    if (!whole && !real) {
-        return false;
+    if (text) {
+        return 3421;
     }
-    const double number = whole ? static_cast<double>(*whole) : *real;
-    return number >= form.low && number <= form.high;
+    return InRange(form, value) ? 0 : 6;
 }
 
 }  // namespace akarix

@@ -10,8 +10,8 @@
 namespace akarix {
 
 /// How a kind of column stands in the file: a declared type that names the kind and gives the engine the
-/// right affinity, and a check that makes the engine itself refuse what the kind cannot hold, so that
-/// OR IGNORE drops such rows.
+/// right affinity, and a check that makes the engine itself refuse what the kind cannot hold, should anything
+/// get past MisfitOf.
 ///
 /// The name, type, default and check of a column, as CREATE TABLE and ADD COLUMN take them.
 QByteArray ColumnDeclaration(const ColumnDef& column);
@@ -27,5 +27,9 @@ int KindSize(FieldType type, int textWidth);
 
 /// Whether a stored value is one the column can have been given.
 bool Fits(const ColumnDef& column, const StoreValue& value);
+
+/// The number of the error that a value on its way into the column meets: 6 out of range, 3163 too long, 3315
+/// an empty text, 3421 another kind, 3314 Null where one is required. 0 when it fits.
+int MisfitOf(const ColumnDef& column, const StoreValue& value);
 
 }  // namespace akarix

@@ -40,12 +40,9 @@ Variant WholeVariant(const StoreValue& value) {
 }
 
 StoreValue StoredText(const ColumnDef& column, const Variant& value) {
-    QString text = CStr(value);
-    if (text.isEmpty()) {
-        throw StoreError(3315, column.name);
-    }
-    if (column.type == FieldType::Text && text.size() > TextWidth(column)) {
-        throw StoreError(3163, column.name);
+    StoreValue text = CStr(value);
+    if (const int misfit = MisfitOf(column, text)) {
+        throw StoreError(misfit, column.name);
     }
     return text;
 }

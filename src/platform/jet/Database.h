@@ -16,8 +16,9 @@ class Database {
  public:
     ~Database();
 
-    /// Runs an action query or a definition. Rows that break a key, a kind or a width are dropped without a
-    /// word; a statement that cannot be understood raises.
+    /// Runs an action query or a definition. Rows whose key is taken are passed over; a value that does not
+    /// fit its column raises (6 out of range, 3163 too long, see MisfitOf) and leaves nothing of the
+    /// statement.
     void Execute(const QString& sql);
     Recordset OpenRecordset(const QString& sql);
     /// Rows changed by the last Execute.

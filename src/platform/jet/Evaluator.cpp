@@ -4,6 +4,7 @@
 
 #include "platform/jet/LikePattern.h"
 #include "platform/jet/SqlFunctions.h"
+#include "platform/jet/TextFold.h"
 #include "platform/runtime/Currency.h"
 #include "platform/runtime/RuntimeError.h"
 
@@ -28,8 +29,7 @@ double real(const StoreValue& value) {
 
 std::optional<int> order(const StoreValue& a, const StoreValue& b) {
     if (isNull(a) || isNull(b)) return std::nullopt;
-    if (const auto* text = std::get_if<QString>(&a))
-        return text->compare(std::get<QString>(b), Qt::CaseInsensitive);
+    if (const auto* text = std::get_if<QString>(&a)) return compareTexts(*text, std::get<QString>(b));
     const auto* left = std::get_if<std::int64_t>(&a);
     const auto* right = std::get_if<std::int64_t>(&b);
     if (left && right) return *left < *right ? -1 : *left > *right ? 1 : 0;

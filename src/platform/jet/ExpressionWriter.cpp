@@ -4,7 +4,7 @@
 namespace akarix {
 namespace {
 
-constexpr char kFold[] = " COLLATE AKARIX_NOCASE";
+constexpr char kFold[] = " COLLATE AKARIX_TEXT";
 
 const char* symbolOf(CompareOp op) {
     switch (op) {
@@ -145,10 +145,10 @@ void Writer::node(const BoundColumn& n) {
 
 void Writer::node(const BoundLiteral& n) {
     if (n.lifted < 0) {
-        constant(literalValue(n.literal, n.negated, n.use));
+        constant(literalFor(n.target, n.literal, n.negated, n.use));
         return;
     }
-    const Slot slot{n.lifted, n.negated, n.use};
+    const Slot slot{n.lifted, n.negated, n.use, n.target};
     std::size_t place = 0;
     while (place < parameters_.size() && !(parameters_[place] == slot))
         ++place;
@@ -204,6 +204,7 @@ void Writer::node(const BoundConversion& n) {
 }
 
 void Writer::node(const BoundCall& n) {
+    computes_ = true;
     out_ += n.function->name;
     out_ += '(';
     list(n.arguments);
@@ -228,6 +229,7 @@ void Writer::node(const BoundChoice& n) {
 }
 
 void Writer::node(const BoundAggregate& n) {
+    computes_ = true;
     out_ += akarix::nameOf(n.op);
     out_ += '(';
     if (!n.operand) {
@@ -285,6 +287,7 @@ void Writer::test(const BoundIsNull& n) {
 }
 
 void Writer::test(const BoundLike& n) {
+    computes_ = true;
     if (n.negated) out_ += "NOT ";
     out_ += "akarix_like(";
     value(*n.pattern);
@@ -293,20 +296,20 @@ void Writer::test(const BoundLike& n) {
     out_ += ')';
 }
 
-void Writer::foldCase(const BoundExpression& expression) {
+void Writer::folded(const BoundExpression& expression) {
     value(expression);
     if (expression.kind == Kind::Text) out_ += kFold;
 }
 
 void Writer::test(const BoundInList& n) {
-    foldCase(*n.operand);
+    folded(*n.operand);
     out_ += n.negated ? " NOT IN (" : " IN (";
     list(n.items);
     out_ += ')';
 }
 
 void Writer::test(const BoundInQuery& n) {
-    foldCase(*n.operand);
+    folded(*n.operand);
     out_ += n.negated ? " NOT IN (" : " IN (";
     Shape shape;
     shape.ordered = false;

@@ -1,12 +1,29 @@
 #include "platform/jet/LikePattern.h"
 
+#include "platform/jet/TextFold.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
 namespace {
 
-char16_t folded(QChar c) {
-    return c.toCaseFolded().unicode();
+// Only the half-width signs are wildcards. In a folded pattern their full-width counterparts, which stand for
+// themselves, hide behind code points that no text has.
+const QString kWideSigns = QStringLiteral("＊？＃［］！－−");
+constexpr char16_t kSigns[] = u"*?#[]!--";
+constexpr char16_t kFirstHidden = 0xFDD0;
+
+QString foldedPattern(QString pattern) {
+    for (QChar& c : pattern) {
+        const qsizetype sign = kWideSigns.indexOf(c);
+        if (sign >= 0) c = QChar(static_cast<char16_t>(kFirstHidden + sign));
+    }
+    return foldText(pattern);
+}
+
+/// A character of a folded pattern as it stands in a folded text.
+char16_t meant(QChar c) {
+    const int hidden = c.unicode() - kFirstHidden;
+    return hidden >= 0 && hidden < kWideSigns.size() ? kSigns[hidden] : c.unicode();
 }
 
 /// One element of a pattern other than "*": how long it is and whether it takes a character.
@@ -16,11 +33,11 @@ struct Element {
 };
 
 bool listHolds(QStringView list, QChar c) {
-    const char16_t wanted = folded(c);
+    const char16_t wanted = c.unicode();
     for (qsizetype i = 0; i < list.size(); ++i) {
-        const char16_t low = folded(list[i]);
+        const char16_t low = meant(list[i]);
         if (i + 2 < list.size() && list[i + 1] == u'-') {
-            const char16_t high = folded(list[i + 2]);
+            const char16_t high = meant(list[i + 2]);
             if (low <= wanted && wanted <= high) return true;
             i += 2;
         } else if (low == wanted) {
@@ -46,7 +63,7 @@ Element elementAt(QStringView pattern, QChar c) {
             return {end + 1, listHolds(list, c) != others};
         }
         default:
-            return {1, folded(pattern.front()) == folded(c)};
+            return {1, meant(pattern.front()) == c.unicode()};
     }
 }
 
@@ -58,10 +75,8 @@ void checkLists(QStringView pattern) {
     }
 }
 
-}  // namespace
-
-bool likeMatches(QStringView pattern, QStringView text) {
-    checkLists(pattern);
+/// Both folded.
+bool foldedMatches(QStringView pattern, QStringView text) {
     // The place to go back to is that of the last "*" alone, which keeps the time to length times length.
     qsizetype p = 0;
     qsizetype t = 0;
@@ -99,6 +114,20 @@ bool likeMatches(QStringView pattern, QStringView text) {
         }
     }
     return true;
+}
+
+}  // namespace
+
+bool likeMatches(const QString& pattern, const QString& text) {
+    // A search holds row after row against one pattern.
+    static thread_local QString last;
+    static thread_local QString folded;
+    if (pattern != last) {
+        checkLists(pattern);
+        folded = foldedPattern(pattern);
+        last = pattern;
+    }
+    return foldedMatches(folded, foldText(text));
 }
 
 }  // namespace akarix

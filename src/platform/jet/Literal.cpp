@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "platform/jet/ColumnKind.h"
 #include "platform/jet/Rounding.h"
+#include "platform/jet/StoreError.h"
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/CDate.h"
 #include "platform/runtime/CDbl.h"
@@ -116,6 +118,14 @@ StoreValue negative(const StoreValue& value) {
 StoreValue literalValue(const Literal& literal, bool negated, LiteralUse use) {
     if (literal.kind == Literal::Kind::Text) return textAs(std::get<QString>(literal.value), use);
     return numberAs(literal, negated ? negative(literal.value) : literal.value, use);
+}
+
+StoreValue literalFor(const ColumnDef* target, const Literal& literal, bool negated, LiteralUse use) {
+    StoreValue value = literalValue(literal, negated, use);
+    if (target) {
+        if (const int misfit = MisfitOf(*target, value)) throw StoreError(misfit, target->name);
+    }
+    return value;
 }
 
 }  // namespace akarix

@@ -29,7 +29,10 @@ enum class LiteralUse {
 };
 
 /// The value to bind or to write. A text that cannot become what its column holds stays a text and a number
-/// too large a double: the column's check then refuses the row, as it does for values it meets at run time.
+/// too large a double.
 StoreValue literalValue(const Literal& literal, bool negated, LiteralUse use);
+
+/// The same for a literal that goes into a column, or into none: raises when it does not fit (MisfitOf).
+StoreValue literalFor(const ColumnDef* target, const Literal& literal, bool negated, LiteralUse use);
 
 }  // namespace akarix

@@ -41,6 +41,9 @@ struct Plan {
     QByteArray text;  ///< the engine's SQL, literals as ?1, ?2 ...
     int parameters = 0;
 
+    // Change
+    bool computes = false;  ///< it may end in an error with some of its rows changed already
+
     // Rows
     std::vector<ResultColumn> columns;
     /// One-table query: its table; the engine's row number comes behind the columns as one more value.

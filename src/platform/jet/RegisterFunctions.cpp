@@ -3,12 +3,13 @@
 #include <sqlcipher/sqlite3.h>
 #include <unicode/ucol.h>
 
-#include <cmath>
+#include <cstring>
 #include <memory>
 #include <new>
 #include <vector>
 
 #include "platform/jet/SqlFunctions.h"
+#include "platform/jet/TextFold.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -132,7 +133,10 @@ unsigned char foldedAscii(unsigned char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c + ('a' - 'A')) : c;
 }
 
-int compareNoCase(void*, int lengthA, const void* a, int lengthB, const void* b) {
+/// \param compare what is done with texts that are not plain.
+template <class Compare>
+int compareBytes(int lengthA, const void* a, int lengthB, const void* b, Compare compare) {
+    if (lengthA == lengthB && std::memcmp(a, b, static_cast<std::size_t>(lengthA)) == 0) return 0;
     if (isAscii(a, lengthA) && isAscii(b, lengthB)) {
         const auto* left = static_cast<const unsigned char*>(a);
         const auto* right = static_cast<const unsigned char*>(b);
@@ -142,9 +146,19 @@ int compareNoCase(void*, int lengthA, const void* a, int lengthB, const void* b)
         }
         return lengthA - lengthB;
     }
-    const QString left = QString::fromUtf8(static_cast<const char*>(a), lengthA);
-    const QString right = QString::fromUtf8(static_cast<const char*>(b), lengthB);
-    return left.compare(right, Qt::CaseInsensitive);
+    return compare(QString::fromUtf8(static_cast<const char*>(a), lengthA),
+                   QString::fromUtf8(static_cast<const char*>(b), lengthB));
+}
+
+/// The keys' own, which files carry in their schema and which so never changes.
+int compareNoCase(void*, int lengthA, const void* a, int lengthB, const void* b) {
+    return compareBytes(lengthA, a, lengthB, b, [](const QString& left, const QString& right) {
+        return left.compare(right, Qt::CaseInsensitive);
+    });
+}
+
+int compareAsTexts(void*, int lengthA, const void* a, int lengthB, const void* b) {
+    return compareBytes(lengthA, a, lengthB, b, compareTexts);
 }
 
 int compareInOrder(void* collator, int lengthA, const void* a, int lengthB, const void* b) {
@@ -175,6 +189,8 @@ void RegisterSqlFunctions(sqlite3* connection) {
     check(sqlite3_create_function_v2(connection, "akarix_last", -1, SQLITE_UTF8, nullptr, nullptr,
                                      keepStep<true>, keepFinal, nullptr));
     check(sqlite3_create_collation_v2(connection, "AKARIX_NOCASE", SQLITE_UTF8, nullptr, compareNoCase,
+                                      nullptr));
+    check(sqlite3_create_collation_v2(connection, "AKARIX_TEXT", SQLITE_UTF8, nullptr, compareAsTexts,
                                       nullptr));
 
     UErrorCode status = U_ZERO_ERROR;

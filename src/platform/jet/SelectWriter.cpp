@@ -120,7 +120,7 @@ void Writer::items(const BoundSelect& select, const Shape& shape) {
         const BoundExpression& expression = *select.items[i].expression;
         value(expression);
         if ((select.distinct || shape.foldTexts) && expression.kind == Kind::Text)
-            out_ += " COLLATE AKARIX_NOCASE";
+            out_ += " COLLATE AKARIX_TEXT";
         if (shape.aliased) out_ += " AS " + numbered('c', i);
     }
 }
@@ -168,7 +168,7 @@ void Writer::groupBy(const BoundSelect& select) {
     for (const BoundPtr& group : select.groups) {
         if (isConstant(*group)) continue;
         groups += (groups.isEmpty() ? "" : ",") + valueText(*group);
-        if (group->kind == Kind::Text) groups += " COLLATE AKARIX_NOCASE";
+        if (group->kind == Kind::Text) groups += " COLLATE AKARIX_TEXT";
     }
     if (select.distinctRow && !select.grouped) {
         for (const BoundTable* table : contributing(select)) {

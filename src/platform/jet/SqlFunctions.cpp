@@ -5,8 +5,10 @@
 #include <cmath>
 #include <cstring>
 
+#include "platform/jet/ColumnKind.h"
 #include "platform/jet/LikePattern.h"
 #include "platform/jet/Rounding.h"
+#include "platform/jet/TextFold.h"
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/CDate.h"
 #include "platform/runtime/CDbl.h"
@@ -18,6 +20,7 @@
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Int.h"
 #include "platform/runtime/RuntimeError.h"
+#include "platform/runtime/Trim.h"
 #include "platform/runtime/Val.h"
 
 namespace akarix {
@@ -62,7 +65,7 @@ qsizetype length(const StoreValue& value) {
     return static_cast<qsizetype>(number);
 }
 
-/// A text on its way into a column: converted, or left for the column's check to refuse.
+/// A text on its way into a column: converted, or left to be refused there.
 template <class Convert>
 StoreValue stored(const StoreValue& value, Convert convert) {
     try {
@@ -70,6 +73,16 @@ StoreValue stored(const StoreValue& value, Convert convert) {
     } catch (const RuntimeError&) {
         return value;
     }
+}
+
+/// The value, when it fits a column of that type, width and requirement.
+StoreValue fitted(const StoreValue* a) {
+    ColumnDef column;
+    column.type = static_cast<FieldType>(whole(a[1]));
+    column.size = static_cast<int>(whole(a[2]));
+    column.required = whole(a[3]) != 0;
+    if (const int misfit = MisfitOf(column, a[0])) throw RuntimeError(misfit);
+    return a[0];
 }
 
 double roundedTo(double value, std::int64_t decimals) {
@@ -148,7 +161,7 @@ StoreValue absolute(const StoreValue* a) {
 }
 
 bool isBefore(const StoreValue& a, const StoreValue& b) {
-    if (const auto* left = std::get_if<QString>(&a)) return left->compare(text(b), Qt::CaseInsensitive) < 0;
+    if (const auto* left = std::get_if<QString>(&a)) return compareTexts(*left, text(b)) < 0;
     const auto* left = std::get_if<std::int64_t>(&a);
     const auto* right = std::get_if<std::int64_t>(&b);
     return left && right ? *left < *right : real(a) < real(b);
@@ -165,19 +178,6 @@ StoreValue between(const StoreValue* a) {
 StoreValue sign(const StoreValue* a) {
     const double number = real(a[0]);
     return std::int64_t{number > 0 ? 1 : number < 0 ? -1 : 0};
-}
-
-QString trimmedLeft(const QString& value) {
-    qsizetype from = 0;
-    while (from < value.size() && value[from] == u' ')
-        ++from;
-    return value.sliced(from);
-}
-
-QString trimmedRight(QString value) {
-    while (value.endsWith(u' '))
-        value.chop(1);
-    return value;
 }
 
 using Values = const StoreValue*;
@@ -252,12 +252,9 @@ const std::array kFunctions = {
     SqlFunction{"akarix_mid", 3, false, true, mid},
     SqlFunction{"akarix_len", 1, false, true,
                 [](Values a) -> StoreValue { return std::int64_t{text(a[0]).size()}; }},
-    SqlFunction{"akarix_trim", 1, false, true,
-                [](Values a) -> StoreValue { return trimmedLeft(trimmedRight(text(a[0]))); }},
-    SqlFunction{"akarix_ltrim", 1, false, true,
-                [](Values a) -> StoreValue { return trimmedLeft(text(a[0])); }},
-    SqlFunction{"akarix_rtrim", 1, false, true,
-                [](Values a) -> StoreValue { return trimmedRight(text(a[0])); }},
+    SqlFunction{"akarix_trim", 1, false, true, [](Values a) -> StoreValue { return Trim(text(a[0])); }},
+    SqlFunction{"akarix_ltrim", 1, false, true, [](Values a) -> StoreValue { return LTrim(text(a[0])); }},
+    SqlFunction{"akarix_rtrim", 1, false, true, [](Values a) -> StoreValue { return RTrim(text(a[0])); }},
     SqlFunction{"akarix_ucase", 1, false, true, [](Values a) -> StoreValue { return text(a[0]).toUpper(); }},
     SqlFunction{"akarix_lcase", 1, false, true, [](Values a) -> StoreValue { return text(a[0]).toLower(); }},
     SqlFunction{"akarix_instr", 3, false, true, instr},
@@ -269,7 +266,8 @@ const std::array kFunctions = {
                 [](Values a) -> StoreValue { return Format(Date(real(a[0])), text(a[1])); }},
     SqlFunction{"akarix_format_text", 2, false, true,
                 [](Values a) -> StoreValue { return Format(text(a[0]), text(a[1])); }},
-    // Texts on their way into columns of other kinds
+    // Values on their way into columns, texts first into other kinds
+    SqlFunction{"akarix_fit", 4, true, true, fitted},
     SqlFunction{
         "akarix_store_whole", 1, false, true,
         [](Values a) { return stored(a[0], [](const Variant& v) { return wholeFromReal(CDbl(v)); }); }},

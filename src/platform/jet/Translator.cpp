@@ -62,6 +62,7 @@ struct Planner {
     static CachedPlan change(const Writer& writer) {
         Plan plan;
         plan.kind = Plan::Kind::Change;
+        plan.computes = writer.computes();
         return finished(std::move(plan), writer);
     }
     static CachedPlan finished(Plan plan, const Writer& writer) {
@@ -76,7 +77,7 @@ BoundStatement withArguments(const CachedPlan& plan, const std::vector<Literal>&
     bound.arguments.reserve(plan.parameters.size());
     for (const Slot& slot : plan.parameters) {
         bound.arguments.push_back(
-            literalValue(literals[static_cast<std::size_t>(slot.lifted)], slot.negated, slot.use));
+            literalFor(slot.target, literals[static_cast<std::size_t>(slot.lifted)], slot.negated, slot.use));
     }
     return bound;
 }

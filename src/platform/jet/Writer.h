@@ -12,6 +12,7 @@ struct Slot {
     int lifted;
     bool negated;
     LiteralUse use;
+    const ColumnDef* target = nullptr;  ///< the column it must fit, as the catalogue has it
 
     friend bool operator==(const Slot&, const Slot&) = default;
 };
@@ -27,6 +28,8 @@ class Writer {
 
     const QByteArray& text() const { return out_; }
     const std::vector<Slot>& parameters() const { return parameters_; }
+    /// Whether a value is computed that may turn out an error when some rows are changed already.
+    bool computes() const { return computes_; }
 
  private:
     struct OrderTerm {
@@ -42,7 +45,7 @@ class Writer {
         bool ordered = true;
         bool aliased = false;    // columns are named c0, c1 ... for a query around
         bool rowNumber = false;  // as the last column, named r
-        bool foldTexts = false;  // texts that differ in case are the same
+        bool foldTexts = false;  // texts that compare as equal are the same
     };
 
     // Expressions
@@ -71,7 +74,7 @@ class Writer {
     void test(const BoundInQuery& n);
     void test(const BoundExists& n);
     void logicOperand(const BoundPtr& operand, LogicOp op);
-    void foldCase(const BoundExpression& expression);
+    void folded(const BoundExpression& expression);
     void constant(const StoreValue& constant);
 
     // Queries
@@ -101,6 +104,7 @@ class Writer {
 
     QByteArray out_;
     std::vector<Slot> parameters_;
+    bool computes_ = false;
     const BoundTable* itself_ = nullptr;     ///< the table of a change, which has no other name than its own
     int tops_ = 0;                           ///< levels of TOP around the place being written
     const BoundRows* aggregated_ = nullptr;  ///< the rows of the query being written, for First and Last

@@ -103,6 +103,17 @@ TEST_F(RecordsetTest, AddsBehindTheRowsAndKeepsItsPlace) {
     EXPECT_EQ(code(unread), 0) << "it belongs to the set, whatever the condition";
     EXPECT_EQ(unread.RecordCount(), 4);
 
+    Recordset fitting = rows(" WHERE Code<3 AND Code>0");
+    fitting.AddNew();
+    fitting.Fields("Code") = 1.0;
+    EXPECT_EQ(ErrorOf([&] { fitting.Update(); }), 3022);
+    database_->Execute("DELETE * FROM Goods WHERE Code=1");
+    fitting.Update();
+    EXPECT_EQ(code(fitting), 2) << "the added row stands behind those read, and once";
+    fitting.MoveLast();
+    EXPECT_EQ(code(fitting), 1);
+    EXPECT_EQ(fitting.RecordCount(), 2);
+
     Recordset empty = rows(" WHERE Code=99");
     EXPECT_TRUE(empty.Eof());
     empty.AddNew();
@@ -174,7 +185,14 @@ TEST_F(RecordsetTest, RefusesByNumber) {
     }
     EXPECT_EQ(code(set), 2) << "half to even; a refused value changes nothing";
     EXPECT_EQ(set["Kana"], Variant(u"123"));
-    EXPECT_EQ(ErrorOf([&] { set.Update(); }), 3022);
+    try {
+        set.Update();
+        ADD_FAILURE() << "two rows under one key";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), 3022);
+        EXPECT_TRUE(error.description().endsWith("変更を行えませんでした。 (Goods.Code)"))
+            << "no word of the engine's own language";
+    }
     EXPECT_EQ(put(u"Code", std::int32_t{5}), 0) << "a broken key can be mended";
     set.Update();
 
@@ -193,6 +211,36 @@ TEST_F(RecordsetTest, RefusesByNumber) {
     EXPECT_EQ(ErrorOf([&] { set.Close(); }), 3420);
     EXPECT_EQ(ErrorOf([&] { set.MoveFirst(); }), 3420);
     EXPECT_EQ(ErrorOf([&] { database_->Execute("SELECT * FROM Goods"); }), 3065);
+}
+
+TEST_F(RecordsetTest, ReadsAndWritesWhenItsPlanIsForgotten) {
+    Recordset unread = rows(" WHERE Code=2");
+    Recordset edited = rows(" WHERE Code=3");
+    edited.Edit();
+    edited.Fields("Rte") = std::int16_t{5};
+    const auto open = [&](int form) {
+        return database_->OpenRecordset(QString("SELECT Code+%1 AS v%1 FROM Goods WHERE Code=1").arg(form));
+    };
+    const auto ask = [&](int form) {
+        EXPECT_EQ(open(form)[QString("v%1").arg(form)], Variant(std::int32_t{form + 1}));
+    };
+    // More forms than are kept: read, translated alone, and read again.
+    for (int form = 0; form < 300; ++form)
+        ask(form);
+    for (int form = 300; form < 900; ++form)
+        open(form);
+    for (int form = 900; form-- > 0;)
+        ask(form);
+    // One that always comes behind another, between new ones: its place is given up, and it is asked for
+    // again.
+    for (int form = 1000; form < 1600; ++form) {
+        open(form);
+        ask(1);
+        ask(2);
+    }
+    EXPECT_EQ(code(unread), 2);
+    edited.Update();
+    EXPECT_EQ(rows(" WHERE Rte=5")["Code"], Variant(std::int32_t{3}));
 }
 
 TEST_F(RecordsetTest, FieldsTellTheirKindAndFollowTheirSet) {
