@@ -7,10 +7,12 @@
 #include "billing/Tto.h"
 #include "dialogs/ShowAlert.h"
 #include "platform/forms/FieldLayout.h"
+#include "platform/forms/LongRun.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
+#include "platform/runtime/RuntimeError.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
@@ -199,8 +201,18 @@ void Seikyu_frm::runBilling() {
     }
     const int nendo = CLng(KeepNumeric(ebox(kYear).Text()));
     const int getudo = CLng(KeepNumeric(ebox(kMonth).Text()));
-    BuildMonthLedger(nendo, getudo, creation);
-    CarryForwardMonth(nendo, getudo);
+    try {
+        // One action to the session's end: only the operator leaves it half-way, and is told how to go on.
+        LongRun run(QStringLiteral("請求データの作成"), LongRun::AtSessionEnd::GoesOn);
+        BuildMonthLedger(nendo, getudo, creation, run);
+        CarryForwardMonth(nendo, getudo, run);
+    } catch (const RuntimeError& error) {
+        if (error.number() != CancelledByOperator) throw;
+        ShowAlert(
+            QStringLiteral("中止しました。この月の集計は途中です。\n"
+                           "もう一度「請求データの作成」を押すと、初めから集計し直します。"));
+        return;
+    }
     ShowAlert(QStringLiteral("集計しました。"));
 }
 

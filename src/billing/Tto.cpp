@@ -29,13 +29,15 @@ QString ofLedgerRow(std::int32_t deal, int nendo, int getudo) {
 }
 
 /// Walks a whole set. Its rows are counted in 16 bits: more than 32,767 raise 6.
-void forEachRow(const QString& sql, const std::function<void(Recordset&)>& visit) {
+void forEachRow(const QString& sql, const std::function<void(Recordset&)>& visit,
+                Progress& progress = Progress::Silent()) {
     Recordset set = gDb->OpenRecordset(sql);
     if (!set.Eof()) {
         set.MoveLast();
         const std::int16_t count = CInt(set.RecordCount());
         set.MoveFirst();
         for (std::int16_t i = 0; i < count; ++i) {
+            progress.step(i, count);
             visit(set);
             set.MoveNext();
         }
@@ -109,47 +111,62 @@ std::int32_t removeLeaseSlip(int nendo, int getudo, std::int32_t deal) {
 
 }  // namespace
 
-void BuildMonthLedger(int nendo, int getudo, Date creation) {
+void BuildMonthLedger(int nendo, int getudo, Date creation, Progress& progress) {
     clearSalesWithoutSlips(nendo, getudo);
+    progress.stage(QStringLiteral("検針"), true);
     forEachRow(
         QStringLiteral("SELECT * FROM Dgd ") + ofMonth(nendo, getudo) + QStringLiteral(" ORDER BY Deal"),
         [=](Recordset& set) {
             PutGGaku(nendo, getudo, longOf(set[QStringLiteral("Deal")]),
                      moneyOf(set[QStringLiteral("Gaku")]));
-        });
+        },
+        progress);
+    progress.stage(QStringLiteral("リース料"), true);
     forEachRow(
-        QStringLiteral("SELECT * FROM Deal  WHERE ACU=1 OR Keihou=1  ORDER BY Code"), [=](Recordset& set) {
+        QStringLiteral("SELECT * FROM Deal  WHERE ACU=1 OR Keihou=1  ORDER BY Code"),
+        [=](Recordset& set) {
             MakeLeaseSlip(nendo, getudo, creation, longOf(set[QStringLiteral("Code")]),
                           integerOf(set[QStringLiteral("ACU")]), integerOf(set[QStringLiteral("Keihou")]),
                           integerOf(set[QStringLiteral("TankaPtn")]));
-        });
+        },
+        progress);
     // After the lease slips, so that they are in the sum.
-    forEachRow(QStringLiteral("SELECT Deal, SUM(Gaku) AS tGaku  FROM  Dud ") + ofMonth(nendo, getudo) +
-                   QStringLiteral(" GROUP BY Deal  ORDER BY Deal"),
-               [=](Recordset& set) {
-                   PutUGaku(nendo, getudo, longOf(set[QStringLiteral("Deal")]),
-                            moneyOf(set[QStringLiteral("tGaku")]));
-               });
-    forEachRow(QStringLiteral("SELECT Deal, SUM(Gaku) AS tGaku  FROM Dny ") + ofMonth(nendo, getudo) +
-                   QStringLiteral(" GROUP BY Deal  ORDER BY Deal"),
-               [=](Recordset& set) {
-                   PutNGaku(nendo, getudo, longOf(set[QStringLiteral("Deal")]),
-                            moneyOf(set[QStringLiteral("tGaku")]));
-               });
+    progress.stage(QStringLiteral("売上"), true);
+    forEachRow(
+        QStringLiteral("SELECT Deal, SUM(Gaku) AS tGaku  FROM  Dud ") + ofMonth(nendo, getudo) +
+            QStringLiteral(" GROUP BY Deal  ORDER BY Deal"),
+        [=](Recordset& set) {
+            PutUGaku(nendo, getudo, longOf(set[QStringLiteral("Deal")]),
+                     moneyOf(set[QStringLiteral("tGaku")]));
+        },
+        progress);
+    progress.stage(QStringLiteral("入金"), true);
+    forEachRow(
+        QStringLiteral("SELECT Deal, SUM(Gaku) AS tGaku  FROM Dny ") + ofMonth(nendo, getudo) +
+            QStringLiteral(" GROUP BY Deal  ORDER BY Deal"),
+        [=](Recordset& set) {
+            PutNGaku(nendo, getudo, longOf(set[QStringLiteral("Deal")]),
+                     moneyOf(set[QStringLiteral("tGaku")]));
+        },
+        progress);
     gDb->Execute(QStringLiteral("UPDATE TtoD SET Gaku = GGaku+UGaku ") + ofMonth(nendo, getudo));
     rememberClosingDate(nendo, getudo, creation);
 }
 
-void CarryForwardMonth(int nendo, int getudo) {
-    forEachRow(QStringLiteral("SELECT Deal.Code FROM Deal"), [=](Recordset& set) {
-        const std::int32_t deal = longOf(set[QStringLiteral("Code")]);
-        Currency zenkaiGaku;
-        int syokiFlg = 0;
-        ReadLedgerHead(deal, nendo, getudo, zenkaiGaku, syokiFlg);
-        if (syokiFlg == 0) {
-            PutZenkaiGaku(deal, nendo, getudo, moneyOf(PriorBalance(deal, nendo, getudo)));
-        }
-    });
+void CarryForwardMonth(int nendo, int getudo, Progress& progress) {
+    progress.stage(QStringLiteral("繰越"), false);
+    forEachRow(
+        QStringLiteral("SELECT Deal.Code FROM Deal"),
+        [=](Recordset& set) {
+            const std::int32_t deal = longOf(set[QStringLiteral("Code")]);
+            Currency zenkaiGaku;
+            int syokiFlg = 0;
+            ReadLedgerHead(deal, nendo, getudo, zenkaiGaku, syokiFlg);
+            if (syokiFlg == 0) {
+                PutZenkaiGaku(deal, nendo, getudo, moneyOf(PriorBalance(deal, nendo, getudo)));
+            }
+        },
+        progress);
 }
 
 void PutGGaku(int nendo, int getudo, std::int32_t deal, Currency amount) {

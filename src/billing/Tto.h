@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include "platform/runtime/Progress.h"
 #include "platform/runtime/Variant.h"
 #include "store/CustomerMonth.h"
 
@@ -12,11 +13,13 @@ namespace akarix {
 // again completes it.
 
 /// Rolls the month's readings, lease slips, sales and payments into the ledger and remembers the creation
-/// date as the month's closing date. Raises 6 for a lease fee or a number of rows above 32,767.
-void BuildMonthLedger(int nendo, int getudo, Date creation);
+/// date as the month's closing date. Raises 6 for a lease fee or a number of rows above 32,767; 32755 when it
+/// is stopped between two customers, which it may be until the sums are drawn.
+void BuildMonthLedger(int nendo, int getudo, Date creation, Progress& progress = Progress::Silent());
 /// Gives every customer a row of the month, with the balance carried in unless it was set by hand. Months
-/// after it keep what they have. Raises 6 above 32,767 customers.
-void CarryForwardMonth(int nendo, int getudo);
+/// after it keep what they have. Raises 6 above 32,767 customers. Not to be stopped: the month counts as
+/// closed.
+void CarryForwardMonth(int nendo, int getudo, Progress& progress = Progress::Silent());
 /// Set, not add: the gas charge, the sales, the payments of a customer's month.
 void PutGGaku(int nendo, int getudo, std::int32_t deal, Currency amount);
 void PutUGaku(int nendo, int getudo, std::int32_t deal, Currency amount);

@@ -1,8 +1,8 @@
 #include "debit/BankStatement.h"
 
 #include "debit/DebitQuery.h"
+#include "output/PrintRun.h"
 #include "output/PrintTrap.h"
-#include "platform/print/PrinterDialog.h"
 #include "platform/runtime/Format.h"
 #include "store/Consignor.h"
 #include "store/Lookup.h"
@@ -71,7 +71,7 @@ void BankStatement::PrintOutDetailGokei(int /*line*/, int /*firstRow*/, int /*pa
 
 void PrintBankStatement(int bank, int nendo, int getudo) {
     TrapPrinting([=] {
-        ShowPrinter();
+        const PrintRun run(QStringLiteral("口座振替明細表"));
         Recordset set = gDb->OpenRecordset(DebitQuery(bank, nendo, getudo));
         if (set.Eof()) return;
         BankStatement statement(QStringLiteral("Bnk"), bank, nendo, getudo);

@@ -6,8 +6,8 @@
 #include "debit/DebitRecords.h"
 #include "dialogs/ShowAlert.h"
 #include "output/EX.h"
+#include "output/PrintRun.h"
 #include "output/PrintTrap.h"
-#include "platform/print/PrinterDialog.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
@@ -60,16 +60,17 @@ void PostStatement::run(Recordset set) {
     ExcelOpen(QStringLiteral("郵便局口座振替明細表"));
     beginPage();
     while (count_ < records) {
+        PrintRun::Count(count_, records);
         if (line_ == kPageLines) {
             writePageTotal();
-            ExcelPrintPage();
+            ExcelPrintPage(true);
             beginPage();
         }
         writeLine(ReadDebitRow(set));
         set.MoveNext();
     }
     if (line_ >= kPageLines - kClosingLines) {
-        ExcelPrintPage();
+        ExcelPrintPage(true);
         beginPage();
     }
     writeClosing();
@@ -128,7 +129,7 @@ void PostStatement::writeClosing() const {
 
 void PrintPostStatement(int nendo, int getudo, const QString& creation, Date opened) {
     TrapPrinting([&] {
-        ShowPrinter();
+        const PrintRun run(QStringLiteral("郵便局口座振替明細表"));
         Recordset set = gDb->OpenRecordset(DebitQuery(kPostOffice, nendo, getudo));
         if (set.Eof()) {
             ShowAlert(QStringLiteral("該当データが有りません。"));

@@ -1,7 +1,9 @@
 #include "debit/TotalSheet.h"
 
+#include <functional>
+
 #include "output/EX.h"
-#include "platform/print/PrinterDialog.h"
+#include "output/PrintRun.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/Consignor.h"
@@ -11,19 +13,22 @@ namespace akarix {
 
 namespace {
 
-bool choosePrinter() {
-    constexpr int kCancelled = 32755;
+const QString kTemplate = QStringLiteral("口座振替合計表");
+
+/// Nothing where the printer's dialog is cancelled.
+void printSheet(const std::function<void()>& fill) {
     try {
-        ShowPrinter();
-        return true;
+        const PrintRun run(kTemplate);
+        ExcelOpen(kTemplate);
+        fill();
+        ExcelPrintPage();
+        ExcelClose();
     } catch (const RuntimeError& error) {
-        if (error.number() == kCancelled) return false;
-        throw;
+        if (error.number() != CancelledByOperator) throw;
     }
 }
 
-void openSheet(const QString& title, const Consignor& consignor, const DebitTotals& totals) {
-    ExcelOpen(QStringLiteral("口座振替合計表"));
+void fillSheet(const QString& title, const Consignor& consignor, const DebitTotals& totals) {
     ExcelCell(QStringLiteral("A2"), title);
     ExcelCell(QStringLiteral("I5"), consignor.ItakuCode);
     ExcelCell(QStringLiteral("I6"), consignor.Itakusya);
@@ -32,27 +37,22 @@ void openSheet(const QString& title, const Consignor& consignor, const DebitTota
               Format(totals.total, QStringLiteral("##,###,##0")) + QStringLiteral("円"));
 }
 
-void printSheet() {
-    ExcelPrintPage();
-    ExcelClose();
-}
-
 }  // namespace
 
 void PrintBankTotalSheet(const Consignor& consignor, const DebitTotals& totals) {
-    if (!choosePrinter()) return;
-    openSheet(QStringLiteral("自払ＦＤ合計表"), consignor, totals);
-    // A bank tries only once: what the sheet says of a second date goes.
-    for (const char16_t* address : {u"C9", u"H9", u"I9"})
-        ExcelCell(QString::fromUtf16(address), {});
-    printSheet();
+    printSheet([&] {
+        fillSheet(QStringLiteral("自払ＦＤ合計表"), consignor, totals);
+        // A bank tries only once: what the sheet says of a second date goes.
+        for (const char16_t* address : {u"C9", u"H9", u"I9"})
+            ExcelCell(QString::fromUtf16(address), {});
+    });
 }
 
 void PrintPostTotalSheet(const Consignor& consignor, const DebitTotals& totals, const QString& again) {
-    if (!choosePrinter()) return;
-    openSheet(QStringLiteral("ゆうちょ銀行ＦＤ合計表"), consignor, totals);
-    ExcelCell(QStringLiteral("I9"), again);
-    printSheet();
+    printSheet([&] {
+        fillSheet(QStringLiteral("ゆうちょ銀行ＦＤ合計表"), consignor, totals);
+        ExcelCell(QStringLiteral("I9"), again);
+    });
 }
 
 }  // namespace akarix

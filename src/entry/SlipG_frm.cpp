@@ -11,6 +11,7 @@
 #include "entry/GasUsage.h"
 #include "output/EX.h"
 #include "platform/forms/FieldLayout.h"
+#include "platform/forms/Notice.h"
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
@@ -341,6 +342,7 @@ void SlipG_frm::save() {
         readings.add(number(kColDeal), number(kColZenkaiMeter), rest);
     }
     clear();
+    NoticeSaved();
 }
 
 void SlipG_frm::askAndDelete() {

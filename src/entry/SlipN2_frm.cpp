@@ -9,6 +9,7 @@
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/GridHead.h"
+#include "platform/forms/Notice.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
 #include "platform/runtime/DatePart.h"
@@ -303,6 +304,7 @@ void SlipN2_frm::save() {
     // A save can only lengthen the ledger. Asking for its end would take longer than everything else.
     showLedgerEnd(std::max(end_, saved));
     clear();
+    NoticeSaved();
 }
 
 void SlipN2_frm::remove() {
@@ -327,6 +329,7 @@ void SlipN2_frm::saveOpening() {
     }
     showLedgerEnd(amount.IsZero() ? LatestLedgerMonth() : std::max(end_, LedgerMonth{year, month}));
     clear();
+    NoticeSaved();
 }
 
 void SlipN2_frm::showHistory() {

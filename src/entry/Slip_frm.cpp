@@ -5,6 +5,7 @@
 #include "dialogs/AskConfirm.h"
 #include "dialogs/ShowAlert.h"
 #include "platform/forms/FieldLayout.h"
+#include "platform/forms/Notice.h"
 #include "platform/runtime/CLng.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Fix.h"
@@ -261,6 +262,7 @@ void Slip_frm::save() {
         if (isUsed(line)) storeLine(line, ++eda, date, nendo, getudo);
     }
     clear();
+    NoticeSaved();
 }
 
 bool Slip_frm::isUsed(int line) const {

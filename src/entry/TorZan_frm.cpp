@@ -7,6 +7,7 @@
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/GridHead.h"
+#include "platform/forms/Notice.h"
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
@@ -173,6 +174,7 @@ void TorZan_frm::save() {
                           CCur(KeepNumeric(List_->TextMatrix(row, kColZan))));
     }
     clear();
+    NoticeSaved();
 }
 
 // ---- the cells

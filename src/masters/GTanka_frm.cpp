@@ -8,6 +8,7 @@
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/GridHead.h"
+#include "platform/forms/Notice.h"
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
@@ -289,6 +290,7 @@ void GTanka_frm::save() {
         stored.Update();
     }
     clear();
+    NoticeSaved();
 }
 
 // ---- the price table

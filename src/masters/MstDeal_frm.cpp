@@ -6,9 +6,9 @@
 #include <array>
 
 #include "dialogs/ShowAlert.h"
+#include "output/PrintRun.h"
 #include "output/PrintTrap.h"
 #include "platform/forms/FieldLayout.h"
-#include "platform/print/PrinterDialog.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/Format.h"
 #include "store/FieldValue.h"
@@ -311,7 +311,7 @@ QString MstDeal_frm::bankFilter() const {
 }
 
 void MstDeal_frm::print() {
-    ShowPrinter();
+    const PrintRun run(QStringLiteral("取引先一覧"));
     // One box gives both bounds: a code lists that customer alone. The second box only shows its name.
     const QString code = NumStr(NumVal(ebox(kFrom).Text()));
     listsBank_ = NumVal(searchBank_(0).Text()) >= 1;

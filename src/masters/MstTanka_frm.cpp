@@ -10,6 +10,7 @@
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/GridHead.h"
+#include "platform/forms/Notice.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"
@@ -59,7 +60,9 @@ MstTanka_frm::MstTanka_frm()
     press(kClear, [this] { clear(); });
     press(kDelete, [this] { remove(); });
     press(kSave, [this] {
-        if (save()) clear();
+        if (!save()) return;
+        clear();
+        NoticeSaved();
     });
     press(kPrint, [this] { print(); });
     press(kExport, [this] { exportGrid(); });

@@ -4,7 +4,7 @@
 
 #include "masters/CapacityKind.h"
 #include "output/EX.h"
-#include "platform/print/PrinterDialog.h"
+#include "output/PrintRun.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -61,10 +61,12 @@ const CapacityKind* StoredKind(const QString& pattern) {
 void PrintPriceList(const QString& pattern) {
     const CapacityKind* kind = StoredKind(pattern);
     if (kind == nullptr) return;
-    ShowPrinter();
-    for (const Page& page : pagesOf(*kind)) {
+    PrintRun run(QStringLiteral("価格表"));
+    const std::vector<Page>& pages = pagesOf(*kind);
+    for (size_t i = 0; i < pages.size(); ++i) {
+        run.next(static_cast<int>(i), static_cast<int>(pages.size()));
         ExcelOpen(QStringLiteral("価格表"));
-        fillPage(pattern, *kind, page);
+        fillPage(pattern, *kind, pages[i]);
         ExcelPrintPage();
         ExcelClose();
     }

@@ -7,7 +7,9 @@
 #include <optional>
 #include <utility>
 
+#include "output/PrintRun.h"
 #include "output/TemplateCache.h"
+#include "platform/forms/Guard.h"
 #include "platform/forms/MsgBox.h"
 #include "platform/print/PrintJob.h"
 #include "platform/runtime/RuntimeError.h"
@@ -96,17 +98,21 @@ void ExcelMerge(const QString& address, const QString& flag) {
     OpenBook().sheet.setMerged(address, flag != QStringLiteral("0"));
 }
 
-void ExcelPrintPage() {
+void ExcelPrintPage(bool pagesFollow) {
     Workbook& open = OpenBook();
     std::vector<PrintPage> pages = NextPages(open);
     if (gPrintPreview) {
-        ShowPreview(open.name, pages);
+        if (!ShowPreview(open.name, pages, PrintRun::NextPage(pagesFollow))) {
+            throw RuntimeError(CancelledByOperator);
+        }
         return;
     }
     if (!open.document) {
         open.document = OpenPrinterSink(open.name);
-        QTimer::singleShot(0, qApp,
-                           [document = std::weak_ptr(open.document)] { FinishWhenAbandoned(document); });
+        // A long run lets the event loop turn in its midst, so the loop alone is no sign of its end.
+        QTimer::singleShot(0, qApp, [document = std::weak_ptr(open.document)] {
+            AfterAction([document] { FinishWhenAbandoned(document); });
+        });
     }
     open.document->add(std::move(pages));
 }
@@ -136,6 +142,7 @@ void ExcelRunPaged() {
     int page = 0;
     int line = 0;
     for (int i = 0; i < count; ++i) {
+        PrintRun::Count(i, count);
         if (line == 0) {
             ++page;
             form.ClrDetail();
@@ -143,7 +150,7 @@ void ExcelRunPaged() {
         }
         ++line;
         if (line >= report.sheetRows) {
-            ExcelPrintPage();
+            ExcelPrintPage(true);
             ++page;
             form.ClrDetail();
             form.PrintOutHead(page);

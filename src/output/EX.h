@@ -32,8 +32,9 @@ bool ExcelPrints(const QString& address);
 /// Merges a block, or takes it apart when the flag is "0".
 void ExcelMerge(const QString& address, const QString& flag);
 /// Shows the page (gPrintPreview), blocking until it is closed, or adds it to the document for the current
-/// printer. The template stays open for the next page.
-void ExcelPrintPage();
+/// printer. The template stays open for the next page. Raises 32755 when the operator wants to see no more.
+/// \param pagesFollow whether the document goes on behind this page
+void ExcelPrintPage(bool pagesFollow = false);
 /// Sends the document off: one job, one file, however many pages. Raises 482 when it cannot be written.
 void ExcelClose();
 

@@ -1,16 +1,14 @@
 #pragma once
 
-#include "platform/print/EscapableForm.h"
-#include "platform/print/PrintJob.h"
+#include "platform/print/PreviewForm.h"
 
 namespace akarix {
 
 /// The bare preview form: one page in the size of its paper, as far as the screen has room. Closing the
-/// window goes on with the report.
-class FM : public EscapableForm {
+/// window goes on with the report; a bar to say so stands below the page where more may follow.
+class FM : public PreviewForm {
  public:
-    /// \param number of the page in its report, from 1
-    FM(PrintPage page, int number);
+    FM(PrintPage page, const PreviewPlace& place);
 };
 
 }  // namespace akarix

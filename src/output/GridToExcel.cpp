@@ -1,9 +1,12 @@
 #include "output/EX.h"
 #include "platform/forms/FlexGrid.h"
+#include "platform/forms/LongRun.h"
 #include "platform/forms/MsgBox.h"
+#include "platform/forms/Notice.h"
 #include "platform/print/AskSavePath.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/RuntimeError.h"
 #include "platform/sheet/GridExport.h"
 
 namespace akarix {
@@ -24,11 +27,16 @@ void GridToExcel(const QString& title, const QString& line1, const QString& line
 
     const QString subtitle = line1 + QStringLiteral("     ") + line2;
     const QString created = QStringLiteral("作成日 : ") + Format(today, QStringLiteral("yyyy/mm/dd"));
-    if (!WriteGridWorkbook(path, title, subtitle, created, source)) {
-        MsgBox(QStringLiteral("ファイル '%1' に書き込めません。\n保存先を確かめて、もう一度行って下さい。")
-                   .arg(path),
-               title);
+    LongRun run(title);
+    try {
+        if (WriteGridWorkbook(path, title, subtitle, created, source, run)) return NoticeWritten(path);
+    } catch (const RuntimeError& error) {
+        if (error.number() != CancelledByOperator) throw;
+        return ShowNotice(QStringLiteral("中止しました。ファイルは書いていません。"));
     }
+    MsgBox(QStringLiteral("ファイル '%1' に書き込めません。\n保存先を確かめて、もう一度行って下さい。")
+               .arg(path),
+           title);
 }
 
 }  // namespace akarix

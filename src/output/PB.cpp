@@ -23,7 +23,7 @@ void PBAddLine(const QString& line) {
 
 void PBRun() {
     if (gPrintPreview) {
-        PreviewSurface surface;
+        PreviewSurface surface(PB());
         RunReport(PB(), surface);
     } else {
         RunReport(PB(), PrinterSurface::Current());

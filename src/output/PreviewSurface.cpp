@@ -1,11 +1,17 @@
 #include "output/PreviewSurface.h"
 
 #include "output/FM.h"
+#include "output/PrintReport.h"
+#include "output/PrintRun.h"
+#include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
 
 void PreviewSurface::EndPage() {
-    (new FM(takePage(), ++pages_))->ShowModal();
+    ++pages_;
+    PreviewPlace place = PrintRun::NextPage(report_.PagesFollow);
+    if (place.page.isEmpty()) place.page = QStringLiteral("%1 頁").arg(pages_);
+    if (!PreviewForm::Run(new FM(takePage(), place))) throw RuntimeError(CancelledByOperator);
 }
 
 }  // namespace akarix

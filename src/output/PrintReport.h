@@ -25,6 +25,7 @@ struct PrintReport {
     PrintSurface* Surface = nullptr;  ///< of the run under way, for the owner to draw on
     Pen pen;
     Int16 PageNo = 1;
+    bool PagesFollow = false;  ///< behind the page that ends, in the run under way
 
     // --- detail rows, printed after each playing of the script when DetailMode is set
     bool DetailMode = false;

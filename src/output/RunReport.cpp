@@ -16,6 +16,7 @@ void RunPages(PrintReport& report, PrintSurface& surface) {
         PlayScript(report, surface);
         rows.MeasureColumns();
         ended = !report.DetailMode || rows.PrintPage();
+        report.PagesFollow = !ended;
         surface.EndPage();
         report.pen.PenX = 0;
         report.pen.PenY = 0;

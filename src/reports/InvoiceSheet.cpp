@@ -60,7 +60,7 @@ class InvoicePages {
     /// The row for the next line, on a new page when this one is full.
     int nextRow() {
         if (line_ == kLines) {
-            ExcelPrintPage();
+            ExcelPrintPage(true);
             ++page_;
             startPage();
         }

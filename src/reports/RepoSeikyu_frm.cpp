@@ -5,10 +5,10 @@
 #include <array>
 
 #include "billing/Sub.h"
+#include "output/PrintRun.h"
 #include "output/PrintTrap.h"
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/GridHead.h"
-#include "platform/print/PrinterDialog.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
@@ -247,7 +247,7 @@ void RepoSeikyu_frm::exportGrid() {
 // ---- on paper
 
 void RepoSeikyu_frm::print() {
-    ShowPrinter();
+    const PrintRun run(QStringLiteral("請求一覧表"));
     Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT TtoD.* FROM TtoD "
                                                       " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
                                                       " WHERE Nendo= ") +

@@ -8,10 +8,10 @@
 
 #include "billing/Sub.h"
 #include "output/EX.h"
+#include "output/PrintRun.h"
 #include "output/PrintTrap.h"
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/GridHead.h"
-#include "platform/print/PrinterDialog.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
@@ -281,36 +281,42 @@ bool SeikyuPrt_frm::isMarked(int row) const {
 // ---- the issue
 
 void SeikyuPrt_frm::print() {
-    ShowPrinter();
+    PrintRun run(QStringLiteral("請求書"));
     if (gInvoiceMode == kDrawn) {
-        issueDrawn();
+        issueDrawn(run);
     } else if (gInvoiceMode == kTemplate) {
-        issueSheets();
+        issueSheets(run);
     }
 }
 
 /// By the range of codes alone, whatever the list shows.
-void SeikyuPrt_frm::issueDrawn() {
+void SeikyuPrt_frm::issueDrawn(PrintRun& run) {
     Recordset customers =
         gDb->OpenRecordset(QStringLiteral("SELECT * FROM Deal  WHERE Code>=") + typed(kFrom) +
                            QStringLiteral(" AND   Code<=") + typed(kTo) + QStringLiteral(" ORDER BY Code"));
     const Date issued = ReadStrictDate(ebox(kIssued));
-    for (; !customers.Eof(); customers.MoveNext()) {
+    if (customers.Eof()) return;
+    customers.MoveLast();
+    const int count = customers.RecordCount();
+    customers.MoveFirst();
+    for (int i = 0; i < count; ++i, customers.MoveNext()) {
+        run.next(i, count);
         DrawInvoice(invoiceOf(longOf(customers[QStringLiteral("Code")])), issued);
     }
 }
 
 /// By the marks alone: a customer marked by hand gets an invoice even if the master says none.
-void SeikyuPrt_frm::issueSheets() {
+void SeikyuPrt_frm::issueSheets(PrintRun& run) {
     std::vector<int> marked;
     for (int row = 1; row < List_->Rows(); ++row) {
         if (isMarked(row) && isCustomer(row)) marked.push_back(row);
     }
     if (marked.empty()) return;
     OpenInvoiceSheet();
-    for (const int row : marked) {
-        List_->SetRow(row);  // a run that dies shows by the present row at whom
-        PrintInvoice(invoiceOf(ToLong(List_->TextMatrix(row, kColDeal))));
+    for (size_t i = 0; i < marked.size(); ++i) {
+        List_->SetRow(marked[i]);  // a run that dies or is stopped shows by the present row at whom
+        run.next(static_cast<int>(i), static_cast<int>(marked.size()));
+        PrintInvoice(invoiceOf(ToLong(List_->TextMatrix(marked[i], kColDeal))));
     }
     ExcelClose();
 }

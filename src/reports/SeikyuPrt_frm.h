@@ -8,6 +8,8 @@
 
 namespace akarix {
 
+class PrintRun;
+
 /// The issue of invoices: a month's ledger rows of a route and a range of codes, marked for those who get
 /// one. By the setting gInvoiceMode invoices are drawn on pre-printed paper or filled into the template;
 /// nothing remembers what was issued.
@@ -28,8 +30,8 @@ class SeikyuPrt_frm : public EntryForm {
     bool isCustomer(int row) const;
     bool isMarked(int row) const;
     void print();
-    void issueDrawn();
-    void issueSheets();
+    void issueDrawn(PrintRun& run);
+    void issueSheets(PrintRun& run);
     void exportGrid();
 
     QString typed(int field) const;

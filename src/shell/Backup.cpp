@@ -3,6 +3,7 @@
 #include "dialogs/AskConfirm.h"
 #include "dialogs/AskText.h"
 #include "dialogs/ShowAlert.h"
+#include "platform/forms/LongRun.h"
 #include "platform/jet/DBEngine.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
@@ -29,7 +30,8 @@ bool attempt(void (*step)(const QString& place), const QString& place) {
 }
 
 void copyTo(const QString& place) {
-    DBEngine::CopyDatabase(DatabaseName(), BackupCopy(place, Weekday(Today())));
+    LongRun run(QStringLiteral("バックアップコピー"), LongRun::AtSessionEnd::GoesOn);
+    DBEngine::CopyDatabase(DatabaseName(), BackupCopy(place, Weekday(Today())), run);
 }
 
 }  // namespace

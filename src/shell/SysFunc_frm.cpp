@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "platform/forms/FieldLayout.h"
+#include "platform/forms/Notice.h"
 #include "store/PutContents.h"
 #include "store/dbAccess.h"
 #include "toolkit/FieldWalk.h"
@@ -62,6 +63,7 @@ void SysFunc_frm::save() {
     FitMaxLength(ebox(kContents));
     PutContents(question(), ebox(kCode).Text(), ebox(kContents).Text());
     init();
+    NoticeSaved();
 }
 
 }  // namespace akarix

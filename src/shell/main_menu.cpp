@@ -20,6 +20,7 @@
 #include "masters/MstRte_frm.h"
 #include "masters/MstYubin_frm.h"
 #include "platform/forms/MsgBox.h"
+#include "platform/forms/SessionEnd.h"
 #include "platform/forms/SingleInstance.h"
 #include "platform/jet/Action.h"
 #include "platform/runtime/CInt.h"
@@ -130,6 +131,7 @@ bool main_menu::Start() {
     SetActionHooks(&Action::Begin, &Action::End);
     Form::SetHelp(&Guide_frm::OpenFor);
 
+    SessionEnd::Await([] { Form::Instance<main_menu>().Unload(); });
     bool running = false;
     RunGuarded([&running] {
         Form::Instance<Opening_frm>().ShowModal();

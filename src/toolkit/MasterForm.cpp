@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "dialogs/AskConfirm.h"
+#include "platform/forms/Notice.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
 #include "store/Lookup.h"
@@ -161,6 +162,7 @@ void MasterForm::save() {
     storeExtras(row);
     row.Update();
     clear();
+    NoticeSaved();
 }
 
 QString MasterForm::removeSql() {

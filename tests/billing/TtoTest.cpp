@@ -122,6 +122,53 @@ TEST_F(TtoTest, ASecondRunClearsSalesAloneOfWhatLostItsSources) {
     EXPECT_EQ(ReadClosingDate(2011, 3), QStringLiteral("2011/03/30"));
 }
 
+/// Writes down the stages, and wants no more at a step of one of them.
+class Stopping : public Progress {
+ public:
+    Stopping(QString what, int done) : what_(std::move(what)), done_(done) {}
+    void stage(const QString& what, bool mayStop) override {
+        present_ = what;
+        stages += mayStop ? what : what + u'!';
+    }
+    void step(int done, int /*total*/) override {
+        if (present_ == what_ && done == done_) throw RuntimeError(CancelledByOperator);
+    }
+
+    QStringList stages;
+
+ private:
+    QString what_;
+    int done_;
+    QString present_;
+};
+
+TEST_F(TtoTest, ARunStoppedBetweenTwoCustomersIsMendedByTheNext) {
+    customers(QStringLiteral("1,2"));
+    for (int deal = 1; deal <= 2; ++deal) {
+        reading(2011, 3, deal, QStringLiteral("3000"));
+        sale(deal, 1, deal, 2011, 3, QStringLiteral("700"));
+        payment(deal, deal, 2011, 3, QStringLiteral("1200"));
+    }
+    struct Case {
+        const char16_t* stage;
+        const char16_t* second;  ///< the ledger row of the customer before whom the run stopped
+    };
+    for (const Case& c :
+         {Case{u"検針", nullptr}, {u"売上", u"2|0|3000|0|0|0|0"}, {u"入金", u"2|0|3000|700|0|0|0"}}) {
+        gDb->Execute(QStringLiteral("DELETE FROM TtoD"));
+        Stopping progress(QString::fromUtf16(c.stage), 1);
+        EXPECT_THROW(BuildMonthLedger(2011, 3, DateSerial(2011, 3, 28), progress), RuntimeError);
+        EXPECT_EQ(ledger(2011, 3).value(1), QString::fromUtf16(c.second ? c.second : u""));
+        EXPECT_EQ(ReadClosingDate(2011, 3), QString()) << "not closed";
+    }
+    Stopping never({}, 0);
+    BuildMonthLedger(2011, 3, DateSerial(2011, 3, 28), never);
+    CarryForwardMonth(2011, 3, never);
+    EXPECT_EQ(never.stages, QStringLiteral("検針 リース料 売上 入金 繰越!").split(u' '));
+    EXPECT_EQ(ledger(2011, 3), (QStringList{QStringLiteral("1|0|3000|700|3700|1200|0"),
+                                            QStringLiteral("2|0|3000|700|3700|1200|0")}));
+}
+
 TEST_F(TtoTest, BillingAnOldMonthAgainLeavesTheMonthsAfterIt) {
     customers(QStringLiteral("1"));
     reading(2011, 3, 1, QStringLiteral("3000"));

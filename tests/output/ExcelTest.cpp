@@ -2,9 +2,14 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QTemporaryDir>
 
 #include "output/EX.h"
+#include "output/PrintRun.h"
+#include "output/PrintTrap.h"
+#include "platform/forms/Guard.h"
+#include "platform/forms/SessionEnd.h"
 #include "platform/jet/DBEngine.h"
 #include "platform/jet/Database.h"
 #include "platform/jet/Workspace.h"
@@ -12,6 +17,7 @@
 #include "platform/print/PreviewPages.h"
 #include "platform/print/Printer.h"
 #include "platform/runtime/RuntimeError.h"
+#include "support/ListScreen.h"
 #include "support/ScreenTest.h"
 
 namespace akarix {
@@ -35,6 +41,7 @@ class Report : public ReportForm {
         calls += QString("row %1").arg(row);
         ExcelCell(QString("A%1").arg(row), QString("行%1").arg(++records_));
         if (records_ == failAt) throw RuntimeError(13);
+        if (records_ == 6 && atRow6) atRow6();
         (void)set;
     }
     void PrintOutDetailGokei(int line, int firstRow, int page) override {
@@ -44,6 +51,7 @@ class Report : public ReportForm {
 
     QStringList calls;
     int failAt = 0;
+    std::function<void()> atRow6;
 
  private:
     int records_ = 0;
@@ -219,6 +227,46 @@ TEST_F(PagedTest, OrderOfHeadAndClearing) {
     run(full, 4);
     EXPECT_EQ(full.calls, QStringList({"clear", "head 1", "row 3", "row 4", "row 5", "row 6", "head 2",
                                        "clear", "total 1 2 2"}));
+}
+
+TEST_F(PagedTest, AStoppedRunKeepsThePagesThatAreWhole) {
+    SessionEnd::Await([] {});
+    AnswerPrinter(clerk, folder.filePath("list.pdf"));
+    QLineEdit desk;
+    desk.show();
+    desk.setFocus();
+    clerk.settle();
+    RunGuarded([&] {
+        TrapPrinting([&] {
+            const PrintRun printing("台帳");
+            Report report;
+            report.atRow6 = [] { SessionEnd::Request(); };
+            run(report, 9);
+        });
+    });
+    EXPECT_EQ(printed("list.pdf"), QStringList({"頁1雛形行1行2行3行4"}));
+    EXPECT_EQ(clerk.text("Notice"),
+              "6 / 9 まで進んだところで中止しました。\n" + folder.filePath("list.pdf") + " に書きました。");
+    SessionEnd::Await([] {});
+    Report next;
+    run(next, 1);
+    EXPECT_EQ(printed("list (2).pdf"), QStringList({"頁1雛形行1合計"}));
+}
+
+TEST_F(PagedTest, PreviewTellsWhetherMoreFollows) {
+    gPrintPreview = true;
+    AnswerPrinter(clerk, folder.filePath("list.pdf"));
+    QStringList shown;
+    for (int page = 0; page < 3; ++page) {
+        clerk.expect("Preview_frm", [&](QWidget& window) {
+            shown += clerk.text("Place") + (window.findChild<QWidget*>("Stop") ? "+" : "");
+            clerk.click("Close");
+        });
+    }
+    Report report;
+    const PrintRun printing("台帳");
+    run(report, 9);
+    EXPECT_EQ(shown, QStringList({"1 頁+", "2 頁+", "3 頁"}));
 }
 
 TEST_F(PagedTest, AnEmptySetFails) {

@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "output/EX.h"
 #include "platform/runtime/Clock.h"
@@ -39,7 +40,12 @@ class GridToExcelTest : public ScreenTest {
 
 TEST_F(GridToExcelTest, WhatTheGridShowsGoesToTheFileAskedFor) {
     AnswerSaveAs(clerk, path);
+    grid_.show();
+    grid_.setFocus();
+    clerk.settle();
     GridToExcel("請求一覧", "2023/4分", "1 ～ 9", grid_);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return clerk.isOpen("Notice"); }));
+    EXPECT_TRUE(clerk.text("Notice").endsWith(path + " に書きました。"));
     const Sheet sheet = ReadSheet(path, "Sheet1");
     QStringList found;
     for (const auto& [at, cell] : sheet.cells) {

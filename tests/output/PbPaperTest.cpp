@@ -3,6 +3,8 @@
 #include <QTemporaryDir>
 
 #include "output/PB.h"
+#include "output/PrintRun.h"
+#include "output/PrintTrap.h"
 #include "platform/forms/Form.h"
 #include "platform/print/PdfText.h"
 #include "platform/print/PreviewPages.h"
@@ -10,6 +12,7 @@
 #include "platform/print/PrinterSurface.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/Settings.h"
+#include "support/ListScreen.h"
 #include "support/ScreenTest.h"
 
 namespace akarix {
@@ -118,6 +121,37 @@ TEST_F(PbPaperTest, ThePreviewShowsThePageAndPrintsNothing) {
     });
     EXPECT_EQ(print({"<FONT>ＭＳ 明朝", "<SIZE>12", "<FREE>1000,460,請求書"}), 0);
     EXPECT_EQ(print({"half", "<SIZE>0"}), 380);
+    EXPECT_THAT(files(), testing::IsEmpty());
+}
+
+TEST_F(PbPaperTest, ARunIsShownPageByPageUntilItIsStopped) {
+    gPrintPreview = true;
+    AnswerPrinter(clerk, path("out.pdf"));
+    QStringList titles;
+    for (const int key : {Qt::Key_Return, Qt::Key_Escape}) {
+        clerk.expect("FM", [&, key](QWidget& window) {
+            titles += window.windowTitle();
+            clerk.press(key);
+        });
+    }
+    clerk.answerConfirm(true);
+    TrapPrinting([&] {
+        PrintRun run("請求書");
+        for (int i = 0; i < 5; ++i) {
+            run.next(i, 5);
+            EXPECT_LT(i, 2);
+            PBInit();
+            PBAddLine("page");
+            PBRun();
+        }
+    });
+    EXPECT_EQ(titles,
+              QStringList({"印刷プレビュー - 1 頁（1 / 5 件目）", "印刷プレビュー - 2 頁（2 / 5 件目）"}));
+    clerk.expect("FM", [&](QWidget& window) {
+        EXPECT_EQ(window.findChild<QWidget*>("Stop"), nullptr);
+        clerk.press(Qt::Key_Escape);
+    });
+    EXPECT_EQ(print({"afresh"}), 0);
     EXPECT_THAT(files(), testing::IsEmpty());
 }
 

@@ -122,6 +122,25 @@ TEST_F(InvoiceIssue, TheMarkDecidesWhoGetsASheet) {
     EXPECT_EQ(print("1004テンプレート 'Prt/請求書.xlsx' が見つかりません。"), QStringList());
 }
 
+TEST_F(InvoiceIssue, AShownRunIsStoppedAtAnyPage) {
+    gPrintPreview = true;
+    showList();
+    for (int run = 0; run < 2; ++run) {
+        AnswerPrinter(clerk, store.path("out.pdf"));
+        for (const char* place : {"1 頁（1 / 3 件目）", "2 頁（2 / 3 件目）"}) {
+            clerk.expect("Preview_frm", [this, place](QWidget&) {
+                EXPECT_EQ(clerk.text("Place"), place);
+                clerk.click(*place == '1' ? "Close" : "Stop");
+            });
+        }
+        clerk.click("Btn");
+        EXPECT_EQ(clerk.expectedDialogs(), 0);
+        EXPECT_EQ(list().TextMatrix(list().Row(), 2), "鈴木");
+    }
+    gPrintPreview = false;
+    EXPECT_EQ(print().size(), 3) << "nothing of it is left for the next run";
+}
+
 TEST_F(InvoiceIssue, ARunThatBreaksOffShowsWhere) {
     showList();
     clerk.click("Command1");

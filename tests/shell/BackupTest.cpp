@@ -85,6 +85,22 @@ TEST_F(Backup, AWeekOfCopies) {
     EXPECT_EQ(copies(), (QStringList{u"Akarix1.MDB"_qs, u"Akarix7.MDB"_qs}));
 }
 
+TEST_F(Backup, AStoppedCopyLeavesTheOlderOne) {
+    struct : Progress {
+        void stage(const QString&, bool) override {}
+        void step(int done, int total) override {
+            if (done == total / 2) throw RuntimeError(CancelledByOperator);
+        }
+    } stopping;
+    QFile older(u"copy"_qs);
+    ASSERT_TRUE(older.open(QFile::WriteOnly));
+    older.write("older");
+    older.close();
+    CloseDb();
+    EXPECT_THROW(DBEngine::CopyDatabase(DatabaseName(), u"copy"_qs, stopping), RuntimeError);
+    EXPECT_EQ(bytesOf(u"copy"_qs), "older");
+}
+
 TEST_F(Backup, WhatCannotBeCopiedIsPassedOver) {
     SetClock(DateSerial(2011, 1, 2));
     ASSERT_TRUE(QDir().mkpath(u"Drive/D"_qs));

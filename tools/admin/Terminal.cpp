@@ -13,6 +13,7 @@ void write(std::FILE* stream, const QString& text) {
 }
 
 constexpr qint64 patience = 1000;  // ms
+constexpr qint64 stepPause = 100;
 
 }  // namespace
 
@@ -36,6 +37,17 @@ void ProgressLine::show(const QString& text) {
     if (!shown_ && clock_.elapsed() < patience) return;
     shown_ = true;
     write(stderr, QStringLiteral("\r\x1b[K") + text);
+}
+
+void ProgressLine::stage(const QString& what, bool /*mayStop*/) {
+    what_ = what;
+}
+
+void ProgressLine::step(int done, int total) {
+    const qint64 now = clock_.elapsed();
+    if (now < patience || now < stepShown_ + stepPause) return;
+    stepShown_ = now;
+    show(QStringLiteral("%1 %2 / %3 件").arg(what_).arg(done).arg(total));
 }
 
 }  // namespace akarix::admin

@@ -29,17 +29,17 @@ const char* const helpText =
 
 /// Gives the number of codes that were kept.
 int store(const PostalCodes& codes) {
-    constexpr std::size_t rowsToASay = 2000;
     constexpr int longestAddress = 100;
     ProgressLine line;
+    line.stage(QStringLiteral("郵便番号"), false);
     const Action grouped;
     gDb->Execute(QStringLiteral("DELETE * FROM Zip7"));
     sample::RowWriter table(QStringLiteral("Zip7"));
-    std::size_t done = 0;
+    int done = 0;
+    const int total = static_cast<int>(codes.places().size());
     int kept = 0;
     for (const auto& [code, place] : codes.places()) {
-        if (done++ % rowsToASay == 0)
-            line.show(QStringLiteral("%1 / %2 件").arg(done - 1).arg(codes.places().size()));
+        line.step(done++, total);
         const QString address = place.address().left(longestAddress);
         if (address.isEmpty()) continue;  // of two prefectures: it says nothing
         ++kept;

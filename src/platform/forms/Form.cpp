@@ -15,7 +15,9 @@
 
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/FitToRoom.h"
+#include "platform/forms/LongRun.h"
 #include "platform/forms/PressGuard.h"
+#include "platform/forms/SessionEnd.h"
 
 namespace akarix {
 namespace {
@@ -87,10 +89,9 @@ void Form::Show() {
 }
 
 void Form::ShowModal() {
-    // A dialog right behind another one finds the desk still between two windows.
+    const LongRun::Pause pause;
     const QPointer<QWidget> due = keyboardDue();
-    QWidget* owner = QApplication::activeModalWidget();
-    if (owner == nullptr) owner = due ? due->window() : QApplication::activeWindow();
+    QWidget* owner = PresentWindow();
     if (owner == this) owner = nullptr;
     if (isVisible()) hide();
     const QPointer<QWidget> before = due ? due.data() : QApplication::focusWidget();
@@ -105,6 +106,7 @@ void Form::ShowModal() {
     QEventLoop* const outer = std::exchange(modalLoop_, &loop);
     const QPointer<Form> self = this;
     present(owner);
+    if (SessionEnd::Requested()) SessionEnd::Dismiss(*this);
     if (isVisible()) loop.exec(QEventLoop::DialogExec);
     if (self) {
         modalLoop_ = outer;
@@ -130,6 +132,13 @@ void Form::Unload() {
     AfterAction([self = QPointer<Form>(this)] {
         if (self) self->deleteLater();
     });
+}
+
+QWidget* Form::PresentWindow() {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    // Right behind a dialog the desk is still between two windows.
+    const QPointer<QWidget> due = keyboardDue();
+    return due ? due->window() : QApplication::activeWindow();
 }
 
 QList<QWidget*> Form::Controls() const {

@@ -84,6 +84,8 @@ class Form : public QWidget {
     }
     /// What F1 does; nothing until it has been said.
     static void SetHelp(std::function<void(const Form& asking)> help);
+    /// The window the operator works at; null when no window of the program has the keyboard.
+    static QWidget* PresentWindow();
     /// Takes every such instance away at once, shown or hidden, without asking it.
     static void DropInstances();
 

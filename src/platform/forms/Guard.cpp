@@ -85,8 +85,12 @@ bool RunGuarded(const std::function<void()>& handler) {
     }
 }
 
+bool ActionUnderWay() {
+    return depth > 0;
+}
+
 void AfterAction(std::function<void()> step) {
-    if (depth == 0) {
+    if (!ActionUnderWay()) {
         step();
     } else {
         afterwards.push_back(std::move(step));

@@ -14,6 +14,9 @@ void SetActionHooks(std::function<void()> begin, std::function<void()> end);
 /// shown.
 bool RunGuarded(const std::function<void()>& handler);
 
+/// Whether an action is under way, if only waiting in a dialog.
+bool ActionUnderWay();
+
 /// Runs a step when the outermost action has ended; at once when no action is running.
 void AfterAction(std::function<void()> step);
 

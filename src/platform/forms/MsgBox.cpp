@@ -5,12 +5,16 @@
 
 #include "platform/forms/Icons.h"
 #include "platform/forms/LineEnds.h"
+#include "platform/forms/LongRun.h"
+#include "platform/forms/SessionEnd.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
 namespace {
 
 void showBox(const QString& text, const QString& title, bool failure) {
+    if (SessionEnd::Requested()) return;
+    const LongRun::Pause pause;
     QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok, QApplication::activeWindow());
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setTextFormat(Qt::PlainText);

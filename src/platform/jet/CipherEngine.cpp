@@ -44,8 +44,10 @@ class SharedLock {
     sqlite3* connection_;
 };
 
-void CopyPages(const RawFile& source, QSaveFile& target) {
-    for (int number = 1; number <= source.pageCount(); ++number) {
+void CopyPages(const RawFile& source, QSaveFile& target, Progress& progress) {
+    const int count = source.pageCount();
+    for (int number = 1; number <= count; ++number) {
+        progress.step(number - 1, count);
         const QByteArray page = source.page(number);
         if (page.isEmpty()) {
             throw StoreError(3043);
@@ -166,7 +168,7 @@ void CipherEngine::flush() {
     group_->commit();
 }
 
-void CipherEngine::copyTo(const QString& path) {
+void CipherEngine::copyTo(const QString& path, Progress& progress) {
     sqlite3* open = connection();
     group_->commit();
     QSaveFile target(path);
@@ -176,7 +178,7 @@ void CipherEngine::copyTo(const QString& path) {
     {
         // Only while it is read: a slow disk at the other end must not keep the other desks from writing.
         const SharedLock lock(open);
-        CopyPages(RawFile(open), target);
+        CopyPages(RawFile(open), target, progress);
     }
     if (!target.commit()) {
         throw RuntimeError(61);

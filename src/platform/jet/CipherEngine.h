@@ -23,7 +23,7 @@ class CipherEngine final : public Engine {
     void updateRow(const TableDef& table, std::int64_t row, const std::vector<QString>& columns,
                    const StoreRow& values) override;
     void flush() override;
-    void copyTo(const QString& path) override;
+    void copyTo(const QString& path, Progress& progress) override;
     void close() override;
 
  private:

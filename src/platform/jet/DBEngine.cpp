@@ -22,9 +22,9 @@ void DBEngine::RepairDatabase(const QString& name) {
     RepairStoreFile(path, LastPassword(path));
 }
 
-void DBEngine::CopyDatabase(const QString& name, const QString& to) {
+void DBEngine::CopyDatabase(const QString& name, const QString& to, Progress& progress) {
     const QString path = LocalPath(name);
-    CipherEngine(OpenStoreFile(path, LastPassword(path))).copyTo(LocalPath(to));
+    CipherEngine(OpenStoreFile(path, LastPassword(path))).copyTo(LocalPath(to), progress);
 }
 
 }  // namespace akarix

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "platform/jet/Workspace.h"
+#include "platform/runtime/Progress.h"
 
 namespace akarix {
 
@@ -16,8 +17,9 @@ class DBEngine {
     static void RepairDatabase(const QString& name);
     /// Copies a file that this process need not have open, with its password as above: sound, and between two
     /// commits of whoever else works with it. A damaged one is not copied (3343); a file at the other place
-    /// is replaced by a whole copy or left alone. Raises 76 where nothing can be written, 61 on a full disk.
-    static void CopyDatabase(const QString& name, const QString& to);
+    /// is replaced by a whole copy or left alone. Raises 76 where nothing can be written, 61 on a full disk,
+    /// 32755 when it is stopped.
+    static void CopyDatabase(const QString& name, const QString& to, Progress& progress = Progress::Silent());
 };
 
 }  // namespace akarix

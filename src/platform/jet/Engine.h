@@ -5,6 +5,7 @@
 
 #include "platform/jet/Plan.h"
 #include "platform/jet/Schema.h"
+#include "platform/runtime/Progress.h"
 
 namespace akarix {
 
@@ -35,8 +36,8 @@ class Engine {
     /// Ends the group of writes under way: everything done so far is on the disk when it returns.
     virtual void flush() = 0;
     /// Copies the file as it stands to another path, under a shared lock. What stands at that path is
-    /// replaced by the whole copy or, when the copy breaks off, left alone.
-    virtual void copyTo(const QString& path) = 0;
+    /// replaced by the whole copy or, when the copy breaks off, left alone. Counts in pages.
+    virtual void copyTo(const QString& path, Progress& progress = Progress::Silent()) = 0;
     virtual void close() = 0;
 };
 

@@ -38,6 +38,13 @@ FileField::FileField(const QString& path, const QString& suffix, QWidget* parent
     layout->addWidget(browse_, 0, 1);
     layout->addWidget(message_, 1, 0, 1, 2);
     layout->setColumnStretch(0, 1);
+
+    // A listened-to box keeps Tab from the focus chain; here it is to walk on like anywhere else.
+    connect(path_, &TextBox::KeyDown, this, [this](KeyEvent& event) {
+        if (event.KeyCode != key::Tab) return;
+        focusNextPrevChild((event.Shift & ShiftMask) == 0);
+        event.KeyCode = 0;
+    });
 }
 
 QString FileField::absolutePath() const {

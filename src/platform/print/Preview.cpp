@@ -4,22 +4,21 @@
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Label.h"
-#include "platform/print/EscapableForm.h"
+#include "platform/print/PreviewForm.h"
 #include "platform/print/PreviewPages.h"
-#include "platform/print/PrintJob.h"
 
 namespace akarix {
 namespace {
 
-class Preview_frm : public EscapableForm {
+class Preview_frm : public PreviewForm {
  public:
-    Preview_frm(const QString& title, const std::vector<PrintPage>& pages)
-        : EscapableForm(QStringLiteral("Preview_frm"), QStringLiteral("印刷プレビュー - ") + title) {
+    Preview_frm(const QString& title, const std::vector<PrintPage>& pages, const PreviewPlace& place)
+        : PreviewForm(QStringLiteral("Preview_frm"),
+                      (QStringLiteral("印刷プレビュー - ") + title + u' ' + place.page).trimmed(), place) {
         pages_ = new PreviewPages(pages, this);
         pages_->setObjectName(QStringLiteral("Pages"));
         previous_ = button(QStringLiteral("前頁"), QStringLiteral("Previous"));
         next_ = button(QStringLiteral("次頁"), QStringLiteral("Next"));
-        CommandButton* close = button(QStringLiteral("閉じる"), QStringLiteral("Close"));
         place_ = new Label(QString(), this);
         place_->setObjectName(QStringLiteral("Place"));
         auto* zoom = new ComboBox(this);
@@ -35,7 +34,8 @@ class Preview_frm : public EscapableForm {
         bar->addWidget(place_);
         bar->addStretch();
         bar->addWidget(zoom);
-        bar->addWidget(close);
+        bar->addWidget(closeButton());
+        if (stopButton() != nullptr) bar->addWidget(stopButton());
         auto* layout = new QVBoxLayout(this);
         layout->addLayout(bar);
         layout->addWidget(pages_, 1);
@@ -43,7 +43,6 @@ class Preview_frm : public EscapableForm {
 
         on(previous_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() - 1); });
         on(next_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() + 1); });
-        on(close, &CommandButton::Click, [this] { Unload(); });
         on(zoom, &ComboBox::Click, [this, zoom] { pages_->setZoom(zoom->ItemData(zoom->ListIndex())); });
         on(pages_, &PreviewPages::currentPageChanged, [this](int page) { showPlace(page); });
         showPlace(0);
@@ -58,7 +57,9 @@ class Preview_frm : public EscapableForm {
     }
 
     void showPlace(int page) {
-        place_->SetCaption(QStringLiteral("%1 / %2 頁").arg(page + 1).arg(pages_->pageCount()));
+        const bool alone = pages_->pageCount() == 1 && !place().page.isEmpty();
+        place_->SetCaption(alone ? place().page
+                                 : QStringLiteral("%1 / %2 頁").arg(page + 1).arg(pages_->pageCount()));
         previous_->setEnabled(page > 0);
         next_->setEnabled(page + 1 < pages_->pageCount());
     }
@@ -71,8 +72,8 @@ class Preview_frm : public EscapableForm {
 
 }  // namespace
 
-void ShowPreview(const QString& title, const std::vector<PrintPage>& pages) {
-    (new Preview_frm(title, pages))->ShowModal();
+bool ShowPreview(const QString& title, const std::vector<PrintPage>& pages, const PreviewPlace& place) {
+    return PreviewForm::Run(new Preview_frm(title, pages, place));
 }
 
 }  // namespace akarix

@@ -38,8 +38,16 @@ class PrintSink {
 /// be written.
 std::unique_ptr<PrintSink> OpenPrinterSink(const QString& documentName);
 
+/// Where pages shown one window after the other stand in their run.
+struct PreviewPlace {
+    QString page;                 ///< "3 頁（2 / 294 件目）"; empty for pages of no run
+    bool moreMayFollow = false;   ///< the window has 中止 then
+    std::function<bool()> stops;  ///< Esc asks here whether to show no more; closing the window goes on
+};
+
 /// Shows pages in the preview window, modally: the form "Preview_frm" with the pages "Pages", the buttons
-/// "Previous", "Next" and "Close", the list "Zoom". Esc closes it.
-void ShowPreview(const QString& title, const std::vector<PrintPage>& pages);
+/// "Previous", "Next", "Close" and, where more may follow, "Stop", the list "Zoom". Esc closes it where
+/// nothing follows. False when the operator wants to see no more.
+bool ShowPreview(const QString& title, const std::vector<PrintPage>& pages, const PreviewPlace& place = {});
 
 }  // namespace akarix

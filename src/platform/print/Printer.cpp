@@ -1,5 +1,6 @@
 #include "platform/print/Printer.h"
 
+#include <QFileInfo>
 #include <QPrinterInfo>
 
 #include "platform/print/FileName.h"
@@ -32,8 +33,11 @@ void Printer::UsePdf(const QString& absolutePath) {
 }
 
 QString Printer::NextPdfPath() {
-    ++pdfDocuments_;
-    return pdfDocuments_ == 1 ? pdfPath_ : NumberedPath(pdfPath_, pdfDocuments_);
+    if (++pdfDocuments_ == 1) return pdfPath_;
+    while (QFileInfo::exists(NumberedPath(pdfPath_, pdfDocuments_))) {
+        ++pdfDocuments_;
+    }
+    return NumberedPath(pdfPath_, pdfDocuments_);
 }
 
 }  // namespace akarix

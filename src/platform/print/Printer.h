@@ -24,7 +24,8 @@ class Printer {
     void UsePdf(const QString& absolutePath);
 
     /// The file for the next document: the chosen path, and behind it "name (2).pdf" and so on, so that an
-    /// action that prints several documents keeps them all.
+    /// action that prints several documents keeps them all. Of the numbers those are passed over that are
+    /// taken: the operator was asked about the chosen path alone.
     QString NextPdfPath();
 
  private:

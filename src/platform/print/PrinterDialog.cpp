@@ -22,10 +22,10 @@ namespace {
 
 class Printer_frm : public EscapableForm {
  public:
-    explicit Printer_frm(std::shared_ptr<bool> accepted)
+    Printer_frm(const QString& document, std::shared_ptr<bool> accepted)
         : EscapableForm(QStringLiteral("Printer_frm"), QStringLiteral("印刷")),
           accepted_(std::move(accepted)) {
-        build();
+        build(SafeFileName(document) + QStringLiteral(".pdf"));
         fill();
         on(printers_, &QListWidget::currentRowChanged, [this](int) { showChoice(); });
         on(printers_, &QListWidget::itemActivated, [this](QListWidgetItem*) { print(); });
@@ -47,7 +47,7 @@ class Printer_frm : public EscapableForm {
     }
 
  private:
-    void build() {
+    void build(const QString& fileName) {
         printers_ = new QListWidget(this);
         printers_->setObjectName(QStringLiteral("Printers"));
         printers_->setMinimumHeight(Twips(1800));
@@ -58,8 +58,7 @@ class Printer_frm : public EscapableForm {
         copies_->setValue(current.Copies());
         const QString folder =
             current.IsPdf() ? QFileInfo(current.PdfPath()).absolutePath() : DocumentFolder();
-        file_ = new FileField(FreePath(QDir(folder).filePath(QStringLiteral("印刷.pdf"))),
-                              QStringLiteral("pdf"), this);
+        file_ = new FileField(FreePath(QDir(folder).filePath(fileName)), QStringLiteral("pdf"), this);
         print_ = new CommandButton(QStringLiteral("印刷"), this);
         print_->setObjectName(QStringLiteral("Print"));
         cancel_ = new CommandButton(QStringLiteral("キャンセル"), this);
@@ -137,11 +136,11 @@ class Printer_frm : public EscapableForm {
 
 }  // namespace
 
-void ShowPrinter() {
+void ShowPrinter(const QString& document) {
     const auto accepted = std::make_shared<bool>(false);
-    auto* form = new Printer_frm(accepted);
+    auto* form = new Printer_frm(document, accepted);
     form->ShowModal();
-    if (!*accepted) throw RuntimeError(32755);
+    if (!*accepted) throw RuntimeError(CancelledByOperator);
 }
 
 }  // namespace akarix

@@ -4,6 +4,7 @@
 #include <QPrinter>
 #include <QSaveFile>
 
+#include "platform/forms/Notice.h"
 #include "platform/print/FileName.h"
 #include "platform/print/PrintJob.h"
 #include "platform/print/Printer.h"
@@ -92,7 +93,7 @@ class QueueSink : public PrintSink {
 class PdfSink : public PrintSink {
  public:
     PdfSink(const QString& path, const QString& documentName)
-        : file_(path), writer_(&file_), pages_(writer_) {
+        : path_(path), file_(path), writer_(&file_), pages_(writer_) {
         const QString reason = WhyNotWritable(path);
         failure_ = QStringLiteral("PDF ファイル '%1' に書き込めません。").arg(path) + reason;
         if (!reason.isEmpty() || !file_.open(QIODevice::WriteOnly)) RaisePrinterError(failure_);
@@ -109,9 +110,11 @@ class PdfSink : public PrintSink {
     void finish() override {
         if (!pages_.begun()) return;
         if (!pages_.end() || !file_.commit()) RaisePrinterError(failure_);
+        NoticeWritten(path_);
     }
 
  private:
+    QString path_;
     QSaveFile file_;
     QPdfWriter writer_;
     QString failure_;

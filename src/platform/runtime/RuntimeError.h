@@ -25,6 +25,9 @@ class RuntimeError : public std::exception {
     QByteArray what_;
 };
 
+/// Number of the error by which an operator leaves a dialog, or something long, without its result.
+constexpr int CancelledByOperator = 32755;
+
 /// The run time's own text of a classic error number, in Japanese; a general text for an unknown number.
 QString ErrorText(int number);
 

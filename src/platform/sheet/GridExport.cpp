@@ -29,9 +29,10 @@ class Export {
         format_set_bg_color(head_, 0xE4EAF0);
     }
 
-    void write(const QString& title, const QString& subtitle, const QString& created) {
+    void write(const QString& title, const QString& subtitle, const QString& created, Progress& progress) {
         writeTop(title, subtitle, created);
         for (int row = 0; row < grid_.rows; ++row) {
+            progress.step(row, grid_.rows);
             for (size_t k = 0; k < shown_.size(); ++k) {
                 writeCell(row, static_cast<lxw_col_t>(k), shown_[k]);
             }
@@ -133,9 +134,9 @@ class Export {
 }  // namespace
 
 bool WriteGridWorkbook(const QString& path, const QString& title, const QString& subtitle,
-                       const QString& created, const GridSource& grid) {
+                       const QString& created, const GridSource& grid, Progress& progress) {
     WorkbookWriter writer(path);
-    Export(writer, grid).write(title, subtitle, created);
+    Export(writer, grid).write(title, subtitle, created, progress);
     return writer.save();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QListWidget>
 #include <QTemporaryDir>
 
@@ -27,9 +28,9 @@ class PrinterDialogTest : public ScreenTest {
         clerk.find<TextBox>("Path").SetText(path);
         clerk.find<TextBox>("Path").setFocus();
     }
-    bool cancelled() {
+    bool cancelled(const QString& document = "請求書") {
         try {
-            ShowPrinter();
+            ShowPrinter(document);
         } catch (const RuntimeError& error) {
             return error.number() == 32755;
         }
@@ -45,7 +46,7 @@ TEST_F(PrinterDialogTest, EnterPrintsToTheTypedFile) {
         typePath(folder.filePath("list"));
         clerk.enter();
     });
-    ShowPrinter();
+    ShowPrinter("請求書");
     EXPECT_TRUE(Printer::Current().IsPdf());
     EXPECT_EQ(Printer::Current().PdfPath(), folder.filePath("list.pdf"));
 }
@@ -73,7 +74,7 @@ TEST_F(PrinterDialogTest, AFolderThatIsNotThereIsToldAndTheDialogStays) {
         typePath(folder.filePath("list.pdf"));
         clerk.click("Print");
     });
-    ShowPrinter();
+    ShowPrinter("請求書");
     EXPECT_EQ(Printer::Current().PdfPath(), folder.filePath("list.pdf"));
 }
 
@@ -92,6 +93,41 @@ TEST_F(PrinterDialogTest, AnExistingFileIsTakenAtTheSecondEnter) {
     EXPECT_EQ(AskSavePath("保存", "b.xlsx"), QString());
 }
 
+TEST_F(PrinterDialogTest, TheFileIsOfferedByTheReportsNameAndTabWalksThrough) {
+    Printer::Current().UsePdf(folder.filePath("old.pdf"));
+    clerk.expect("Printer_frm", [&](QWidget&) {
+        choosePdf();
+        EXPECT_EQ(clerk.text("Path"), folder.filePath("請求書／4月.pdf"));
+        QStringList walk;
+        for (int i = 0; i < 4; ++i) {
+            clerk.tab();
+            walk += clerk.focusedName();
+        }
+        EXPECT_EQ(walk.join(u' '), "Path Browse Print Cancel");
+        clerk.find<TextBox>("Path").setFocus();
+        clerk.shiftTab();
+        EXPECT_EQ(clerk.focusedName(), "Printers");
+        clerk.press(Qt::Key_Escape);
+    });
+    EXPECT_TRUE(cancelled("請求書/4月"));
+    clerk.expect("SaveAs_frm", [&](QWidget&) {
+        clerk.tab();
+        EXPECT_EQ(clerk.focusedName(), "Browse");
+        clerk.press(Qt::Key_Escape);
+    });
+    AskSavePath("保存", "b.xlsx");
+}
+
+TEST_F(PrinterDialogTest, NumberedFilesPassOverThoseThatAreThere) {
+    QFile(folder.filePath("a (2).pdf")).open(QIODevice::WriteOnly);
+    Printer::Current().UsePdf(folder.filePath("a.pdf"));
+    QStringList names;
+    for (int i = 0; i < 3; ++i) {
+        names += QFileInfo(Printer::Current().NextPdfPath()).fileName();
+    }
+    EXPECT_EQ(names.join(u'|'), "a.pdf|a (3).pdf|a (4).pdf");
+}
+
 TEST_F(PrinterDialogTest, NamesBecomeFileNames) {
     EXPECT_EQ(SafeFileName("請求/4月: \"A\""), "請求／4月： ＂A＂");
     QFile(folder.filePath("a.pdf")).open(QIODevice::WriteOnly);
@@ -100,6 +136,43 @@ TEST_F(PrinterDialogTest, NamesBecomeFileNames) {
 }
 
 class PreviewTest : public ScreenTest {};
+
+TEST_F(PreviewTest, APageThatMoreMayFollowCanBeTheLast) {
+    struct Case {
+        const char* what;
+        bool more;
+        std::function<void(QWidget&)> leave;
+        bool sure;
+        bool goesOn;
+        int asked;
+    };
+    const auto press = [&](int key) { return [&, key](QWidget&) { clerk.press(key); }; };
+    for (const Case& c :
+         {Case{"Enter", true, press(Qt::Key_Return), true, true, 0},
+          {"its button", true, [&](QWidget&) { clerk.click("Close"); }, true, true, 0},
+          {"the close box", true, [&](QWidget& window) { clerk.closeBox(window); }, true, true, 0},
+          {"the stop", true, [&](QWidget&) { clerk.click("Stop"); }, true, false, 0},
+          {"Esc", true, press(Qt::Key_Escape), true, false, 1},
+          {"Esc, not sure", true,
+           [&](QWidget&) {
+               clerk.press(Qt::Key_Escape);
+               EXPECT_TRUE(clerk.isOpen("Preview_frm"));
+               clerk.enter();
+           },
+           false, true, 1},
+          {"Esc, nothing follows", false, press(Qt::Key_Escape), true, true, 0}}) {
+        int asked = 0;
+        const PreviewPlace place{"3 頁（2 / 9 件目）", c.more, [&] { return ++asked, c.sure; }};
+        clerk.expect("印刷プレビュー - 請求書 3 頁（2 / 9 件目）", [&](QWidget& window) {
+            EXPECT_EQ(clerk.text("Place"), place.page);
+            EXPECT_EQ(window.findChild<QWidget*>("Stop") != nullptr, c.more);
+            c.leave(window);
+        });
+        EXPECT_EQ(ShowPreview("請求書", {PrintPage{QSizeF(100, 100), [](QPainter&) {}}}, place), c.goesOn)
+            << c.what;
+        EXPECT_EQ(asked, c.asked) << c.what;
+    }
+}
 
 TEST_F(PreviewTest, DrawsOnlyWhatIsSeenAndWalksByKeys) {
     std::set<int> drawn;

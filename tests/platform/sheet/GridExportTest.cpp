@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "platform/runtime/RuntimeError.h"
 #include "platform/sheet/SheetReader.h"
 
 namespace akarix {
@@ -26,6 +27,19 @@ class GridExport : public testing::Test {
     QTemporaryDir folder_;
     QString path_ = folder_.filePath("一覧.xlsx");
 };
+
+TEST_F(GridExport, StoppedBetweenTwoRowsNothingIsWritten) {
+    struct : Progress {
+        void stage(const QString&, bool) override {}
+        void step(int done, int total) override {
+            EXPECT_EQ(total, 3);
+            if (done == 2) throw RuntimeError(CancelledByOperator);
+        }
+    } stopping;
+    const GridSource source{3, {900}, {left}, [](int, int) { return QString("x"); }};
+    EXPECT_THROW(WriteGridWorkbook(path_, "a", "b", "c", source, stopping), RuntimeError);
+    EXPECT_TRUE(QDir(folder_.path()).isEmpty());
+}
 
 TEST_F(GridExport, WhatStandsWhere) {
     ASSERT_TRUE(write({{"ｺｰﾄﾞ", "id", "得意先", "請求額"},
