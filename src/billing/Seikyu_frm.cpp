@@ -87,6 +87,7 @@ void Seikyu_frm::layOut() {
         .text(addBox(ebox, kBank, ImeMode::Off), kIntegerBytes)
         .lookup(F6.add(0, new Image));
     TextBox& eSaihi = Named(new TextBox, QStringLiteral("eSaihi"));
+    eSaihi.SetIMEMode(ImeMode::Off);
     fields.row({}).widget(saihiHead).text(eSaihi, kDateBytes).name(*lyobi2, kWeekdayBytes).widget(saihiHint);
 
     auto* actions = new QGridLayout;

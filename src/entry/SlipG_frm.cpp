@@ -114,9 +114,10 @@ SlipG_frm::SlipG_frm() : EntryForm(QStringLiteral("SlipG_frm"), QStringLiteral("
     on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
     on(&Btn(kExport), &CommandButton::Click, [this] { exportGrid(); });
     on(List_, &FlexGrid::KeyDown, [this](KeyEvent& event) {
-        if (event.KeyCode != key::Tab || event.Shift != 0) return;
+        if (event.KeyCode != key::Tab) return;
         event.KeyCode = 0;
-        SetFocus(Command1_);
+        if (event.Shift == 0) return SetFocus(Command1_);
+        FocusSelect(ebox(kCustomer));
     });
     WireCellBox(
         *this, *List_, *tBox_, [this] { openEditor(); }, [this](KeyEvent& event) { cellKey(event); });
@@ -208,6 +209,11 @@ void SlipG_frm::fromexe(std::int16_t& Nendo, std::int16_t& Getudo, std::int32_t&
     ebox(kMonth).SetText(NumStr(Getudo));
     ebox(kCustomer).SetText(NumStr(Deal));
     showMonth();
+}
+
+bool SlipG_frm::holdsWork() const {
+    // What is typed above the sheet is no reading; kept alone it would empty the month.
+    return EntryForm::holdsWork() && List_->Rows() > 1;
 }
 
 void SlipG_frm::QueryUnload(bool& cancel) {

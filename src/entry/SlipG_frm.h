@@ -27,6 +27,7 @@ class SlipG_frm : public EntryForm, public GridForm {
 
  protected:
     void QueryUnload(bool& cancel) override;
+    bool holdsWork() const override;
 
  private:
     void layOut();

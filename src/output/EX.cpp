@@ -52,6 +52,15 @@ void FinishWhenAbandoned(const std::weak_ptr<PrintSink>& document) {
     }
 }
 
+/// When the event loop turns with nothing under way. A long run lets it turn in its midst, so the loop alone
+/// is no sign of a run's end.
+void FinishLater(const std::weak_ptr<PrintSink>& document) {
+    QTimer::singleShot(0, qApp, [document] {
+        AfterAction(
+            [document] { PrintRun::UnderWay() ? FinishLater(document) : FinishWhenAbandoned(document); });
+    });
+}
+
 /// The pages of the sheet as it stands now; they keep a copy, since the template is filled again. Their
 /// numbers go on from the pages before.
 std::vector<PrintPage> NextPages(Workbook& open) {
@@ -109,10 +118,7 @@ void ExcelPrintPage(bool pagesFollow) {
     }
     if (!open.document) {
         open.document = OpenPrinterSink(open.name);
-        // A long run lets the event loop turn in its midst, so the loop alone is no sign of its end.
-        QTimer::singleShot(0, qApp, [document = std::weak_ptr(open.document)] {
-            AfterAction([document] { FinishWhenAbandoned(document); });
-        });
+        FinishLater(open.document);
     }
     open.document->add(std::move(pages));
 }

@@ -17,6 +17,7 @@ class PrintRun {
     PrintRun(const PrintRun&) = delete;
     PrintRun& operator=(const PrintRun&) = delete;
 
+    static bool UnderWay() { return current() != nullptr; }
     /// Before each of several documents. Raises 32755 when the operator wants no more; what is finished is
     /// printed. \param index from 0
     void next(int index, int count);

@@ -19,13 +19,15 @@ namespace akarix {
 
 namespace {
 
-/// False when the step failed.
-bool attempt(void (*step)(const QString& place), const QString& place) {
+constexpr int kDamaged = 3343;
+
+/// The number of the error that stopped the step; 0 when it was done.
+int attempt(void (*step)(const QString& place), const QString& place) {
     try {
         step(place);
-        return true;
-    } catch (const RuntimeError&) {
-        return false;
+        return 0;
+    } catch (const RuntimeError& error) {
+        return error.number();
     }
 }
 
@@ -50,7 +52,11 @@ void ChangeBackupPlace() {
 void BackUp() {
     const QString folder = BackupFolder(ReadBackupPlace());
     attempt(&MkDir, folder);  // it mostly exists
-    if (attempt(&copyTo, folder)) ShowAlert(folder + QStringLiteral("へバックアップコピーしました。"));
+    const int failure = attempt(&copyTo, folder);
+    if (failure == 0) ShowAlert(folder + QStringLiteral("へバックアップコピーしました。"));
+    if (failure == kDamaged) {
+        ShowAlert(DatabaseName() + QStringLiteral(" が壊れているので、バックアップコピーしませんでした。"));
+    }
 }
 
 }  // namespace akarix

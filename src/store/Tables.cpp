@@ -56,7 +56,7 @@ std::vector<TableDef> masters() {
               {QStringLiteral("Ptn"), QStringLiteral("St"), QStringLiteral("Ed")}),
         table(u"NyukinKubun", {integer(u"Code"), text(u"Namae", 20)}, byCode),
         // Wider than the boxes of its screens, as Deal.Kana is: what came from elsewhere is cut where a
-        // record of the request has no room for it, rather than lost as a row.
+        // record of the request has no room for it, rather than refused as a row.
         table(u"Bnk",
               {integer(u"Code"), text(u"ItakuCode", 20), text(u"Itakusya", 60), text(u"fName", 60),
                text(u"BkName", 30), integer(u"Stn"), text(u"StnName", 30), text(u"Syurui", 10),

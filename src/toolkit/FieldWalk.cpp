@@ -70,6 +70,7 @@ void ClearControls(Form& form) {
             combo->SetListIndex(-1);
         }
     }
+    form.ForgetEdits();
 }
 
 void FocusSelect(TextBox& box) {

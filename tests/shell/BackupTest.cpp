@@ -121,10 +121,12 @@ TEST_F(Backup, WhatCannotBeCopiedIsPassedOver) {
     EXPECT_EQ(clerk.lastSaid(), u"d:\\bk\\へバックアップコピーしました。"_qs) << "cut at the comma";
     const QByteArray before = bytesOf(u"Drive/D/bk/Akarix1.MDB"_qs);
     ASSERT_TRUE(QFile::resize(u"Akarix.MDB"_qs, 5000));
+    clerk.answerAlert();
     BackUp();
+    EXPECT_EQ(clerk.lastSaid(), u"Akarix.MDB が壊れているので、バックアップコピーしませんでした。"_qs);
     EXPECT_EQ(bytesOf(u"Drive/D/bk/Akarix1.MDB"_qs), before) << "a sound copy is not lost to a damaged file";
     EXPECT_EQ(copies().size(), 1);
-    EXPECT_EQ(clerk.said().size(), 2);
+    EXPECT_EQ(clerk.said().size(), 3);
 }
 
 TEST_F(Backup, WithoutAPlaceItFails) {

@@ -1,14 +1,16 @@
 #include "platform/forms/Form.h"
 
+#include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QEventLoop>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QShortcut>
-#include <QStyleHints>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
@@ -16,6 +18,7 @@
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/FitToRoom.h"
 #include "platform/forms/LongRun.h"
+#include "platform/forms/Notice.h"
 #include "platform/forms/PressGuard.h"
 #include "platform/forms/SessionEnd.h"
 
@@ -203,9 +206,18 @@ void Form::addKeys() {
     add(Qt::CTRL | Qt::Key_S, [this] { pressKeep(); });
 }
 
+void Form::watchEdits() {
+    const auto note = [this] { edited_ = true; };
+    for (QWidget* control : Controls()) {
+        if (auto* box = qobject_cast<QLineEdit*>(control)) connect(box, &QLineEdit::textEdited, this, note);
+        if (auto* list = qobject_cast<QComboBox*>(control)) connect(list, &QComboBox::activated, this, note);
+        if (auto* button = qobject_cast<QAbstractButton*>(control);
+            button != nullptr && button->isCheckable())
+            connect(button, &QAbstractButton::clicked, this, note);
+    }
+}
+
 void Form::pressKeep() {
-    // A second stroke by a slip of the hand would keep the screen that the first one has emptied.
-    if (!keptJustNow_.hasExpired()) return;
     CommandButton* first = nullptr;
     for (QWidget* control : Controls()) {
         auto* button = qobject_cast<CommandButton*>(control);
@@ -213,10 +225,15 @@ void Form::pressKeep() {
         if (first == nullptr || TabIndex(button) < TabIndex(first)) first = button;
     }
     if (first == nullptr || !first->isVisible() || !first->isEnabled()) return;
+    // A second stroke would store the emptied screen over what the first one has kept.
+    if (!holdsWork()) return ShowNotice(QStringLiteral("打ったものがないので、保存しませんでした。"));
+    const auto* box = qobject_cast<QLineEdit*>(focusWidget());
+    if (box != nullptr && TabIndex(box) < 0 && box->isModified()) {
+        return ShowNotice(QStringLiteral("打ちかけの欄を Enter で確定してから、保存して下さい。"));
+    }
     // The keyboard goes to the button, as under the mouse, so that the field it was in is left by its rules.
     first->setFocus(Qt::ShortcutFocusReason);
     if (focusWidget() == first) first->click();
-    keptJustNow_.setRemainingTime(QGuiApplication::styleHints()->mouseDoubleClickInterval());
 }
 
 void Form::present(QWidget* owner) {
@@ -243,6 +260,7 @@ void Form::arrange() {
         if (previous != nullptr) setTabOrder(previous, control);
         previous = control;
     }
+    watchEdits();
     // A new form's keyboard starts at the head of the walk unless its code has chosen otherwise.
     if (focusWidget() == nullptr && !walk.isEmpty()) walk.front()->setFocus();
     if (layout() != nullptr && !resizable_.value_or(hasGrowingChild(this))) {

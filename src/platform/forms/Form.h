@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDeadlineTimer>
 #include <QPointer>
 #include <QWidget>
 #include <functional>
@@ -48,6 +47,8 @@ class Form : public QWidget {
 
     /// All controls of the form in the order they were made (the classic Controls collection).
     QList<QWidget*> Controls() const;
+    /// What was typed or chosen so far is no work any more: the screen has been emptied.
+    void ForgetEdits() { edited_ = false; }
 
     /// Attaches a handler: run inside an action, an escaping error shown in the run time's box.
     template <class Sender, class Signal, class Handler>
@@ -92,6 +93,9 @@ class Form : public QWidget {
  protected:
     /// Before the form goes away. Setting cancel keeps it; closing the window asks here too.
     virtual void QueryUnload(bool& cancel);
+    /// Whether the screen holds something that Ctrl+S may keep: something was typed or chosen since it was
+    /// emptied.
+    virtual bool holdsWork() const { return edited_; }
     /// A press on the form itself, not on a control: button 1 left, 2 right, 4 middle; place in twips.
     virtual void MouseDown(int button, int shift, int x, int y);
 
@@ -102,6 +106,7 @@ class Form : public QWidget {
  private:
     static Form* adopt(Form* instance);
     void addKeys();
+    void watchEdits();
     void pressKeep();
     void present(QWidget* owner);
     void arrange();
@@ -110,10 +115,10 @@ class Form : public QWidget {
     QSize wantedSize() const;
 
     QEventLoop* modalLoop_ = nullptr;
-    QDeadlineTimer keptJustNow_;
     std::optional<bool> resizable_;
     QSize hint_;  ///< what the contents asked for when the size was last taken from them
     int nextTabIndex_ = 0;
+    bool edited_ = false;
     bool arranged_ = false;
     bool placed_ = false;
     bool ownSize_ = false;

@@ -73,23 +73,27 @@ class PressGuard : public QObject {
     }
 
     // Counted by the time of the press, not of its arrival: a second one may have waited for the first one's
-    // work. A third soon behind the second is the same slip still.
+    // work.
     bool isSecondPress(QObject* watched, const QMouseEvent& press) {
         if (press.button() != Qt::LeftButton) return false;
-        if (press.timestamp() == time_) return swallowing_;  // from the window on to the control
+        if (std::exchange(seen_, press.timestamp()) == press.timestamp())
+            return swallowing_;  // window, then control
         const auto interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
         const QWidget* control = controlUnder(watched, press);
         const bool soon = press.timestamp() - time_ < interval;
         const bool same = control != nullptr && control == control_;
         const bool near = isNear(press.globalPosition(), place_);
         swallowing_ = soon && (same ? isButton(control) || (near && isCell(control)) : near);
+        if (swallowing_)
+            return true;  // time and place stay: who goes on clicking is heard after the interval
         time_ = press.timestamp();
         place_ = press.globalPosition();
         control_ = control;
-        return swallowing_;
+        return false;
     }
 
-    quint64 time_ = 0;
+    quint64 seen_ = 0;  ///< the press judged last
+    quint64 time_ = 0;  ///< the press heard last
     QPointF place_;
     QPointer<const QWidget> control_;
     bool swallowing_ = false;  ///< the press under way, to its release

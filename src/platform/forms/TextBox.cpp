@@ -22,6 +22,21 @@ QString toHalfKatakana(const QString& text) {
     return StrConv(StrConv(text, Katakana), NarrowChars);
 }
 
+/// Figures, signs, points and letters; kana stay, since a file may be called so.
+QString narrowed(QString text) {
+    constexpr char16_t firstWide = u'！';
+    constexpr char16_t lastWide = u'～';
+    constexpr int apart = firstWide - u'!';
+    for (QChar& mark : text) {
+        const char16_t code = mark.unicode();
+        if (code >= firstWide && code <= lastWide) mark = QChar(code - apart);
+        if (code == u'　') mark = u' ';
+        if (code == u'￥') mark = u'\\';
+        if (code == u'−') mark = u'-';
+    }
+    return text;
+}
+
 bool types(const QKeyEvent& press) {
     return !press.text().isEmpty() && press.text().front().isPrint() &&
            !(press.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
@@ -35,7 +50,8 @@ TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
     connect(this, &QLineEdit::textEdited, this, [this] {
         if (!composing_ && !fitting_) fitEdit();
     });
-    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { before_ = text; });
+    // Asked for, not told: behind a paste that was made to fit, the signal still tells what came in.
+    connect(this, &QLineEdit::textChanged, this, [this] { before_ = text(); });
 }
 
 void TextBox::SetIMEMode(ImeMode mode) {
@@ -132,7 +148,7 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
 QString TextBox::taken(const QString& coming) const {
     switch (imeMode_) {
         case ImeMode::Off:
-            return StrConv(coming, NarrowChars);
+            return narrowed(coming);
         case ImeMode::KatakanaHalf:
             return toHalfKatakana(coming);
         default:

@@ -15,8 +15,8 @@ BoundPtr toDate(const BoundPtr& expression);
 BoundPtr toText(const BoundPtr& expression);
 BoundPtr toKind(const BoundPtr& expression, Kind kind);
 
-/// The value of an expression as a column takes it. What cannot become the column's kind stays as it is, for
-/// the column's check to refuse the row.
+/// The value of an expression as a column takes it. What cannot become the column's kind stays as it is and
+/// raises there.
 BoundPtr toColumn(const BoundPtr& expression, const ColumnDef& column);
 
 /// The kind in which values of both can stand in one column.

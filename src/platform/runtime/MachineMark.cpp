@@ -31,7 +31,8 @@ int openMark(const QByteArray& path, bool make) {
     }
     if (!make) return -1;
     const int file = ::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, forAll);
-    if (file >= 0) ::fchmod(file, forAll);  // past the mask, which is the user's own
+    if (file < 0) return errno == EEXIST ? openMark(path, false) : -1;  // another one was quicker to make it
+    ::fchmod(file, forAll);  // past the mask, which is the user's own
     return file;
 }
 
