@@ -169,14 +169,13 @@ TEST_F(DebitFiles, ADiskThatFillsUpInTheMiddleStaysOpen) {
 
 TEST_F(DebitFiles, MoreAccountsThanAFileHolds) {
     ScratchStore::run(
-        "DELETE FROM Deal;\n"
-        "CREATE TABLE N(I Long)");
-    for (int i = 0; i < 32; ++i)
-        gDb->Execute("INSERT INTO N(I) VALUES(" + QString::number(i) + ")");
-    gDb->Execute(
-        "INSERT INTO Deal(Code,Bnk,Stn,Kind,Koza) SELECT "
-        "a.I*1024+b.I*32+c.I+1,9900,10010,1,a.I*1024+b.I*32+c.I "
-        "FROM N AS a,N AS b,N AS c");
+        "DELETE FROM Deal;\nINSERT INTO Deal(Code,Bnk,Stn,Kind,Koza) VALUES(1,9900,10010,1,'0')");
+    for (int count = 1; count < 32768; count *= 2) {
+        gDb->Execute(
+            QString(
+                "INSERT INTO Deal(Code,Bnk,Stn,Kind,Koza) SELECT Code+%1,9900,10010,1,Code+%1-1 FROM Deal")
+                .arg(count));
+    }
     gDb->Execute("INSERT INTO TtoD(Deal,Nendo,Getudo,Gaku) SELECT Code,2023,4,100 FROM Deal WHERE Code>4");
     EXPECT_EQ(ScratchStore::rows("SELECT COUNT(*) FROM Deal"), QStringList{"32768"});
     EXPECT_EQ(writePost(), "6");

@@ -36,8 +36,7 @@ class PbDetailTest : public ScreenTest {
  protected:
     void SetUp() override {
         database_ = DBEngine::Workspaces(0).CreateDatabase(folder_.filePath("a.MDB"), "MS Access;PWD=x");
-        database_->Execute(
-            "CREATE TABLE Test (N Long PRIMARY KEY, Grp Integer, Namae Text(20), Gaku Currency)");
+        database_->Execute("CREATE TABLE Test (N Long, Grp Integer, Namae Text(20), Gaku Currency)");
         begin();
     }
     void TearDown() override {

@@ -74,9 +74,11 @@ TEST_F(DatabaseTest, KeysDropTheSecondRow) {
 }
 
 TEST_F(DatabaseTest, MigrationBringsAnOlderFileUpToDateAndCanBeRunAgain) {
-    const ScratchStore store;
+    const ScratchStore store(false);
+    QFile::remove(store.path());
+    DBEngine::Workspaces(0).CreateDatabase(DatabaseName(), ConnectText())->Close();
+    ASSERT_TRUE(OpenDb(noteFailure));
     ScratchStore::run(
-        "DROP TABLE TempZan;\nDROP TABLE Rte;\nDROP TABLE Bnk;\nDROP TABLE GasKeisan;\n"
         "CREATE TABLE Rte(Code Integer, Kana Text(20), Namae Text(30));\n"
         "CREATE TABLE Bnk(Code Integer, BkName Text(15));\n"
         "CREATE TABLE GasKeisan(Ptn Integer, St Integer, Ed Integer, Kihon Integer, "

@@ -8,7 +8,7 @@ struct BoundInsert {
     const TableDef* table;
     std::vector<int> columns;
     std::vector<BoundPtr> values;
-    std::shared_ptr<const BoundQuery> query;  ///< none: `values`
+    std::optional<BoundQuery> query;  ///< none: `values`
 };
 
 struct BoundAssignment {
@@ -24,7 +24,6 @@ struct BoundUpdate {
 
 struct BoundDelete {
     BoundRows rows;
-    const BoundTable* target;
 };
 
 }  // namespace akarix

@@ -1,12 +1,9 @@
 #include "platform/jet/BoundExpression.h"
 
 #include "platform/jet/BoundQuery.h"
-#include "platform/jet/DialectError.h"
 
 namespace akarix {
 namespace {
-
-constexpr int kMostNodes = 20000;
 
 struct Operands {
     std::vector<BoundPtr> operator()(const BoundNegation& n) const { return {n.operand}; }
@@ -18,15 +15,6 @@ struct Operands {
     std::vector<BoundPtr> operator()(const BoundComparison& n) const { return {n.left, n.right}; }
     std::vector<BoundPtr> operator()(const BoundIsNull& n) const { return {n.operand}; }
     std::vector<BoundPtr> operator()(const BoundLike& n) const { return {n.operand, n.pattern}; }
-    std::vector<BoundPtr> operator()(const BoundInList& n) const {
-        std::vector<BoundPtr> all{n.operand};
-        all.insert(all.end(), n.items.begin(), n.items.end());
-        return all;
-    }
-    std::vector<BoundPtr> operator()(const BoundInQuery& n) const { return {n.operand}; }
-    std::vector<BoundPtr> operator()(const BoundChoice& n) const {
-        return {n.condition, n.then, n.otherwise};
-    }
     std::vector<BoundPtr> operator()(const BoundAggregate& n) const {
         return n.operand ? std::vector<BoundPtr>{n.operand} : std::vector<BoundPtr>{};
     }
@@ -36,7 +24,7 @@ struct Operands {
     }
 };
 
-/// What two nodes of one kind must share beside their operands. Queries are never the same as others.
+/// What two nodes of one kind must share beside their operands.
 struct SameHead {
     bool operator()(const BoundColumn& a, const BoundColumn& b) const {
         return a.table == b.table && a.column == b.column;
@@ -45,7 +33,6 @@ struct SameHead {
         return a.literal.kind == b.literal.kind && a.literal.value == b.literal.value &&
                a.negated == b.negated && a.use == b.use && a.lifted == b.lifted && a.target == b.target;
     }
-    bool operator()(const BoundBoolean& a, const BoundBoolean& b) const { return a.value == b.value; }
     bool operator()(const BoundArithmetic& a, const BoundArithmetic& b) const { return a.op == b.op; }
     bool operator()(const BoundConversion& a, const BoundConversion& b) const {
         return a.conversion == b.conversion;
@@ -55,10 +42,6 @@ struct SameHead {
     bool operator()(const BoundComparison& a, const BoundComparison& b) const { return a.op == b.op; }
     bool operator()(const BoundIsNull& a, const BoundIsNull& b) const { return a.negated == b.negated; }
     bool operator()(const BoundLike& a, const BoundLike& b) const { return a.negated == b.negated; }
-    bool operator()(const BoundInList& a, const BoundInList& b) const { return a.negated == b.negated; }
-    bool operator()(const BoundInQuery&, const BoundInQuery&) const { return false; }
-    bool operator()(const BoundExists&, const BoundExists&) const { return false; }
-    bool operator()(const BoundScalarQuery&, const BoundScalarQuery&) const { return false; }
     bool operator()(const BoundAggregate& a, const BoundAggregate& b) const { return a.op == b.op; }
     template <class Same>
     bool operator()(const Same&, const Same&) const {
@@ -77,9 +60,6 @@ BoundPtr makeBound(BoundNode node, Kind kind, const BoundExpression* from) {
     made->node = std::move(node);
     made->kind = kind;
     made->type = typeOf(kind);
-    for (const BoundPtr& operand : operandsOf(*made))
-        made->weight += operand->weight;
-    if (made->weight > kMostNodes) throw tooComplex();
     if (from) {
         made->text = from->text;
         made->position = from->position;

@@ -12,7 +12,6 @@ namespace akarix {
 // The tree with every name resolved and every operand brought to the kind its operator works in.
 
 struct BoundExpression;
-struct BoundQuery;
 struct BoundTable;
 struct SqlFunction;
 using BoundPtr = std::shared_ptr<const BoundExpression>;
@@ -33,17 +32,12 @@ struct BoundLiteral {
 
 struct BoundNull {};
 
-/// A Boolean literal; -1 or 0 as a value.
-struct BoundBoolean {
-    bool value;
-};
-
 struct BoundNegation {
     BoundPtr operand;
 };
 
-/// The operators that the engine has itself; Join puts two texts together.
-enum class NativeOp { Add, Subtract, Multiply, Join };
+/// The operators that the engine has itself.
+enum class NativeOp { Add, Subtract, Multiply };
 
 struct BoundArithmetic {
     NativeOp op;
@@ -98,33 +92,7 @@ struct BoundLike {
     bool negated;
 };
 
-struct BoundInList {
-    BoundPtr operand;
-    std::vector<BoundPtr> items;
-    bool negated;
-};
-
-struct BoundInQuery {
-    BoundPtr operand;
-    std::shared_ptr<const BoundQuery> query;
-    bool negated;
-};
-
-struct BoundExists {
-    std::shared_ptr<const BoundQuery> query;
-};
-
-struct BoundScalarQuery {
-    std::shared_ptr<const BoundQuery> query;
-};
-
-struct BoundChoice {
-    BoundPtr condition;
-    BoundPtr then;
-    BoundPtr otherwise;
-};
-
-enum class AggregateOp { Count, Sum, Average, Min, Max, First, Last };
+enum class AggregateOp { Count, Sum, Max, First };
 
 struct BoundAggregate {
     AggregateOp op;
@@ -132,9 +100,8 @@ struct BoundAggregate {
 };
 
 using BoundNode =
-    std::variant<BoundColumn, BoundLiteral, BoundNull, BoundBoolean, BoundNegation, BoundArithmetic,
-                 BoundConversion, BoundCall, BoundNot, BoundLogic, BoundComparison, BoundIsNull, BoundLike,
-                 BoundInList, BoundInQuery, BoundExists, BoundScalarQuery, BoundChoice, BoundAggregate>;
+    std::variant<BoundColumn, BoundLiteral, BoundNull, BoundNegation, BoundArithmetic, BoundConversion,
+                 BoundCall, BoundNot, BoundLogic, BoundComparison, BoundIsNull, BoundLike, BoundAggregate>;
 
 struct BoundExpression {
     BoundNode node;
@@ -143,15 +110,14 @@ struct BoundExpression {
     int size = 0;
     QString text;            ///< as the statement has it, for messages
     qsizetype position = 0;  ///< in the statement
-    int weight = 1;          ///< nodes of the tree; what an alias stands for counts where it is used
 };
 
-/// \param from gives the text and the place. Raises 3360 when the tree gets too large.
+/// \param from gives the text and the place.
 BoundPtr makeBound(BoundNode node, Kind kind, const BoundExpression* from = nullptr);
 /// A whole number that no text contains, such as an argument left out.
 BoundPtr makeWhole(std::int64_t value);
 
-/// The expressions right below one, subqueries not looked into.
+/// The expressions right below one.
 std::vector<BoundPtr> operandsOf(const BoundExpression& expression);
 bool sameExpression(const BoundExpression& a, const BoundExpression& b);
 

@@ -7,29 +7,15 @@
 
 namespace akarix {
 
-/// A table of FROM, or a query in its place.
+/// A table of FROM.
 struct BoundTable {
-    int id = 0;     ///< its number in the statement
-    QString alias;  ///< the name by which the statement knows it
+    int id = 0;  ///< its number in the statement
     const TableDef* definition = nullptr;
-    std::shared_ptr<const TableDef> derivedDefinition;  ///< what `definition` points at, for a query
-    std::shared_ptr<const BoundQuery> derived;
-    /// The engine hides the row numbers of tables inside the parentheses of an outer join.
-    bool rowNumberReachable = true;
 };
 
-struct BoundSource;
-
-/// A right join has become a left join with its sides changed over.
 struct BoundJoin {
-    bool outer;
-    std::unique_ptr<BoundSource> left;
-    std::unique_ptr<BoundSource> right;
+    bool outer;  ///< LEFT JOIN
     BoundPtr on;
-};
-
-struct BoundSource {
-    std::variant<const BoundTable*, BoundJoin> node;
 };
 
 struct BoundItem {
@@ -45,31 +31,17 @@ struct BoundOrder {
 /// FROM and WHERE of any statement.
 struct BoundRows {
     std::vector<std::unique_ptr<BoundTable>> tables;  ///< in the order of the text
-    std::vector<BoundSource> sources;
+    std::vector<BoundJoin> joins;                     ///< how each table but the first is joined
     BoundPtr where;
 };
 
-struct BoundSelect {
-    bool distinct = false;
-    bool distinctRow = false;
-    std::optional<ParsedTop> top;
+struct BoundQuery {
+    std::optional<std::int64_t> top;
     std::vector<BoundItem> items;
     BoundRows rows;
     std::vector<BoundPtr> groups;
-    BoundPtr having;
     bool grouped = false;  ///< by GROUP BY or by an aggregate
     std::vector<BoundOrder> order;
-};
-
-struct BoundUnionOrder {
-    std::size_t item;
-    bool descending;
-};
-
-struct BoundQuery {
-    std::vector<BoundSelect> members;
-    std::vector<bool> all;
-    std::vector<BoundUnionOrder> order;  ///< of a UNION; a single SELECT holds its own
 };
 
 }  // namespace akarix

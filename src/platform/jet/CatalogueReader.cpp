@@ -35,15 +35,15 @@ QStringList KeyColumns(sqlite3* connection, const QString& index) {
     return columns;
 }
 
-// The unique indexes of the table that were made in one way: "u" with the table, "c" beside it.
-std::vector<QStringList> UniqueKeys(sqlite3* connection, const QString& table, const QString& madeBy) {
+// The keys that were made with the table.
+std::vector<QStringList> UniqueKeys(sqlite3* connection, const QString& table) {
     constexpr int kName = 1;
     constexpr int kUnique = 2;
     constexpr int kOrigin = 3;
     const Statement query = Prepare(connection, "PRAGMA index_list(" + Quoted(table) + ')');
     std::vector<QStringList> keys;
     while (Step(connection, query.get())) {
-        if (sqlite3_column_int(query.get(), kUnique) != 0 && TextAt(query.get(), kOrigin) == madeBy) {
+        if (sqlite3_column_int(query.get(), kUnique) != 0 && TextAt(query.get(), kOrigin) == u"u") {
             keys.push_back(KeyColumns(connection, TextAt(query.get(), kName)));
         }
     }
@@ -53,10 +53,6 @@ std::vector<QStringList> UniqueKeys(sqlite3* connection, const QString& table, c
 }
 
 }  // namespace
-
-std::vector<QStringList> DeclaredKeys(sqlite3* connection, const QString& table) {
-    return UniqueKeys(connection, table, QStringLiteral("u"));
-}
 
 Catalogue ReadCatalogue(sqlite3* connection) {
     Catalogue catalogue;
@@ -71,10 +67,7 @@ Catalogue ReadCatalogue(sqlite3* connection) {
             column.zeroDefault = TextAt(query.get(), 4) == u"0";
             table.columns.push_back(std::move(column));
         }
-        table.uniqueKeys = DeclaredKeys(connection, name);
-        for (QStringList& key : UniqueKeys(connection, name, QStringLiteral("c"))) {
-            table.uniqueKeys.push_back(std::move(key));
-        }
+        table.uniqueKeys = UniqueKeys(connection, name);
         catalogue.put(std::move(table));
     }
     return catalogue;

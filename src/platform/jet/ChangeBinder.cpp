@@ -4,6 +4,7 @@
 
 #include "platform/jet/Coercion.h"
 #include "platform/jet/DialectError.h"
+#include "platform/jet/ExpressionBinder.h"
 #include "platform/jet/StoreError.h"
 
 namespace akarix {
@@ -66,18 +67,18 @@ BoundInsert ChangeBinder::bind(const ParsedInsert& parsed) {
         checkRequired(bound);
         if (parsed.values.size() != bound.columns.size()) throw countsDiffer();
         const Scope nothing;
-        ExpressionBinder binder = queries_.expressions(nothing);
+        ExpressionBinder binder(nothing);
         for (std::size_t i = 0; i < parsed.values.size(); ++i) {
             bound.values.push_back(
                 toColumn(binder.bind(*parsed.values[i]), columnAt(*bound.table, bound.columns[i])));
         }
         return bound;
     }
-    auto query = queries_.bind(*parsed.query);
+    BoundQuery query = queries_.bind(*parsed.query);
     if (parsed.columns.empty()) {
         // Without a column list the names of the results say where they go.
         bound.columns.clear();
-        for (const BoundItem& item : query->members.front().items) {
+        for (const BoundItem& item : query.items) {
             const int column = bound.table->indexOf(item.column.name);
             if (column < 0) {
                 throw dialectError(
@@ -88,12 +89,10 @@ BoundInsert ChangeBinder::bind(const ParsedInsert& parsed) {
         }
     }
     checkRequired(bound);
-    for (BoundSelect& member : query->members) {
-        if (member.items.size() != bound.columns.size()) throw countsDiffer();
-        for (std::size_t i = 0; i < member.items.size(); ++i) {
-            BoundPtr& value = member.items[i].expression;
-            value = toColumn(value, columnAt(*bound.table, bound.columns[i]));
-        }
+    if (query.items.size() != bound.columns.size()) throw countsDiffer();
+    for (std::size_t i = 0; i < query.items.size(); ++i) {
+        BoundPtr& value = query.items[i].expression;
+        value = toColumn(value, columnAt(*bound.table, bound.columns[i]));
     }
     bound.query = std::move(query);
     return bound;
@@ -103,35 +102,24 @@ BoundUpdate ChangeBinder::bind(const ParsedUpdate& parsed) {
     BoundUpdate bound;
     bound.target = nullptr;
     Scope scope;
-    bound.rows = queries_.bindRows(parsed.sources, parsed.where.get(), scope);
+    bound.rows = queries_.bindRows(parsed.source, parsed.where.get(), scope);
     for (const ParsedAssignment& assignment : parsed.assignments) {
         const BoundPtr place = scope.column(assignment.column, assignment.position);
         if (!place) throw unknownName(assignment.column.column, assignment.position);
         const auto& column = std::get<BoundColumn>(place->node);
         if (bound.target && bound.target != column.table) throw notUpdatable();
         bound.target = column.table;
-        const BoundPtr value = queries_.expressions(scope).bind(*assignment.value);
+        const BoundPtr value = ExpressionBinder(scope).bind(*assignment.value);
         bound.assignments.push_back(
             {column.column, toColumn(value, columnAt(*column.table->definition, column.column))});
     }
-    if (!bound.target->rowNumberReachable) throw notUpdatable();
     return bound;
 }
 
 BoundDelete ChangeBinder::bind(const ParsedDelete& parsed) {
     BoundDelete bound;
     Scope scope;
-    bound.rows = queries_.bindRows(parsed.sources, parsed.where.get(), scope);
-    if (parsed.target.isEmpty()) {
-        if (bound.rows.tables.size() != 1) {
-            throw dialectError(3128, QStringLiteral("削除するレコードを含んだテーブルを指定してください。"));
-        }
-        bound.target = bound.rows.tables.front().get();
-    } else {
-        bound.target = scope.table(parsed.target);
-        if (!bound.target) throw unknownTable(parsed.target);
-    }
-    if (!bound.target->rowNumberReachable) throw notUpdatable();
+    bound.rows = queries_.bindRows({parsed.table, {}}, parsed.where.get(), scope);
     return bound;
 }
 

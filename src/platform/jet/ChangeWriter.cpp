@@ -5,16 +5,9 @@
 namespace akarix {
 namespace {
 
-bool isQuery(const BoundExpression& expression) {
-    return std::holds_alternative<BoundScalarQuery>(expression.node) ||
-           std::holds_alternative<BoundInQuery>(expression.node) ||
-           std::holds_alternative<BoundExists>(expression.node);
-}
-
 /// Whether a value can be written without the other tables of a joined update.
 bool needsOnly(const BoundTable* table, const BoundExpression& expression) {
     if (const auto* column = std::get_if<BoundColumn>(&expression.node)) return column->table == table;
-    if (isQuery(expression)) return false;
     const auto operands = operandsOf(expression);
     return std::all_of(operands.begin(), operands.end(),
                        [&](const BoundPtr& operand) { return needsOnly(table, *operand); });
@@ -30,7 +23,7 @@ void Writer::insert(const BoundInsert& statement) {
     }
     out_ += ") ";
     if (statement.query) {
-        anyQuery(*statement.query, Shape{});
+        query(*statement.query, false);
         return;
     }
     out_ += "VALUES(";
@@ -83,13 +76,8 @@ void Writer::assignments(const BoundUpdate& statement) {
 }
 
 void Writer::remove(const BoundDelete& statement) {
-    out_ += "DELETE FROM " + Quoted(statement.target->definition->name);
-    if (statement.rows.tables.size() > 1) {
-        out_ += " WHERE ";
-        targetRows(statement.rows, *statement.target);
-        return;
-    }
-    itself_ = statement.target;
+    itself_ = statement.rows.tables.front().get();
+    out_ += "DELETE FROM " + Quoted(itself_->definition->name);
     if (statement.rows.where) {
         out_ += " WHERE ";
         condition(*statement.rows.where);

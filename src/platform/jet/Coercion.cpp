@@ -124,27 +124,6 @@ BoundPtr toText(const BoundPtr& expression) {
     }
 }
 
-BoundPtr toKind(const BoundPtr& expression, Kind kind) {
-    if (expression->kind == kind && !std::holds_alternative<BoundLiteral>(expression->node))
-        return expression;
-    switch (kind) {
-        case Kind::Integer:
-            return toWhole(expression);
-        case Kind::Currency:
-            return toCurrency(expression);
-        case Kind::Double:
-            return toReal(expression);
-        case Kind::Date:
-            return toDate(expression);
-        case Kind::Text:
-            return toText(expression);
-        case Kind::Boolean:
-        case Kind::Null:
-            break;
-    }
-    return expression;
-}
-
 namespace {
 
 BoundPtr stored(const BoundPtr& expression, const ColumnDef& column) {
@@ -189,22 +168,13 @@ BoundPtr stored(const BoundPtr& expression, const ColumnDef& column) {
 bool comesFitting(const BoundExpression& expression, const ColumnDef& column) {
     if (column.required) return false;
     if (const auto* place = std::get_if<BoundColumn>(&expression.node)) {
-        if (place->table->derived) return false;
         const ColumnDef& from = place->table->definition->columns[static_cast<std::size_t>(place->column)];
         return from.type == column.type &&
                (column.type != FieldType::Text || TextWidth(from) <= TextWidth(column));
     }
     const auto* aggregate = std::get_if<BoundAggregate>(&expression.node);
-    if (!aggregate) return false;
-    switch (aggregate->op) {
-        case AggregateOp::Min:
-        case AggregateOp::Max:
-        case AggregateOp::First:
-        case AggregateOp::Last:
-            return comesFitting(*aggregate->operand, column);
-        default:
-            return false;
-    }
+    return aggregate && (aggregate->op == AggregateOp::Max || aggregate->op == AggregateOp::First) &&
+           comesFitting(*aggregate->operand, column);
 }
 
 }  // namespace
@@ -226,16 +196,6 @@ BoundPtr toColumn(const BoundPtr& expression, const ColumnDef& column) {
                                {value, makeWhole(static_cast<int>(column.type)), makeWhole(column.size),
                                 makeWhole(column.required ? 1 : 0)}},
                      value->kind, value.get());
-}
-
-Kind commonKind(Kind a, Kind b) {
-    if (a == b || b == Kind::Null) return a;
-    if (a == Kind::Null) return b;
-    if (a == Kind::Text || b == Kind::Text) return Kind::Text;
-    if (a == Kind::Date || b == Kind::Date) return Kind::Date;
-    if (a == Kind::Double || b == Kind::Double) return Kind::Double;
-    if (a == Kind::Currency || b == Kind::Currency) return Kind::Currency;
-    return Kind::Integer;
 }
 
 void makeComparable(const std::vector<BoundPtr*>& expressions) {

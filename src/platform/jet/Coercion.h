@@ -9,18 +9,13 @@ namespace akarix {
 
 /// For results and operands. Text that is no number raises 13 when the statement runs.
 BoundPtr toReal(const BoundPtr& expression);
-BoundPtr toWhole(const BoundPtr& expression);
 BoundPtr toCurrency(const BoundPtr& expression);
 BoundPtr toDate(const BoundPtr& expression);
 BoundPtr toText(const BoundPtr& expression);
-BoundPtr toKind(const BoundPtr& expression, Kind kind);
 
 /// The value of an expression as a column takes it. What cannot become the column's kind stays as it is and
 /// raises there.
 BoundPtr toColumn(const BoundPtr& expression, const ColumnDef& column);
-
-/// The kind in which values of both can stand in one column.
-Kind commonKind(Kind a, Kind b);
 
 /// Brings all to forms that the engine compares by value. Raises 3464 for texts among numbers or dates.
 void makeComparable(const std::vector<BoundPtr*>& expressions);

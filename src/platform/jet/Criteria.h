@@ -1,28 +1,24 @@
 #pragma once
 
 #include <QString>
-#include <functional>
-#include <memory>
 #include <vector>
 
 #include "platform/jet/Plan.h"
 
 namespace akarix {
 
-/// A condition of FindFirst ("Code=123", "Eda=1 AND Kubun=2"), bound to the columns of an open recordset and
-/// evaluated on its rows in memory by the same rules as a WHERE of the dialect.
+/// The condition of FindFirst, a column and what it is to be equal to ("Code=123"), held against the rows of
+/// an open recordset by the same rules as in a WHERE. Raises 3061 for a column the recordset does not have,
+/// 3464 for kinds that cannot be compared and 3075 for anything else.
 class Criteria {
  public:
     Criteria(const QString& text, const std::vector<ResultColumn>& columns);
-    ~Criteria();
-    Criteria(const Criteria&) = delete;
-    Criteria& operator=(const Criteria&) = delete;
 
     bool matches(const std::vector<StoreValue>& row) const;
 
  private:
-    struct Impl;
-    std::unique_ptr<Impl> impl_;
+    std::size_t column_ = 0;
+    StoreValue wanted_;
 };
 
 }  // namespace akarix

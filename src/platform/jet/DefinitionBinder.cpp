@@ -5,10 +5,6 @@
 namespace akarix {
 namespace {
 
-RuntimeError noTable(int number, const QString& name) {
-    return dialectError(number, QStringLiteral("テーブル '%1' が見つかりません。").arg(name));
-}
-
 const QString& columnIn(const TableDef& table, const QString& name, int number) {
     const int index = table.indexOf(name);
     if (index < 0) {
@@ -28,7 +24,9 @@ void bindDefinition(Plan& plan, const Catalogue& catalogue) {
             throw dialectError(3010, QStringLiteral("テーブル '%1' は既に存在します。").arg(table->name));
         return;
     }
-    if (!table) throw noTable(plan.definition == Definition::DropTable ? 3376 : 3371, plan.table.name);
+    if (!table) {
+        throw dialectError(3371, QStringLiteral("テーブル '%1' が見つかりません。").arg(plan.table.name));
+    }
     plan.table.name = table->name;
     switch (plan.definition) {
         case Definition::AddColumn:
@@ -38,7 +36,6 @@ void bindDefinition(Plan& plan, const Catalogue& catalogue) {
             }
             break;
         case Definition::AlterColumn:
-        case Definition::DropColumn:
             plan.column.name = columnIn(*table, plan.column.name, 3383);
             break;
         case Definition::CreateIndex:

@@ -1,8 +1,5 @@
 #include "platform/jet/Definitions.h"
 
-#include <algorithm>
-
-#include "platform/jet/CatalogueReader.h"
 #include "platform/jet/ColumnKind.h"
 #include "platform/jet/Conversion.h"
 #include "platform/jet/Identifier.h"
@@ -87,8 +84,7 @@ void CopyRows(sqlite3* connection, const TableDef& from, const TableDef& to, con
 }
 
 // The engine changes no column in place: the table is made anew beside the old one and takes its name.
-void Rebuild(sqlite3* connection, const TableDef& table, TableDef altered) {
-    altered.uniqueKeys = DeclaredKeys(connection, table.name);
+void Rebuild(sqlite3* connection, const TableDef& table, const TableDef& altered) {
     const QString scratch = table.name + QStringLiteral("__altered");
     const std::vector<QByteArray> indexes = IndexTexts(connection, table.name);
     Run(connection, CreateTableText(altered, scratch));
@@ -117,32 +113,15 @@ void AlterColumn(sqlite3* connection, const TableDef& table, ColumnDef column) {
     }
     present.type = column.type;
     present.size = column.size;
-    Rebuild(connection, table, std::move(altered));
-}
-
-void DropColumn(sqlite3* connection, const TableDef& table, const QString& name) {
-    const int index = ExistingColumn(table, name);
-    const bool isKey =
-        std::any_of(table.uniqueKeys.begin(), table.uniqueKeys.end(),
-                    [&](const QStringList& key) { return key.contains(name, Qt::CaseInsensitive); });
-    if (isKey || table.columns.size() == 1) {
-        throw StoreError(3280, name);
-    }
-    TableDef altered = table;
-    altered.columns.erase(altered.columns.begin() + index);
-    Rebuild(connection, table, std::move(altered));
+    Rebuild(connection, table, altered);
 }
 
 void CreateIndex(sqlite3* connection, const TableDef& table, const IndexDef& index) {
     for (const QString& column : index.columns) {
         ExistingColumn(table, column);
     }
-    Run(connection, QByteArray(index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + Quoted(index.name) +
-                        " ON " + Quoted(table.name) + '(' + QuotedList(index.columns) + ')');
-}
-
-void DropIndex(sqlite3* connection, const QString& name) {
-    Run(connection, "DROP INDEX " + Quoted(name));
+    Run(connection, "CREATE INDEX " + Quoted(index.name) + " ON " + Quoted(table.name) + '(' +
+                        QuotedList(index.columns) + ')');
 }
 
 }  // namespace
@@ -176,17 +155,8 @@ void Define(sqlite3* connection, const Catalogue& catalogue, const Plan& plan) {
         case Plan::Definition::AlterColumn:
             AlterColumn(connection, Existing(catalogue, plan.table.name), plan.column);
             return;
-        case Plan::Definition::DropColumn:
-            DropColumn(connection, Existing(catalogue, plan.table.name), plan.column.name);
-            return;
-        case Plan::Definition::DropTable:
-            Run(connection, "DROP TABLE " + Quoted(Existing(catalogue, plan.table.name).name));
-            return;
         case Plan::Definition::CreateIndex:
             CreateIndex(connection, Existing(catalogue, plan.table.name), plan.index);
-            return;
-        case Plan::Definition::DropIndex:
-            DropIndex(connection, plan.index.name);
             return;
     }
 }

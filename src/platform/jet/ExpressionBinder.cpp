@@ -1,8 +1,10 @@
 #include "platform/jet/ExpressionBinder.h"
 
+#include <algorithm>
+#include <array>
+
 #include "platform/jet/Coercion.h"
 #include "platform/jet/DialectError.h"
-#include "platform/jet/FunctionRules.h"
 #include "platform/jet/SqlFunctions.h"
 
 namespace akarix {
@@ -61,6 +63,18 @@ BoundPtr multiply(const BoundPtr& left, const BoundPtr& right) {
     return called("akarix_mul_currency", {toCurrency(left), toCurrency(right)}, Kind::Currency);
 }
 
+struct AggregateName {
+    QStringView name;
+    AggregateOp op;
+};
+
+constexpr std::array kAggregates = {
+    AggregateName{u"COUNT", AggregateOp::Count},
+    AggregateName{u"SUM", AggregateOp::Sum},
+    AggregateName{u"MAX", AggregateOp::Max},
+    AggregateName{u"FIRST", AggregateOp::First},
+};
+
 BoundPtr describe(const BoundPtr& bound, const ParsedExpression& parsed) {
     auto made = std::make_shared<BoundExpression>(*bound);
     made->text = parsed.text.toString();
@@ -90,9 +104,6 @@ BoundPtr ExpressionBinder::bindNode(const ParsedExpression& parsed) {
         BoundPtr operator()(const ParsedName& n) const { return self.name(whole, n); }
         BoundPtr operator()(const ParsedLiteral& n) const { return self.literal(n); }
         BoundPtr operator()(const ParsedNull&) const { return makeBound(BoundNull{}, Kind::Null); }
-        BoundPtr operator()(const ParsedBoolean& n) const {
-            return makeBound(BoundBoolean{n.value}, Kind::Boolean);
-        }
         BoundPtr operator()(const ParsedNegation& n) const { return self.negation(n); }
         BoundPtr operator()(const ParsedNot& n) const {
             return makeBound(BoundNot{self.bind(*n.operand)}, Kind::Boolean);
@@ -106,22 +117,6 @@ BoundPtr ExpressionBinder::bindNode(const ParsedExpression& parsed) {
             return makeBound(BoundIsNull{self.bind(*n.operand), n.negated}, Kind::Boolean);
         }
         BoundPtr operator()(const ParsedLike& n) const { return self.like(n); }
-        BoundPtr operator()(const ParsedBetween& n) const { return self.between(n); }
-        BoundPtr operator()(const ParsedInList& n) const { return self.inList(n); }
-        BoundPtr operator()(const ParsedInQuery& n) const { return self.inQuery(n); }
-        BoundPtr operator()(const ParsedExists& n) const {
-            return makeBound(BoundExists{self.query(*n.query)}, Kind::Boolean);
-        }
-        BoundPtr operator()(const ParsedScalarQuery& n) const {
-            auto inner = self.query(*n.query);
-            const auto& items = inner->members.front().items;
-            if (items.size() != 1) {
-                throw dialectError(
-                    3306, QStringLiteral("サブクエリは 1 つのフィールドだけを返さなければなりません。"));
-            }
-            const Kind kind = items.front().expression->kind;
-            return makeBound(BoundScalarQuery{std::move(inner)}, kind);
-        }
         BoundPtr operator()(const ParsedCall& n) const { return self.call(whole, n); }
     };
     return std::visit(Visitor{*this, parsed}, parsed.node);
@@ -129,9 +124,6 @@ BoundPtr ExpressionBinder::bindNode(const ParsedExpression& parsed) {
 
 BoundPtr ExpressionBinder::name(const ParsedExpression& parsed, const ParsedName& node) {
     if (BoundPtr column = scope_.column(node, parsed.position)) return column;
-    if (results_ && node.table.isEmpty()) {
-        if (BoundPtr result = scope_.result(node.column)) return result;
-    }
     throw unknownName(parsed.text.toString(), parsed.position);
 }
 
@@ -162,15 +154,8 @@ BoundPtr ExpressionBinder::negation(const ParsedNegation& node) {
 }
 
 BoundPtr ExpressionBinder::arithmetic(const ParsedArithmetic& node) {
-    BoundPtr left = bind(*node.left);
-    BoundPtr right = bind(*node.right);
-    if (node.op == ArithmeticOp::Concat)
-        return called("akarix_concat", {toText(left), toText(right)}, Kind::Text);
-    if (node.op == ArithmeticOp::Add && left->kind == Kind::Text && right->kind == Kind::Text) {
-        return native(NativeOp::Join, left, right, Kind::Text);
-    }
-    left = asOperand(left);
-    right = asOperand(right);
+    const BoundPtr left = asOperand(bind(*node.left));
+    const BoundPtr right = asOperand(bind(*node.right));
     switch (node.op) {
         case ArithmeticOp::Add:
             return addOrSubtract(NativeOp::Add, left, right);
@@ -180,14 +165,6 @@ BoundPtr ExpressionBinder::arithmetic(const ParsedArithmetic& node) {
             return multiply(left, right);
         case ArithmeticOp::Divide:
             return called("akarix_divide", {toReal(left), toReal(right)}, Kind::Double);
-        case ArithmeticOp::IntegerDivide:
-            return called("akarix_whole_divide", {toWhole(left), toWhole(right)}, Kind::Integer);
-        case ArithmeticOp::Modulo:
-            return called("akarix_modulo", {toWhole(left), toWhole(right)}, Kind::Integer);
-        case ArithmeticOp::Power:
-            return called("akarix_power", {toReal(left), toReal(right)}, Kind::Double);
-        case ArithmeticOp::Concat:
-            break;
     }
     return left;
 }
@@ -204,63 +181,31 @@ BoundPtr ExpressionBinder::like(const ParsedLike& node) {
                      Kind::Boolean);
 }
 
-BoundPtr ExpressionBinder::between(const ParsedBetween& node) {
-    BoundPtr operand = bind(*node.operand);
-    BoundPtr low = bind(*node.low);
-    BoundPtr high = bind(*node.high);
-    makeComparable({&operand, &low, &high});
-    BoundPtr inside = called("akarix_between", {operand, low, high}, Kind::Boolean);
-    return node.negated ? makeBound(BoundNot{std::move(inside)}, Kind::Boolean) : inside;
-}
-
-BoundPtr ExpressionBinder::inList(const ParsedInList& node) {
-    BoundInList bound{bind(*node.operand), {}, node.negated};
-    for (const ParsedPtr& item : node.items)
-        bound.items.push_back(bind(*item));
-    std::vector<BoundPtr*> all{&bound.operand};
-    for (BoundPtr& item : bound.items)
-        all.push_back(&item);
-    makeComparable(all);
-    return makeBound(std::move(bound), Kind::Boolean);
-}
-
-BoundPtr ExpressionBinder::inQuery(const ParsedInQuery& node) {
-    BoundPtr operand = bind(*node.operand);
-    const std::shared_ptr<BoundQuery> bound = query(*node.query);
-    for (BoundSelect& member : bound->members) {
-        if (member.items.size() != 1) {
-            throw dialectError(3306,
-                               QStringLiteral("サブクエリは 1 つのフィールドだけを返さなければなりません。"));
-        }
-        makeComparable({&operand, &member.items.front().expression});
-    }
-    return makeBound(BoundInQuery{std::move(operand), bound, node.negated}, Kind::Boolean);
-}
-
 BoundPtr ExpressionBinder::call(const ParsedExpression& parsed, const ParsedCall& node) {
-    if (const auto op = aggregateNamed(node.name)) return aggregate(parsed, node, *op);
-    if (node.star) throw unknownFunction(node.name, parsed.position);
-    std::vector<BoundPtr> arguments;
-    for (const ParsedPtr& argument : node.arguments)
-        arguments.push_back(bind(*argument));
-    return bindFunction(node.name, std::move(arguments), parsed.position);
-}
-
-BoundPtr ExpressionBinder::aggregate(const ParsedExpression& parsed, const ParsedCall& node, AggregateOp op) {
-    const QString shown = parsed.text.toString();
-    if (!aggregates_) {
+    const auto named = [&](QStringView name) { return node.name.compare(name, Qt::CaseInsensitive) == 0; };
+    const auto* const aggregating = std::find_if(kAggregates.begin(), kAggregates.end(),
+                                                 [&](const AggregateName& one) { return named(one.name); });
+    const bool isAggregate = aggregating != kAggregates.end();
+    if (!isAggregate && !named(u"CDATE")) throw unknownFunction(node.name, parsed.position);
+    if (isAggregate && !aggregates_) {
         throw dialectError(3096, QStringLiteral("集計関数 '%1' はここでは使えません。(%2 文字目)")
-                                     .arg(shown)
+                                     .arg(parsed.text)
                                      .arg(parsed.position + 1));
     }
-    if (node.star && op == AggregateOp::Count) return makeBound(BoundAggregate{op, nullptr}, Kind::Integer);
+    if (node.star && isAggregate && aggregating->op == AggregateOp::Count)
+        return makeBound(BoundAggregate{AggregateOp::Count, nullptr}, Kind::Integer);
     if (node.star || node.arguments.size() != 1) {
         throw dialectError(3075, QStringLiteral("クエリ式 '%1' で関数の引数の数が一致しません。(%2 文字目)")
-                                     .arg(shown)
+                                     .arg(parsed.text)
                                      .arg(parsed.position + 1));
     }
+    const ParsedExpression& argument = *node.arguments.front();
+    return isAggregate ? aggregate(argument, aggregating->op) : toDate(bind(argument));
+}
+
+BoundPtr ExpressionBinder::aggregate(const ParsedExpression& argument, AggregateOp op) {
     aggregates_ = false;  // none inside another
-    const BoundPtr operand = bind(*node.arguments.front());
+    const BoundPtr operand = bind(argument);
     aggregates_ = true;
     const auto made = [&](AggregateOp which, const BoundPtr& of, Kind kind) {
         return makeBound(BoundAggregate{which, of}, kind, of.get());
@@ -273,23 +218,12 @@ BoundPtr ExpressionBinder::aggregate(const ParsedExpression& parsed, const Parse
             // Whole numbers are summed as such, exactly, and only the result becomes a double.
             if (isWhole(operand->kind)) return toReal(made(op, operand, Kind::Integer));
             return made(op, toReal(operand), Kind::Double);
-        case AggregateOp::Average:
-            if (operand->kind != Kind::Currency) return made(op, toReal(operand), Kind::Double);
-            return called("akarix_average_currency",
-                          {made(AggregateOp::Sum, operand, Kind::Currency),
-                           made(AggregateOp::Count, operand, Kind::Integer)},
-                          Kind::Currency);
         default:
             break;
     }
-    auto kept = std::make_shared<BoundExpression>(*operand);  // Min, Max, First, Last keep kind and width
+    auto kept = std::make_shared<BoundExpression>(*operand);  // Max and First keep kind and width
     kept->node = BoundAggregate{op, operand};
     return kept;
-}
-
-std::shared_ptr<BoundQuery> ExpressionBinder::query(const ParsedQuery& parsed) {
-    if (!bindQuery_) throw dialectError(3075, QStringLiteral("サブクエリはここでは使えません。"));
-    return bindQuery_(parsed, scope_);
 }
 
 }  // namespace akarix

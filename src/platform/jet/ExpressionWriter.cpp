@@ -32,14 +32,12 @@ const char* symbolOf(NativeOp op) {
             return "-";
         case NativeOp::Multiply:
             return "*";
-        case NativeOp::Join:
-            return "||";
     }
     return "+";
 }
 
 int rankOf(NativeOp op) {
-    return op == NativeOp::Join ? 2 : op == NativeOp::Multiply ? 1 : 0;
+    return op == NativeOp::Multiply ? 1 : 0;
 }
 
 const char* nameOf(AggregateOp op) {
@@ -48,16 +46,10 @@ const char* nameOf(AggregateOp op) {
             return "COUNT";
         case AggregateOp::Sum:
             return "SUM";
-        case AggregateOp::Average:
-            return "AVG";
-        case AggregateOp::Min:
-            return "MIN";
         case AggregateOp::Max:
             return "MAX";
         case AggregateOp::First:
             return "akarix_first";
-        case AggregateOp::Last:
-            return "akarix_last";
     }
     return "COUNT";
 }
@@ -87,11 +79,9 @@ Wrapping wrappingOf(Conversion conversion) {
 
 /// Truth values of the engine, 1 and 0, unlike those of the dialect, -1 and 0.
 template <class Node>
-constexpr bool isTest = std::is_same_v<Node, BoundBoolean> || std::is_same_v<Node, BoundNot> ||
-                        std::is_same_v<Node, BoundLogic> || std::is_same_v<Node, BoundComparison> ||
-                        std::is_same_v<Node, BoundIsNull> || std::is_same_v<Node, BoundLike> ||
-                        std::is_same_v<Node, BoundInList> || std::is_same_v<Node, BoundInQuery> ||
-                        std::is_same_v<Node, BoundExists>;
+constexpr bool isTest = std::is_same_v<Node, BoundNot> || std::is_same_v<Node, BoundLogic> ||
+                        std::is_same_v<Node, BoundComparison> || std::is_same_v<Node, BoundIsNull> ||
+                        std::is_same_v<Node, BoundLike>;
 
 }  // namespace
 
@@ -211,23 +201,6 @@ void Writer::node(const BoundCall& n) {
     out_ += ')';
 }
 
-void Writer::node(const BoundScalarQuery& n) {
-    out_ += '(';
-    anyQuery(*n.query, Shape{});
-    if (n.query->members.size() == 1 && !n.query->members.front().top) out_ += " LIMIT 1";
-    out_ += ')';
-}
-
-void Writer::node(const BoundChoice& n) {
-    out_ += "CASE WHEN ";
-    condition(*n.condition);
-    out_ += " THEN ";
-    value(*n.then);
-    out_ += " ELSE ";
-    value(*n.otherwise);
-    out_ += " END";
-}
-
 void Writer::node(const BoundAggregate& n) {
     computes_ = true;
     out_ += akarix::nameOf(n.op);
@@ -236,20 +209,14 @@ void Writer::node(const BoundAggregate& n) {
         out_ += '*';
     } else {
         value(*n.operand);
-        if (n.op == AggregateOp::Min || n.op == AggregateOp::Max) {
-            if (n.operand->kind == Kind::Text) out_ += kFold;
-        }
-        if (n.op == AggregateOp::First || n.op == AggregateOp::Last) {
+        if (n.op == AggregateOp::Max && n.operand->kind == Kind::Text) out_ += kFold;
+        if (n.op == AggregateOp::First) {
             // The engine feeds groups in no settled order: the row's place comes along.
             for (const OrderTerm& term : naturalOrder(*aggregated_))
                 out_ += ',' + term.text;
         }
     }
     out_ += ')';
-}
-
-void Writer::test(const BoundBoolean& n) {
-    out_ += n.value ? "1" : "0";
 }
 
 void Writer::test(const BoundNot& n) {
@@ -260,7 +227,7 @@ void Writer::test(const BoundNot& n) {
 
 void Writer::test(const BoundLogic& n) {
     logicOperand(n.left, n.op);
-    out_ += n.op == LogicOp::And ? " AND " : n.op == LogicOp::Or ? " OR " : "<>";
+    out_ += n.op == LogicOp::And ? " AND " : " OR ";
     out_ += '(';
     condition(*n.right);
     out_ += ')';
@@ -268,7 +235,7 @@ void Writer::test(const BoundLogic& n) {
 
 void Writer::logicOperand(const BoundPtr& operand, LogicOp op) {
     const auto* inner = std::get_if<BoundLogic>(&operand->node);
-    const bool chain = inner && inner->op == op && op != LogicOp::Xor;
+    const bool chain = inner && inner->op == op;
     if (!chain) out_ += '(';
     condition(*operand);
     if (!chain) out_ += ')';
@@ -296,42 +263,12 @@ void Writer::test(const BoundLike& n) {
     out_ += ')';
 }
 
-void Writer::folded(const BoundExpression& expression) {
-    value(expression);
-    if (expression.kind == Kind::Text) out_ += kFold;
-}
-
-void Writer::test(const BoundInList& n) {
-    folded(*n.operand);
-    out_ += n.negated ? " NOT IN (" : " IN (";
-    list(n.items);
-    out_ += ')';
-}
-
-void Writer::test(const BoundInQuery& n) {
-    folded(*n.operand);
-    out_ += n.negated ? " NOT IN (" : " IN (";
-    Shape shape;
-    shape.ordered = false;
-    anyQuery(*n.query, shape);
-    out_ += ')';
-}
-
-void Writer::test(const BoundExists& n) {
-    out_ += "EXISTS(";
-    Shape shape;
-    shape.ordered = false;
-    anyQuery(*n.query, shape);
-    out_ += ')';
-}
-
 QByteArray Writer::nameOf(const BoundTable& table) const {
     if (&table == itself_) return Quoted(table.definition->name);
     return 't' + QByteArray::number(table.id);
 }
 
 QByteArray Writer::columnText(const BoundTable& table, int column) const {
-    if (table.derived) return nameOf(table) + ".c" + QByteArray::number(column);
     return nameOf(table) + '.' + Quoted(table.definition->columns[static_cast<std::size_t>(column)].name);
 }
 

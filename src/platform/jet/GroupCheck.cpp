@@ -7,33 +7,24 @@
 namespace akarix {
 namespace {
 
-bool belongsTo(const BoundTable* table, const BoundRows& rows) {
-    return std::any_of(rows.tables.begin(), rows.tables.end(),
-                       [&](const auto& own) { return own.get() == table; });
-}
-
-void check(const BoundExpression& expression, const BoundSelect& select) {
-    const bool isGroup = std::any_of(select.groups.begin(), select.groups.end(), [&](const BoundPtr& group) {
+void check(const BoundExpression& expression, const BoundQuery& query) {
+    const bool isGroup = std::any_of(query.groups.begin(), query.groups.end(), [&](const BoundPtr& group) {
         return sameExpression(*group, expression);
     });
     if (isGroup || std::holds_alternative<BoundAggregate>(expression.node)) return;
-    if (const auto* column = std::get_if<BoundColumn>(&expression.node)) {
-        if (belongsTo(column->table, select.rows)) throw outsideAggregate(expression.text);
-        return;
-    }
+    if (std::holds_alternative<BoundColumn>(expression.node)) throw outsideAggregate(expression.text);
     for (const BoundPtr& operand : operandsOf(expression))
-        check(*operand, select);
+        check(*operand, query);
 }
 
 }  // namespace
 
-void checkGroups(const BoundSelect& select) {
-    if (!select.grouped) return;
-    for (const BoundItem& item : select.items)
-        check(*item.expression, select);
-    if (select.having) check(*select.having, select);
-    for (const BoundOrder& term : select.order)
-        check(*term.expression, select);
+void checkGroups(const BoundQuery& query) {
+    if (!query.grouped) return;
+    for (const BoundItem& item : query.items)
+        check(*item.expression, query);
+    for (const BoundOrder& term : query.order)
+        check(*term.expression, query);
 }
 
 }  // namespace akarix

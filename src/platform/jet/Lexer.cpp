@@ -11,17 +11,15 @@ namespace akarix {
 namespace {
 
 // In the order of the enumeration, which is that of the alphabet: the search is binary.
-constexpr std::array<std::u16string_view, 40> kKeywords = {
-    u"",       u"ALL",      u"AND",         u"AS",     u"ASC",    u"BETWEEN", u"BY",    u"DELETE",
-    u"DESC",   u"DISTINCT", u"DISTINCTROW", u"EXISTS", u"FALSE",  u"FROM",    u"GROUP", u"HAVING",
-    u"IN",     u"INNER",    u"INSERT",      u"INTO",   u"IS",     u"JOIN",    u"LEFT",  u"LIKE",
-    u"MOD",    u"NOT",      u"NULL",        u"ON",     u"OR",     u"ORDER",   u"OUTER", u"RIGHT",
-    u"SELECT", u"SET",      u"TRUE",        u"UNION",  u"UPDATE", u"VALUES",  u"WHERE", u"XOR",
+constexpr std::array<std::u16string_view, 26> kKeywords = {
+    u"",      u"AND",    u"AS",    u"ASC",    u"BY",   u"DELETE", u"DESC",   u"FROM",  u"GROUP",
+    u"INNER", u"INSERT", u"INTO",  u"IS",     u"JOIN", u"LEFT",   u"LIKE",   u"NOT",   u"NULL",
+    u"ON",    u"OR",     u"ORDER", u"SELECT", u"SET",  u"UPDATE", u"VALUES", u"WHERE",
 };
-static_assert(static_cast<std::size_t>(Keyword::Xor) + 1 == kKeywords.size());
+static_assert(static_cast<std::size_t>(Keyword::Where) + 1 == kKeywords.size());
 
 Keyword keywordOf(QStringView word) {
-    std::array<char16_t, 11> upper;
+    std::array<char16_t, 6> upper;
     const auto length = static_cast<std::size_t>(word.size());
     if (length < 2 || length > upper.size()) return Keyword::None;
     for (std::size_t i = 0; i < length; ++i) {
@@ -104,7 +102,7 @@ class Lexer {
         const QChar c = sql_[place_];
         const QChar behind = at(place_ + 1);
         const bool pair = (c == u'<' && (behind == u'>' || behind == u'=')) || (c == u'>' && behind == u'=');
-        if (!pair && !QStringView(u"()=<>+-*/\\^&,.;").contains(c)) {
+        if (!pair && !QStringView(u"()=<>+-*/&,.;").contains(c)) {
             throw syntaxError(sql_, QStringLiteral("文字 '%1' は使えません。").arg(c), place_);
         }
         token.type = Token::Type::Symbol;

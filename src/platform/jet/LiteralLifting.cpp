@@ -26,9 +26,7 @@ bool liftsBehind(Keyword keyword, bool before) {
             return true;
         case Keyword::Select:
         case Keyword::Group:
-        case Keyword::Having:
         case Keyword::Order:
-        case Keyword::Union:
             return false;
         default:
             return before;
@@ -60,23 +58,17 @@ void appendToken(QString& key, const Token& token) {
 LiftedStatement liftLiterals(std::vector<Token>& tokens) {
     LiftedStatement lifted;
     const Keyword first = tokens.front().keyword;
-    const bool query = first == Keyword::Select || tokens.front().type == Token::Type::Symbol;
+    const bool query = first == Keyword::Select;
     if (!query && first != Keyword::Insert && first != Keyword::Update && first != Keyword::Delete)
         return lifted;
     const bool values = first == Keyword::Insert && !hasFrom(tokens);
-    std::vector<bool> levels{!query};
+    bool lifts = !query;
     lifted.key.reserve(tokens.back().position + static_cast<qsizetype>(tokens.size()) * 2);
     lifted.literals.reserve(tokens.size() / 2);
     for (std::size_t i = 0; i < tokens.size(); ++i) {
         Token& token = tokens[i];
-        if (token.type == Token::Type::Word) {
-            levels.back() = liftsBehind(token.keyword, levels.back());
-        } else if (token.type == Token::Type::Symbol && token.text == u"(") {
-            levels.push_back(levels.back());
-        } else if (token.type == Token::Type::Symbol && token.text == u")" && levels.size() > 1) {
-            levels.pop_back();
-        }
-        if (token.type == Token::Type::Literal && (values || levels.back()) && !countsRows(tokens, i)) {
+        if (token.type == Token::Type::Word) lifts = liftsBehind(token.keyword, lifts);
+        if (token.type == Token::Type::Literal && (values || lifts) && !countsRows(tokens, i)) {
             token.lifted = static_cast<int>(lifted.literals.size());
             lifted.literals.push_back(token.literal);
             lifted.key += QChar(kLifted);

@@ -12,7 +12,6 @@ namespace akarix {
 // The tree as the text gives it: names are only names, numbers have no column they belong to.
 
 struct ParsedExpression;
-struct ParsedQuery;
 using ParsedPtr = std::unique_ptr<ParsedExpression>;
 
 struct ParsedName {
@@ -28,10 +27,6 @@ struct ParsedLiteral {
 
 struct ParsedNull {};
 
-struct ParsedBoolean {
-    bool value = false;
-};
-
 struct ParsedNegation {
     ParsedPtr operand;
 };
@@ -40,7 +35,7 @@ struct ParsedNot {
     ParsedPtr operand;
 };
 
-enum class ArithmeticOp { Add, Subtract, Multiply, Divide, IntegerDivide, Modulo, Power, Concat };
+enum class ArithmeticOp { Add, Subtract, Multiply, Divide };
 
 struct ParsedArithmetic {
     ArithmeticOp op;
@@ -56,7 +51,7 @@ struct ParsedComparison {
     ParsedPtr right;
 };
 
-enum class LogicOp { And, Or, Xor };
+enum class LogicOp { And, Or };
 
 struct ParsedLogic {
     LogicOp op;
@@ -75,33 +70,6 @@ struct ParsedLike {
     bool negated = false;
 };
 
-struct ParsedBetween {
-    ParsedPtr operand;
-    ParsedPtr low;
-    ParsedPtr high;
-    bool negated = false;
-};
-
-struct ParsedInList {
-    ParsedPtr operand;
-    std::vector<ParsedPtr> items;
-    bool negated = false;
-};
-
-struct ParsedInQuery {
-    ParsedPtr operand;
-    std::unique_ptr<ParsedQuery> query;
-    bool negated = false;
-};
-
-struct ParsedExists {
-    std::unique_ptr<ParsedQuery> query;
-};
-
-struct ParsedScalarQuery {
-    std::unique_ptr<ParsedQuery> query;
-};
-
 struct ParsedCall {
     QString name;
     std::vector<ParsedPtr> arguments;
@@ -109,13 +77,11 @@ struct ParsedCall {
 };
 
 using ParsedNode =
-    std::variant<ParsedName, ParsedLiteral, ParsedNull, ParsedBoolean, ParsedNegation, ParsedNot,
-                 ParsedArithmetic, ParsedComparison, ParsedLogic, ParsedIsNull, ParsedLike, ParsedBetween,
-                 ParsedInList, ParsedInQuery, ParsedExists, ParsedScalarQuery, ParsedCall>;
+    std::variant<ParsedName, ParsedLiteral, ParsedNull, ParsedNegation, ParsedNot, ParsedArithmetic,
+                 ParsedComparison, ParsedLogic, ParsedIsNull, ParsedLike, ParsedCall>;
 
 struct ParsedExpression {
-    ParsedExpression(ParsedNode content, qsizetype place);
-    ~ParsedExpression();
+    ParsedExpression(ParsedNode content, qsizetype place) : node(std::move(content)), position(place) {}
 
     ParsedNode node;
     qsizetype position;

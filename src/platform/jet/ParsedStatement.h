@@ -6,31 +6,16 @@
 
 namespace akarix {
 
-struct ParsedSource;
-
-struct ParsedTable {
-    QString name;
-    QString alias;
-    qsizetype position = 0;
-};
-
-struct ParsedDerived {
-    std::unique_ptr<ParsedQuery> query;
-    QString alias;
-};
-
-enum class JoinOp { Inner, Left, Right };
-
 struct ParsedJoin {
-    JoinOp op;
-    std::unique_ptr<ParsedSource> left;
-    std::unique_ptr<ParsedSource> right;
+    bool outer = false;  ///< LEFT JOIN
+    QString table;
     ParsedPtr on;
 };
 
-/// What stands between two commas of FROM.
+/// FROM: a table and what is joined to it, one after the other.
 struct ParsedSource {
-    std::variant<ParsedTable, ParsedDerived, ParsedJoin> node;
+    QString first;
+    std::vector<ParsedJoin> joins;
 };
 
 struct ParsedItem {
@@ -40,30 +25,17 @@ struct ParsedItem {
     qsizetype position = 0;
 };
 
-struct ParsedTop {
-    std::int64_t count = 0;
-    bool percent = false;
-};
-
-struct ParsedSelect {
-    bool distinct = false;
-    bool distinctRow = false;
-    std::optional<ParsedTop> top;
-    std::vector<ParsedItem> items;
-    std::vector<ParsedSource> sources;
-    ParsedPtr where;
-    std::vector<ParsedPtr> groups;
-    ParsedPtr having;
-};
-
 struct ParsedOrder {
     ParsedPtr expression;
     bool descending = false;
 };
 
 struct ParsedQuery {
-    std::vector<ParsedSelect> members;  ///< more than one: a UNION
-    std::vector<bool> all;              ///< for each member but the first: UNION ALL
+    std::optional<std::int64_t> top;
+    std::vector<ParsedItem> items;
+    std::optional<ParsedSource> source;
+    ParsedPtr where;
+    std::vector<ParsedPtr> groups;
     std::vector<ParsedOrder> order;
 };
 
@@ -71,7 +43,7 @@ struct ParsedInsert {
     QString table;
     std::vector<ParsedName> columns;  ///< none: all, in the table's order
     std::vector<ParsedPtr> values;    ///< VALUES, or a SELECT of values alone
-    std::unique_ptr<ParsedQuery> query;
+    std::optional<ParsedQuery> query;
 };
 
 struct ParsedAssignment {
@@ -81,14 +53,13 @@ struct ParsedAssignment {
 };
 
 struct ParsedUpdate {
-    std::vector<ParsedSource> sources;
+    ParsedSource source;
     std::vector<ParsedAssignment> assignments;
     ParsedPtr where;
 };
 
 struct ParsedDelete {
-    QString target;  ///< DELETE T.*; empty: the only table of FROM
-    std::vector<ParsedSource> sources;
+    QString table;
     ParsedPtr where;
 };
 

@@ -4,13 +4,12 @@ namespace akarix {
 
 ParsedStatement Parser::statement() {
     ParsedStatement read = [&]() -> ParsedStatement {
-        if (in_.at(Keyword::Select) || in_.at(u"(")) return std::move(*query());
+        if (in_.at(Keyword::Select)) return query();
         if (in_.at(Keyword::Insert)) return insert();
         if (in_.at(Keyword::Update)) return update();
         if (in_.at(Keyword::Delete)) return deletion();
         if (in_.acceptWord(u"CREATE")) return create();
         if (in_.acceptWord(u"ALTER")) return alter();
-        if (in_.acceptWord(u"DROP")) return drop();
         in_.fail(QStringLiteral("SELECT、INSERT、UPDATE、DELETE などで始まっていません。"));
     }();
     finish();

@@ -25,36 +25,23 @@ class Parser {
     ParsedPtr conjunction();
     ParsedPtr negated();
     ParsedPtr comparison();
-    ParsedPtr joined();
     ParsedPtr sum();
-    ParsedPtr modulo();
-    ParsedPtr wholeQuotient();
     ParsedPtr product();
     ParsedPtr signedValue();
-    ParsedPtr power();
     ParsedPtr primary();
     ParsedPtr name();
     ParsedPtr call();
-    ParsedPtr parenthesised();
     ParsedPtr predicate(ParsedPtr operand);
     ParsedPtr isNull(ParsedPtr operand);
     ParsedPtr like(ParsedPtr operand, bool negatedForm);
-    ParsedPtr between(ParsedPtr operand, bool negatedForm);
-    ParsedPtr in(ParsedPtr operand, bool negatedForm);
     std::vector<ParsedPtr> expressions();
     ParsedPtr make(ParsedNode node, qsizetype position, int depth);
 
     // Queries
-    std::unique_ptr<ParsedQuery> query();
-    ParsedSelect select();
-    void quantifiers(ParsedSelect& select);
-    std::optional<ParsedTop> top();
+    ParsedQuery query();
+    std::optional<std::int64_t> top();
     ParsedItem item();
-    std::vector<ParsedSource> sources();
     ParsedSource source();
-    ParsedSource singleSource();
-    std::optional<JoinOp> joinOp();
-    QString alias();
 
     // Changes
     ParsedStatement insert();
@@ -65,11 +52,8 @@ class Parser {
     // Definitions
     ParsedStatement create();
     ParsedStatement alter();
-    ParsedStatement drop();
     Plan createTable();
-    Plan createIndex(bool unique);
-    void tableConstraint(TableDef& table);
-    void columnConstraints(TableDef& table, ColumnDef& column);
+    Plan createIndex();
     ColumnDef columnDefinition();
     QStringList columnNames();
 

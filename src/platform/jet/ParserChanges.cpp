@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "platform/jet/Parser.h"
 
 namespace akarix {
@@ -5,14 +7,9 @@ namespace {
 
 /// SELECT without FROM gives one row of values, the same as VALUES.
 bool isValuesOnly(const ParsedQuery& query) {
-    if (query.members.size() != 1 || !query.order.empty()) return false;
-    const ParsedSelect& select = query.members.front();
-    if (!select.sources.empty() || select.where || !select.groups.empty() || select.having || select.top)
-        return false;
-    for (const ParsedItem& item : select.items) {
-        if (!item.expression) return false;
-    }
-    return true;
+    return !query.source && query.groups.empty() && query.order.empty() &&
+           std::all_of(query.items.begin(), query.items.end(),
+                       [](const ParsedItem& item) { return item.expression != nullptr; });
 }
 
 }  // namespace
@@ -34,11 +31,10 @@ ParsedStatement Parser::insert() {
         in_.expect(u")");
         return read;
     }
-    if (!in_.at(Keyword::Select) && !in_.at(u"("))
-        in_.fail(QStringLiteral("VALUES か SELECT がありません。"));
+    if (!in_.at(Keyword::Select)) in_.fail(QStringLiteral("VALUES か SELECT がありません。"));
     read.query = query();
     if (isValuesOnly(*read.query)) {
-        for (ParsedItem& item : read.query->members.front().items)
+        for (ParsedItem& item : read.query->items)
             read.values.push_back(std::move(item.expression));
         read.query.reset();
     }
@@ -48,7 +44,7 @@ ParsedStatement Parser::insert() {
 ParsedStatement Parser::update() {
     in_.take();
     ParsedUpdate read;
-    read.sources = sources();
+    read.source = source();
     in_.expect(Keyword::Set, u"SET");
     do {
         ParsedAssignment assignment;
@@ -64,17 +60,10 @@ ParsedStatement Parser::update() {
 
 ParsedStatement Parser::deletion() {
     in_.take();
-    in_.accept(Keyword::DistinctRow);
     ParsedDelete read;
-    if (in_.accept(u"*")) {
-        if (in_.accept(u".")) in_.expect(u"*");
-    } else if (!in_.at(Keyword::From)) {
-        read.target = in_.takeName();
-        in_.expect(u".");
-        if (!in_.accept(u"*")) in_.takeName();  // a column stands for its row
-    }
+    if (in_.accept(u"*") && in_.accept(u".")) in_.expect(u"*");
     in_.expect(Keyword::From, u"FROM");
-    read.sources = sources();
+    read.table = in_.takeName();
     if (in_.accept(Keyword::Where)) read.where = expression();
     return read;
 }

@@ -48,11 +48,10 @@ ParsedPtr Parser::expression() {
     const Nesting nesting(nesting_);
     const qsizetype position = in_.position();
     ParsedPtr left = conjunction();
-    while (in_.at(Keyword::Or) || in_.at(Keyword::Xor)) {
-        const LogicOp op = in_.take().keyword == Keyword::Or ? LogicOp::Or : LogicOp::Xor;
+    while (in_.accept(Keyword::Or)) {
         ParsedPtr right = conjunction();
         const int depth = depthOf(left, right);
-        left = make(ParsedLogic{op, std::move(left), std::move(right)}, position, depth);
+        left = make(ParsedLogic{LogicOp::Or, std::move(left), std::move(right)}, position, depth);
     }
     return left;
 }
@@ -79,17 +78,16 @@ ParsedPtr Parser::negated() {
 
 ParsedPtr Parser::comparison() {
     const qsizetype position = in_.position();
-    ParsedPtr left = joined();
+    ParsedPtr left = sum();
     for (;;) {
         const auto symbol = std::find_if(kCompareSymbols.begin(), kCompareSymbols.end(),
                                          [&](const CompareSymbol& one) { return in_.at(one.symbol); });
         if (symbol != kCompareSymbols.end()) {
             in_.take();
-            ParsedPtr right = joined();
+            ParsedPtr right = sum();
             const int depth = depthOf(left, right);
             left = make(ParsedComparison{symbol->op, std::move(left), std::move(right)}, position, depth);
-        } else if (in_.at(Keyword::Is) || in_.at(Keyword::Like) || in_.at(Keyword::Between) ||
-                   in_.at(Keyword::In) || in_.at(Keyword::Not)) {
+        } else if (in_.at(Keyword::Is) || in_.at(Keyword::Like) || in_.at(Keyword::Not)) {
             left = predicate(std::move(left));
         } else {
             return left;
@@ -101,8 +99,6 @@ ParsedPtr Parser::predicate(ParsedPtr operand) {
     if (in_.at(Keyword::Is)) return isNull(std::move(operand));
     const bool negatedForm = in_.accept(Keyword::Not);
     if (in_.at(Keyword::Like)) return like(std::move(operand), negatedForm);
-    if (in_.at(Keyword::Between)) return between(std::move(operand), negatedForm);
-    if (in_.at(Keyword::In)) return in(std::move(operand), negatedForm);
     in_.failHere();
 }
 
@@ -117,37 +113,10 @@ ParsedPtr Parser::isNull(ParsedPtr operand) {
 
 ParsedPtr Parser::like(ParsedPtr operand, bool negatedForm) {
     in_.take();
-    ParsedPtr pattern = joined();
+    ParsedPtr pattern = sum();
     const qsizetype position = operand->position;
     const int depth = depthOf(operand, pattern);
     return make(ParsedLike{std::move(operand), std::move(pattern), negatedForm}, position, depth);
-}
-
-ParsedPtr Parser::between(ParsedPtr operand, bool negatedForm) {
-    in_.take();
-    ParsedPtr low = joined();
-    in_.expect(Keyword::And, u"AND");
-    ParsedPtr high = joined();
-    const qsizetype position = operand->position;
-    const int depth = std::max(depthOf(operand, low), depthOf(high));
-    return make(ParsedBetween{std::move(operand), std::move(low), std::move(high), negatedForm}, position,
-                depth);
-}
-
-ParsedPtr Parser::in(ParsedPtr operand, bool negatedForm) {
-    in_.take();
-    in_.expect(u"(");
-    const qsizetype position = operand->position;
-    if (in_.at(Keyword::Select)) {
-        auto inner = query();
-        in_.expect(u")");
-        const int depth = depthOf(operand);
-        return make(ParsedInQuery{std::move(operand), std::move(inner), negatedForm}, position, depth);
-    }
-    std::vector<ParsedPtr> items = expressions();
-    in_.expect(u")");
-    const int depth = std::max(depthOf(operand), depthOf(items));
-    return make(ParsedInList{std::move(operand), std::move(items), negatedForm}, position, depth);
 }
 
 std::vector<ParsedPtr> Parser::expressions() {
@@ -158,50 +127,14 @@ std::vector<ParsedPtr> Parser::expressions() {
     return all;
 }
 
-ParsedPtr Parser::joined() {
-    const qsizetype position = in_.position();
-    ParsedPtr left = sum();
-    while (in_.accept(u"&")) {
-        ParsedPtr right = sum();
-        const int depth = depthOf(left, right);
-        left =
-            make(ParsedArithmetic{ArithmeticOp::Concat, std::move(left), std::move(right)}, position, depth);
-    }
-    return left;
-}
-
 ParsedPtr Parser::sum() {
     const qsizetype position = in_.position();
-    ParsedPtr left = modulo();
+    ParsedPtr left = product();
     while (in_.at(u"+") || in_.at(u"-")) {
         const ArithmeticOp op = in_.take().text == u"+" ? ArithmeticOp::Add : ArithmeticOp::Subtract;
-        ParsedPtr right = modulo();
-        const int depth = depthOf(left, right);
-        left = make(ParsedArithmetic{op, std::move(left), std::move(right)}, position, depth);
-    }
-    return left;
-}
-
-ParsedPtr Parser::modulo() {
-    const qsizetype position = in_.position();
-    ParsedPtr left = wholeQuotient();
-    while (in_.accept(Keyword::Mod)) {
-        ParsedPtr right = wholeQuotient();
-        const int depth = depthOf(left, right);
-        left =
-            make(ParsedArithmetic{ArithmeticOp::Modulo, std::move(left), std::move(right)}, position, depth);
-    }
-    return left;
-}
-
-ParsedPtr Parser::wholeQuotient() {
-    const qsizetype position = in_.position();
-    ParsedPtr left = product();
-    while (in_.accept(u"\\")) {
         ParsedPtr right = product();
         const int depth = depthOf(left, right);
-        left = make(ParsedArithmetic{ArithmeticOp::IntegerDivide, std::move(left), std::move(right)},
-                    position, depth);
+        left = make(ParsedArithmetic{op, std::move(left), std::move(right)}, position, depth);
     }
     return left;
 }
@@ -222,7 +155,7 @@ ParsedPtr Parser::signedValue() {
     const Nesting nesting(nesting_);
     const qsizetype position = in_.position();
     if (in_.accept(u"+")) return signedValue();
-    if (!in_.accept(u"-")) return power();
+    if (!in_.accept(u"-")) return primary();
     ParsedPtr operand = signedValue();
     if (auto* literal = std::get_if<ParsedLiteral>(&operand->node)) {
         if (literal->literal.kind != Literal::Kind::Text) {
@@ -235,19 +168,6 @@ ParsedPtr Parser::signedValue() {
     return make(ParsedNegation{std::move(operand)}, position, depth);
 }
 
-ParsedPtr Parser::power() {
-    const qsizetype position = in_.position();
-    ParsedPtr left = primary();
-    while (in_.accept(u"^")) {
-        // A sign behind "^" belongs to the exponent: 2^-1.
-        ParsedPtr right = in_.at(u"-") || in_.at(u"+") ? signedValue() : primary();
-        const int depth = depthOf(left, right);
-        left =
-            make(ParsedArithmetic{ArithmeticOp::Power, std::move(left), std::move(right)}, position, depth);
-    }
-    return left;
-}
-
 ParsedPtr Parser::primary() {
     const Nesting nesting(nesting_);
     const Token& token = in_.peek();
@@ -255,24 +175,17 @@ ParsedPtr Parser::primary() {
         in_.take();
         return make(ParsedLiteral{token.literal, token.lifted, false}, token.position, 1);
     }
-    if (token.type == Token::Type::Word && TokenStream::isSymbol(in_.peek(1), u"(")) {
-        if (token.keyword == Keyword::Exists) {
-            in_.take();
-            in_.take();
-            auto inner = query();
-            in_.expect(u")");
-            return make(ParsedExists{std::move(inner)}, token.position, 1);
-        }
-        if (token.keyword == Keyword::None || token.keyword == Keyword::Left ||
-            token.keyword == Keyword::Right) {
-            return call();
-        }
+    if (token.type == Token::Type::Word && token.keyword == Keyword::None &&
+        TokenStream::isSymbol(in_.peek(1), u"(")) {
+        return call();
     }
     if (in_.atName()) return name();
-    if (in_.at(u"(")) return parenthesised();
+    if (in_.accept(u"(")) {
+        ParsedPtr inner = expression();
+        in_.expect(u")");
+        return inner;
+    }
     if (in_.accept(Keyword::Null)) return make(ParsedNull{}, token.position, 1);
-    if (in_.accept(Keyword::True)) return make(ParsedBoolean{true}, token.position, 1);
-    if (in_.accept(Keyword::False)) return make(ParsedBoolean{false}, token.position, 1);
     in_.failHere();
 }
 
@@ -300,19 +213,6 @@ ParsedPtr Parser::call() {
     in_.expect(u")");
     const int depth = depthOf(read.arguments);
     return make(std::move(read), position, depth);
-}
-
-ParsedPtr Parser::parenthesised() {
-    const qsizetype position = in_.position();
-    in_.expect(u"(");
-    if (in_.at(Keyword::Select)) {
-        auto inner = query();
-        in_.expect(u")");
-        return make(ParsedScalarQuery{std::move(inner)}, position, 1);
-    }
-    ParsedPtr inner = expression();
-    in_.expect(u")");
-    return inner;
 }
 
 }  // namespace akarix

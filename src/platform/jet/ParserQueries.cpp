@@ -3,15 +3,20 @@
 
 namespace akarix {
 
-std::unique_ptr<ParsedQuery> Parser::query() {
-    const Nesting nesting(nesting_);
-    auto read = std::make_unique<ParsedQuery>();
-    for (;;) {
-        const bool enclosed = in_.accept(u"(");
-        read->members.push_back(select());
-        if (enclosed) in_.expect(u")");
-        if (!in_.accept(Keyword::Union)) break;
-        read->all.push_back(in_.accept(Keyword::All));
+ParsedQuery Parser::query() {
+    in_.expect(Keyword::Select, u"SELECT");
+    ParsedQuery read;
+    read.top = top();
+    do {
+        read.items.push_back(item());
+    } while (in_.accept(u","));
+    if (in_.accept(Keyword::From)) {
+        read.source = source();
+        if (in_.accept(Keyword::Where)) read.where = expression();
+    }
+    if (in_.accept(Keyword::Group)) {
+        in_.expect(Keyword::By, u"BY");
+        read.groups = expressions();
     }
     if (in_.accept(Keyword::Order)) {
         in_.expect(Keyword::By, u"BY");
@@ -20,56 +25,20 @@ std::unique_ptr<ParsedQuery> Parser::query() {
             term.expression = expression();
             term.descending = in_.accept(Keyword::Desc);
             if (!term.descending) in_.accept(Keyword::Asc);
-            read->order.push_back(std::move(term));
+            read.order.push_back(std::move(term));
         } while (in_.accept(u","));
     }
     return read;
 }
 
-ParsedSelect Parser::select() {
-    in_.expect(Keyword::Select, u"SELECT");
-    ParsedSelect read;
-    quantifiers(read);
-    do {
-        read.items.push_back(item());
-    } while (in_.accept(u","));
-    if (in_.accept(Keyword::From)) read.sources = sources();
-    if (in_.accept(Keyword::Where)) read.where = expression();
-    if (in_.accept(Keyword::Group)) {
-        in_.expect(Keyword::By, u"BY");
-        read.groups = expressions();
-    }
-    if (in_.accept(Keyword::Having)) read.having = expression();
-    return read;
-}
-
-void Parser::quantifiers(ParsedSelect& select) {
-    for (;;) {
-        if (in_.accept(Keyword::Distinct)) {
-            select.distinct = true;
-        } else if (in_.accept(Keyword::DistinctRow)) {
-            select.distinctRow = true;
-        } else if (in_.accept(Keyword::All)) {
-        } else if (auto limit = top()) {
-            select.top = limit;
-        } else {
-            return;
-        }
-    }
-}
-
-std::optional<ParsedTop> Parser::top() {
+std::optional<std::int64_t> Parser::top() {
     // TOP is a word like any other unless a number follows.
     if (!in_.atWord(u"TOP") || in_.peek(1).type != Token::Type::Literal) return std::nullopt;
     in_.take();
     const Literal& count = in_.peek().literal;
     if (count.kind != Literal::Kind::Integer) in_.fail(QStringLiteral("TOP の数が正しくありません。"));
-    ParsedTop read;
-    read.count = std::get<std::int64_t>(count.value);
     in_.take();
-    read.percent = in_.acceptWord(u"PERCENT");
-    if (read.percent && read.count > 100) in_.fail(QStringLiteral("TOP の数が正しくありません。"));
-    return read;
+    return std::get<std::int64_t>(count.value);
 }
 
 ParsedItem Parser::item() {
@@ -88,71 +57,26 @@ ParsedItem Parser::item() {
     return read;
 }
 
-std::vector<ParsedSource> Parser::sources() {
-    std::vector<ParsedSource> all;
-    do {
-        all.push_back(source());
-    } while (in_.accept(u","));
-    return all;
-}
-
 ParsedSource Parser::source() {
     const Nesting nesting(nesting_);
-    ParsedSource left = singleSource();
-    int joins = 0;
-    while (const auto op = joinOp()) {
-        if (++joins > Nesting::kMost) throw tooComplex();
-        ParsedJoin join{*op, std::make_unique<ParsedSource>(std::move(left)), nullptr, nullptr};
-        join.right = std::make_unique<ParsedSource>(singleSource());
+    ParsedSource read;
+    if (in_.accept(u"(")) {
+        read = source();
+        in_.expect(u")");
+    } else {
+        read.first = in_.takeName();
+    }
+    while (in_.at(Keyword::Inner) || in_.at(Keyword::Left)) {
+        if (read.joins.size() >= Nesting::kMost) throw tooComplex();
+        ParsedJoin join;
+        join.outer = in_.take().keyword == Keyword::Left;
+        in_.expect(Keyword::Join, u"JOIN");
+        join.table = in_.takeName();
         in_.expect(Keyword::On, u"ON");
         join.on = expression();
-        left = ParsedSource{std::move(join)};
+        read.joins.push_back(std::move(join));
     }
-    return left;
-}
-
-std::optional<JoinOp> Parser::joinOp() {
-    std::optional<JoinOp> op;
-    if (in_.accept(Keyword::Inner)) {
-        op = JoinOp::Inner;
-    } else if (in_.accept(Keyword::Left)) {
-        op = JoinOp::Left;
-        in_.accept(Keyword::Outer);
-    } else if (in_.accept(Keyword::Right)) {
-        op = JoinOp::Right;
-        in_.accept(Keyword::Outer);
-    } else if (in_.at(Keyword::Join)) {
-        op = JoinOp::Inner;
-    }
-    if (op) in_.expect(Keyword::Join, u"JOIN");
-    return op;
-}
-
-ParsedSource Parser::singleSource() {
-    const Nesting nesting(nesting_);
-    if (in_.accept(u"(")) {
-        if (in_.at(Keyword::Select)) {
-            ParsedDerived derived;
-            derived.query = query();
-            in_.expect(u")");
-            derived.alias = alias();
-            if (derived.alias.isEmpty()) in_.fail(QStringLiteral("サブクエリの別名がありません。"));
-            return ParsedSource{std::move(derived)};
-        }
-        ParsedSource inner = source();
-        in_.expect(u")");
-        return inner;
-    }
-    ParsedTable table;
-    table.position = in_.position();
-    table.name = in_.takeName();
-    table.alias = alias();
-    return ParsedSource{std::move(table)};
-}
-
-QString Parser::alias() {
-    if (in_.accept(Keyword::As)) return in_.takeName();
-    return in_.atName() ? in_.takeName() : QString();
+    return read;
 }
 
 }  // namespace akarix

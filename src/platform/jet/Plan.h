@@ -26,11 +26,10 @@ struct ResultColumn {
     QString column;  ///< stored name in that table; empty for an expression
 };
 
-/// An index that a statement makes or drops. A unique one is a key of its table as well.
+/// An index that a statement makes.
 struct IndexDef {
     QString name;
     QStringList columns;
-    bool unique = false;
 };
 
 /// A statement that has been bound to the catalogue and written in the engine's own language.
@@ -50,20 +49,11 @@ struct Plan {
     QString updatableTable;
 
     // Definition
-    enum class Definition {
-        None,
-        CreateTable,
-        DropTable,
-        AddColumn,
-        AlterColumn,
-        DropColumn,
-        CreateIndex,
-        DropIndex
-    };
+    enum class Definition { None, CreateTable, AddColumn, AlterColumn, CreateIndex };
     Definition definition = Definition::None;
     TableDef table;    ///< CreateTable: all of it; otherwise the name, as the catalogue spells it
-    ColumnDef column;  ///< AddColumn, AlterColumn; DropColumn: the name
-    IndexDef index;    ///< CreateIndex: on `table`; DropIndex: the name
+    ColumnDef column;  ///< AddColumn, AlterColumn
+    IndexDef index;    ///< CreateIndex: on `table`
 };
 
 /// A plan with the values of this text's literals.

@@ -70,7 +70,7 @@ struct ValueRelease {
 };
 using OwnValue = std::unique_ptr<sqlite3_value, ValueRelease>;
 
-/// The state of First and Last: the value kept so far and the place of its row.
+/// The state of First: the value kept so far and the place of its row.
 struct Kept {
     OwnValue value;
     std::vector<StoreValue> place;
@@ -98,7 +98,6 @@ bool isBefore(const std::vector<StoreValue>& a, const std::vector<StoreValue>& b
     return false;
 }
 
-template <bool Last>
 void keepStep(sqlite3_context* context, int count, sqlite3_value** values) {
     auto** slot = static_cast<Kept**>(sqlite3_aggregate_context(context, sizeof(Kept*)));
     std::vector<StoreValue> place;
@@ -107,7 +106,7 @@ void keepStep(sqlite3_context* context, int count, sqlite3_value** values) {
         place.push_back(valueOf(values[i]));
     if (!*slot) {
         *slot = new Kept;
-    } else if (Last ? isBefore(place, (*slot)->place) : !isBefore(place, (*slot)->place)) {
+    } else if (!isBefore(place, (*slot)->place)) {
         return;
     }
     (*slot)->value.reset(sqlite3_value_dup(values[0]));
@@ -179,15 +178,12 @@ void check(int result) {
 
 void RegisterSqlFunctions(sqlite3* connection) {
     for (const SqlFunction& function : sqlFunctions()) {
-        const int flags = SQLITE_UTF8 | (function.steady ? SQLITE_DETERMINISTIC : 0);
-        check(sqlite3_create_function_v2(connection, function.name, function.arguments, flags,
-                                         const_cast<SqlFunction*>(&function), callFunction, nullptr, nullptr,
-                                         nullptr));
+        check(sqlite3_create_function_v2(
+            connection, function.name, function.arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+            const_cast<SqlFunction*>(&function), callFunction, nullptr, nullptr, nullptr));
     }
-    check(sqlite3_create_function_v2(connection, "akarix_first", -1, SQLITE_UTF8, nullptr, nullptr,
-                                     keepStep<false>, keepFinal, nullptr));
-    check(sqlite3_create_function_v2(connection, "akarix_last", -1, SQLITE_UTF8, nullptr, nullptr,
-                                     keepStep<true>, keepFinal, nullptr));
+    check(sqlite3_create_function_v2(connection, "akarix_first", -1, SQLITE_UTF8, nullptr, nullptr, keepStep,
+                                     keepFinal, nullptr));
     check(sqlite3_create_collation_v2(connection, "AKARIX_NOCASE", SQLITE_UTF8, nullptr, compareNoCase,
                                       nullptr));
     check(sqlite3_create_collation_v2(connection, "AKARIX_TEXT", SQLITE_UTF8, nullptr, compareAsTexts,

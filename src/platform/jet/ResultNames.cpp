@@ -22,7 +22,7 @@ void nameResults(std::vector<BoundItem>& items) {
         if (!column) {
             item.column.name = QStringLiteral("Expr%1").arg(number++);
         } else if (uses[item.column.column.toCaseFolded()] > 1) {
-            item.column.name = column->table->alias + u'.' + item.column.column;
+            item.column.name = column->table->definition->name + u'.' + item.column.column;
         } else {
             item.column.name = item.column.column;
         }

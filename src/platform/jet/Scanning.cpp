@@ -1,8 +1,7 @@
 #include "platform/jet/Scanning.h"
 
+#include <QDate>
 #include <array>
-
-#include "platform/jet/DateLiteral.h"
 
 namespace akarix {
 namespace {
@@ -104,9 +103,10 @@ std::optional<ScannedLiteral> scanDate(QStringView sql, qsizetype from) {
     const qsizetype end = sql.indexOf(u'#', from + 1);
     if (end < 0) return std::nullopt;
     const QStringView inside = sql.sliced(from + 1, end - from - 1);
-    const std::optional<double> serial = parseDateLiteral(inside);
-    if (!serial) return std::nullopt;
-    return ScannedLiteral{{Literal::Kind::Date, *serial}, inside, end + 1};
+    const QDate day = QDate::fromString(inside, u"yyyy/M/d");
+    if (!day.isValid()) return std::nullopt;
+    const auto serial = static_cast<double>(QDate(1899, 12, 30).daysTo(day));
+    return ScannedLiteral{{Literal::Kind::Date, serial}, inside, end + 1};
 }
 
 }  // namespace

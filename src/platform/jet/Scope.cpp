@@ -16,28 +16,21 @@ BoundPtr boundColumn(const BoundTable* table, int column) {
 }
 
 BoundPtr Scope::column(const ParsedName& name, qsizetype position) const {
-    for (const Scope* scope = this; scope; scope = scope->outer_) {
-        BoundPtr found;
-        for (const BoundTable* table : scope->tables_) {
-            if (!name.table.isEmpty() && table->alias.compare(name.table, Qt::CaseInsensitive) != 0) continue;
-            const int index = table->definition->indexOf(name.column);
-            if (index < 0) continue;
-            if (found) throw ambiguousName(name.column, position);
-            found = boundColumn(table, index);
-        }
-        if (found) return found;
-    }
-    return nullptr;
-}
-
-BoundPtr Scope::result(const QString& alias) const {
-    const auto found = results_.find(alias.toCaseFolded());
-    return found == results_.end() ? nullptr : found->second;
-}
-
-const BoundTable* Scope::table(const QString& alias) const {
+    BoundPtr found;
     for (const BoundTable* table : tables_) {
-        if (table->alias.compare(alias, Qt::CaseInsensitive) == 0) return table;
+        if (!name.table.isEmpty() && table->definition->name.compare(name.table, Qt::CaseInsensitive) != 0)
+            continue;
+        const int index = table->definition->indexOf(name.column);
+        if (index < 0) continue;
+        if (found) throw ambiguousName(name.column, position);
+        found = boundColumn(table, index);
+    }
+    return found;
+}
+
+const BoundTable* Scope::table(const QString& name) const {
+    for (const BoundTable* table : tables_) {
+        if (table->definition->name.compare(name, Qt::CaseInsensitive) == 0) return table;
     }
     return nullptr;
 }

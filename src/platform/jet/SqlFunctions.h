@@ -6,13 +6,12 @@
 
 namespace akarix {
 
-/// A function that the written statements call and that conditions in memory call as well. Arguments come in
-/// the stored form of their kinds; RuntimeError leaves it where the dialect raises.
+/// A function that the written statements call. The same arguments always give the same value; they come in
+/// the stored form of their kinds. RuntimeError leaves it where the dialect raises.
 struct SqlFunction {
     const char* name;
     int arguments;
     bool takesNull;  ///< otherwise a Null argument gives Null without a call
-    bool steady;     ///< the same arguments always give the same value
     StoreValue (*run)(const StoreValue* arguments);
 };
 

@@ -16,10 +16,7 @@ namespace {
 
 /// A recordset of it can be changed: rows of one table, as they stand there.
 bool isUpdatable(const BoundQuery& query) {
-    if (query.members.size() != 1) return false;
-    const BoundSelect& select = query.members.front();
-    return select.rows.tables.size() == 1 && !select.rows.tables.front()->derived && !select.grouped &&
-           !select.distinct;
+    return query.rows.tables.size() == 1 && !query.grouped;
 }
 
 /// Binds and writes one parsed statement.
@@ -27,14 +24,14 @@ struct Planner {
     const Catalogue& catalogue;
 
     CachedPlan operator()(const ParsedQuery& parsed) const {
-        const auto bound = QueryBinder(catalogue).bind(parsed);
+        const BoundQuery bound = QueryBinder(catalogue).bind(parsed);
         Plan plan;
-        for (const BoundItem& item : bound->members.front().items)
+        for (const BoundItem& item : bound.items)
             plan.columns.push_back(item.column);
-        const bool updatable = isUpdatable(*bound);
-        if (updatable) plan.updatableTable = bound->members.front().rows.tables.front()->definition->name;
+        const bool updatable = isUpdatable(bound);
+        if (updatable) plan.updatableTable = bound.rows.tables.front()->definition->name;
         Writer writer;
-        writer.query(*bound, updatable);
+        writer.query(bound, updatable);
         return finished(std::move(plan), writer);
     }
     CachedPlan operator()(const ParsedInsert& parsed) const {

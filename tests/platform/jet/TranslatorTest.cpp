@@ -142,7 +142,7 @@ TEST(Translator, StandsBrokenStatements) {
     Database& database =
         *DBEngine::Workspaces(0).CreateDatabase(folder.filePath("Broken.MDB"), "MS Access;PWD=broken");
     for (const char* table : {"T", "U"}) {
-        database.Execute(QString("CREATE TABLE %1(Code Long PRIMARY KEY, Namae Text(20), Gaku Currency, "
+        database.Execute(QString("CREATE TABLE %1(Code Long, Namae Text(20), Gaku Currency, "
                                  "Hi DateTime)")
                              .arg(table));
     }
