@@ -67,21 +67,6 @@ BoundPtr toReal(const BoundPtr& expression) {
     }
 }
 
-BoundPtr toWhole(const BoundPtr& expression) {
-    if (auto literal = numberLiteralAs(expression, LiteralUse::IntegerStored, Kind::Integer)) return literal;
-    switch (expression->kind) {
-        case Kind::Currency:
-            return called("akarix_whole_from_currency", expression, Kind::Integer);
-        case Kind::Double:
-        case Kind::Date:
-            return called("akarix_whole_from_real", expression, Kind::Integer);
-        case Kind::Text:
-            return called("akarix_whole_from_real", toReal(expression), Kind::Integer);
-        default:
-            return expression;
-    }
-}
-
 BoundPtr toCurrency(const BoundPtr& expression) {
     if (auto literal = numberLiteralAs(expression, LiteralUse::CurrencyStored, Kind::Currency))
         return literal;
@@ -125,6 +110,21 @@ BoundPtr toText(const BoundPtr& expression) {
 }
 
 namespace {
+
+BoundPtr toWhole(const BoundPtr& expression) {
+    if (auto literal = numberLiteralAs(expression, LiteralUse::IntegerStored, Kind::Integer)) return literal;
+    switch (expression->kind) {
+        case Kind::Currency:
+            return called("akarix_whole_from_currency", expression, Kind::Integer);
+        case Kind::Double:
+        case Kind::Date:
+            return called("akarix_whole_from_real", expression, Kind::Integer);
+        case Kind::Text:
+            return called("akarix_whole_from_real", toReal(expression), Kind::Integer);
+        default:
+            return expression;
+    }
+}
 
 BoundPtr stored(const BoundPtr& expression, const ColumnDef& column) {
     const Kind kind = kindOf(column.type);

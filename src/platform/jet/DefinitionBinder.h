@@ -5,7 +5,7 @@
 namespace akarix {
 
 /// Checks a definition against the catalogue and spells its names as the catalogue does. Raises 3010 (table
-/// exists), 3376 (no table to drop), 3371 (no table to change), 3380 (column exists), 3383 (no such column),
+/// exists), 3371 (no table to change), 3380 (column exists), 3383 (no such column),
 /// 3409 (an index on a column that is not there).
 void bindDefinition(Plan& plan, const Catalogue& catalogue);
 

@@ -10,8 +10,5 @@ enum class Kind { Null, Boolean, Integer, Currency, Double, Date, Text };
 Kind kindOf(FieldType type);
 /// The column type in which a value of a kind is delivered when no stored column stands behind it.
 FieldType typeOf(Kind kind);
-inline bool isNumber(Kind kind) {
-    return kind == Kind::Boolean || kind == Kind::Integer || kind == Kind::Currency || kind == Kind::Double;
-}
 
 }  // namespace akarix

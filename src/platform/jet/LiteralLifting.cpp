@@ -58,11 +58,11 @@ void appendToken(QString& key, const Token& token) {
 LiftedStatement liftLiterals(std::vector<Token>& tokens) {
     LiftedStatement lifted;
     const Keyword first = tokens.front().keyword;
-    const bool query = first == Keyword::Select;
-    if (!query && first != Keyword::Insert && first != Keyword::Update && first != Keyword::Delete)
+    if (first != Keyword::Select && first != Keyword::Insert && first != Keyword::Update &&
+        first != Keyword::Delete)
         return lifted;
     const bool values = first == Keyword::Insert && !hasFrom(tokens);
-    bool lifts = !query;
+    bool lifts = first != Keyword::Select;
     lifted.key.reserve(tokens.back().position + static_cast<qsizetype>(tokens.size()) * 2);
     lifted.literals.reserve(tokens.size() / 2);
     for (std::size_t i = 0; i < tokens.size(); ++i) {

@@ -8,7 +8,7 @@ namespace akarix {
 /// stack of the process or the engine's own limit is reached.
 class Nesting {
  public:
-    static constexpr int kMost = 200;        ///< parentheses, subqueries, NOT and signs inside each other
+    static constexpr int kMost = 200;        ///< parentheses, NOT and signs inside each other
     static constexpr int kMostLevels = 900;  ///< of a tree: a chain of operators is one level each
 
     explicit Nesting(int& level) : level_(level) {

@@ -22,7 +22,6 @@ struct ParsedItem {
     ParsedPtr expression;  ///< none: all columns
     QString starTable;     ///< all columns of this table; empty: of every table
     QString alias;
-    qsizetype position = 0;
 };
 
 struct ParsedOrder {

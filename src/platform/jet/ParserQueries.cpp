@@ -43,7 +43,6 @@ std::optional<std::int64_t> Parser::top() {
 
 ParsedItem Parser::item() {
     ParsedItem read;
-    read.position = in_.position();
     if (in_.accept(u"*")) return read;
     if (in_.atName() && TokenStream::isSymbol(in_.peek(1), u".") &&
         TokenStream::isSymbol(in_.peek(2), u"*")) {

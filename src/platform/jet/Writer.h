@@ -90,7 +90,7 @@ class Writer {
     std::vector<Slot> parameters_;
     bool computes_ = false;
     const BoundTable* itself_ = nullptr;     ///< the table of a change, which has no other name than its own
-    const BoundRows* aggregated_ = nullptr;  ///< the rows of the query being written, for First and Last
+    const BoundRows* aggregated_ = nullptr;  ///< the rows of the query being written, for First
 };
 
 }  // namespace akarix

@@ -1,0 +1,31 @@
+#include "platform/jet/Engine.h"
+#include "platform/jet/Translator.h"
+#include "platform/runtime/RuntimeError.h"
+#include "support/CaseFile.h"
+#include "support/ScratchStore.h"
+
+namespace akarix {
+namespace {
+
+int errorOf(Translator& translator, const QString& sql) {
+    try {
+        if (translator.translate(sql).plan->kind == Plan::Kind::Rows) {
+            gDb->OpenRecordset(sql).Eof();
+        } else {
+            gDb->Execute(sql);
+        }
+        return 0;
+    } catch (const RuntimeError& error) {
+        return error.number();
+    }
+}
+
+TEST(Statements, AllThatAreSentAreUnderstood) {
+    const ScratchStore store;
+    Translator translator(gDb->engine().catalogue());
+    for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/statements.txt"))
+        EXPECT_EQ(errorOf(translator, cells[0]), cells.value(1).toInt()) << line;
+}
+
+}  // namespace
+}  // namespace akarix
