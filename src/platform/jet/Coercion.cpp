@@ -112,7 +112,6 @@ BoundPtr toText(const BoundPtr& expression) {
 namespace {
 
 BoundPtr toWhole(const BoundPtr& expression) {
-    if (auto literal = numberLiteralAs(expression, LiteralUse::IntegerStored, Kind::Integer)) return literal;
     switch (expression->kind) {
         case Kind::Currency:
             return called("akarix_whole_from_currency", expression, Kind::Integer);
@@ -120,7 +119,7 @@ BoundPtr toWhole(const BoundPtr& expression) {
         case Kind::Date:
             return called("akarix_whole_from_real", expression, Kind::Integer);
         case Kind::Text:
-            return called("akarix_whole_from_real", toReal(expression), Kind::Integer);
+            return called("akarix_store_whole", expression, Kind::Integer);
         default:
             return expression;
     }
@@ -138,7 +137,7 @@ BoundPtr stored(const BoundPtr& expression, const ColumnDef& column) {
             return converted(Conversion::NumberToBoolean, expression, kind);
         case Kind::Integer:
             if (auto made = literal(LiteralUse::IntegerStored)) return made;
-            return given == Kind::Text ? called("akarix_store_whole", expression, kind) : toWhole(expression);
+            return toWhole(expression);
         case Kind::Currency:
             if (auto made = literal(LiteralUse::CurrencyStored)) return made;
             if (given == Kind::Text) return called("akarix_store_currency", expression, kind);
