@@ -14,7 +14,6 @@ class MstDeal_frm : public MasterForm, public ReportForm {
     void ClrDetail() override;
     void PrintOutHead(int page) override;
     void PrintOutDetail(int row, Recordset& set) override;
-    void PrintOutFooter() {}
     void PrintOutDetailGokei(int, int, int) override {}
 
  protected:

@@ -35,7 +35,6 @@ class KeyedForm : public EntryForm {
 
     /// What the screen consists of, from the top; the buttons come last.
     QVBoxLayout& body() { return *body_; }
-    QHBoxLayout& buttonRow() { return *buttonRow_; }
     /// A label that shows a name; emptied when the screen is cleared.
     Label& addName(const QString& name);
     Label& nameLabel(const QString& name) const;

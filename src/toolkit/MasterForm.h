@@ -29,10 +29,6 @@ class MasterForm : public KeyedForm {
     void addFields(const FieldTable& fields);
     void addButtons();
 
-    /// Where a screen puts what it has besides its fields: rows after theirs; anything below them goes to
-    /// body(), further buttons to buttonRow() when the usual ones stand.
-    FieldLayout& layoutOfFields() { return rows_; }
-
     /// Does what Enter does in a field.
     void pressEnter(int index) { press_(index); }
     /// For a screen that keeps one of several tables, chosen when it is opened.

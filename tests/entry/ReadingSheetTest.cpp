@@ -41,9 +41,9 @@ TEST_F(ReadingSheet, TheEditorFollowsTheRowsOutOfTheWindow) {
     }
     EXPECT_EQ(list().Row(), 50);
     const QRect cell = list().CellRect();
-    EXPECT_GT(list().TopRow(), 20);
+    EXPECT_GT(list().rowAt(0), 20);
     EXPECT_EQ(clerk.control("tBox").geometry(), cell.translated(list().pos()));
-    list().SetTopRow(1);
+    list().scrollToTop();
     EXPECT_FALSE(clerk.control("tBox").isVisible()) << "no box floats over somebody else's row";
     EXPECT_EQ(list().TextMatrix(49, KonkaiMeter), "49");
 }

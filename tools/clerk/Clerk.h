@@ -95,7 +95,6 @@ class Clerk : public QObject {
     QString lastSaid();
     /// What went wrong with dialogs: nobody expected one, one never closed, an answer failed.
     const QStringList& complaints() const { return complaints_; }
-    void setPatience(int milliseconds) { patience_ = milliseconds; }
 
     /// A picture of a window as a PNG file.
     void picture(QWidget& window, const QString& path) const;

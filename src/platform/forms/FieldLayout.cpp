@@ -89,10 +89,6 @@ void FieldLayout::nextColumn() {
     line_ = 0;
 }
 
-void FieldLayout::gap() {
-    grid_->setRowMinimumHeight(line_++, QFontMetrics(form_.font()).height() / 2);
-}
-
 LineLayout::LineLayout(Form& form) : form_(form), grid_(fieldGrid()) {}
 
 void LineLayout::head(const QString& caption, Qt::Alignment alignment) {

@@ -41,8 +41,6 @@ class FieldLayout {
     FieldLine row(const QString& caption);
     /// The next rows stand in a new column, from the top.
     void nextColumn();
-    /// Empty room before the next row, to set groups apart.
-    void gap();
     QGridLayout* layout() const { return grid_; }
 
  private:

@@ -234,15 +234,6 @@ void FlexGrid::SetCol(int col) {
     moveTo(row_, col);
 }
 
-int FlexGrid::TopRow() const {
-    return std::max(0, rowAt(0)) + FixedRows();
-}
-
-void FlexGrid::SetTopRow(int row) {
-    checkCell(row, 0);
-    scrollTo(model_->index(std::max(0, row - FixedRows()), std::max(0, columnAt(0))), PositionAtTop);
-}
-
 QString FlexGrid::TextMatrix(int row, int col) const {
     checkCell(row, col);
     return model_->text(row, col);

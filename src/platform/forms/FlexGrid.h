@@ -38,9 +38,6 @@ class FlexGrid : public QTableView {
     /// Row and column under the last mouse press; -1 outside every cell.
     int MouseRow() const { return mouseRow_; }
     int MouseCol() const { return mouseCol_; }
-    /// The first row seen below the fixed one.
-    int TopRow() const;
-    void SetTopRow(int row);
 
     QString TextMatrix(int row, int col) const;
     void SetTextMatrix(int row, int col, const QString& text);
@@ -54,11 +51,6 @@ class FlexGrid : public QTableView {
     /// The present cell's place inside the grid, in pixels; the cell is scrolled into view first. Empty while
     /// there is no row below the fixed one.
     QRect CellRect();
-    /// The same in twips.
-    int CellLeft() { return CellRect().left() * 15; }
-    int CellTop() { return CellRect().top() * 15; }
-    int CellWidth() { return CellRect().width() * 15; }
-    int CellHeight() { return CellRect().height() * 15; }
     void Refresh();
 
     /// The size in pixels the grid asks for. It takes less where its form has less, and scrolls.

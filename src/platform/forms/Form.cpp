@@ -152,10 +152,6 @@ int Form::takeTabIndex() {
     return nextTabIndex_++;
 }
 
-void Form::SetResizable(bool resizable) {
-    resizable_ = resizable;
-}
-
 void Form::DropInstances() {
     for (const QPointer<Form>& form : std::exchange(instances(), {}))
         delete form.data();
@@ -263,7 +259,7 @@ void Form::arrange() {
     watchEdits();
     // A new form's keyboard starts at the head of the walk unless its code has chosen otherwise.
     if (focusWidget() == nullptr && !walk.isEmpty()) walk.front()->setFocus();
-    if (layout() != nullptr && !resizable_.value_or(hasGrowingChild(this))) {
+    if (layout() != nullptr && !hasGrowingChild(this)) {
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     }
 }

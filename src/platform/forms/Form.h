@@ -3,7 +3,6 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
-#include <optional>
 #include <type_traits>
 #include <utility>
 
@@ -39,9 +38,6 @@ class Form : public QWidget {
     /// Runs QueryUnload, then takes the form away. The object lives until the action under way has ended.
     void Unload();
 
-    /// Whether the window's border can be dragged. Without a word the layout says it: a form that holds
-    /// something that grows in height (a grid) can, any other has the size of its contents.
-    void SetResizable(bool resizable);
     /// The next free place of the walk, counted from 0 in the order of asking.
     int takeTabIndex();
 
@@ -115,7 +111,6 @@ class Form : public QWidget {
     QSize wantedSize() const;
 
     QEventLoop* modalLoop_ = nullptr;
-    std::optional<bool> resizable_;
     QSize hint_;  ///< what the contents asked for when the size was last taken from them
     int nextTabIndex_ = 0;
     bool edited_ = false;

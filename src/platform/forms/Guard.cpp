@@ -14,7 +14,6 @@ namespace {
 
 std::function<void()> beginHook;
 std::function<void()> endHook;
-std::function<void()> fatalStep;
 std::vector<std::function<void()>> afterwards;
 int depth = 0;
 
@@ -58,7 +57,6 @@ class Action {
 
 bool showAndFail(const RuntimeError& error) {
     ShowRuntimeError(error);
-    if (fatalStep) fatalStep();
     return false;
 }
 
@@ -95,12 +93,6 @@ void AfterAction(std::function<void()> step) {
     } else {
         afterwards.push_back(std::move(step));
     }
-}
-
-FatalErrors::FatalErrors(std::function<void()> end) : outer_(std::exchange(fatalStep, std::move(end))) {}
-
-FatalErrors::~FatalErrors() {
-    fatalStep = std::move(outer_);
 }
 
 }  // namespace akarix

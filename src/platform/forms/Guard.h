@@ -20,17 +20,4 @@ bool ActionUnderWay();
 /// Runs a step when the outermost action has ended; at once when no action is running.
 void AfterAction(std::function<void()> step);
 
-/// While one of these lives, an error that was shown ends the process by the given step: start and exit,
-/// where the program cannot go on with half of what it needs.
-class FatalErrors {
- public:
-    explicit FatalErrors(std::function<void()> end);
-    ~FatalErrors();
-    FatalErrors(const FatalErrors&) = delete;
-    FatalErrors& operator=(const FatalErrors&) = delete;
-
- private:
-    std::function<void()> outer_;
-};
-
 }  // namespace akarix

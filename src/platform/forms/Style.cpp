@@ -72,10 +72,6 @@ int BoxWidth(int bytes) {
     return QFontMetrics(QApplication::font()).horizontalAdvance(QString(bytes, u'0')) + cursor + 2 * side;
 }
 
-QColor FocusColour() {
-    return colours::focusTint;
-}
-
 QColor PresentRowColour() {
     return colours::rowTint;
 }

@@ -16,8 +16,6 @@ QFont ScreenFont();
 /// Width in pixels of a text box that shows so many half-width characters.
 int BoxWidth(int bytes);
 
-/// The tint of the field that has the keyboard.
-QColor FocusColour();
 /// The tint of a grid's present row.
 QColor PresentRowColour();
 

@@ -157,14 +157,6 @@ void Recordset::Update() {
     }
 }
 
-void Recordset::CancelUpdate() {
-    impl_->requireOpen();
-    if (impl_->editing == Impl::Editing::No) {
-        Raise(3020);
-    }
-    impl_->editing = Impl::Editing::No;
-}
-
 void Recordset::Close() {
     impl_->requireOpen();
     impl_->open = false;

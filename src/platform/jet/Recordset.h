@@ -39,7 +39,6 @@ class Recordset {
     void AddNew();
     void Edit();
     void Update();  ///< 3022 when a key is broken; 3020 without AddNew or Edit
-    void CancelUpdate();
     void Close();
 
  private:

@@ -110,16 +110,14 @@ struct Translator::Impl {
     TextShape shape;
     PlanCache byShape;
     PlanCache byTokens;
-    std::int64_t translated = 0;
     std::int64_t fromCache = 0;
 };
 
-Translator::Translator(const Catalogue& catalogue) : impl_(new Impl{catalogue, {}, {}, {}, 0, 0}) {}
+Translator::Translator(const Catalogue& catalogue) : impl_(new Impl{catalogue, {}, {}, {}, 0}) {}
 
 Translator::~Translator() = default;
 
 BoundStatement Translator::translate(const QString& sql) {
-    ++impl_->translated;
     TextShape& shape = impl_->shape;
     if (const PlanCache::Entry* expected = impl_->byShape.expected();
         expected && shape.readAs(sql, expected->key) && fits(expected->plan, shape.literals())) {
@@ -151,10 +149,6 @@ BoundStatement Translator::translate(const QString& sql) {
 void Translator::clear() {
     impl_->byShape.clear();
     impl_->byTokens.clear();
-}
-
-std::int64_t Translator::translated() const {
-    return impl_->translated;
 }
 
 std::int64_t Translator::fromCache() const {

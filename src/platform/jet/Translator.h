@@ -23,8 +23,7 @@ class Translator {
     BoundStatement translate(const QString& sql);
     void clear();
 
-    /// Figures for bench/: texts translated, and how many of them the cache answered.
-    std::int64_t translated() const;
+    /// How many texts the cache has answered.
     std::int64_t fromCache() const;
 
  private:

@@ -249,19 +249,6 @@ TEST_F(Forms, ActionHooksWrapEveryHandlerAndMayFailThemselves) {
     SetActionHooks({}, {});
 }
 
-TEST_F(Forms, FatalErrorsEndTheProcessAfterTheBox) {
-    int ended = 0;
-    {
-        const FatalErrors fatal([&] { ++ended; });
-        clerk.answerMsgBox();
-        EXPECT_FALSE(RunGuarded([] { throw RuntimeError(3024); }));
-        EXPECT_EQ(ended, 1);
-    }
-    clerk.answerMsgBox();
-    RunGuarded([] { throw RuntimeError(3024); });
-    EXPECT_EQ(ended, 1);
-}
-
 TEST_F(Forms, MouseDownTellsButtonAndShiftOnTheFormAlone) {
     Sample_frm& form = sample();
     QStringList presses;
@@ -275,23 +262,6 @@ TEST_F(Forms, MouseDownTellsButtonAndShiftOnTheFormAlone) {
     form.Btn(0).setEnabled(false);
     clerk.click(form.Btn(0));
     EXPECT_EQ(presses.join(u' '), u"2/7 4/4 1/0");
-}
-
-TEST_F(Forms, ControlsComeInTheOrderOfTheirMakingAndTheWalkByTabIndex) {
-    Form form("Order_frm", "");
-    auto* right = new TextBox;
-    auto* left = new TextBox;
-    SetTabIndex(right, 1);
-    SetTabIndex(left, 0);
-    auto* line = new QHBoxLayout(&form);
-    line->addWidget(left);
-    line->addWidget(right);
-    EXPECT_EQ(form.Controls(), QList<QWidget*>({right, left}));
-    form.Show();
-    clerk.settle();
-    EXPECT_EQ(clerk.focused(), left);
-    clerk.tab();
-    EXPECT_EQ(clerk.focused(), right);
 }
 
 TEST_F(Forms, SetFocusRefusesWhatCannotTakeIt) {

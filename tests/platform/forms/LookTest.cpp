@@ -4,37 +4,9 @@
 #include <cmath>
 
 #include "platform/forms/Colours.h"
-#include "platform/forms/CommandButton.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Icons.h"
 
 namespace akarix {
 namespace {
-
-TEST(Look, EveryWindowCarriesTheProgramsIcon) {
-    const Form form(QStringLiteral("Some_frm"), QStringLiteral("x"));
-    ASSERT_FALSE(form.windowIcon().isNull());
-    for (const QSize size : {QSize(16, 16), QSize(32, 32), QSize(256, 256)}) {
-        const QImage picture = ProgramIcon().pixmap(size).toImage();
-        EXPECT_EQ(picture.size(), size);
-        EXPECT_EQ(picture.pixelColor(0, 0).alpha(), 0) << "the corners are free";
-        EXPECT_EQ(picture.pixelColor(size.width() / 2, size.height() * 3 / 4).alpha(), 255);
-    }
-}
-
-TEST(Look, ButtonsThatKeepOrTakeAwayAreKnownByTheirCaption) {
-    using enum ButtonWeight;
-    struct Case {
-        const char16_t* caption;
-        ButtonWeight weight;
-    };
-    for (const Case& each : {Case{u"保存", Keeps}, Case{u"入金保存", Keeps}, Case{u"OK", Keeps},
-                             Case{u"削除", Removes}, Case{u"指定得意先削除", Removes},
-                             Case{u"画面クリア", Plain}, Case{u"←", Plain}, Case{u"", Plain}}) {
-        const CommandButton button(QString::fromUtf16(each.caption));
-        EXPECT_EQ(button.weight(), each.weight) << button.text().toStdString();
-    }
-}
 
 /// The relative luminance of WCAG 2.1.
 double luminance(const QColor& colour) {
