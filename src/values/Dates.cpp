@@ -88,10 +88,4 @@ QString YobiName(Date date) {
     return kNames[static_cast<std::size_t>(Weekday(date) - 1)];
 }
 
-QString StampNow() {
-    const Date now = Now();
-    return padded(Year(now), 4) + padded(Month(now), 2) + padded(Day(now), 2) + padded(Hour(now), 2) +
-           padded(Minute(now), 2) + padded(Second(now), 2);
-}
-
 }  // namespace akarix

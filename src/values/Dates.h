@@ -25,7 +25,5 @@ Date ParseStrictDate(const QString& text);
 bool IsDateSet(const Variant& value);
 /// "日曜" to "土曜".
 QString YobiName(Date date);
-/// Fourteen digits of the present moment.
-QString StampNow();
 
 }  // namespace akarix

@@ -29,7 +29,7 @@ class DebitButtonsTest : public ScreenTest {
         OpenScreen<Seikyu_frm>();
     }
     void TearDown() override {
-        CloseAll();
+        Close(1);
         SetClock(Date());
         gDateMode = 0;
         ScreenTest::TearDown();

@@ -29,7 +29,7 @@ class DebitTest : public ScreenTest {
             "'1234567','ｱｶﾘｸｽｶﾞｽ(ｶ','jiharai','ﾕｳｾｲｼﾖｳﾁﾖｷﾝｷﾖｸ',1,'98765','自払','南事務センター');\n");
     }
     void TearDown() override {
-        CloseAll();
+        Close(1);
         SetClock(Date());
         ScreenTest::TearDown();
     }

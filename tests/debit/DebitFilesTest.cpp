@@ -179,7 +179,7 @@ TEST_F(DebitFiles, MoreAccountsThanAFileHolds) {
     gDb->Execute("INSERT INTO TtoD(Deal,Nendo,Getudo,Gaku) SELECT Code,2023,4,100 FROM Deal WHERE Code>4");
     EXPECT_EQ(ScratchStore::rows("SELECT COUNT(*) FROM Deal"), QStringList{"32768"});
     EXPECT_EQ(writePost(), "6");
-    CloseAll();
+    Close(1);
     gDb->Execute("DELETE FROM Deal WHERE Code=7");
     EXPECT_EQ(finishPost().first(), "件数：32767\n金額：3292107.5");
 }

@@ -51,7 +51,7 @@ class ReadBack : public DebitTest {
         return errorIn(clerk.lastSaid());
     }
     void forget() {
-        CloseAll();
+        Close(1);
         ScratchStore::run("DELETE FROM Dny;\nDELETE FROM FDLog");
     }
     static QStringList posted(const QString& columns) {
@@ -164,7 +164,7 @@ TEST_F(ReadBack, ADiskBrokenOffInTheMiddleIsPostedTwice) {
     const QByteArray whole = header() + data(1, 3000) + data(2, 4000) + end();
     EXPECT_EQ(read(whole.left(244)), "62");
     EXPECT_EQ(read(false), "55") << "the file is still open";
-    CloseAll();
+    Close(1);
     EXPECT_EQ(read(whole), "2 / 2 全件　完了しました。");
     EXPECT_EQ(posted("Dno,Deal,Gaku"), (QStringList{"0|1|3000", "1|1|3000", "2|2|4000"}));
     EXPECT_EQ(log(), QStringList{"123|2023|4"});

@@ -13,15 +13,6 @@ int Month(Date date) {
 int Day(Date date) {
     return Moment::of(date).civil().day;
 }
-int Hour(Date date) {
-    return Moment::of(date).second / 3600;
-}
-int Minute(Date date) {
-    return Moment::of(date).second / 60 % 60;
-}
-int Second(Date date) {
-    return Moment::of(date).second % 60;
-}
 
 int Weekday(Date date) {
     const auto sinceSunday = (Moment::of(date).day - 1) % 7;  // day 1 was a Sunday

@@ -7,9 +7,6 @@ namespace akarix {
 int Year(Date date);
 int Month(Date date);
 int Day(Date date);
-int Hour(Date date);
-int Minute(Date date);
-int Second(Date date);
 /// 1 (Sunday) to 7 (Saturday).
 int Weekday(Date date);
 

@@ -12,10 +12,4 @@ Date DateSerial(int year, int month, int day) {
     return Moment{dayNumber(carriedYear, static_cast<int>(months - carriedYear * 12) + 1, day), 0}.date();
 }
 
-Date TimeSerial(int hour, int minute, int second) {
-    const std::int64_t seconds = (std::int64_t{hour} * 60 + minute) * 60 + second;
-    const std::int64_t days = (seconds >= 0 ? seconds : seconds - 86399) / 86400;
-    return Moment{days, static_cast<int>(seconds - days * 86400)}.date();
-}
-
 }  // namespace akarix

@@ -61,11 +61,6 @@ void FileTable::close(int number) {
     if (node && node.mapped().output) node.mapped().output->commit();
 }
 
-void FileTable::closeAll() {
-    while (!files_.empty())
-        close(files_.begin()->first);
-}
-
 int FileTable::lowestFree() const {
     for (int number = 1; number <= kHighestNumber; ++number) {
         if (!files_.contains(number)) return number;
@@ -89,12 +84,6 @@ ByteFile& FileTable::forOutput(int number) {
     OpenFile& file = at(number);
     if (!file.output) throw RuntimeError(54);
     return *file.output;
-}
-
-bool FileTable::holds(const QString& localPath) const {
-    return std::any_of(files_.begin(), files_.end(), [location = locationOf(localPath)](const auto& entry) {
-        return entry.second.location == location;
-    });
 }
 
 }  // namespace akarix

@@ -27,14 +27,11 @@ class FileTable {
 
     void open(const QString& path, OpenMode mode, int number);
     void close(int number);
-    void closeAll();
     int lowestFree() const;
 
     /// Raise 52 for a number that is not open, 54 for one open the other way.
     OpenFile& forInput(int number);
     ByteFile& forOutput(int number);
-
-    bool holds(const QString& localPath) const;
 
  private:
     OpenFile& at(int number);

@@ -6,9 +6,9 @@
 
 namespace akarix {
 
-/// The text of a value under a mask or a named format, by the classic rules: number masks with up to four
-/// sections, date masks with eras, text masks. Works on decimal text and rounds half away from zero.
-/// Null and Empty give the fourth section of a numeric mask or the second of a text mask, else an empty text.
+/// The text of a value under a mask, by the classic rules: number masks with up to four sections, date masks
+/// with eras. Works on decimal text and rounds half away from zero. Null and Empty give the fourth section of
+/// a numeric mask, else an empty text.
 /// Text that is no number, or no date, comes back as it stands under such a mask; a number
 /// beyond the dates raises 6 under a date mask.
 QString Format(const Variant& value, const QString& mask);

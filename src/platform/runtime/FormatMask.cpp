@@ -4,21 +4,8 @@ namespace akarix {
 
 namespace {
 
-bool startsWord(const QString& mask, qsizetype at, QLatin1StringView word) {
-    return QStringView(mask).mid(at).startsWith(word, Qt::CaseInsensitive);
-}
-
-bool isDateMark(const QString& mask, qsizetype at) {
-    const QChar c = mask[at].toLower();
-    if (c == u'e') {  // an era year, unless it is an exponent
-        const QChar next = at + 1 < mask.size() ? mask[at + 1] : QChar();
-        return next != u'+' && next != u'-';
-    }
-    if (QStringView(u"cdghmnqswy").contains(c)) return true;
-    for (const char* word : {"am/pm", "a/p", "ampm", "aaa", "ttttt", "oooo"}) {
-        if (startsWord(mask, at, QLatin1StringView(word))) return true;
-    }
-    return false;
+bool isDateMark(QChar c) {
+    return QStringView(u"deghmnsy").contains(c.toLower());
 }
 
 }  // namespace
@@ -60,9 +47,8 @@ MaskKind maskKind(const QString& mask) {
     for (qsizetype at = 0; at < mask.size();) {
         if (takeQuoted(mask, at)) continue;
         const QChar c = mask[at];
-        if (QStringView(u"0#%").contains(c)) return MaskKind::Number;
-        if (QStringView(u"@&<>!").contains(c)) return MaskKind::Text;
-        if (isDateMark(mask, at)) return MaskKind::Date;
+        if (QStringView(u"0#").contains(c)) return MaskKind::Number;
+        if (isDateMark(c)) return MaskKind::Date;
         separatesDates = separatesDates || c == u'/' || c == u':';
         separatesNumbers = separatesNumbers || c == u'.' || c == u',';
         ++at;

@@ -6,7 +6,7 @@
 
 namespace akarix {
 
-enum class MaskKind { Number, Date, Text };
+enum class MaskKind { Number, Date };
 
 /// The sections of a mask, parted by semicolons outside of quoted characters.
 QStringList maskSections(const QString& mask);

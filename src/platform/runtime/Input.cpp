@@ -71,11 +71,4 @@ QString Input(int number) {
     return FromCodePage932(item);
 }
 
-QString LineInput(int number) {
-    Reader reader(number);
-    const QByteArray line = reader.takeUntil(isLineEnd);
-    reader.skipLineEnd();
-    return FromCodePage932(line);
-}
-
 }  // namespace akarix

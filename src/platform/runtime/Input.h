@@ -7,7 +7,5 @@ namespace akarix {
 /// "Input #number, item" into a text: one item up to a comma or line end, leading blanks dropped, quotes
 /// taken off.
 QString Input(int number);
-/// "Line Input #number": one whole line.
-QString LineInput(int number);
 
 }  // namespace akarix

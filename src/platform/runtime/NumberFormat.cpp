@@ -1,8 +1,6 @@
 #include "platform/runtime/NumberFormat.h"
 
 #include <QList>
-#include <algorithm>
-#include <cstdlib>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -24,81 +22,49 @@ class NumberMask {
                 readCharacter(section, at);
             }
         }
-        endWholePart();
     }
 
     /// The text of a number that is not negative; `isZero` tells whether rounding left nothing of it.
     QString apply(Decimal number, bool& isZero) const {
-        number.point += number.isZero() ? 0 : 2 * percents_ - 3 * thousandths_;
-        int exponent = 0;
-        if (hasExponent_ && !number.isZero()) {
-            exponent = number.point - wholeDigits_;
-            number.point = wholeDigits_;
-        }
-        const int before = number.point;
         number.roundTo(decimals_);
-        if (hasExponent_ && !number.isZero() && number.point > before) {
-            ++exponent;
-            number.point = wholeDigits_;
-        }
         isZero = number.isZero();
-        return Writer(*this, number, exponent).text();
+        return Writer(*this, number).text();
     }
 
  private:
     struct Part {
-        enum Kind { Literal, Digit, Point, Exponent } kind;
-        QString text;       // of a literal; of an exponent its letter and sign
+        enum Kind { Literal, Digit, Point } kind;
+        QString text;       // of a literal
         bool zero = false;  // a digit that is always shown
-        int minDigits = 0;  // of an exponent
     };
 
-    void add(Part::Kind kind, const QString& text, bool zero = false, int minDigits = 0) {
-        parts_.append(Part{kind, text, zero, minDigits});
+    void add(Part::Kind kind, const QString& text, bool zero = false) {
+        parts_.append(Part{kind, text, zero});
     }
 
     void readCharacter(const QString& section, qsizetype& at) {
         const QChar c = section[at++];
-        const QChar next = at < section.size() ? section[at] : QChar();
         if (c == u'0' || c == u'#') {
             add(Part::Digit, {}, c == u'0');
             if (pointSeen_) {
                 ++decimals_;
             } else {
                 ++wholeDigits_;
-                grouped_ = grouped_ || commas_ > 0;
-                commas_ = 0;
+                grouped_ = grouped_ || commaSeen_;
             }
         } else if (c == u'.' && !pointSeen_) {
-            endWholePart();
             pointSeen_ = true;
             add(Part::Point, c);
         } else if (c == u',') {
-            if (!pointSeen_) ++commas_;
-        } else if (c.toLower() == u'e' && (next == u'+' || next == u'-') && !hasExponent_) {
-            endWholePart();
-            hasExponent_ = true;
-            int minDigits = 0;
-            const QString sign = QString(c) + next;
-            for (++at; at < section.size() && (section[at] == u'0' || section[at] == u'#'); ++at)
-                minDigits += section[at] == u'0' ? 1 : 0;
-            add(Part::Exponent, sign, false, minDigits);
+            commaSeen_ = commaSeen_ || !pointSeen_;
         } else {
-            if (c == u'%') ++percents_;
             add(Part::Literal, c);
         }
     }
 
-    /// Commas with no digit behind them any more divide by a thousand each.
-    void endWholePart() {
-        if (wholeDigits_ > 0) thousandths_ += commas_;
-        commas_ = 0;
-    }
-
     class Writer {
      public:
-        Writer(const NumberMask& mask, const Decimal& number, int exponent)
-            : mask_(mask), plain_(number.plainText()), exponent_(exponent) {
+        Writer(const NumberMask& mask, const Decimal& number) : mask_(mask), plain_(number.plainText()) {
             const qsizetype point = plain_.indexOf(u'.');
             if (point >= 0) fraction_ = plain_.mid(point + 1);
             if (point >= 0) plain_.truncate(point);
@@ -123,9 +89,6 @@ class NumberMask {
                         } else {
                             writeWholeDigit(part.zero);
                         }
-                        break;
-                    case Part::Exponent:
-                        writeExponent(part);
                         break;
                 }
             }
@@ -168,21 +131,10 @@ class NumberMask {
             }
             return false;
         }
-        void writeExponent(const Part& part) {
-            out_ += part.text[0];
-            if (exponent_ < 0) {
-                out_ += u'-';
-            } else if (part.text[1] == u'+') {
-                out_ += u'+';
-            }
-            out_ += QString::number(std::abs(exponent_)).rightJustified(part.minDigits, u'0');
-        }
-
         const NumberMask& mask_;
         QString plain_;
         QString fraction_;
         QString out_;
-        int exponent_;
         int left_ = 0;     // whole marks of the mask still to come
         int decimal_ = 0;  // decimals written
         bool inFraction_ = false;
@@ -192,12 +144,9 @@ class NumberMask {
     QList<Part> parts_;
     int wholeDigits_ = 0;
     int decimals_ = 0;
-    int commas_ = 0;
-    int thousandths_ = 0;
-    int percents_ = 0;
+    bool commaSeen_ = false;
     bool grouped_ = false;
     bool pointSeen_ = false;
-    bool hasExponent_ = false;
 };
 
 /// A mask taken apart: one entry for each section that says something of its own.

@@ -1,6 +1,5 @@
 #include "platform/runtime/NumberText.h"
 
-#include "platform/runtime/RadixText.h"
 #include "platform/runtime/StrConv.h"
 
 namespace akarix {
@@ -86,14 +85,6 @@ std::optional<QString> withoutThousands(const QString& text) {
 std::optional<Decimal> readNumberText(const QString& text) {
     if (auto whole = Decimal::fromDigits(text)) return whole;
     const QString s = StrConv(text, NarrowChars).trimmed();
-    if (s.startsWith(u'&')) {
-        const auto radix = readRadixText(s);
-        if (!radix || radix->length != s.size()) return std::nullopt;
-        // A text, unlike a literal, is no 16-bit number by its length alone.
-        const bool is32 = radix->bits <= 0xFFFFFFFF;
-        return Decimal::of(is32 ? static_cast<std::int32_t>(radix->bits)
-                                : static_cast<std::int64_t>(radix->bits));
-    }
     Trimmings trimmings(s);
     if (!trimmings.strip()) return std::nullopt;
     if (trimmings.rest().startsWith(u'+') || trimmings.rest().startsWith(u'-')) return std::nullopt;

@@ -8,8 +8,7 @@
 namespace akarix {
 
 /// Reads a number the way a clerk may write it: blanks around, a sign in front or behind, thousands marks,
-/// "\" or "¥", parentheses for a negative, an exponent, "&H" and "&O", all of it full-width too. Nothing
-/// else.
+/// "\" or "¥", parentheses for a negative, an exponent, all of it full-width too. Nothing else.
 std::optional<Decimal> readNumberText(const QString& text);
 
 }  // namespace akarix

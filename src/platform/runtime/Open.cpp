@@ -12,17 +12,8 @@ void Close(int number) {
     FileTable::instance().close(number);
 }
 
-void CloseAll() {
-    FileTable::instance().closeAll();
-}
-
 int FreeFile() {
     return FileTable::instance().lowestFree();
-}
-
-bool AtEnd(int number) {
-    const OpenFile& file = FileTable::instance().forInput(number);
-    return file.at >= file.input.size();
 }
 
 }  // namespace akarix

@@ -12,11 +12,7 @@ enum class OpenMode { Input, Output, Append };
 void Open(const QString& path, OpenMode mode, int number);
 /// Closing a number that is not open does nothing.
 void Close(int number);
-/// Closes every file number.
-void CloseAll();
 /// The lowest number that is free.
 int FreeFile();
-/// End of an Input file. (The classic name EOF is a macro of the C library.)
-bool AtEnd(int number);
 
 }  // namespace akarix

@@ -1,7 +1,5 @@
 #include "platform/runtime/StrConv.h"
 
-#include <algorithm>
-
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -101,36 +99,15 @@ QString toKatakana(QString text) {
     return text;
 }
 
-QString toHiragana(QString text) {
-    // ヴ, ヵ and ヶ stay: their hiragana have no place in the code page.
-    for (QChar& c : text) {
-        if ((c >= u'ァ' && c <= u'ン') || c == u'ヽ' || c == u'ヾ') c = QChar(c.unicode() - kKanaShift);
-    }
-    return text;
-}
-
-QString toCase(QString text, int letterCase) {
-    bool wordBegins = true;
-    for (QChar& c : text) {
-        const bool upper = letterCase == UpperCase || (letterCase == ProperCase && wordBegins);
-        wordBegins = c == u'\0' || (c >= u'\t' && c <= u'\r') || c == u' ' || c == u'　';
-        c = upper ? c.toUpper() : c.toLower();
-    }
-    return text;
-}
-
 }  // namespace
 
 QString StrConv(const QString& text, int conversion) {
-    constexpr int kKnown = ProperCase | WideChars | NarrowChars | Katakana | Hiragana;
-    const bool contradicts = ((conversion & WideChars) && (conversion & NarrowChars)) ||
-                             ((conversion & Katakana) && (conversion & Hiragana));
+    constexpr int kKnown = WideChars | NarrowChars | Katakana;
+    const bool contradicts = (conversion & WideChars) && (conversion & NarrowChars);
     if (contradicts || (conversion & ~kKnown)) throw RuntimeError(5);
     QString result = text;
-    if (const int letterCase = conversion & ProperCase) result = toCase(result, letterCase);
     if (conversion & WideChars) result = toWide(result);
     if (conversion & Katakana) result = toKatakana(result);
-    if (conversion & Hiragana) result = toHiragana(result);
     if (conversion & NarrowChars) result = toNarrow(result);
     return result;
 }

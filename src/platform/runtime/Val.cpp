@@ -1,21 +1,10 @@
 #include "platform/runtime/Val.h"
 
-#include <cstdint>
-
 #include "platform/runtime/Decimal.h"
-#include "platform/runtime/RadixText.h"
 
 namespace akarix {
 
 namespace {
-
-/// As a literal of the language is read: up to four hexadecimal digits are a signed 16-bit number unless
-/// closed by "&", up to eight a signed 32-bit one.
-double literalOf(const RadixText& radix) {
-    if (radix.bits <= 0xFFFF && !radix.closed) return static_cast<std::int16_t>(radix.bits);
-    if (radix.bits <= 0xFFFFFFFF) return static_cast<std::int32_t>(radix.bits);
-    return static_cast<double>(radix.bits);
-}
 
 bool isDigit(QChar c) {
     return c >= u'0' && c <= u'9';
@@ -26,8 +15,6 @@ bool isDigit(QChar c) {
 double Val(const QString& text) {
     QString s = text;
     s.removeIf([](QChar c) { return c == u' ' || c == u'\t' || c == u'\n'; });
-    if (const auto radix = readRadixText(s)) return literalOf(*radix);
-
     qsizetype end = 0;
     const auto skipDigits = [&] {
         const qsizetype from = end;
