@@ -1,5 +1,7 @@
 #include "platform/sheet/FormatCode.h"
 
+#include <algorithm>
+
 #include "platform/sheet/IndexedColor.h"
 
 namespace akarix {
@@ -69,6 +71,13 @@ class Parser {
     void addLiteral(QStringView text) {
         add(Kind::Literal, text == u"\\" ? QStringLiteral("¥") : text.toString());
     }
+    bool behindDigit() {
+        const auto& tokens = section().tokens;
+        return !tokens.empty() && (tokens.back().kind == Kind::Digit || tokens.back().kind == Kind::Point);
+    }
+    /// An exponent, a fraction, a count of hours beyond the day or parts of a second: no paper of the house
+    /// shows one.
+    void notKnown() { section().known = false; }
     bool take(QStringView word) {
         if (!code_.mid(at_).startsWith(word, Qt::CaseInsensitive)) return false;
         at_ += word.size();
@@ -82,9 +91,8 @@ class Parser {
             section().japaneseHalves = true;
             return add(Kind::Date, QStringLiteral("am/pm"));
         }
-        if (take(u"A/P")) return add(Kind::Date, QStringLiteral("a/p"));
-        if (take(u"E+")) return add(Kind::Exponent, QStringLiteral("+"));
-        if (take(u"E-")) return add(Kind::Exponent, QStringLiteral("-"));
+        if (behindDigit() && (take(u"E+") || take(u"E-"))) return notKnown();
+        if (take(u"A/P")) return notKnown();
         const QChar c = code_[at_++];
         switch (c.unicode()) {
             case u';':
@@ -117,7 +125,8 @@ class Parser {
             case u',':
                 return add(Kind::Literal, QStringLiteral(","));
             case u'/':
-                return add(Kind::Slash, c);
+                if (behindDigit()) notKnown();
+                return addLiteral(QStringView(&c, 1));
             case u'%':
                 section().shift += 2;
                 return add(Kind::Percent, c);
@@ -161,7 +170,7 @@ class Parser {
         if (!lower.isEmpty() && QStringView(u"hms").contains(lower[0]) &&
             lower.count(lower[0]) == lower.size()) {
             section().date = true;
-            return add(Kind::Elapsed, lower);
+            return notKnown();
         }
         if (const auto condition = parseCondition(inside)) {
             section().condition = condition;
@@ -171,9 +180,12 @@ class Parser {
     }
 
     static void finish(FormatSection& section) {
-        for (const FormatToken& token : section.tokens) {
-            if (token.kind == Kind::Date) section.date = true;
-        }
+        const auto holds = [&section](Kind kind) {
+            return std::any_of(section.tokens.begin(), section.tokens.end(),
+                               [kind](const FormatToken& token) { return token.kind == kind; });
+        };
+        section.date = section.date || holds(Kind::Date);
+        section.known = section.known && !(section.date && holds(Kind::Digit));
         if (section.date) {
             findMinutes(section);
         } else {
@@ -182,19 +194,17 @@ class Parser {
     }
 
     static bool isUnit(const FormatToken& token, QChar unit) {
-        return (token.kind == Kind::Date || token.kind == Kind::Elapsed) && token.text.startsWith(unit) &&
-               !token.text.contains(u'/');
+        return token.kind == Kind::Date && token.text.startsWith(unit) && !token.text.contains(u'/');
     }
 
     static void findMinutes(FormatSection& section) {
         FormatToken* previous = nullptr;
         for (FormatToken& token : section.tokens) {
-            if (token.kind != Kind::Date && token.kind != Kind::Elapsed) continue;
-            if (isUnit(token, u'm') && token.kind == Kind::Date && token.text.size() <= 2 && previous &&
-                isUnit(*previous, u'h')) {
+            if (token.kind != Kind::Date) continue;
+            if (isUnit(token, u'm') && token.text.size() <= 2 && previous && isUnit(*previous, u'h')) {
                 token.kind = Kind::Minutes;
-            } else if (isUnit(token, u's') && previous && previous->kind == Kind::Date &&
-                       isUnit(*previous, u'm') && previous->text.size() <= 2) {
+            } else if (isUnit(token, u's') && previous && isUnit(*previous, u'm') &&
+                       previous->text.size() <= 2) {
                 previous->kind = Kind::Minutes;
             }
             previous = &token;

@@ -15,14 +15,11 @@ struct FormatToken {
         Literal,
         Digit,  ///< one of 0 # ?
         Point,
-        Exponent,  ///< E+ or E-
-        Slash,     ///< of a fraction
         Percent,
         Text,  ///< @
         General,
-        Date,     ///< a run of one date letter in small letters, or "am/pm", "a/p"
+        Date,     ///< a run of one date letter in small letters, or "am/pm"
         Minutes,  ///< an m or mm that stands beside hours or seconds
-        Elapsed,  ///< [h], [mm], ...: counts on beyond a day
     };
     Kind kind;
     QString text;
@@ -44,6 +41,7 @@ struct FormatSection {
     std::optional<FormatCondition> condition;
     bool date = false;
     bool text = false;      ///< holds @
+    bool known = true;      ///< else its numbers show as under General
     bool grouping = false;  ///< commas between thousands
     int shift = 0;          ///< power of ten that the value is shown by: percents up, trailing commas down
     bool firstYearByName = false;  ///< an era's first year is 元

@@ -1,4 +1,5 @@
 #include <QDate>
+#include <algorithm>
 #include <cmath>
 #include <tuple>
 
@@ -96,9 +97,6 @@ struct Clockwork {
     qint64 second() const { return ms % msPerMinute / msPerSecond; }
     bool afternoon() const { return hour() >= 12; }
     qint64 shownHour() const { return twelveHours ? (hour() + 11) % 12 + 1 : hour(); }
-    qint64 elapsed(QChar unit) const {
-        return ms / (unit == u'h' ? msPerHour : unit == u'm' ? msPerMinute : msPerSecond);
-    }
 };
 
 }  // namespace
@@ -108,49 +106,27 @@ QString FormatSerial(double serial, const FormatSection& section) {
     if (!(serial >= 0 && serial < firstBeyondYear9999)) return QStringLiteral("########");
 
     const auto& tokens = section.tokens;
-    const auto isSeconds = [](const FormatToken& token) {
-        return (token.kind == Kind::Date || token.kind == Kind::Elapsed) && token.text[0] == u's';
-    };
-    bool seconds = false, twelveHours = false;
-    int decimals = 0;
-    for (size_t i = 0; i < tokens.size(); ++i) {
-        if (tokens[i].kind == Kind::Date && tokens[i].text.contains(u'/')) twelveHours = true;
-        if (!isSeconds(tokens[i])) continue;
-        seconds = true;
-        if (i + 1 < tokens.size() && tokens[i + 1].kind == Kind::Point) {
-            for (size_t k = i + 2; k < tokens.size() && tokens[k].kind == Kind::Digit && decimals < 3; ++k)
-                ++decimals;
-        }
-    }
-
+    const auto has = [&tokens](const auto& what) { return std::any_of(tokens.begin(), tokens.end(), what); };
+    const auto isDate = [](const FormatToken& token) { return token.kind == Kind::Date; };
+    const bool twelveHours = has([&](const auto& t) { return isDate(t) && t.text.contains(u'/'); });
     Clockwork clock{std::llround(serial * static_cast<double>(msPerDay)), twelveHours};
-    if (seconds) {  // the shown unit is rounded, and carries; minutes and hours are not
-        const qint64 unit = decimals == 0 ? 1000 : decimals == 1 ? 100 : decimals == 2 ? 10 : 1;
-        clock.ms = (clock.ms + unit / 2) / unit * unit;
+    if (has([&](const auto& t) { return isDate(t) && t.text[0] == u's'; })) {
+        // A shown second is rounded, and carries; minutes and hours are not.
+        clock.ms = (clock.ms + msPerSecond / 2) / msPerSecond * msPerSecond;
     }
     const Day day = dayOf(clock.ms / msPerDay);
 
     QString out;
-    bool behindSeconds = false;
-    int digit = 0;
     for (const FormatToken& token : tokens) {
         switch (token.kind) {
-            case Kind::Digit:
-                if (behindSeconds && digit < 3) out += padded(clock.ms % msPerSecond, 3)[digit++];
-                continue;
             case Kind::Minutes:
                 out += padded(clock.minute(), token.text.size());
-                break;
-            case Kind::Elapsed:
-                out += padded(clock.elapsed(token.text[0]), token.text.size());
                 break;
             case Kind::Date:
                 if (token.text == u"am/pm") {
                     out += section.japaneseHalves
                                ? (clock.afternoon() ? QStringLiteral("午後") : QStringLiteral("午前"))
                                : (clock.afternoon() ? QStringLiteral("PM") : QStringLiteral("AM"));
-                } else if (token.text == u"a/p") {
-                    out += clock.afternoon() ? u'P' : u'A';
                 } else if (token.text[0] == u'h') {
                     out += padded(clock.shownHour(), qMin<qsizetype>(token.text.size(), 2));
                 } else if (token.text[0] == u's') {
@@ -161,11 +137,7 @@ QString FormatSerial(double serial, const FormatSection& section) {
                 break;
             default:
                 out += token.text;
-                if (token.kind == Kind::Point) continue;
-                break;
         }
-        behindSeconds = isSeconds(token);
-        digit = 0;
     }
     return out;
 }

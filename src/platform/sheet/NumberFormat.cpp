@@ -58,9 +58,10 @@ struct Decimal {
     }
 };
 
-QString exponentText(int exponent, const QString& sign, int width) {
-    const QString mark = exponent < 0 ? QStringLiteral("-") : sign == u"+" ? sign : QString();
-    return QStringLiteral("E%1%2").arg(mark).arg(std::abs(exponent), width, 10, QLatin1Char('0'));
+QString exponentText(int exponent) {
+    return QStringLiteral("E%1%2")
+        .arg(QChar(exponent < 0 ? u'-' : u'+'))
+        .arg(std::abs(exponent), 2, 10, QLatin1Char('0'));
 }
 
 QString withoutTrailingZeros(const Decimal::Parts& parts) {
@@ -86,7 +87,7 @@ QString generalText(double magnitude) {
         ++exponent;
         mantissa = {QByteArrayLiteral("1"), QByteArray()};
     }
-    return withoutTrailingZeros(mantissa) + exponentText(exponent, QStringLiteral("+"), 2);
+    return withoutTrailingZeros(mantissa) + exponentText(exponent);
 }
 
 QString blankFor(const FormatToken& placeholder) {
@@ -104,17 +105,12 @@ class NumberWriter {
     QString write() {
         for (size_t i = 0; i < tokens_.size(); ++i) {
             const Kind kind = tokens_[i].kind;
-            out_[i] = kind == Kind::General || kind == Kind::Text     ? generalText(magnitude_)
-                      : kind == Kind::Digit || kind == Kind::Exponent ? QString()
-                                                                      : tokens_[i].text;
+            out_[i] = kind == Kind::General || kind == Kind::Text ? generalText(magnitude_)
+                      : kind == Kind::Digit                       ? QString()
+                                                                  : tokens_[i].text;
             if (kind == Kind::General || kind == Kind::Text) zero_ = magnitude_ == 0;
         }
-        const size_t slash = fractionSlash();
-        if (slash < tokens_.size()) {
-            writeFraction(slash);
-        } else {
-            writeDecimal();
-        }
+        writeDecimal();
         QString text;
         for (const QString& part : out_)
             text += part;
@@ -139,45 +135,22 @@ class NumberWriter {
 
     void writeDecimal() {
         const size_t end = tokens_.size();
-        const size_t exponentAt = find(Kind::Exponent);
-        const size_t point = std::min(find(Kind::Point), exponentAt);
-        const int integers = digitsBetween(0, point), places = digitsBetween(point, exponentAt);
-        if (integers + places == 0) return;
+        const size_t point = find(Kind::Point);
+        const int places = digitsBetween(point, end);
+        if (digitsBetween(0, point) + places == 0) return;
         Decimal decimal = Decimal::of(magnitude_);
         if (!decimal.digits.isEmpty()) decimal.point += section_.shift;
 
-        if (exponentAt < end) {
-            const int step = std::max(integers, 1);
-            int exponent = decimal.digits.isEmpty() ? 0 : floorTo(decimal.point - 1, step);
-            const auto mantissa = [&] {
-                return Decimal{decimal.digits, decimal.point - exponent}.rounded(places);
-            };
-            auto parts = mantissa();
-            if (parts.integer.size() > step) {
-                exponent += step;
-                parts = mantissa();
-            }
-            zero_ = parts.isZero();
-            writeInteger(parts.integer, 0, point);
-            writePlaces(parts.fraction, point, exponentAt);
-            out_[exponentAt] =
-                exponentText(exponent, tokens_[exponentAt].text, digitsBetween(exponentAt, end));
-            return;
-        }
         const auto parts = decimal.rounded(places);
         zero_ = parts.isZero();
-        writeInteger(parts.integer, 0, point);
+        writeInteger(parts.integer, point);
         writePlaces(parts.fraction, point, end);
     }
 
-    static int floorTo(int value, int step) {
-        return static_cast<int>(std::floor(static_cast<double>(value) / step)) * step;
-    }
-
     // From the right; the leftmost placeholder takes all the digits that are left.
-    void writeInteger(const QByteArray& digits, size_t from, size_t to) {
+    void writeInteger(const QByteArray& digits, size_t to) {
         size_t leftmost = to;
-        for (size_t i = to; i-- > from;) {
+        for (size_t i = to; i-- > 0;) {
             if (isDigit(i)) leftmost = i;
         }
         qsizetype left = digits.size();
@@ -188,7 +161,7 @@ class NumberWriter {
             out.prepend(digit);
             ++written;
         };
-        for (size_t i = to; i-- > from;) {
+        for (size_t i = to; i-- > 0;) {
             if (!isDigit(i)) continue;
             if (left > 0) {
                 prepend(out_[i], QLatin1Char(digits[--left]));
@@ -210,84 +183,6 @@ class NumberWriter {
             out_[i] = place < significant ? QString(QLatin1Char(digits[place])) : blankFor(tokens_[i]);
             ++place;
         }
-    }
-
-    size_t fractionSlash() const {
-        for (size_t i = 1; i + 1 < tokens_.size(); ++i) {
-            if (tokens_[i].kind == Kind::Slash && isDigit(i - 1) &&
-                (isDigit(i + 1) || !fixedDenominator(i).isEmpty())) {
-                return i;
-            }
-        }
-        return tokens_.size();
-    }
-
-    // The digits behind a slash where the code names the denominator itself, as in ?/16.
-    QString fixedDenominator(size_t slash) const {
-        QString text;
-        bool fixed = false;
-        for (size_t i = slash + 1; i < tokens_.size(); ++i) {
-            const QString& part = tokens_[i].text;
-            if (part.size() != 1 || part[0] < u'0' || part[0] > u'9') break;
-            fixed = fixed || part[0] != u'0';
-            text += part;
-        }
-        return fixed && text.size() <= 4 ? text : QString();
-    }
-
-    void writeFraction(size_t slash) {
-        size_t numerator = slash;
-        while (numerator > 0 && isDigit(numerator - 1))
-            --numerator;
-        const bool mixed = digitsBetween(0, numerator) > 0;
-        const double whole = mixed ? std::floor(magnitude_) : 0;
-        const double rest = magnitude_ - whole;
-
-        const QString fixed = fixedDenominator(slash);
-        size_t end = slash + 1;
-        if (fixed.isEmpty()) {
-            while (isDigit(end))
-                ++end;
-        } else {
-            end += static_cast<size_t>(fixed.size());
-        }
-        auto [top, bottom] = nearestFraction(rest, fixed, static_cast<int>(end - slash - 1));
-        double wholeShown = whole;
-        if (mixed && top == bottom) {
-            wholeShown += 1;
-            top = 0;
-        }
-        zero_ = wholeShown == 0 && top == 0;
-        if (mixed) writeInteger(Decimal::of(wholeShown).rounded(0).integer, 0, numerator);
-        if (mixed && top == 0) {  // a whole number stands alone, its fraction's place left blank
-            for (size_t i = numerator; i < end; ++i)
-                out_[i] = QStringLiteral(" ");
-            if (wholeShown == 0) out_[0] = QStringLiteral("0");
-            return;
-        }
-        writeInteger(Decimal::of(static_cast<double>(top)).rounded(0).integer, numerator, slash);
-        if (top == 0) out_[slash - 1] = QStringLiteral("0");
-        const QString shown = QString::number(bottom);
-        for (size_t i = slash + 1; i < end; ++i)
-            out_[i].clear();
-        out_[slash + 1] = shown.leftJustified(static_cast<int>(end - slash - 1), u' ');
-    }
-
-    static std::pair<qint64, qint64> nearestFraction(double value, const QString& fixed, int digits) {
-        value = std::min(value, 1e12);
-        if (!fixed.isEmpty()) return {std::llround(value * fixed.toDouble()), fixed.toLongLong()};
-        const qint64 largest = digits >= 4 ? 9999 : digits == 3 ? 999 : digits == 2 ? 99 : 9;
-        std::pair<qint64, qint64> best{std::llround(value), 1};
-        double error = std::abs(value - static_cast<double>(best.first));
-        for (qint64 bottom = 2; bottom <= largest && error > 1e-12; ++bottom) {
-            const qint64 top = std::llround(value * static_cast<double>(bottom));
-            const double off = std::abs(value - static_cast<double>(top) / static_cast<double>(bottom));
-            if (off < error - 1e-12) {
-                error = off;
-                best = {top, bottom};
-            }
-        }
-        return best;
     }
 
     const FormatSection& section_;
@@ -352,6 +247,7 @@ FormattedNumber FormatNumber(double value, const QString& code) {
     const auto& sections = sectionsOf(code);
     const auto [section, bare] = chooseSection(sections, value);
     if (!section) return {QStringLiteral("########"), {}};
+    if (!section->known) return {minus + generalText(magnitude), section->color};
     if (section->date) return {FormatSerial(value, *section), section->color};
     if (section->tokens.empty()) {
         // A colour alone leaves the number as it is; an empty section hides it.
@@ -376,9 +272,15 @@ QString FormatText(const QString& text, const QString& code) {
     return out;
 }
 
+bool IsKnownFormat(const QString& code) {
+    const auto& sections = sectionsOf(code);
+    return std::all_of(sections.begin(), sections.end(), [](const auto& section) { return section.known; });
+}
+
 bool IsDateFormat(const QString& code) {
     if (isGeneral(code) || code == u"@") return false;
-    return sectionsOf(code).front().date;
+    const FormatSection& section = sectionsOf(code).front();
+    return section.date && section.known;
 }
 
 }  // namespace akarix

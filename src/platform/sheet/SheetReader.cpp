@@ -229,6 +229,8 @@ class Reader {
             Cell cell;
             const auto style = static_cast<size_t>(node.attribute("s").as_uint());
             if (style < sheet_.styles.size()) cell.style = static_cast<int>(style);
+            const QString& format = sheet_.styles[static_cast<size_t>(cell.style)].numberFormat;
+            if (!IsKnownFormat(format) && !unknownFormats_.contains(format)) unknownFormats_ += format;
             readValue(node, cell);
             if (childNamed(node, "f")) {
                 ++formulas_;
@@ -399,6 +401,10 @@ class Reader {
                     .arg(firstFormula_)
                     .arg(formulas_);
         }
+        if (!unknownFormats_.isEmpty()) {
+            sheet_.warnings += QStringLiteral("表示形式 %1 は使えません。数値は「標準」で印刷されます。")
+                                   .arg(unknownFormats_.join(QStringLiteral("、")));
+        }
         static constexpr struct {
             const char* element;
             const char16_t* what;
@@ -426,6 +432,7 @@ class Reader {
     std::vector<bool> isDate_;
     int formulas_ = 0;
     QString firstFormula_;
+    QStringList unknownFormats_;
 };
 
 }  // namespace

@@ -271,10 +271,6 @@ TEST(SheetPainterTest, BrokenAndSlantedLines) {
         BorderStyle broken, whole;
         double share;
     } cases[] = {{BorderStyle::Dashed, BorderStyle::Thin, 5 / 7.5},
-                 {BorderStyle::DashDot, BorderStyle::Thin, 11 / 16.0},
-                 {BorderStyle::DashDotDot, BorderStyle::Thin, 13 / 20.5},
-                 {BorderStyle::MediumDashed, BorderStyle::Medium, 6 / 8.0},
-                 {BorderStyle::MediumDashDot, BorderStyle::Medium, 9 / 13.0},
                  {BorderStyle::MediumDashDotDot, BorderStyle::Medium, 11 / 17.0}};
     for (const auto& [broken, whole, share] : cases) {
         EXPECT_NEAR(inkOf(broken), inkOf(whole) * share, inkOf(whole) * 0.05) << static_cast<int>(broken);
