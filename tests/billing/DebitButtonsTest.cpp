@@ -24,14 +24,11 @@ class DebitButtonsTest : public ScreenTest {
             "INSERT INTO Bnk(Code,ItakuCode,Itakusya,fName,Stn,Saifurikae) VALUES(9900,'1','ｱ','f',1,'20');\n"
             "INSERT INTO Bnk(Code,ItakuCode,Itakusya,fName,Stn) VALUES(123,'1','ｱ','b',1);\n"
             "INSERT INTO Deal(Code,Bnk,Stn,Kind,Koza) VALUES(1,9900,10010,1,'1');\n"
-            "INSERT INTO TtoD(Deal,Nendo,Getudo,Gaku) VALUES(1,2006,1,1000);\n"
-            "INSERT INTO TtoD(Deal,Nendo,Getudo,Gaku) VALUES(1,2006,2,2000);\n");
+            "INSERT INTO TtoD(Deal,Nendo,Getudo,Gaku) VALUES(1,2006,1,1000),(1,2006,2,2000);\n");
         OpenScreen<Seikyu_frm>();
     }
     void TearDown() override {
         Close(1);
-        SetClock(Date());
-        gDateMode = 0;
         ScreenTest::TearDown();
     }
 
@@ -71,6 +68,11 @@ TEST_F(DebitButtonsTest, TheSecondDateIsProposedAndEntered) {
     EXPECT_EQ(clerk.focusedName(), "Command(0)");
     type("eSaihi", "2006/2/31");
     EXPECT_EQ(clerk.expectedDialogs(), 0) << "no date: nothing happens";
+    clerk.answerConfirm(true);
+    clerk.answerConfirm(false);
+    type("eSaihi", "2006/2/9");
+    EXPECT_EQ(clerk.lastSaid(), "再振替日の月日はいいですか？");
+    EXPECT_FALSE(QFile::exists("Drive/A/f"));
     expectRun(true);
     type("eSaihi", "2006/2/21");
     EXPECT_EQ(clerk.lastSaid(), "郵便ディスク作成、完了しました。");

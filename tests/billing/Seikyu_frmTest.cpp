@@ -17,10 +17,6 @@ class BillingScreen : public ScreenTest {
         gDb->Execute("INSERT INTO Syukei(Nen,Tuki,Hizuke) VALUES(2023,3,CDATE('2023/03/31'))");
         OpenScreen<Seikyu_frm>();
     }
-    void TearDown() override {
-        SetClock(Date());
-        ScreenTest::TearDown();
-    }
     void type(int field, const QString& text) {
         auto& box = clerk.find<TextBox>(QString("ebox(%1)").arg(field));
         box.setFocus();
@@ -63,10 +59,7 @@ TEST_F(BillingScreen, EnterOnTheCreationDate) {
         const char* typed;
         const char* date;
         const char* weekday;
-    } cases[] = {{"4.20", "2023/04/20", "木曜"},
-                 {"2024/2/29", "2024/02/29", "木曜"},
-                 {"2023/2/29", "2023/2/29", ""},
-                 {"20230420", "20230420", ""}};
+    } cases[] = {{"4.20", "2023/04/20", "木曜"}, {"2023/2/29", "2023/2/29", ""}};
     for (const auto& [typed, date, weekday] : cases) {
         type(2, typed);
         EXPECT_EQ(clerk.text("ebox(2)") + clerk.text("lYobi1"), QString(date) + weekday);

@@ -27,36 +27,23 @@ class TtoTest : public testing::Test {
         BuildMonthLedger(year, month, DateSerial(year, month, day));
         CarryForwardMonth(year, month);
     }
+    static void insert(const QString& into, std::initializer_list<int> numbers, const QString& amount) {
+        QString row;
+        for (const int number : numbers)
+            row += QString::number(number) + u',';
+        gDb->Execute(QStringLiteral("INSERT INTO %1 VALUES(%2%3)").arg(into, row, amount));
+    }
     void reading(int year, int month, int deal, const QString& charge) {
-        gDb->Execute(QStringLiteral("INSERT INTO Dgd(Nendo,Getudo,Deal,Gaku) VALUES(%1,%2,%3,%4)")
-                         .arg(year)
-                         .arg(month)
-                         .arg(deal)
-                         .arg(charge));
+        insert("Dgd(Nendo,Getudo,Deal,Gaku)", {year, month, deal}, charge);
     }
     void sale(int dno, int eda, int deal, int year, int month, const QString& amount) {
-        gDb->Execute(
-            QStringLiteral("INSERT INTO Dud(Dno,Eda,Deal,Nendo,Getudo,Gaku) VALUES(%1,%2,%3,%4,%5,%6)")
-                .arg(dno)
-                .arg(eda)
-                .arg(deal)
-                .arg(year)
-                .arg(month)
-                .arg(amount));
+        insert("Dud(Dno,Eda,Deal,Nendo,Getudo,Gaku)", {dno, eda, deal, year, month}, amount);
     }
     void payment(int dno, int deal, int year, int month, const QString& amount) {
-        gDb->Execute(
-            QStringLiteral("INSERT INTO Dny(Dno,Eda,Deal,Nendo,Getudo,Gaku) VALUES(%1,1,%2,%3,%4,%5)")
-                .arg(dno)
-                .arg(deal)
-                .arg(year)
-                .arg(month)
-                .arg(amount));
+        insert("Dny(Dno,Eda,Deal,Nendo,Getudo,Gaku)", {dno, 1, deal, year, month}, amount);
     }
-    void customers(const QString& codes) {
-        for (const QString& code : codes.split(u',')) {
-            gDb->Execute(QStringLiteral("INSERT INTO Deal(Code) VALUES(%1)").arg(code));
-        }
+    void customers(QString codes) {
+        ScratchStore::run("INSERT INTO Deal(Code) VALUES(" + codes.replace(",", "),(") + ")");
     }
 
     ScratchStore store;
@@ -169,25 +156,9 @@ TEST_F(TtoTest, ARunStoppedBetweenTwoCustomersIsMendedByTheNext) {
                                             QStringLiteral("2|0|3000|700|3700|1200|0")}));
 }
 
-TEST_F(TtoTest, BillingAnOldMonthAgainLeavesTheMonthsAfterIt) {
-    customers(QStringLiteral("1"));
-    reading(2011, 3, 1, QStringLiteral("3000"));
-    bill(2011, 3);
-    bill(2011, 4);
-    sale(1, 1, 1, 2011, 3, QStringLiteral("500"));
-    bill(2011, 3);
-    EXPECT_EQ(ledger(2011, 3), QStringList{QStringLiteral("1|0|3000|500|3500|0|0")});
-    EXPECT_EQ(ledger(2011, 4), QStringList{QStringLiteral("1|3000|0|0|0|0|0")});
-    bill(2011, 4);
-    EXPECT_EQ(ledger(2011, 4), QStringList{QStringLiteral("1|3500|0|0|0|0|0")});
-}
-
 TEST_F(TtoTest, LeaseSlips) {
     ScratchStore::run(
-        QStringLiteral("INSERT INTO Deal(Code,ACU,Keihou) VALUES(1,1,1);\n"
-                       "INSERT INTO Deal(Code,ACU,Keihou) VALUES(2,0,1);\n"
-                       "INSERT INTO Deal(Code,ACU,Keihou) VALUES(3,0,0);\n"
-                       "INSERT INTO Deal(Code,ACU,Keihou) VALUES(4,1,0);\n"
+        QStringLiteral("INSERT INTO Deal(Code,ACU,Keihou) VALUES(1,1,1),(2,0,1),(3,0,0),(4,1,0);\n"
                        "UPDATE UserOP SET contents='300' WHERE Code=2;\n"
                        "UPDATE UserOP SET contents='1,050円' WHERE Code=3;\n"));
     sale(40, 1, 3, 2011, 3, QStringLiteral("10"));
@@ -243,27 +214,6 @@ TEST_F(TtoTest, CustomersAreCountedInSixteenBits) {
         EXPECT_EQ(error.number(), 6);
     }
     EXPECT_TRUE(ledger(2011, 3).isEmpty());
-}
-
-TEST_F(TtoTest, PuttingAmountsReplacesThem) {
-    PutGGaku(2011, 3, 5, Currency(100));
-    PutGGaku(2011, 3, 5, Currency::FromText(QStringLiteral("-0.5")));
-    PutUGaku(2011, 3, 5, Currency(200));
-    PutNGaku(2011, 3, 6, Currency(300));
-    PutNGaku(2011, 3, 6, Currency(350));
-    PutZenkaiGaku(6, 2011, 3, Currency(40));
-    ScratchStore::run(QStringLiteral("UPDATE TtoD SET SyokiFlg=1 WHERE Deal=6;\n"));
-    PutZenkaiGaku(6, 2011, 3, Currency(41));
-    EXPECT_EQ(ledger(2011, 3),
-              (QStringList{QStringLiteral("5|0|-0.5|200|0|0|0"), QStringLiteral("6|41|0|0|0|350|1")}));
-    Currency balance;
-    int flag = 0;
-    ReadLedgerHead(6, 2011, 3, balance, flag);
-    EXPECT_EQ(balance, Currency(41));
-    EXPECT_EQ(flag, 1);
-    ReadLedgerHead(6, 2011, 4, balance, flag);
-    EXPECT_EQ(balance, Currency(0));
-    EXPECT_EQ(flag, 0);
 }
 
 }  // namespace

@@ -30,7 +30,6 @@ class DebitTest : public ScreenTest {
     }
     void TearDown() override {
         Close(1);
-        SetClock(Date());
         ScreenTest::TearDown();
     }
 

@@ -42,17 +42,15 @@ class DebitFiles : public DebitTest {
         WriteBankDebit(kApril, "123", shown);
         return errorIn(clerk.lastSaid());
     }
-    QString writePost(const QString& typed = {}) {
+    QString writePost() {
         clerk.answerConfirm(true);
-        if (!typed.isEmpty()) clerk.answerConfirm(true);
         clerk.answerAlert();
-        WritePostDebit(kApril, again, typed, shown);
+        WritePostDebit(kApril, again, {}, shown);
         return errorIn(clerk.lastSaid());
     }
     /// What is told of a file that is written to its end. \param pdf where the sheet goes; none: cancelled
-    QStringList finishPost(const QString& typed = {}, const QString& pdf = {}) {
+    QStringList finishPost(const QString& pdf = {}) {
         clerk.answerConfirm(true);
-        if (!typed.isEmpty()) clerk.answerConfirm(true);
         if (pdf.isEmpty()) {
             AnswerEscape(clerk, "Printer_frm");
         } else {
@@ -60,7 +58,7 @@ class DebitFiles : public DebitTest {
         }
         clerk.answerAlert();
         clerk.answerAlert();
-        WritePostDebit(kApril, again, typed, shown);
+        WritePostDebit(kApril, again, {}, shown);
         return clerk.said().mid(clerk.said().size() - 2);
     }
 
@@ -82,7 +80,7 @@ TEST_F(DebitFiles, ABankFileEndsAtItsFirstRecord) {
 TEST_F(DebitFiles, ThePostOfficeFileIsWrittenAndTold) {
     makeTotalSheet();
     const QStringList told{"件数：2\n金額：6500.5", "郵便ディスク作成、完了しました。"};
-    EXPECT_EQ(finishPost({}, store.path("out.pdf")), told);
+    EXPECT_EQ(finishPost(store.path("out.pdf")), told);
     EXPECT_EQ(progress, (QStringList{"ディスク作成中！", "1 / 2", "2 / 2", ""}));
     const QByteArray first = readFile("Drive/A/jiharai");
     EXPECT_EQ(first.size(), 5 * 122);
@@ -103,17 +101,6 @@ TEST_F(DebitFiles, TheBanksTotalSheetHasNoSecondDate) {
     const QString sheet = PdfPages("out.pdf").value(0);
     expectTexts(sheet, {"自払ＦＤ合計表", "0001234567", "12件", "34,567円"});
     EXPECT_FALSE(sheet.contains("old"));
-}
-
-TEST_F(DebitFiles, TheSecondDateIsAskedBack) {
-    clerk.answerConfirm(true);
-    clerk.answerConfirm(false);
-    WritePostDebit(kApril, again, "2023/05/20", shown);
-    EXPECT_EQ(clerk.lastSaid(), "再振替日の月日はいいですか？");
-    EXPECT_FALSE(QFile::exists("Drive/A/jiharai"));
-    finishPost("2023/5/9");
-    EXPECT_EQ(readFile("Drive/A/jiharai").mid(103, 4), "0509");
-    EXPECT_EQ(writePost("2023/2/30"), "13");
 }
 
 TEST_F(DebitFiles, WhatStopsAFile) {

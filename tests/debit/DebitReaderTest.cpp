@@ -27,10 +27,8 @@ class ReadBack : public DebitTest {
         DebitTest::SetUp();
         SetClock(DateSerial(2023, 5, 15));
         ScratchStore::run(
-            "INSERT INTO Deal(Code,Sime) VALUES(1,31);\n"
-            "INSERT INTO Deal(Code,Sime) VALUES(2,20);\n"
-            "INSERT INTO TtoD(Deal,Nendo,Getudo,NGaku) VALUES(1,2023,4,500);\n"
-            "INSERT INTO TtoD(Deal,Nendo,Getudo,NGaku) VALUES(2,2023,4,500);\n"
+            "INSERT INTO Deal(Code,Sime) VALUES(1,31),(2,20);\n"
+            "INSERT INTO TtoD(Deal,Nendo,Getudo,NGaku) VALUES(1,2023,4,500),(2,2023,4,500);\n"
             "INSERT INTO TtoD(Deal,Nendo,Getudo) VALUES(2,2023,5);\n");
     }
 

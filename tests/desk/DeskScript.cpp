@@ -11,12 +11,10 @@
 #include "platform/runtime/CDate.h"
 #include "platform/runtime/Clock.h"
 #include "platform/sheet/SheetReader.h"
-#include "store/Settings.h"
 #include "support/GridText.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 #include "toolkit/FieldWalk.h"
-#include "values/Dates.h"
 
 namespace akarix {
 namespace {
@@ -27,6 +25,7 @@ struct Step {
     QString rest;
     QStringList rows;
     QStringList dialogs;
+    QString focus;  ///< where the keyboard is then; none: not asked
 };
 
 struct Case {
@@ -59,10 +58,12 @@ std::vector<Case> readCases(const QString& path) {
             cases.push_back({line.mid(3), number, cases.front().steps});
         } else if (line.startsWith(u": ")) {
             steps.back().rows += line.mid(2);
-        } else if (line.startsWith(u' ')) {
-            steps.back().dialogs += line.trimmed();
         } else {
-            steps.push_back({number, firstWord(line), afterFirst(line), {}, {}});
+            QStringList rows = line.split(QStringLiteral(" : "));
+            QStringList focus = rows.takeFirst().split(QStringLiteral(" @ "));
+            QStringList dialogs = focus.takeFirst().split(QStringLiteral(" > "));
+            const QString step = dialogs.takeFirst();
+            steps.push_back({number, firstWord(step), afterFirst(step), rows, dialogs, focus.value(0)});
         }
     }
     cases.erase(cases.begin());
@@ -104,16 +105,11 @@ class DeskTest : public ScreenTest {
                 prepareDialogs();
                 perform();
                 checkDialogs(heard);
+                if (!step.focus.isEmpty()) focus(step.focus);
             } catch (const std::exception& error) {
                 ADD_FAILURE_AT(file_.constData(), step.line) << error.what();
             }
         }
-    }
-    void TearDown() override {
-        ScreenTest::TearDown();
-        SetClock(Date());
-        gDateMode = 0;
-        gPrintPreview = false;
     }
 
     void expect(const QString& found, const QString& wanted) const {
@@ -198,7 +194,7 @@ class DeskTest : public ScreenTest {
     }
 
     void setToday(const QString& date) { SetClock(CDate(date)); }
-    void runSql(const QString& statement) { gDb->Execute(statement); }
+    void runSql(const QString& statement) { ScratchStore::run(statement); }
     void define(const QString& nameAndMeaning) {
         names_[firstWord(nameAndMeaning)] = afterFirst(nameAndMeaning);
     }
@@ -228,9 +224,11 @@ class DeskTest : public ScreenTest {
         clerk.find<TextBox>(firstWord(nameAndText)).SetText(afterFirst(nameAndText));
     }
     void keys(const QString& text) { clerk.type(text); }
-    void press(const QString& key) {
-        const QKeyCombination combination = QKeySequence(key)[0];
-        clerk.press(combination.key(), combination.keyboardModifiers());
+    void press(const QString& keys) {
+        for (const QString& key : keys.split(u' ')) {
+            const QKeyCombination combination = QKeySequence(key)[0];
+            clerk.press(combination.key(), combination.keyboardModifiers());
+        }
     }
     void click(const QString& name) { clerk.click(name); }
     void closeBox(const QString& form) { clerk.closeBox(clerk.form(form)); }

@@ -23,14 +23,13 @@ namespace akarix {
 ///   in ebox(3) 5|6               the same from a field on, whose text is selected; "in X" alone goes there
 ///   put ebox(2) 北町              sets a text without going there
 ///   keys 12                      types without Enter
-///   press Shift+Backtab          one key
+///   press Tab Shift+Backtab      key after key
 ///   click Btn(2)                 or "cell List 2,0": the cell of a grid; "double Btn(2)" is a double-click
-///     yes この地区を削除します。      indented: a dialog that comes of the line above, what it says, its
-///     answer
-///   focus ebox(0)
+///   click Btn(1) > yes 消します。   the dialogs that come of it: the answer to each, and what it says
+///   focus ebox(0)                where the keyboard is; or behind what brings it there: "type 5 @ ebox(1)"
 ///   shows slip 1|||北町           texts, and 1 or 0 for a tick
 ///   rows stored 1                or a whole SELECT; the rows wanted follow
-///   : 1|北町|-
+///   : 1|北町|-                     short ones may stand behind it: "rows stored 1 : 1|北町|-"
 ///   grid List 0-2                the rows below the head, all columns or some; "row List 1 0-2 a|b|c" is one
 ///   : 1|北町|0
 ///

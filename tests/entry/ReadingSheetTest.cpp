@@ -17,10 +17,6 @@ class ReadingSheet : public ScreenTest {
         SetClock(DateSerial(2023, 4, 15));
         OpenScreen<SlipG_frm>();
     }
-    void TearDown() override {
-        SetClock(Date());
-        ScreenTest::TearDown();
-    }
     /// Customers 1, 2, 3, ..., a power of two of them.
     static void addCustomers(int count) {
         gDb->Execute("INSERT INTO Deal(Code,Rte) VALUES(1,1)");
@@ -57,24 +53,6 @@ TEST_F(ReadingSheet, MoreRowsThanASheetHoldsAreTheRunTimesError) {
     EXPECT_EQ(list().Rows(), 1);
     EXPECT_EQ(clerk.focusedName(), "Command1");
     EXPECT_EQ(ScratchStore::rows("SELECT COUNT(*),SUM(KonkaiMeter) FROM Dgd"), QStringList{"32768|163840"});
-}
-
-TEST_F(ReadingSheet, AnotherScreenOpensItOnOneCustomer) {
-    addCustomers(2);
-    const auto opened = [] { return ScratchStore::rows("SELECT Deal FROM Dgd").join(','); };
-    const auto open = [](std::int16_t month) {
-        std::int16_t year = 2023;
-        std::int32_t customer = 2;
-        Form::Instance<SlipG_frm>().fromexe(year, month, customer);
-    };
-    open(0);
-    EXPECT_EQ(opened(), "");
-    open(13);
-    EXPECT_EQ(clerk.focusedName(), "ebox(1)") << "asked for, and no month of the year";
-    open(4);
-    EXPECT_EQ(opened(), "2");
-    EXPECT_EQ(clerk.text("ebox(0)") + '/' + clerk.text("ebox(1)") + '/' + clerk.text("ebox(4)"), "2023/4/2");
-    EXPECT_EQ(clerk.focusedName(), "tBox");
 }
 
 }  // namespace

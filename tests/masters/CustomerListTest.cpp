@@ -1,7 +1,6 @@
-#include <QListWidget>
-
 #include "masters/MstDeal_frm.h"
 #include "platform/print/PdfText.h"
+#include "support/ListScreen.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 
@@ -27,12 +26,7 @@ class CustomerList : public ScreenTest {
     /// Prints into a new file, and gives the text of its pages.
     QStringList print() {
         const QString path = store.path(u"list%1.pdf"_qs.arg(++lists_));
-        clerk.expect(u"Printer_frm"_qs, [this, path](QWidget&) {
-            auto& printers = clerk.find<QListWidget>("Printers");
-            printers.setCurrentRow(printers.count() - 1);
-            clerk.find<TextBox>("Path").SetText(path);
-            clerk.click("Print");
-        });
+        AnswerPrinter(clerk, path);
         clerk.click("Btn(3)");
         return QFile::exists(path) ? PdfPages(path) : QStringList();
     }
@@ -91,14 +85,6 @@ TEST_F(CustomerList, HoldsFiftyEightToAPage) {
     const QStringList pages = print();
     ASSERT_EQ(pages.size(), 2);
     EXPECT_EQ(namesOn(pages[1]), u"59"_qs);
-}
-
-TEST_F(CustomerList, ACancelledDialogEndsItWithoutAWord) {
-    insertNames(1, 1);
-    OpenScreen<MstDeal_frm>();
-    clerk.expect(u"Printer_frm"_qs, [this](QWidget&) { clerk.press(Qt::Key_Escape); });
-    clerk.click("Btn(3)");
-    EXPECT_EQ(clerk.said().size(), 1) << "the dialog alone";
 }
 
 }  // namespace

@@ -1,8 +1,7 @@
-#include <QListWidget>
-
 #include "masters/MstTanka_frm.h"
 #include "platform/print/PdfText.h"
 #include "store/Settings.h"
+#include "support/ListScreen.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 
@@ -21,12 +20,7 @@ class PriceList : public ScreenTest {
     /// line by line.
     QStringList print(const QString& pattern) {
         clerk.fill(pattern);
-        clerk.expect(u"Printer_frm"_qs, [this](QWidget&) {
-            auto& printers = clerk.find<QListWidget>("Printers");
-            printers.setCurrentRow(printers.count() - 1);
-            clerk.find<TextBox>("Path").SetText(store.path(u"list.pdf"_qs));
-            clerk.click("Print");
-        });
+        AnswerPrinter(clerk, store.path(u"list.pdf"_qs));
         clerk.click("Btn(3)");
         QStringList tables;
         for (const QString& file : {u"list.pdf"_qs, u"list (2).pdf"_qs, u"list (3).pdf"_qs}) {
@@ -62,7 +56,7 @@ TEST_F(PriceList, PrintingSavesAndMayBeCancelled) {
     clerk.fill(u"6"_qs);
     clerk.fill(u"15"_qs);
     clerk.fill(u"1500"_qs);
-    clerk.expect(u"Printer_frm"_qs, [this](QWidget&) { clerk.press(Qt::Key_Escape); });
+    AnswerEscape(clerk, u"Printer_frm"_qs);
     clerk.click("Btn(3)");
     EXPECT_EQ(ScratchStore::rows(u"SELECT Ptn,Capa,Tanka,Kubun FROM Tnk"_qs), QStringList{u"6|15|1500|1"_qs});
     EXPECT_EQ(clerk.text("ebox(0)"), QString());

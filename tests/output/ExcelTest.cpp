@@ -269,12 +269,6 @@ TEST_F(PagedTest, PreviewTellsWhetherMoreFollows) {
     EXPECT_EQ(shown, QStringList({"1 頁+", "2 頁+", "3 頁"}));
 }
 
-TEST_F(PagedTest, AnEmptySetFails) {
-    Report report;
-    EXPECT_EQ(errorOf([&] { run(report, 0); }), 3021);
-    EXPECT_EQ(report.calls, QStringList());
-}
-
 TEST_F(PagedTest, TheNextReportStartsAfreshAfterAnError) {
     Report broken;
     broken.failAt = 2;

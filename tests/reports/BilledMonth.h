@@ -26,13 +26,8 @@ class BilledMonth : public ScreenTest {
         customer("2,'鈴木',1,30,0", "2,12000,1800,2089,3889,5000", "2,1900,1905.5,5.5");
         customer("3,'佐藤',1,20,0", "3,-500,0,0,0,0");
         ScratchStore::run(
-            "INSERT INTO TtoD(Nendo,Getudo,Deal,Gaku) VALUES(2023,3,1,999);\n"
-            "INSERT INTO TtoD(Nendo,Getudo,Deal,Gaku) VALUES(2023,4,777,999);\n"
+            "INSERT INTO TtoD(Nendo,Getudo,Deal,Gaku) VALUES(2023,3,1,999),(2023,4,777,999);\n"
             "INSERT INTO Rte(Code,Kana,Namae) VALUES(1,'ｷﾀ','北町')");
-    }
-    void TearDown() override {
-        SetClock(Date());
-        ScreenTest::TearDown();
     }
 
     /// \param master Code,Namae,Rte,Haisou,NoSeikyu

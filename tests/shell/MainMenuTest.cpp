@@ -188,15 +188,6 @@ TEST_F(MainMenu, AnEmptyPasswordMayStayOne) {
     EXPECT_EQ(storedPassword(), QStringList{u" "_qs});
 }
 
-TEST_F(MainMenu, WithoutAPasswordsRowTheChangeFails) {
-    ASSERT_TRUE(start());
-    gDb->Execute(u"DELETE FROM zSysFunc"_qs);
-    clerk.answerMsgBox();
-    press(6);
-    EXPECT_TRUE(clerk.lastSaid().startsWith(u"実行時エラー '3021'"_qs));
-    EXPECT_TRUE(clerk.isOpen(u"main_menu"_qs));
-}
-
 // ---- the board
 
 TEST_F(MainMenu, EachButtonOpensItsScreenOnce) {

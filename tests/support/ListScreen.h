@@ -3,23 +3,10 @@
 #include <QListWidget>
 
 #include "clerk/Clerk.h"
-#include "platform/forms/FlexGrid.h"
 #include "platform/forms/TextBox.h"
+#include "support/GridText.h"
 
 namespace akarix {
-
-/// The rows of a grid below its head, "a|b|c" each. \param last column; -1 for all that follow
-inline QStringList GridRows(const FlexGrid& grid, int first = 0, int last = -1) {
-    QStringList lines;
-    for (int row = 1; row < grid.Rows(); ++row) {
-        QStringList cells;
-        for (int col = first; col <= (last < 0 ? grid.Cols() - 1 : last); ++col) {
-            cells += grid.TextMatrix(row, col);
-        }
-        lines += cells.join(u'|');
-    }
-    return lines;
-}
 
 /// Lays the answer ready for the printer's dialog: a PDF file.
 inline void AnswerPrinter(Clerk& clerk, const QString& path) {

@@ -9,13 +9,17 @@
 
 #include "platform/jet/DBEngine.h"
 #include "platform/runtime/CStr.h"
+#include "platform/runtime/Clock.h"
 #include "store/CreateDatabase.h"
+#include "store/Settings.h"
 #include "store/dbAccess.h"
+#include "values/Dates.h"
 
 namespace akarix {
 
 /// The delivered database in a folder of its own, which is the current one while the object lives. Made once
-/// for a test program and copied for each test.
+/// for a test program and copied for each test. When it goes, the clock and the settings are those of a
+/// start.
 class ScratchStore {
  public:
     explicit ScratchStore(bool open = true) : previous_(QDir::currentPath()) {
@@ -32,6 +36,9 @@ class ScratchStore {
     }
     ~ScratchStore() {
         CloseDb();
+        SetClock(Date());
+        gDateMode = 0;
+        gPrintPreview = false;
         QDir::setCurrent(previous_);
     }
     ScratchStore(const ScratchStore&) = delete;
@@ -39,10 +46,20 @@ class ScratchStore {
 
     QString path(const QString& name = DatabaseName()) const { return folder_.filePath(name); }
 
-    /// Runs statements parted by ";" and line ends.
+    /// Runs statements parted by ";" and line ends; an INSERT may have several rows.
     static void run(const QString& statements) {
-        for (const QString& statement : statements.split(QStringLiteral(";\n"), Qt::SkipEmptyParts)) {
-            if (!statement.trimmed().isEmpty()) gDb->Execute(statement.trimmed());
+        static const QString values = QStringLiteral(" VALUES(");
+        for (const QString& line : statements.split(QStringLiteral(";\n"), Qt::SkipEmptyParts)) {
+            const QString statement = line.trimmed();
+            const qsizetype at = statement.indexOf(values);
+            if (at < 0) {
+                if (!statement.isEmpty()) gDb->Execute(statement);
+                continue;
+            }
+            const QString head = statement.left(at + values.size());
+            for (const QString& row : statement.mid(head.size()).chopped(1).split(QStringLiteral("),("))) {
+                gDb->Execute(head + row + u')');
+            }
         }
     }
 

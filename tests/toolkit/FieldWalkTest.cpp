@@ -123,39 +123,5 @@ TEST_F(FieldWalk, LeavingAFieldCutsItsText) {
     EXPECT_EQ(desk.ebox(3).Text(), u"あいう"_qs) << "still being typed in";
 }
 
-TEST_F(FieldWalk, MapsTab) {
-    const struct {
-        int key, shift, mapped;
-    } cases[] = {{9, 0, 13}, {9, 1, 38}, {9, 2, 13}, {9, 3, 13}, {13, 1, 13}, {38, 0, 38}, {40, 1, 40}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(MapEditKey(c.key, c.shift), c.mapped) << c.key << ' ' << c.shift;
-    }
-}
-
-TEST_F(FieldWalk, ClearsAndCopies) {
-    desk.ebox(0).SetText(u"東京ガス商会"_qs);
-    desk.ebox(1).SetText(u" "_qs);
-    desk.ebox(1).SetMaxLength(6);
-    CopyIfEmpty(desk.ebox(0), desk.ebox(1));
-    EXPECT_EQ(desk.ebox(1).Text(), u"東京ガ"_qs);
-    CopyIfEmpty(desk.ebox(2), desk.ebox(1));
-    EXPECT_EQ(desk.ebox(1).Text(), u"東京ガ"_qs);
-
-    desk.combo.AddItem(u"集金"_qs, 1);
-    desk.combo.AddItem(u"振込"_qs, 2);
-    ComboSelect(desk.combo, 2);
-    EXPECT_EQ(ComboValue(desk.combo), 2);
-    ComboSelect(desk.combo, 9);
-    EXPECT_EQ(ComboValue(desk.combo), 0);
-    ComboSelect(desk.combo, 1);
-    desk.label.SetCaption(u"名"_qs);
-    ClearControls(desk);
-    EXPECT_EQ(desk.ebox(0).Text(), QString());
-    EXPECT_EQ(desk.combo.ListIndex(), -1);
-    EXPECT_EQ(desk.label.Caption(), u"名"_qs);
-    ClearCombo(desk.combo);
-    EXPECT_EQ(desk.combo.ListCount(), 0);
-}
-
 }  // namespace
 }  // namespace akarix

@@ -7,7 +7,6 @@
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 #include "toolkit/EntryForm.h"
-#include "toolkit/ZipAddress.h"
 
 namespace akarix {
 namespace {
@@ -38,17 +37,13 @@ class Caller : public EntryForm {
 class Lookups : public ScreenTest {
  protected:
     Lookups() {
-        insert(u"Rte(Code,Kana,Namae)"_qs,
-               {u"1,'ｷﾀ','北町'"_qs, u"2,'ﾐﾅﾐ','南町'"_qs, u"3,'ｱｵﾊﾞ','青葉'"_qs, u"0,'ｱ','なし'"_qs});
-        insert(u"Deal(Code,Rte,Haisou,Kana,Namae,TEL)"_qs,
-               {u"11,1,20,'ﾔﾏﾀﾞ','山田','03-1'"_qs, u"12,1,10,'ｻﾄｳ','佐藤','03-2'"_qs,
-                u"13,2,30,'ﾔﾏｼﾀ','山下',' '"_qs});
+        insert(
+            "Rte(Code,Kana,Namae) VALUES(1,'ｷﾀ','北町'),(2,'ﾐﾅﾐ','南町'),(3,'ｱｵﾊﾞ','青葉'),(0,'ｱ','なし')");
+        insert(
+            "Deal(Code,Rte,Haisou,Kana,Namae,TEL) "
+            "VALUES(11,1,20,'ﾔﾏﾀﾞ','山田','03-1'),(12,1,10,'ｻﾄｳ','佐藤','03-2'),(13,2,30,'ﾔﾏｼﾀ','山下',' ')");
     }
-    static void insert(const QString& table, const QStringList& rows) {
-        for (const QString& row : rows) {
-            gDb->Execute(u"INSERT INTO "_qs + table + u" VALUES("_qs + row + u")"_qs);
-        }
-    }
+    static void insert(const QString& rows) { ScratchStore::run("INSERT INTO " + rows); }
 
     FlexGrid& list() { return clerk.find<FlexGrid>(u"List"_qs); }
     QStringList column(int col) { return GridRows(list(), col, col); }
@@ -107,7 +102,7 @@ TEST_F(Lookups, SearchesByReadingAndName) {
 }
 
 TEST_F(Lookups, BanksAreListedButNotSearched) {
-    insert(u"Bnk(Code,Stn,BkName)"_qs, {u"5,7,'ｷﾞﾝｺｳ'"_qs});
+    insert("Bnk(Code,Stn,BkName) VALUES(5,7,'ｷﾞﾝｺｳ')");
     inDialog(u"Help_frm"_qs, [this] {
         EXPECT_EQ(GridRow(list(), 0, 0, 1), u"0005|007"_qs);
         clerk.answerMsgBox();
@@ -150,9 +145,10 @@ TEST_F(Lookups, CustomersAreFoundByRouteInTheirRound) {
 }
 
 TEST_F(Lookups, SlipsAreListedNewestFirst) {
-    insert(u"Dud(Dno,Eda,Hizuke,Deal,HinNamae,Gaku)"_qs,
-           {u"1,1,#2011/03/05#,11,'ボンベ',1200"_qs, u"1,2,#2011/03/05#,11,'ホース',300"_qs,
-            u"2,1,#2011/03/06#,12,'コンロ',19800"_qs});
+    insert(
+        "Dud(Dno,Eda,Hizuke,Deal,HinNamae,Gaku) "
+        "VALUES(1,1,#2011/03/05#,11,'ボンベ',1200),(1,2,#2011/03/05#,11,'ホース',300),(2,1,#2011/03/"
+        "06#,12,'コンロ',19800)");
     clerk.expect(u"HelpSlip_frm"_qs, [this](QWidget&) {
         EXPECT_EQ(GridRows(list()),
                   (QStringList{u"2|2011/03/06|佐藤|コンロ|19,800"_qs, u"1|2011/03/05|山田|ボンベ|1,500"_qs}));
@@ -162,8 +158,9 @@ TEST_F(Lookups, SlipsAreListedNewestFirst) {
 }
 
 TEST_F(Lookups, PaymentsOfOneCustomer) {
-    insert(u"Dny(Dno,Eda,Hizuke,Deal,Gaku)"_qs,
-           {u"5,1,#2011/03/05#,11,1200"_qs, u"6,1,#2011/04/05#,11,2300"_qs, u"7,1,#2011/04/06#,12,1"_qs});
+    insert(
+        "Dny(Dno,Eda,Hizuke,Deal,Gaku) "
+        "VALUES(5,1,#2011/03/05#,11,1200),(6,1,#2011/04/05#,11,2300),(7,1,#2011/04/06#,12,1)");
     clerk.expect(u"HelpN_frm"_qs, [this](QWidget&) {
         EXPECT_EQ(GridRows(list(), 0, 2), (QStringList{u"6|2011/04/05|2,300"_qs, u"5|2011/03/05|1,200"_qs}));
         clerk.clickCell(list(), 1, 0);
@@ -171,18 +168,6 @@ TEST_F(Lookups, PaymentsOfOneCustomer) {
     EXPECT_EQ(PickPayment(11), u"6"_qs);
     inDialog(u"HelpN_frm"_qs, [this] { EXPECT_EQ(list().Rows(), 1); });
     EXPECT_EQ(PickPayment(99), QString());
-}
-
-TEST_F(Lookups, ZipFillsAnEmptyAddressOnly) {
-    insert(u"Zip7(Code,Addr)"_qs, {u"1000001,'東京都千代田区千代田'"_qs});
-    TextBox address;
-    FillAddressFromZip(u"999-9999"_qs, address);
-    EXPECT_EQ(address.Text(), QString());
-    FillAddressFromZip(u"100-0001"_qs, address);
-    EXPECT_EQ(address.Text(), u"東京都千代田区千代田"_qs);
-    address.SetText(u"大阪"_qs);
-    FillAddressFromZip(u"100-0001"_qs, address);
-    EXPECT_EQ(address.Text(), u"大阪"_qs);
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <functional>
 
-#include "admin/Columns.h"
 #include "billing/Tto.h"
 #include "ledger/LeaseCheck.h"
 #include "ledger/LedgerProof.h"
@@ -17,23 +16,27 @@ namespace {
 
 using testing::HasSubstr;
 
+/// The text with numbers in the places %1, %2 and so on.
+QString filled(QString text, std::initializer_list<int> numbers) {
+    for (const int number : numbers)
+        text = text.arg(number);
+    return text;
+}
+
 /// Two customers, three months billed by the product: the first pays what he owes, the second came with a
 /// balance and has a slip.
 class ThreeMonths : public testing::Test {
  protected:
     void SetUp() override {
         ScratchStore::run(
-            u"INSERT INTO Deal(Code,Namae,Sime) VALUES(1,'山田',31);\n"
-            "INSERT INTO Deal(Code,Namae,Sime) VALUES(2,'川上',31);\n"
+            u"INSERT INTO Deal(Code,Namae,Sime) VALUES(1,'山田',31),(2,'川上',31);\n"
             "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,SyokiFlg) VALUES(2,2011,1,5000,1)"_qs);
         for (int month = 1; month <= 3; ++month) {
             for (int deal = 1; deal <= 2; ++deal) {
                 ScratchStore::run(
-                    u"INSERT INTO Dgd(Nendo,Getudo,Deal,ZenkaiMeter,KonkaiMeter,Suu,Gaku,Hi) "
-                    "VALUES(2011,%1,%2,%3,%4,10,3000,20)"_qs.arg(month)
-                        .arg(deal)
-                        .arg(month * 10)
-                        .arg(month * 10 + 10));
+                    filled(u"INSERT INTO Dgd(Nendo,Getudo,Deal,ZenkaiMeter,KonkaiMeter,Suu,Gaku,Hi) "
+                           "VALUES(2011,%1,%2,%3,%4,10,3000,20)"_qs,
+                           {month, deal, month * 10, month * 10 + 10}));
             }
             ScratchStore::run(payment(month, 1, month, 1, 3000));
             if (month == 2) ScratchStore::run(slip(1, 2, 2, 700));
@@ -42,6 +45,12 @@ class ThreeMonths : public testing::Test {
         }
     }
 
+    void plantInto(const QByteArray& sound, const QString& plant) const {
+        CloseDb();
+        admin::writeFile(store_.path(), sound);
+        OpenDb([](const QString&, const QString&) {});
+        ScratchStore::run(plant);
+    }
     static void purge(int deal, int month) {
         for (const char16_t* table : {u"TtoD", u"Dgd", u"Dud", u"Dny"}) {
             ScratchStore::run(
@@ -51,19 +60,16 @@ class ThreeMonths : public testing::Test {
         }
     }
     static QString payment(int number, int deal, int month, int kubun, int yen) {
-        return u"INSERT INTO Dny(Dno,Eda,Hizuke,Deal,Kubun,Gaku,Nendo,Getudo) "
-               "VALUES(%1,%2,CDATE('2011/%3/15'),%4,%2,%5,2011,%3)"_qs.arg(number)
-                   .arg(kubun)
-                   .arg(month)
-                   .arg(deal)
-                   .arg(yen);
+        return filled(
+            u"INSERT INTO Dny(Dno,Eda,Hizuke,Deal,Kubun,Gaku,Nendo,Getudo) "
+            "VALUES(%1,%2,CDATE('2011/%3/15'),%4,%2,%5,2011,%3)"_qs,
+            {number, kubun, month, deal, yen});
     }
     static QString slip(int number, int deal, int month, int yen) {
-        return u"INSERT INTO Dud(Dno,Eda,Hizuke,Deal,HinCode,HinNamae,Gaku,Nendo,Getudo) "
-               "VALUES(%1,1,CDATE('2011/%2/10'),%3,1,'ホース',%4,2011,%2)"_qs.arg(number)
-                   .arg(month)
-                   .arg(deal)
-                   .arg(yen);
+        return filled(
+            u"INSERT INTO Dud(Dno,Eda,Hizuke,Deal,HinCode,HinNamae,Gaku,Nendo,Getudo) "
+            "VALUES(%1,1,CDATE('2011/%2/10'),%3,1,'ホース',%4,2011,%2)"_qs,
+            {number, month, deal, yen});
     }
 
     const ScratchStore store_;
@@ -103,10 +109,7 @@ TEST_F(ThreeMonths, ADifferenceIsToldWithWhyItArose) {
     };
     const QByteArray billed = admin::contentsOf(store_.path());
     for (const auto& [what, plant, told] : cases) {
-        CloseDb();
-        admin::writeFile(store_.path(), billed);
-        OpenDb([](const QString&, const QString&) {});
-        ScratchStore::run(plant);
+        plantInto(billed, plant);
         QStringList found;
         const LedgerProof proof = ProveLedger(*gDb, [](int, int) {});
         for (const auto& [d, cause] : proof.findings) {
@@ -184,10 +187,7 @@ TEST_F(ThreeMonths, TheMonthsLeaseSlips) {
         return found.join(u'|').toStdString();
     };
     for (const auto& [what, plant, told] : cases) {
-        CloseDb();
-        admin::writeFile(store_.path(), sound);
-        OpenDb([](const QString&, const QString&) {});
-        ScratchStore::run(plant);
+        plantInto(sound, plant);
         EXPECT_EQ(findings(), told.toStdString()) << what;
     }
     ScratchStore::run(u"DELETE FROM Dud WHERE Deal=1 AND Getudo=3"_qs);
@@ -199,12 +199,6 @@ TEST_F(ThreeMonths, TheMonthsLeaseSlips) {
 TEST_F(ThreeMonths, CheckTellsADealerAndAScript) {
     CloseDb();
     const QByteArray sound = admin::contentsOf(store_.path());
-    const auto withStore = [&](const QString& plant) {
-        admin::writeFile(store_.path(), sound);
-        OpenDb([](const QString&, const QString&) {});
-        ScratchStore::run(plant);
-        CloseDb();
-    };
     struct {
         QString plant;
         QString arguments;
@@ -236,14 +230,16 @@ TEST_F(ThreeMonths, CheckTellsADealerAndAScript) {
          "読まないまま請求した（1 か月）"},
     };
     for (const auto& [plant, arguments, code, says] : cases) {
-        withStore(plant);
+        plantInto(sound, plant);
+        CloseDb();
         const QByteArray before = admin::contentsOf(store_.path());
         const admin::Outcome outcome = admin::run(u"check Akarix.MDB"_qs + arguments);
         EXPECT_EQ(outcome.code, code) << says;
         EXPECT_THAT(outcome.said, HasSubstr(says));
         EXPECT_EQ(admin::contentsOf(store_.path()), before) << "a check changes nothing";
     }
-    withStore({});
+    plantInto(sound, {});
+    CloseDb();
     const admin::Holder holder(store_.path());
     EXPECT_THAT(admin::run(u"check"_qs).said, HasSubstr("使用中です: sleep"));
 }
@@ -309,19 +305,16 @@ TEST(Readings, OnesOutOfTheRowAreDoubted) {
         int meter = 100;
         for (const QString& use : QString::fromLatin1(uses).split(u' ')) {
             ScratchStore::run(
-                u"INSERT INTO Dgd(Nendo,Getudo,Deal,ZenkaiMeter,KonkaiMeter,Suu,Gaku) "
-                "VALUES(%1,%2,5,%3,%4,%5,2000)"_qs.arg(2010 + month / 12)
-                    .arg(month % 12 + 1)
-                    .arg(meter)
-                    .arg(meter + use.toInt())
-                    .arg(use));
+                filled(u"INSERT INTO Dgd(Nendo,Getudo,Deal,ZenkaiMeter,KonkaiMeter,Suu,Gaku) "
+                       "VALUES(%1,%2,5,%3,%4,%5,2000)"_qs,
+                       {2010 + month / 12, month % 12 + 1, meter, meter + use.toInt(), use.toInt()}));
             meter += use.toInt();
             ++month;
         }
         QStringList found;
         for (const DoubtfulReading& reading : CheckReadings(*gDb, LastYearOfReadings(*gDb))) {
-            found += u"%1:%2"_qs.arg((reading.nendo - 2010) * 12 + reading.getudo - 1)
-                         .arg(static_cast<int>(reading.doubt));
+            found += filled(u"%1:%2"_qs, {(reading.nendo - 2010) * 12 + reading.getudo - 1,
+                                          static_cast<int>(reading.doubt)});
         }
         EXPECT_EQ(found.join(u' ').toStdString(), doubted) << uses;
     }
@@ -358,7 +351,7 @@ TEST(Readings, EachBeginsWhereTheLastOneEnded) {
         for (const QString& told : QString::fromLatin1(months).split(u' ')) {
             ++month;
             if (told == u".") continue;
-            const QString date = u"%1,%2"_qs.arg(2010 + month / 12).arg(month % 12 + 1);
+            const QString date = filled(u"%1,%2"_qs, {2010 + month / 12, month % 12 + 1});
             if (!told.endsWith(u'?'))
                 ScratchStore::run(u"INSERT INTO Syukei(Nen,Tuki) VALUES(%1)"_qs.arg(date));
             const QStringList parts = told.chopped(told.endsWith(u'?') ? 1 : 0).split(u'/');
@@ -367,13 +360,10 @@ TEST(Readings, EachBeginsWhereTheLastOneEnded) {
             const int oldEnd = parts.value(1).toInt();
             const int use = oldEnd != 0 ? oldEnd - before + now : now != 0 ? now - before : 0;
             ScratchStore::run(
-                u"INSERT INTO Dgd(Nendo,Getudo,Deal,ZenkaiMeter,KoukanMeter,KonkaiMeter,Suu,Gaku) "
-                "VALUES(%1,5,%2,%3,%4,%5,%6)"_qs.arg(date)
-                    .arg(before)
-                    .arg(oldEnd)
-                    .arg(now)
-                    .arg(use)
-                    .arg(use != 0 ? 2000 : 0));
+                filled(u"INSERT INTO Dgd(Nendo,Getudo,Deal,ZenkaiMeter,KoukanMeter,KonkaiMeter,Suu,Gaku) "
+                       "VALUES("_qs +
+                           date + u",5,%1,%2,%3,%4,%5)"_qs,
+                       {before, oldEnd, now, use, use != 0 ? 2000 : 0}));
         }
         QStringList found;
         for (const DoubtfulReading& reading :
@@ -391,7 +381,7 @@ TEST(Readings, FiguresThatDoNotBelongTogetherAreDoubted) {
     const auto doubts = [] {
         QStringList found;
         for (const DoubtfulReading& reading : CheckReadings(*gDb, 201104))
-            found += u"%1:%2"_qs.arg(reading.deal).arg(static_cast<int>(reading.doubt));
+            found += filled(u"%1:%2"_qs, {reading.deal, static_cast<int>(reading.doubt)});
         return found.join(u' ');
     };
     const QString columns =
@@ -403,13 +393,6 @@ TEST(Readings, FiguresThatDoNotBelongTogetherAreDoubted) {
     ScratchStore::run(columns + u"3,100,0,0,120,20,0)"_qs);
     ScratchStore::run(columns + u"4,100,0,0,120,21,9000)"_qs);
     EXPECT_EQ(doubts(), u"3:1 4:2"_qs);
-}
-
-TEST(AdminColumns, LineUpWithWideCharacters) {
-    admin::Columns table({u"名前"_qs, u">料金"_qs, u"わけ"_qs});
-    table.add({u"ﾔﾏﾀﾞ"_qs, u"1,234"_qs, u"多い"_qs});
-    table.add({u"山田太郎"_qs, u"5"_qs, QString()});
-    EXPECT_EQ(table.text(), u"  名前       料金  わけ\n  ﾔﾏﾀﾞ      1,234  多い\n  山田太郎      5\n"_qs);
 }
 
 }  // namespace

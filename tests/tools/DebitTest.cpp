@@ -51,14 +51,6 @@ std::string joined(const QStringList& lines) {
     return lines.join("\n").toStdString();
 }
 
-TEST(DebitCheck, CleanFiles) {
-    EXPECT_EQ(joined(check({header(), data(5, '0'), trailer({1, 5, 0, 0, 0, 0}), kEnd})), "request");
-    EXPECT_EQ(joined(check({header(), trailer({0, 0, 0, 0, 0, 0}), kEnd})), "request");
-    EXPECT_EQ(joined(check({header(), data(5, '0'), trailer({1, 5, 1, 5, 0, 0}), kEnd})), "result");
-    EXPECT_EQ(joined(check({header(), data(5, '0'), data(7, '3'), trailer({2, 12, 1, 5, 1, 7}), kEnd})),
-              "result");
-}
-
 TEST(DebitCheck, Departures) {
     const auto with = [](QByteArray record, int place, const QByteArray& bytes) {
         return record.replace(place - 1, bytes.size(), bytes);
