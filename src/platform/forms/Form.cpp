@@ -153,6 +153,7 @@ int Form::takeTabIndex() {
 }
 
 void Form::DropInstances() {
+    ForgetNotices();
     for (const QPointer<Form>& form : std::exchange(instances(), {}))
         delete form.data();
 }

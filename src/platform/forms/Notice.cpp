@@ -65,10 +65,11 @@ class NoticeLine : public QLabel {
 
 void showPending(int tries) {
     static QPointer<NoticeLine> shown;
+    if (pending.isEmpty()) return;
     QWidget* over = Form::PresentWindow();
     if (over == nullptr && tries > 0) {  // a window has just gone; the next is still to take the keyboard
         constexpr int milliseconds = 50;
-        QTimer::singleShot(milliseconds, qApp, [tries] { showPending(tries - 1); });
+        QTimer::singleShot(milliseconds, qApp, [tries] { AfterAction([tries] { showPending(tries - 1); }); });
         return;
     }
     QStringList lines = std::exchange(pending, {});
@@ -88,6 +89,10 @@ void showPending(int tries) {
 void ShowNotice(const QString& text) {
     pending += text;
     if (pending.size() == 1) AfterAction([] { showPending(mostTries); });
+}
+
+void ForgetNotices() {
+    pending.clear();
 }
 
 void NoticeSaved() {
