@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/forms/MsgBox.h"
+#include "platform/forms/Notice.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -30,6 +31,7 @@ class Action {
     }
     ~Action() {
         if (!open_) return;
+        ForgetNotices();
         // The handler's own error is on its way up; a second one would only hide it.
         try {
             finish();
@@ -39,9 +41,16 @@ class Action {
     Action(const Action&) = delete;
     Action& operator=(const Action&) = delete;
 
+    /// What waits for the end, a word of success above all, comes when the writes are on the disk.
     void finish() {
+        try {
+            if (endHook) endHook();
+        } catch (...) {
+            ForgetNotices();
+            leave();
+            throw;
+        }
         leave();
-        if (endHook) endHook();
     }
 
  private:

@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QTest>
+#include <algorithm>
 
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/MsgBox.h"
+#include "platform/forms/Notice.h"
 #include "platform/forms/TextBox.h"
 #include "platform/runtime/RuntimeError.h"
 #include "support/ScreenTest.h"
@@ -242,10 +244,20 @@ TEST_F(Forms, ActionHooksWrapEveryHandlerAndMayFailThemselves) {
     EXPECT_FALSE(RunGuarded([] { throw RuntimeError(3022); }));
     EXPECT_EQ(log.join(u' '), u"begin end shown");
 
+    sample();
     failEnd = true;
     clerk.answerMsgBox();
-    EXPECT_FALSE(RunGuarded([] {}));
+    EXPECT_FALSE(RunGuarded([] { NoticeSaved(); }));
     EXPECT_TRUE(clerk.lastSaid().contains("'61'"));
+    const auto told = [] {
+        const auto windows = QApplication::topLevelWidgets();
+        return std::any_of(windows.begin(), windows.end(),
+                           [](const QWidget* window) { return window->objectName() == "Notice"; });
+    };
+    sample();  // the box has left the desk without a window that has the keyboard
+    EXPECT_FALSE(QTest::qWaitFor(told, 200)) << "what could not be stored is not called saved";
+    EXPECT_TRUE(RunGuarded([] { NoticeSaved(); }));
+    EXPECT_TRUE(QTest::qWaitFor(told, 2000));
     SetActionHooks({}, {});
 }
 
