@@ -2,6 +2,7 @@
 
 #include <QKeySequence>
 #include <QRegularExpression>
+#include <QTest>
 #include <QTextStream>
 #include <utility>
 #include <vector>
@@ -251,6 +252,8 @@ class DeskTest : public ScreenTest {
         expect(texts.join(u'|'), afterFirst(namesAndTexts));
     }
     QString shown(const QString& name) const {
+        // It waits until a window has the keyboard.
+        if (name == u"Notice"_qs) (void)QTest::qWaitFor([this] { return clerk.isOpen("Notice"); }, 1000);
         const QWidget& control = clerk.control(name);
         if (const auto* tick = qobject_cast<const CheckBox*>(&control)) return QString::number(tick->Value());
         if (const auto* choice = qobject_cast<const OptionButton*>(&control)) {

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "output/EX.h"
 #include "output/PrintRun.h"
@@ -245,8 +246,11 @@ TEST_F(PagedTest, AStoppedRunKeepsThePagesThatAreWhole) {
         });
     });
     EXPECT_EQ(printed("list.pdf"), QStringList({"頁1雛形行1行2行3行4"}));
-    EXPECT_EQ(clerk.text("Notice"),
-              "6 / 9 まで進んだところで中止しました。\n" + folder.filePath("list.pdf") + " に書きました。");
+    // The line waits until a window has the keyboard again.
+    const QString told =
+        "6 / 9 まで進んだところで中止しました。\n" + folder.filePath("list.pdf") + " に書きました。";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return clerk.isOpen("Notice") && clerk.text("Notice") == told; }, 2000))
+        << clerk.text("Notice").toStdString();
     SessionEnd::Await([] {});
     Report next;
     run(next, 1);

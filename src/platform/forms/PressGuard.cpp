@@ -58,14 +58,32 @@ class PressGuard : public QObject {
             case QEvent::MouseMove:
                 return swallowing_ && static_cast<QMouseEvent&>(*event).buttons().testFlag(Qt::LeftButton);
             case QEvent::MouseButtonRelease:
-                return static_cast<QMouseEvent&>(*event).button() == Qt::LeftButton &&
-                       std::exchange(swallowing_, false);
+                return static_cast<QMouseEvent&>(*event).button() == Qt::LeftButton && endsSecondPress();
+            case QEvent::ZOrderChange:
+                noteRaised(watched);
+                return false;
             default:
                 return false;
         }
     }
 
  private:
+    bool endsSecondPress() {
+        if (!std::exchange(swallowing_, false)) return false;
+        // The desk has brought the pressed window before the one that the first press opened.
+        if (raised_ && raised_->isVisible()) {
+            raised_->raise();
+            raised_->activateWindow();
+        }
+        return true;
+    }
+
+    void noteRaised(QObject* watched) {
+        auto* window = qobject_cast<QWidget*>(watched);
+        if (window != nullptr && window->isWindow() && control_ && control_->window() != window)
+            raised_ = window;
+    }
+
     static bool isHeldOnButton(const QObject* watched, const QKeyEvent& press) {
         const bool presses =
             press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter || press.key() == Qt::Key_Space;
@@ -86,6 +104,7 @@ class PressGuard : public QObject {
         swallowing_ = soon && (same ? isButton(control) || (near && isCell(control)) : near);
         if (swallowing_)
             return true;  // time and place stay: who goes on clicking is heard after the interval
+        raised_.clear();
         time_ = press.timestamp();
         place_ = press.globalPosition();
         control_ = control;
@@ -96,7 +115,8 @@ class PressGuard : public QObject {
     quint64 time_ = 0;  ///< the press heard last
     QPointF place_;
     QPointer<const QWidget> control_;
-    bool swallowing_ = false;  ///< the press under way, to its release
+    QPointer<QWidget> raised_;  ///< what has come before the pressed window since
+    bool swallowing_ = false;   ///< the press under way, to its release
 };
 
 }  // namespace
