@@ -5,8 +5,9 @@
 #include <QTemporaryDir>
 #include <stdexcept>
 
-#include "platform/jet/Action.h"
-#include "platform/jet/DBEngine.h"
+#include "platform/dao/DBEngine.h"
+#include "platform/runtime/Action.h"
+#include "platform/runtime/Literals.h"
 #include "sample/SampleDealer.h"
 #include "store/CreateDatabase.h"
 #include "store/dbAccess.h"
@@ -32,7 +33,7 @@ class DealerFiles {
     DealerFiles(const DealerFiles&) = delete;
     DealerFiles& operator=(const DealerFiles&) = delete;
 
-    QString path(const QString& name) const { return folder_.filePath(name + QStringLiteral(".MDB")); }
+    QString path(const QString& name) const { return folder_.filePath(name + u".MDB"_s); }
     QString path(const char* name) const { return path(QString::fromLatin1(name)); }
 
     /// Opens a file as the program's own store, in place of the one that is open.

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "DealerFiles.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::bench {
 
@@ -17,9 +18,8 @@ class Documents {
     /// the ten months that end with the dealer's: thirty lines a customer in either table.
     static void fillMonths(int lastCustomer) {
         const Action grouped;
-        for (int ago = 0; ago < kMonths; ++ago) {
+        for (int ago = 0; ago < kMonths; ++ago)
             fillMonth(ago, lastCustomer);
-        }
     }
 
     /// Ten years of one customer: every month a reading, a ledger row, a slip of two lines and a payment.
@@ -30,16 +30,15 @@ class Documents {
             const Month month = monthBefore(ago);
             const int dno = kOwnNumbers + ago;
             put("Dgd(Deal,Nendo,Getudo,KonkaiMeter,Suu,Gaku,Hi)",
-                QStringLiteral("%1,12.5,5600,20").arg(1000 + 12 * (kTenYears - ago)), customer, month);
-            put("TtoD(Deal,Nendo,Getudo,GGaku,UGaku,Gaku,NGaku)", QStringLiteral("5600,1100,6700,6700"),
-                customer, month);
+                u"%1,12.5,5600,20"_s.arg(1000 + 12 * (kTenYears - ago)), customer, month);
+            put("TtoD(Deal,Nendo,Getudo,GGaku,UGaku,Gaku,NGaku)", u"5600,1100,6700,6700"_s, customer, month);
             for (int line = 1; line <= 2; ++line) {
                 put("Dud(Deal,Nendo,Getudo,Dno,Eda,Hizuke,HinNamae,Suu,Tanka,Gaku)",
-                    QStringLiteral("%1,%2,%3,'ゴムホース',1,550,550").arg(dno).arg(line).arg(dayOf(month)),
-                    customer, month);
+                    u"%1,%2,%3,'ゴムホース',1,550,550"_s.arg(dno).arg(line).arg(dayOf(month)), customer,
+                    month);
             }
-            put("Dny(Deal,Nendo,Getudo,Dno,Eda,Hizuke,Gaku)",
-                QStringLiteral("%1,1,%2,6700").arg(dno).arg(dayOf(month)), customer, month);
+            put("Dny(Deal,Nendo,Getudo,Dno,Eda,Hizuke,Gaku)", u"%1,1,%2,6700"_s.arg(dno).arg(dayOf(month)),
+                customer, month);
         }
     }
 
@@ -55,12 +54,9 @@ class Documents {
         const int index = kYear * 12 + kMonth - 1 - ago;
         return {index / 12, index % 12 + 1};
     }
-    static QString dayOf(Month month) {
-        return QStringLiteral("CDATE('%1/%2/15')").arg(month.year).arg(month.month);
-    }
+    static QString dayOf(Month month) { return u"CDATE('%1/%2/15')"_s.arg(month.year).arg(month.month); }
     static void put(const char* columns, const QString& values, int customer, Month month) {
-        gDb->Execute(QStringLiteral("INSERT INTO %1 VALUES(%2,%3,%4,%5)")
-                         .arg(QLatin1String(columns))
+        gDb->Execute(u"INSERT INTO %1 VALUES(%2,%3,%4,%5)"_s.arg(QLatin1String(columns))
                          .arg(customer)
                          .arg(month.year)
                          .arg(month.month)
@@ -73,21 +69,19 @@ class Documents {
         const int before = (kMonths - 1 - ago) * kSlipsOfMonth;
         const auto each = [&](const QString& columns, const QString& values) {
             gDb->Execute(
-                QStringLiteral("INSERT INTO %1 SELECT Code,%2,%3,%4 FROM Deal WHERE Code>0 AND Code<=%5")
-                    .arg(columns)
+                u"INSERT INTO %1 SELECT Code,%2,%3,%4 FROM Deal WHERE Code>0 AND Code<=%5"_s.arg(columns)
                     .arg(month.year)
                     .arg(month.month)
                     .arg(values)
                     .arg(lastCustomer));
         };
         for (int line = 1; line <= kLines; ++line) {
-            const QString head = QStringLiteral("Code+%1,%2,%3").arg(before).arg(line).arg(dayOf(month));
-            each(QStringLiteral("Dud(Deal,Nendo,Getudo,Dno,Eda,Hizuke,HinCode,HinNamae,Suu,Tanka,Gaku)"),
-                 head + QStringLiteral(",1,'ゴムホース',2,550,1100"));
-            each(QStringLiteral("Dny(Deal,Nendo,Getudo,Dno,Eda,Hizuke,Kubun,Gaku,Naiyo)"),
-                 head + QStringLiteral(",1,1100,'集金'"));
+            const QString head = u"Code+%1,%2,%3"_s.arg(before).arg(line).arg(dayOf(month));
+            each(u"Dud(Deal,Nendo,Getudo,Dno,Eda,Hizuke,HinCode,HinNamae,Suu,Tanka,Gaku)"_s,
+                 head + u",1,'ゴムホース',2,550,1100"_s);
+            each(u"Dny(Deal,Nendo,Getudo,Dno,Eda,Hizuke,Kubun,Gaku,Naiyo)"_s, head + u",1,1100,'集金'"_s);
         }
-        each(QStringLiteral("TtoD(Deal,Nendo,Getudo,UGaku,Gaku,NGaku)"), QStringLiteral("3300,3300,3300"));
+        each(u"TtoD(Deal,Nendo,Getudo,UGaku,Gaku,NGaku)"_s, u"3300,3300,3300"_s);
     }
 };
 

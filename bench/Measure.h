@@ -12,7 +12,7 @@ namespace akarix::bench {
 
 using Clock = std::chrono::steady_clock;
 
-inline double millisecondsSince(Clock::time_point start) {
+inline double MillisecondsSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
@@ -23,27 +23,26 @@ struct Time {
     double processor = 0;
 };
 
-inline double processorMilliseconds() {
+inline double ProcessorMilliseconds() {
     timespec now{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
     return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
 template <class Work>
-Time measure(Work&& work) {
+Time Measure(Work&& work) {
     const Clock::time_point start = Clock::now();
-    const double processor = processorMilliseconds();
+    const double processor = ProcessorMilliseconds();
     work();
-    return {millisecondsSince(start), processorMilliseconds() - processor};
+    return {MillisecondsSince(start), ProcessorMilliseconds() - processor};
 }
 
 /// The medians of both, each for itself.
-inline Time median(const std::vector<Time>& times) {
+inline Time Median(const std::vector<Time>& times) {
     const auto middle = [&](double Time::*of) {
         std::vector<double> values;
-        for (const Time& time : times) {
+        for (const Time& time : times)
             values.push_back(time.*of);
-        }
         const auto place = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
         std::nth_element(values.begin(), place, values.end());
         return *place;
@@ -64,20 +63,20 @@ struct Target {
     double most;
 };
 
-inline Target times(double most) {
+inline Target Times(double most) {
     return {Target::Kind::Times, most};
 }
-inline Target under(double milliseconds) {
+inline Target Under(double milliseconds) {
     return {Target::Kind::Milliseconds, milliseconds};
 }
 
 /// The head of the table of figures. Every program prints its own; the collecting script keeps the first.
-inline void printHead() {
+inline void PrintHead() {
     std::puts("| work | product ms (CPU) | peer ms (CPU) | ratio (CPU) | target | |");
     std::puts("|---|---:|---:|---:|---|---|");
 }
 
-inline void printRow(const std::string& work, Time product, std::optional<Time> peer,
+inline void PrintRow(const std::string& work, Time product, std::optional<Time> peer,
                      std::optional<Target> target) {
     std::printf("| %s | %.3g (%.3g) |", work.c_str(), product.wall, product.processor);
     double reached = product.wall;
@@ -98,8 +97,8 @@ inline void printRow(const std::string& work, Time product, std::optional<Time> 
     std::fflush(stdout);
 }
 
-inline void printRow(const std::string& work, const Race& race, Target target) {
-    printRow(work, median(race.product), median(race.peer), target);
+inline void PrintRow(const std::string& work, const Race& race, Target target) {
+    PrintRow(work, Median(race.product), Median(race.peer), target);
 }
 
 }  // namespace akarix::bench

@@ -5,7 +5,7 @@
 #include <QString>
 #include <stdexcept>
 
-#include "platform/jet/StoreKey.h"
+#include "platform/cipher/StoreKey.h"
 #include "store/dbAccess.h"
 
 namespace akarix::bench {
@@ -33,9 +33,8 @@ class PeerStore {
         check(sqlite3_exec(connection_, sql.constData(), nullptr, nullptr, nullptr));
     }
     void check(int result) const {
-        if (result != SQLITE_OK && result != SQLITE_ROW && result != SQLITE_DONE) {
+        if (result != SQLITE_OK && result != SQLITE_ROW && result != SQLITE_DONE)
             throw std::runtime_error(sqlite3_errmsg(connection_));
-        }
     }
 
  private:

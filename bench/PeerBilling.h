@@ -32,19 +32,16 @@ class PeerBilling {
 
     void build(int nendo, int getudo, double creation) {
         clearSales_.with(nendo, getudo).run();
-        for (readings_.with(nendo, getudo); readings_.next();) {
+        for (readings_.with(nendo, getudo); readings_.next();)
             putGas_.amount(readings_.whole(0), nendo, getudo, 0, readings_.whole(1));
-        }
         for (leases_.with(); leases_.next();) {
             leaseSlip(leases_.whole(0), leases_.whole(1) == 1, leases_.whole(2) == 1, nendo, getudo,
                       creation);
         }
-        for (sales_.with(nendo, getudo); sales_.next();) {
+        for (sales_.with(nendo, getudo); sales_.next();)
             putSales_.amount(sales_.whole(0), nendo, getudo, sales_.whole(1), sales_.whole(1));
-        }
-        for (payments_.with(nendo, getudo); payments_.next();) {
+        for (payments_.with(nendo, getudo); payments_.next();)
             putPaid_.amount(payments_.whole(0), nendo, getudo, payments_.whole(1), payments_.whole(1));
-        }
         addUp_.with(nendo, getudo).run();
         closingDay_.with(nendo, getudo);
         const bool known = closingDay_.next();
@@ -54,9 +51,8 @@ class PeerBilling {
 
     void leaseSlip(std::int64_t deal, bool acu, bool alarm, int nendo, int getudo, double creation) {
         std::int64_t fees[2] = {};
-        for (fees_.with(); fees_.next();) {
+        for (fees_.with(); fees_.next();)
             fees[fees_.whole(0) - 2] = fees_.whole(1) * kScale;
-        }
         ownSlip_.with(deal, nendo, getudo);
         std::int64_t number = ownSlip_.next() ? ownSlip_.whole(0) : 0;
         ownSlip_.reset();
@@ -84,18 +80,16 @@ class PeerBilling {
             if (fixedByHand) continue;
             earlier_.with(deal, nendo * 100 + getudo);
             std::int64_t balance = 0;
-            if (earlier_.next()) {
+            if (earlier_.next())
                 balance = earlier_.whole(0) + earlier_.whole(1) + earlier_.whole(2) - earlier_.whole(4);
-            }
             earlier_.reset();
             row_.with(deal, nendo, getudo);
             const std::int64_t number = row_.next() ? row_.whole(0) : 0;
             row_.reset();
-            if (number != 0) {
+            if (number != 0)
                 carry_.with(balance, number).run();
-            } else {
+            else
                 addCarried_.with(deal, nendo, getudo, balance).run();
-            }
         }
     }
 

@@ -75,9 +75,8 @@ class PeerDebit {
     /// Half-width kana and plain characters, which is all that stands in the column.
     static QByteArray narrow(const QString& kana) {
         QByteArray bytes;
-        for (const QChar c : kana) {
+        for (const QChar c : kana)
             bytes += static_cast<char>(c.unicode() >= 0xFF61 ? c.unicode() - 0xFF61 + 0xA1 : c.unicode());
-        }
         return bytes.trimmed();
     }
 

@@ -28,9 +28,8 @@ class PeerSheet {
         std::vector<Row> rows;
         for (rows_.with(nendo, getudo); rows_.next();) {
             Row& row = rows.emplace_back();
-            for (int column = 0; column < kColumns; ++column) {
+            for (int column = 0; column < kColumns; ++column)
                 row.values[column] = rows_.whole(column);
-            }
             name_.with(row.values[2]).next();
             row.name = name_.text(0);
             name_.reset();

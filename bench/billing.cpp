@@ -8,6 +8,7 @@
 #include "PeerBilling.h"
 #include "billing/Tto.h"
 #include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::bench {
 namespace {
@@ -17,15 +18,15 @@ constexpr int kMonths = 4;
 constexpr int kRuns = 7;
 
 /// The last month as it stands before its first billing.
-void unbill() {
-    const QString month = QStringLiteral(" WHERE Nendo=%1 AND Getudo=%2").arg(kYear).arg(kMonth);
-    gDb->Execute(QStringLiteral("DELETE FROM TtoD") + month);
-    gDb->Execute(QStringLiteral("DELETE FROM Dud") + month + QStringLiteral(" AND CreateAuto=1"));
-    gDb->Execute(QStringLiteral("DELETE FROM Syukei WHERE Nen=%1 AND Tuki=%2").arg(kYear).arg(kMonth));
+void Unbill() {
+    const QString month = u" WHERE Nendo=%1 AND Getudo=%2"_s.arg(kYear).arg(kMonth);
+    gDb->Execute(u"DELETE FROM TtoD"_s + month);
+    gDb->Execute(u"DELETE FROM Dud"_s + month + u" AND CreateAuto=1"_s);
+    gDb->Execute(u"DELETE FROM Syukei WHERE Nen=%1 AND Tuki=%2"_s.arg(kYear).arg(kMonth));
 }
 
 /// Everything the run writes, row by row.
-QStringList written(const QString& path) {
+QStringList Written(const QString& path) {
     PeerStore store(path);
     QStringList rows;
     for (const char* sql : {"SELECT * FROM TtoD ORDER BY Deal,Nendo,Getudo",
@@ -33,18 +34,17 @@ QStringList written(const QString& path) {
         PeerStatement all(store, sql);
         while (all.next()) {
             QString row;
-            for (int column = 0; column < all.columns(); ++column) {
+            for (int column = 0; column < all.columns(); ++column)
                 row += all.text(column) + u'|';
-            }
             rows.append(row);
         }
     }
     return rows;
 }
 
-int run() {
+int Run() {
     DealerFiles files(kCustomers, kMonths);
-    unbill();
+    Unbill();
     const Date creation = DateSerial(kYear, kMonth + 1, 0);
     Race first;
     Race again;
@@ -52,7 +52,7 @@ int run() {
         files.copy("product");
         files.open("product");
         for (Race* race : {&first, &again}) {
-            race->product.push_back(measure([&] {
+            race->product.push_back(Measure([&] {
                 const Action grouped;
                 BuildMonthLedger(kYear, kMonth, creation);
                 CarryForwardMonth(kYear, kMonth);
@@ -60,17 +60,16 @@ int run() {
         }
         files.copy("peer");
         PeerStore store(files.path("peer"));
-        for (Race* race : {&first, &again}) {
-            race->peer.push_back(measure([&] { PeerBilling(store).run(kYear, kMonth, creation); }));
-        }
+        for (Race* race : {&first, &again})
+            race->peer.push_back(Measure([&] { PeerBilling(store).run(kYear, kMonth, creation); }));
     }
-    if (written(files.path("product")) != written(files.path("peer"))) {
+    if (Written(files.path("product")) != Written(files.path("peer"))) {
         std::fputs("the two ledgers differ\n", stderr);
         return 1;
     }
-    printHead();
-    printRow("billing run, 10,000 customers, first time", first, times(2));
-    printRow("billing run, 10,000 customers, again", again, times(2));
+    PrintHead();
+    PrintRow("billing run, 10,000 customers, first time", first, Times(2));
+    PrintRow("billing run, 10,000 customers, again", again, Times(2));
     return 0;
 }
 
@@ -79,5 +78,5 @@ int run() {
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    return akarix::bench::run();
+    return akarix::bench::Run();
 }

@@ -13,6 +13,7 @@
 #include "debit/PostDebitFile.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::bench {
 namespace {
@@ -23,7 +24,7 @@ constexpr int kDay = 27;
 const Date kDebited = DateSerial(kYear, kMonth, kDay);
 
 /// Every customer owes something and pays through an account of his own.
-void openAccounts(const QString& path) {
+void OpenAccounts(const QString& path) {
     PeerStore store(path);
     store.run("UPDATE Deal SET Bnk=9900,Stn=10010,Kind=1,Koza=CAST(10000000+Code AS TEXT),DiscGaku=0");
     store.run("UPDATE Deal SET DiscGaku=30000000 WHERE Code%3=0");
@@ -34,29 +35,28 @@ void openAccounts(const QString& path) {
         "VALUES(9900,'1','A','disk','POST',1,'1')");
 }
 
-QByteArray bytesOf(const QString& path) {
+QByteArray BytesOf(const QString& path) {
     QFile file(path);
     return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// Everything the reading back writes, row by row.
-QStringList written(const QString& path) {
+QStringList Written(const QString& path) {
     PeerStore store(path);
     QStringList rows;
     for (const char* sql : {"SELECT * FROM Dny ORDER BY Dno,Eda",
                             "SELECT * FROM TtoD ORDER BY Deal,Nendo,Getudo", "SELECT * FROM FDLog"}) {
         for (PeerStatement all(store, sql); all.next();) {
             QString row;
-            for (int column = 0; column < all.columns(); ++column) {
+            for (int column = 0; column < all.columns(); ++column)
                 row += all.text(column) + u'|';
-            }
             rows.append(row);
         }
     }
     return rows;
 }
 
-void readBack(Clerk& clerk) {
+void ReadBack(Clerk& clerk) {
     clerk.answerConfirm(true);
     clerk.answerConfirm(true);
     clerk.answerAlert();
@@ -64,11 +64,11 @@ void readBack(Clerk& clerk) {
     ReadPostResult([](const QString&) {});
 }
 
-int run() {
+int Run() {
     DealerFiles files(kCustomers, 1);
     CloseDb();
-    openAccounts(files.path("made"));
-    QDir().mkpath(QStringLiteral("Drive/A"));
+    OpenAccounts(files.path("made"));
+    QDir().mkpath(u"Drive/A"_s);
     SetClock(kDebited);
     Clerk clerk;
     Race writing;
@@ -79,33 +79,33 @@ int run() {
         Consignor post;
         LoadPostConsignor(post);
         const Consignor fitted = FitPostConsignor(post);
-        const RetransferDay never{QStringLiteral("  "), QStringLiteral("  ")};
-        writing.product.push_back(measure([&] {
-            WriteRequest(QStringLiteral("A:\\disk"),
-                         gDb->OpenRecordset(DebitQuery(kPostOffice, kYear, kMonth)),
-                         PostRequest(fitted, kDebited, never), [](const QString&) {});
+        const RetransferDay never{u"  "_s, u"  "_s};
+        writing.product.push_back(Measure([&] {
+            WriteRequest(
+                u"A:\\disk"_s, gDb->OpenRecordset(DebitQuery(kPostOffice, kYear, kMonth)),
+                PostRequest(fitted, kDebited, never), [](const QString&) {});
         }));
-        reading.product.push_back(measure([&] { readBack(clerk); }));
+        reading.product.push_back(Measure([&] { ReadBack(clerk); }));
 
         files.copy("peer");
         PeerStore store(files.path("peer"));
         PeerDebit peer(store);
         const QByteArray head = PostHeader(fitted, kDebited, never).toLatin1();
         writing.peer.push_back(
-            measure([&] { peer.write("peer", head, fitted.BkName.toLatin1(), kYear, kMonth); }));
-        reading.peer.push_back(measure([&] { peer.read("Drive/A/disk", kDebited, kYear, kMonth, kDay); }));
+            Measure([&] { peer.write("peer", head, fitted.BkName.toLatin1(), kYear, kMonth); }));
+        reading.peer.push_back(Measure([&] { peer.read("Drive/A/disk", kDebited, kYear, kMonth, kDay); }));
     }
-    if (bytesOf(QStringLiteral("peer")) != bytesOf(QStringLiteral("Drive/A/disk"))) {
+    if (BytesOf(u"peer"_s) != BytesOf(u"Drive/A/disk"_s)) {
         std::fputs("the two files differ\n", stderr);
         return 1;
     }
-    if (written(files.path("product")) != written(files.path("peer"))) {
+    if (Written(files.path("product")) != Written(files.path("peer"))) {
         std::fputs("the two ledgers differ\n", stderr);
         return 1;
     }
-    printHead();
-    printRow("debit disk, 30,000 records written", writing, times(3));
-    printRow("debit disk, 30,000 records read back and posted", reading, times(3));
+    PrintHead();
+    PrintRow("debit disk, 30,000 records written", writing, Times(3));
+    PrintRow("debit disk, 30,000 records read back and posted", reading, Times(3));
     return 0;
 }
 
@@ -114,5 +114,5 @@ int run() {
 
 int main(int argc, char** argv) {
     const akarix::bench::BenchApplication application(argc, argv);
-    return akarix::bench::run();
+    return akarix::bench::Run();
 }

@@ -3,18 +3,17 @@
 
 #include <benchmark/benchmark.h>
 
-#include "platform/jet/Translator.h"
+#include "platform/dialect/Translator.h"
 #include "store/Tables.h"
 
 namespace akarix::bench {
 namespace {
 
-const Catalogue& catalogue() {
+const Catalogue& MakeCatalogue() {
     static const Catalogue all = [] {
         Catalogue tables;
-        for (const TableDef& table : Tables()) {
+        for (const TableDef& table : Tables())
             tables.put(table);
-        }
         return tables;
     }();
     return all;
@@ -29,27 +28,25 @@ const char* const kStatements[] = {
     "=2024 AND   Getudo=3 AND Deal>=%1 ORDER BY Deal.Rte,Deal.Haisou,Deal.Code",
 };
 
-std::vector<QString> texts(const benchmark::State& state) {
+std::vector<QString> Texts(const benchmark::State& state) {
     const QString form = QString::fromLatin1(kStatements[state.range(0)]);
     std::vector<QString> all;
-    for (int deal = 1; deal <= 1000; ++deal) {
+    for (int deal = 1; deal <= 1000; ++deal)
         all.push_back(form.arg(deal));
-    }
     return all;
 }
 
-void keptPlan(benchmark::State& state) {
-    Translator translator(catalogue());
-    const std::vector<QString> all = texts(state);
+void KeptPlan(benchmark::State& state) {
+    Translator translator(MakeCatalogue());
+    const std::vector<QString> all = Texts(state);
     std::size_t next = 0;
-    for (auto _ : state) {
+    for (auto _ : state)
         benchmark::DoNotOptimize(translator.translate(all[next++ % all.size()]));
-    }
 }
 
-void newPlan(benchmark::State& state) {
-    Translator translator(catalogue());
-    const std::vector<QString> all = texts(state);
+void NewPlan(benchmark::State& state) {
+    Translator translator(MakeCatalogue());
+    const std::vector<QString> all = Texts(state);
     std::size_t next = 0;
     for (auto _ : state) {
         translator.clear();
@@ -57,8 +54,8 @@ void newPlan(benchmark::State& state) {
     }
 }
 
-BENCHMARK(keptPlan)->DenseRange(0, 3);
-BENCHMARK(newPlan)->DenseRange(0, 3);
+BENCHMARK(KeptPlan)->DenseRange(0, 3);
+BENCHMARK(NewPlan)->DenseRange(0, 3);
 
 }  // namespace
 }  // namespace akarix::bench

@@ -14,6 +14,7 @@
 #include "entry/TorZan_frm.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/Guard.h"
+#include "platform/runtime/Literals.h"
 #include "reports/RepoDaichou_frm.h"
 #include "store/FieldValue.h"
 #include "toolkit/Lookups.h"
@@ -28,10 +29,9 @@ constexpr int kSaves = 21;
 constexpr int kOpenings = 7;
 constexpr int kOldCustomer = 77;
 
-std::int32_t countOf(const char* table) {
-    Recordset set =
-        gDb->OpenRecordset(QStringLiteral("SELECT COUNT(*) AS n FROM %1").arg(QLatin1String(table)));
-    return longOf(set[QStringLiteral("n")]);
+std::int32_t CountOf(const char* table) {
+    Recordset set = gDb->OpenRecordset(u"SELECT COUNT(*) AS n FROM %1"_s.arg(QLatin1String(table)));
+    return LongOf(set[u"n"_s]);
 }
 
 class Desk {
@@ -40,8 +40,8 @@ class Desk {
 
     /// Enter on the save button, until the next document can be typed.
     Time save() {
-        SetFocus(&clerk_.control(QStringLiteral("Btn(2)")));
-        const Time time = measure([this] { clerk_.enter(); });
+        SetFocus(&clerk_.control(u"Btn(2)"_s));
+        const Time time = Measure([this] { clerk_.enter(); });
         if (clerk_.focusedName() != u"ebox(0)") throw std::runtime_error("the screen is not ready");
         return time;
     }
@@ -54,9 +54,9 @@ class Desk {
     Clerk clerk_;
 };
 
-const QString kDay = QStringLiteral("%1/%2/10").arg(kYear).arg(kMonth);
+const QString kDay = u"%1/%2/10"_s.arg(kYear).arg(kMonth);
 
-void saveSlips(std::vector<Time>& times) {
+void SaveSlips(std::vector<Time>& times) {
     Desk desk;
     OpenScreen<Slip_frm>();
     for (int customer = 1; customer <= kSaves; ++customer) {
@@ -68,60 +68,57 @@ void saveSlips(std::vector<Time>& times) {
                                                                         {"ebox(27)", "550"},
                                                                         {"ebox(5)", "1,100"},
                                                                         {"ebox(6)", "1"},
-                                                                        {"ebox(8)", "110"}}) {
+                                                                        {"ebox(8)", "110"}})
             desk.put(box, QString::fromLatin1(text));
-        }
         times.push_back(desk.save());
     }
 }
 
-void savePayments(std::vector<Time>& times) {
+void SavePayments(std::vector<Time>& times) {
     Desk desk;
     OpenScreen<SlipN2_frm>();
     for (int customer = 1; customer <= kSaves; ++customer) {
         desk.put("ebox(1)", QString::number(customer));
         desk.put("ebox(2)", kDay);
-        desk.put("eGaku(0)", QStringLiteral("3,000"));
-        desk.put("eGaku(1)", QStringLiteral("440"));
+        desk.put("eGaku(0)", u"3,000"_s);
+        desk.put("eGaku(1)", u"440"_s);
         times.push_back(desk.save());
     }
 }
 
 /// From the click on the lookup picture until the list has been painted and takes a click.
-Time openSlipList() {
+Time OpenSlipList() {
     Desk desk;
     OpenScreen<Slip_frm>();
     Clock::time_point start;
-    const double processor = processorMilliseconds();
+    const double processor = ProcessorMilliseconds();
     Time time;
-    desk.clerk().expect(QStringLiteral("HelpSlip_frm"), [&](QWidget&) {
+    desk.clerk().expect(u"HelpSlip_frm"_s, [&](QWidget&) {
         desk.clerk().settle();
-        time = {millisecondsSince(start), processorMilliseconds() - processor};
-        desk.clerk().clickCell(desk.clerk().find<FlexGrid>(QStringLiteral("List")), 1, 0);
+        time = {MillisecondsSince(start), ProcessorMilliseconds() - processor};
+        desk.clerk().clickCell(desk.clerk().find<FlexGrid>(u"List"_s), 1, 0);
     });
     start = Clock::now();
-    desk.clerk().click(QStringLiteral("F6(0)"));
-    if (desk.clerk().text(QStringLiteral("ebox(0)")).isEmpty())
-        throw std::runtime_error("nothing was picked");
+    desk.clerk().click(u"F6(0)"_s);
+    if (desk.clerk().text(u"ebox(0)"_s).isEmpty()) throw std::runtime_error("nothing was picked");
     return time;
 }
 
 /// From Enter on the customer until his account has been painted.
-Time openAccount() {
+Time OpenAccount() {
     Desk desk;
     OpenScreen<RepoDaichou_frm>();
     desk.put("ebox(0)", QString::number(kYear - 10));
     desk.put("ebox(2)", QString::number(kOldCustomer));
-    SetFocus(&desk.clerk().control(QStringLiteral("ebox(2)")));
-    const Time time = measure([&] { desk.clerk().enter(); });
-    if (desk.clerk().find<FlexGrid>(QStringLiteral("List")).Rows() < 120) {
+    SetFocus(&desk.clerk().control(u"ebox(2)"_s));
+    const Time time = Measure([&] { desk.clerk().enter(); });
+    if (desk.clerk().find<FlexGrid>(u"List"_s).Rows() < 120)
         throw std::runtime_error("the account is not whole");
-    }
     return time;
 }
 
 /// The opening balances of every customer: showing them, Enter on one, and storing them all.
-void benchBalances() {
+void BenchBalances() {
     constexpr int kManyCustomers = 30000;
     constexpr int kEnters = 99;
     const DealerFiles files(kManyCustomers, 0);
@@ -130,42 +127,40 @@ void benchBalances() {
     const auto showMonth = [&] {
         desk.put("ebox(0)", QString::number(kYear));
         desk.put("ebox(1)", QString::number(kMonth));
-        desk.clerk().click(QStringLiteral("Btn(2)"));
+        desk.clerk().click(u"Btn(2)"_s);
     };
     std::vector<Time> shown;
     std::vector<Time> saved;
     for (int i = 0; i < 3; ++i) {
-        shown.push_back(measure(showMonth));
-        saved.push_back(measure([&] { desk.clerk().click(QStringLiteral("Btn(10)")); }));
+        shown.push_back(Measure(showMonth));
+        saved.push_back(Measure([&] { desk.clerk().click(u"Btn(10)"_s); }));
     }
     showMonth();
     std::vector<Time> enters;
-    for (int i = 0; i < kEnters; ++i) {
-        enters.push_back(measure([&] { desk.clerk().enter(); }));
-    }
-    printRow("opening balances of 30,000, shown", median(shown), std::nullopt, std::nullopt);
-    printRow("opening balances of 30,000, Enter", median(enters), std::nullopt, under(5));
-    printRow("opening balances of 30,000, stored", median(saved), std::nullopt, std::nullopt);
-    if (countOf("TtoD") != kManyCustomers) throw std::runtime_error("balances are missing");
+    for (int i = 0; i < kEnters; ++i)
+        enters.push_back(Measure([&] { desk.clerk().enter(); }));
+    PrintRow("opening balances of 30,000, shown", Median(shown), std::nullopt, std::nullopt);
+    PrintRow("opening balances of 30,000, Enter", Median(enters), std::nullopt, Under(5));
+    PrintRow("opening balances of 30,000, stored", Median(saved), std::nullopt, std::nullopt);
+    if (CountOf("TtoD") != kManyCustomers) throw std::runtime_error("balances are missing");
 }
 
 template <class Work>
-Time medianOf(Work&& work) {
+Time MedianOf(Work&& work) {
     std::vector<Time> times;
-    for (int i = 0; i < kOpenings; ++i) {
+    for (int i = 0; i < kOpenings; ++i)
         times.push_back(work());
-    }
-    return median(times);
+    return Median(times);
 }
 
-void benchBooks() {
+void BenchBooks() {
     DealerFiles files(kCustomers, 0);
     const auto books = [&](const char* name, int lastCustomer) {
         files.copy(name);
         files.open(name);
         Documents::fillMonths(lastCustomer);
         const int lines = lastCustomer * Documents::kMonths * Documents::kLines;
-        if (countOf("Dud") != lines || countOf("Dny") != lines) throw std::runtime_error("lines are missing");
+        if (CountOf("Dud") != lines || CountOf("Dny") != lines) throw std::runtime_error("lines are missing");
     };
     books("young", kYoungCustomers);
     books("old", kCustomers);
@@ -175,19 +170,19 @@ void benchBooks() {
     for (int round = 0; round < kRounds; ++round) {
         ::sync();
         files.open("young");
-        saveSlips(slips.peer);
-        savePayments(payments.peer);
+        SaveSlips(slips.peer);
+        SavePayments(payments.peer);
         files.open("old");
-        saveSlips(slips.product);
-        savePayments(payments.product);
+        SaveSlips(slips.product);
+        SavePayments(payments.product);
     }
-    printRow("storing a slip, 300,000 lines", median(slips.product), std::nullopt, under(10));
-    printRow("storing a slip, 300,000 lines (peer: 3,000)", slips, times(1.5));
-    printRow("storing a payment, 300,000 lines", median(payments.product), std::nullopt, under(10));
-    printRow("storing a payment, 300,000 lines (peer: 3,000)", payments, times(1.5));
-    printRow("list of 100,000 slips until painted", medianOf(&openSlipList), std::nullopt, std::nullopt);
+    PrintRow("storing a slip, 300,000 lines", Median(slips.product), std::nullopt, Under(10));
+    PrintRow("storing a slip, 300,000 lines (peer: 3,000)", slips, Times(1.5));
+    PrintRow("storing a payment, 300,000 lines", Median(payments.product), std::nullopt, Under(10));
+    PrintRow("storing a payment, 300,000 lines (peer: 3,000)", payments, Times(1.5));
+    PrintRow("list of 100,000 slips until painted", MedianOf(&OpenSlipList), std::nullopt, std::nullopt);
     Documents::fillYears(kOldCustomer);
-    printRow("account of ten years until painted", medianOf(&openAccount), std::nullopt, under(100));
+    PrintRow("account of ten years until painted", MedianOf(&OpenAccount), std::nullopt, Under(100));
 }
 
 }  // namespace
@@ -198,8 +193,8 @@ int main(int argc, char** argv) {
     const BenchApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     akarix::SetActionHooks(&akarix::Action::Begin, &akarix::Action::End);
-    printHead();
-    benchBooks();
-    benchBalances();
+    PrintHead();
+    BenchBooks();
+    BenchBalances();
     return 0;
 }

@@ -8,6 +8,7 @@
 
 #include "Measure.h"
 #include "platform/forms/FlexGrid.h"
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/GridExport.h"
 
 namespace akarix::bench {
@@ -18,10 +19,10 @@ constexpr int kCols = 13;
 constexpr int kTextCols = 4;  // the first of them; the others are figures
 constexpr int kRuns = 7;
 
-QString cellText(int row, int col) {
-    if (row == 0) return QStringLiteral("見出し%1").arg(col);
-    if (col == 0) return QStringLiteral("%1").arg(row, 6, 10, QLatin1Char('0'));
-    if (col < kTextCols) return QStringLiteral("得意先 %1 の %2").arg(row).arg(col);
+QString CellText(int row, int col) {
+    if (row == 0) return u"見出し%1"_s.arg(col);
+    if (col == 0) return u"%1"_s.arg(row, 6, 10, QLatin1Char('0'));
+    if (col < kTextCols) return u"得意先 %1 の %2"_s.arg(row).arg(col);
     return QLocale::c().toString((row * 37 + col * 1009) % 100000);
 }
 
@@ -38,16 +39,15 @@ class Export {
         peer_.resize(kRows + 1);
         for (int row = 0; row <= kRows; ++row) {
             for (int col = 0; col < kCols; ++col) {
-                const QString text = cellText(row, col);
+                const QString text = CellText(row, col);
                 grid_.SetTextMatrix(row, col, text);
                 Cell& cell = peer_[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)];
                 cell.text = text.toStdString();
                 cell.number = QLocale::c().toDouble(text);
             }
         }
-        for (int col = kTextCols; col < kCols; ++col) {
+        for (int col = kTextCols; col < kCols; ++col)
             grid_.SetColAlignment(col, AlignRightCenter);
-        }
     }
 
     void product() {
@@ -58,14 +58,13 @@ class Export {
             source.alignments.push_back(grid_.ColAlignment(col));
         }
         source.text = [this](int row, int col) { return grid_.TextMatrix(row, col); };
-        if (!WriteGridWorkbook(folder_.filePath(QStringLiteral("product.xlsx")), QStringLiteral("請求一覧"),
-                               QStringLiteral("2024/3分"), QStringLiteral("作成日"), source)) {
+        if (!WriteGridWorkbook(folder_.filePath(u"product.xlsx"_s), u"請求一覧"_s, u"2024/3分"_s, u"作成日"_s,
+                               source))
             throw std::runtime_error("no workbook");
-        }
     }
 
     void peer() {
-        lxw_workbook* book = workbook_new(folder_.filePath(QStringLiteral("peer.xlsx")).toUtf8().constData());
+        lxw_workbook* book = workbook_new(folder_.filePath(u"peer.xlsx"_s).toUtf8().constData());
         lxw_worksheet* sheet = workbook_add_worksheet(book, nullptr);
         lxw_format* text = workbook_add_format(book);
         format_set_border(text, LXW_BORDER_THIN);
@@ -76,11 +75,10 @@ class Export {
         for (lxw_row_t row = 0; row <= kRows; ++row) {
             for (lxw_col_t col = 0; col < kCols; ++col) {
                 const Cell& cell = peer_[row][col];
-                if (row > 0 && col >= kTextCols) {
+                if (row > 0 && col >= kTextCols)
                     worksheet_write_number(sheet, row, col, cell.number, figure);
-                } else {
+                else
                     worksheet_write_string(sheet, row, col, cell.text.c_str(), text);
-                }
             }
         }
         if (workbook_close(book) != LXW_NO_ERROR) throw std::runtime_error("no workbook");
@@ -102,10 +100,10 @@ int main(int argc, char** argv) {
     Export grid;
     Race race;
     for (int i = 0; i < kRuns; ++i) {
-        race.product.push_back(measure([&] { grid.product(); }));
-        race.peer.push_back(measure([&] { grid.peer(); }));
+        race.product.push_back(Measure([&] { grid.product(); }));
+        race.peer.push_back(Measure([&] { grid.peer(); }));
     }
-    printHead();
-    printRow("grid export, 10,000 x 13", race, times(1.5));
+    PrintHead();
+    PrintRow("grid export, 10,000 x 13", race, Times(1.5));
     return 0;
 }

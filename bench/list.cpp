@@ -8,6 +8,7 @@
 #include "Measure.h"
 #include "output/EX.h"
 #include "platform/print/Printer.h"
+#include "platform/runtime/Literals.h"
 #include "reports/RepoSeikyu_frm.h"
 
 namespace akarix::bench {
@@ -19,35 +20,34 @@ constexpr int kSheetRows = 58;
 constexpr int kSheetFirstRow = 4;
 constexpr int kRuns = 5;
 
-int run() {
+int Run() {
     // The last page is not full: it has the totals.
     DealerFiles files(kPages * kRowsOfPage - 1, 1);
-    QFile::link(QStringLiteral(AKARIX_SOURCE_DIR "/Prt"), QStringLiteral("Prt"));
+    QFile::link(QStringLiteral(AKARIX_SOURCE_DIR "/Prt"), u"Prt"_s);
     gPrintPreview = false;
     auto& list = Form::Instance<RepoSeikyu_frm>();
     list.init();
-    list.findChild<TextBox*>(QStringLiteral("ebox(0)"))->SetText(QString::number(kYear));
-    list.findChild<TextBox*>(QStringLiteral("ebox(1)"))->SetText(QString::number(kMonth));
-    const QString sql = QStringLiteral(
-                            "SELECT TtoD.* FROM TtoD  INNER JOIN Deal ON TtoD.Deal=Deal.Code  WHERE Nendo= "
-                            "%1 AND   Getudo=%2 ORDER BY Deal.Rte,Deal.Haisou,Deal.Code")
-                            .arg(kYear)
-                            .arg(kMonth);
+    list.findChild<TextBox*>(u"ebox(0)"_s)->SetText(QString::number(kYear));
+    list.findChild<TextBox*>(u"ebox(1)"_s)->SetText(QString::number(kMonth));
+    const QString sql =
+        u"SELECT TtoD.* FROM TtoD  INNER JOIN Deal ON TtoD.Deal=Deal.Code  WHERE Nendo= "
+        "%1 AND   Getudo=%2 ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"_s.arg(kYear)
+            .arg(kMonth);
     std::vector<Time> pages;
     for (int i = 0; i < kRuns; ++i) {
         Printer::Current().UsePdf(files.path("list"));
         QFile::remove(files.path("list"));
-        const Time all = measure([&] {
+        const Time all = Measure([&] {
             const Action grouped;
-            ExcelOpenPaged(QStringLiteral("請求一覧表"), kSheetRows, kSheetFirstRow);
+            ExcelOpenPaged(u"請求一覧表"_s, kSheetRows, kSheetFirstRow);
             SetReport(&list, gDb->OpenRecordset(sql));
             ExcelRunPaged();
         });
         pages.push_back({all.wall / kPages, all.processor / kPages});
         if (!QFile::exists(files.path("list"))) return 1;
     }
-    printHead();
-    printRow("billing list, one of 100 pages to PDF", median(pages), std::nullopt, under(10));
+    PrintHead();
+    PrintRow("billing list, one of 100 pages to PDF", Median(pages), std::nullopt, Under(10));
     return 0;
 }
 
@@ -56,5 +56,5 @@ int run() {
 
 int main(int argc, char** argv) {
     const akarix::bench::BenchApplication application(argc, argv);
-    return akarix::bench::run();
+    return akarix::bench::Run();
 }

@@ -10,6 +10,7 @@
 #include "clerk/Clerk.h"
 #include "entry/SlipG_frm.h"
 #include "platform/forms/Guard.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::bench {
 namespace {
@@ -36,11 +37,10 @@ class Sheet {
     /// Enter alone is timed; the figure is typed before.
     Time confirmReading() {
         const int row = grid().Row();
-        clerk_.type(QStringLiteral("12345.6"));
-        const Time time = measure([this] { clerk_.enter(); });
-        if (grid().Row() != row + 1 || clerk_.focusedName() != u"tBox") {
+        clerk_.type(u"12345.6"_s);
+        const Time time = Measure([this] { clerk_.enter(); });
+        if (grid().Row() != row + 1 || clerk_.focusedName() != u"tBox")
             throw std::runtime_error("the next cell is not ready");
-        }
         return time;
     }
 
@@ -48,12 +48,12 @@ class Sheet {
     void put(const char* box, int value) {
         clerk_.find<TextBox>(QString::fromLatin1(box)).SetText(QString::number(value));
     }
-    FlexGrid& grid() { return clerk_.find<FlexGrid>(QStringLiteral("List")); }
+    FlexGrid& grid() { return clerk_.find<FlexGrid>(u"List"_s); }
 
     Clerk clerk_;
 };
 
-void benchOpening() {
+void BenchOpening() {
     constexpr int kCustomers = 10000;
     DealerFiles files(kCustomers, kMonths);
     Race first;
@@ -63,34 +63,32 @@ void benchOpening() {
         files.open("product");
         {
             Sheet sheet;
-            for (Race* race : {&first, &again}) {
-                race->product.push_back(measure([&] { sheet.show(); }));
-            }
+            for (Race* race : {&first, &again})
+                race->product.push_back(Measure([&] { sheet.show(); }));
             if (sheet.rows() != kCustomers) throw std::runtime_error("rows are missing");
         }
         files.copy("peer");
         PeerStore store(files.path("peer"));
         PeerSheet peer(store);
-        first.peer.push_back(measure([&] {
+        first.peer.push_back(Measure([&] {
             peer.open(kYear, kNextMonth, kDay);
             peer.read(kYear, kNextMonth);
         }));
-        again.peer.push_back(measure([&] { peer.read(kYear, kNextMonth); }));
+        again.peer.push_back(Measure([&] { peer.read(kYear, kNextMonth); }));
     }
-    printRow("reading sheet, 10,000 rows, first time", first, times(3));
-    printRow("reading sheet, 10,000 rows, again", again, times(3));
+    PrintRow("reading sheet, 10,000 rows, first time", first, Times(3));
+    PrintRow("reading sheet, 10,000 rows, again", again, Times(3));
 }
 
-void benchEnter(int customers, const char* work) {
+void BenchEnter(int customers, const char* work) {
     const DealerFiles files(customers, 1);
     Sheet sheet;
     sheet.show();
     std::vector<Time> enters;
     // The smallest sheet must not come to its end.
-    for (int i = 0; i < std::min(kReadings, customers) - 1; ++i) {
+    for (int i = 0; i < std::min(kReadings, customers) - 1; ++i)
         enters.push_back(sheet.confirmReading());
-    }
-    printRow(work, median(enters), std::nullopt, under(5));
+    PrintRow(work, Median(enters), std::nullopt, Under(5));
 }
 
 }  // namespace
@@ -101,10 +99,10 @@ int main(int argc, char** argv) {
     const BenchApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     akarix::SetActionHooks(&akarix::Action::Begin, &akarix::Action::End);
-    printHead();
-    benchOpening();
-    benchEnter(300, "Enter on a reading, sheet of 300");
-    benchEnter(10000, "Enter on a reading, sheet of 10,000");
-    benchEnter(30000, "Enter on a reading, sheet of 30,000");
+    PrintHead();
+    BenchOpening();
+    BenchEnter(300, "Enter on a reading, sheet of 300");
+    BenchEnter(10000, "Enter on a reading, sheet of 10,000");
+    BenchEnter(30000, "Enter on a reading, sheet of 30,000");
     return 0;
 }

@@ -33,11 +33,13 @@ class Watch : public QObject {
                 splashSeen_ = true;
                 QTimer::singleShot(0, form, &Form::Unload);
             } else if (name == u"Request_frm") {
-                QTimer::singleShot(0, this, [this] {
-                    std::printf("%.3f %.3f\n", millisecondsSince(start_), processorMilliseconds());
-                    std::fflush(stdout);
-                    std::_Exit(0);
-                });
+                QTimer::singleShot(
+                    0, this,
+                    [this] {
+                        std::printf("%.3f %.3f\n", MillisecondsSince(start_), ProcessorMilliseconds());
+                        std::fflush(stdout);
+                        std::_Exit(0);
+                    });
             }
         }
         return QObject::eventFilter(watched, event);
@@ -48,7 +50,7 @@ class Watch : public QObject {
     bool splashSeen_ = false;
 };
 
-int startProgram(int argc, char** argv) {
+int StartProgram(int argc, char** argv) {
     const Clock::time_point start{Clock::duration(std::atoll(argv[1]))};
     QApplication application(argc, argv);
     ApplyStyle(application);
@@ -58,7 +60,7 @@ int startProgram(int argc, char** argv) {
     return main_menu::Start() ? QApplication::exec() : 1;
 }
 
-int run(const QString& program) {
+int Run(const QString& program) {
     DealerFiles files(kCustomers, kMonths);
     files.copy("Akarix");
     std::vector<Time> starts;
@@ -70,8 +72,8 @@ int run(const QString& program) {
         const QList<QByteArray> told = process.readAllStandardOutput().split(' ');
         starts.push_back({told.value(0).toDouble(), told.value(1).trimmed().toDouble()});
     }
-    printHead();
-    printRow("process start to login prompt, 300 customers", median(starts), std::nullopt, under(300));
+    PrintHead();
+    PrintRow("process start to login prompt, 300 customers", Median(starts), std::nullopt, Under(300));
     return 0;
 }
 
@@ -80,7 +82,7 @@ int run(const QString& program) {
 
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (argc > 1) return akarix::bench::startProgram(argc, argv);
+    if (argc > 1) return akarix::bench::StartProgram(argc, argv);
     const QCoreApplication application(argc, argv);
-    return akarix::bench::run(QCoreApplication::applicationFilePath());
+    return akarix::bench::Run(QCoreApplication::applicationFilePath());
 }

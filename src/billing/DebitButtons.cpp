@@ -13,6 +13,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Literals.h"
 #include "store/Consignor.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/FieldWalk.h"
@@ -23,9 +24,9 @@ namespace akarix {
 
 namespace {
 
-const QString kTwoDigits = QStringLiteral("00");
+const QString kTwoDigits = u"00"_s;
 
-QString weekdayOf(Date date) {
+QString WeekdayOf(Date date) {
     return IsDateSet(date) ? YobiName(date) : QString();
 }
 
@@ -33,9 +34,8 @@ QString weekdayOf(Date date) {
 
 void DebitButtons::reset() {
     for (QWidget* part :
-         std::initializer_list<QWidget*>{on_.saihiHead, on_.eSaihi, on_.lyobi2, on_.saihiHint}) {
+         std::initializer_list<QWidget*>{on_.saihiHead, on_.eSaihi, on_.lyobi2, on_.saihiHint})
         part->hide();
-    }
     on_.eSaihi->SetText({});
     on_.Progress->SetCaption({});
     again_ = {};
@@ -67,18 +67,17 @@ void DebitButtons::proposeRetransfer(const QString& dayOfMonth) {
     const Date next = DateSerial(Year(creation), Month(creation) + 1, 1);
     again_ = {PadFormat(Month(next), kTwoDigits), PadFormat(KeepNumeric(dayOfMonth), kTwoDigits)};
     for (QWidget* part :
-         std::initializer_list<QWidget*>{on_.saihiHead, on_.eSaihi, on_.lyobi2, on_.saihiHint}) {
+         std::initializer_list<QWidget*>{on_.saihiHead, on_.eSaihi, on_.lyobi2, on_.saihiHint})
         part->show();
-    }
     on_.eSaihi->SetText(NumStr(DisplayYear(next)) + u'/' + again_.month + u'/' + again_.day);
-    on_.lyobi2->SetCaption(weekdayOf(ReadDate(*on_.eSaihi)));
+    on_.lyobi2->SetCaption(WeekdayOf(ReadDate(*on_.eSaihi)));
     FocusSelect(*on_.eSaihi);
 }
 
 void DebitButtons::enterRetransfer() {
     const Date date = ReadDate(*on_.eSaihi);
     if (!IsDateSet(date)) return;
-    on_.lyobi2->SetCaption(weekdayOf(date));
+    on_.lyobi2->SetCaption(WeekdayOf(date));
     if (creationStands()) writePostFile();
 }
 
@@ -107,7 +106,7 @@ void DebitButtons::printPost() {
 /// Its month and day go into the file.
 bool DebitButtons::creationStands() const {
     if (IsDateSet(ReadDate(*on_.creation))) return true;
-    ShowAlert(QStringLiteral("作成日を正しく入れて下さい。"));
+    ShowAlert(u"作成日を正しく入れて下さい。"_s);
     return false;
 }
 

@@ -12,6 +12,7 @@
 #include "platform/runtime/CLng.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/FieldBytes.h"
@@ -53,11 +54,12 @@ constexpr std::array<ActionButton, 7> kActions{{
 
 }  // namespace
 
-Seikyu_frm::Seikyu_frm() : EntryForm(QStringLiteral("Seikyu_frm"), QStringLiteral("請求処理")) {
+Seikyu_frm::Seikyu_frm() : EntryForm(u"Seikyu_frm"_s, u"請求処理"_s) {
     layOut();
     const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
-    wireLookup(F6(0), QStringLiteral("Bnk"), {}, ebox(kBank), press, kBank);
-    on(&ebox(kMonth), &TextBox::LostFocus, [this] { showClosingDate(); });
+    wireLookup(F6(0), u"Bnk"_s, {}, ebox(kBank), press, kBank);
+    on(
+        &ebox(kMonth), &TextBox::LostFocus, [this] { showClosingDate(); });
     on(Command_, &CommandButton::Click, [this](int index) { Command_Click(index); });
 }
 
@@ -74,19 +76,19 @@ void Seikyu_frm::layOut() {
     Label* saihiHint = label(u"Label1", u"Enterで決定");
 
     FieldLayout fields(*this);
-    fields.row(QStringLiteral("対象"))
+    fields.row(u"対象"_s)
         .text(addBox(ebox, kYear, ImeMode::Off), 4)
-        .note(QStringLiteral("年"))
+        .note(u"年"_s)
         .text(addBox(ebox, kMonth, ImeMode::Off), 2)
-        .note(QStringLiteral("月分"));
-    fields.row(QStringLiteral("集計日")).name(*sSyukeibi_, kDateBytes);
-    fields.row(QStringLiteral("作成日"))
+        .note(u"月分"_s);
+    fields.row(u"集計日"_s).name(*sSyukeibi_, kDateBytes);
+    fields.row(u"作成日"_s)
         .text(addBox(ebox, kCreation, ImeMode::Off), kDateBytes)
         .name(*lYobi1_, kWeekdayBytes);
-    fields.row(QStringLiteral("銀行ｺｰﾄﾞ"))
+    fields.row(u"銀行ｺｰﾄﾞ"_s)
         .text(addBox(ebox, kBank, ImeMode::Off), kIntegerBytes)
         .lookup(F6.add(0, new Image));
-    TextBox& eSaihi = Named(new TextBox, QStringLiteral("eSaihi"));
+    TextBox& eSaihi = Named(new TextBox, u"eSaihi"_s);
     eSaihi.SetIMEMode(ImeMode::Off);
     fields.row({}).widget(saihiHead).text(eSaihi, kDateBytes).name(*lyobi2, kWeekdayBytes).widget(saihiHint);
 
@@ -192,29 +194,29 @@ void Seikyu_frm::Command_Click(int index) {
 void Seikyu_frm::runBilling() {
     const Date creation = ReadDate(ebox(kCreation));
     if (!IsDateSet(creation)) {
-        ShowAlert(QStringLiteral("作成日を正しく入れて下さい。"));
+        ShowAlert(u"作成日を正しく入れて下さい。"_s);
         return;
     }
     // The year is left unasked: a bill made in the new year for the old one is no mistake.
     if (Month(creation) != NumVal(ebox(kMonth).Text())) {
-        ShowAlert(QStringLiteral("月度と作成日の月が違います。"));
+        ShowAlert(u"月度と作成日の月が違います。"_s);
         return;
     }
     const int nendo = CLng(KeepNumeric(ebox(kYear).Text()));
     const int getudo = CLng(KeepNumeric(ebox(kMonth).Text()));
     try {
         // One action to the session's end: only the operator leaves it half-way, and is told how to go on.
-        LongRun run(QStringLiteral("請求データの作成"), LongRun::AtSessionEnd::GoesOn);
+        LongRun run(u"請求データの作成"_s, LongRun::AtSessionEnd::GoesOn);
         BuildMonthLedger(nendo, getudo, creation, run);
         CarryForwardMonth(nendo, getudo, run);
     } catch (const RuntimeError& error) {
         if (error.number() != CancelledByOperator) throw;
         ShowAlert(
-            QStringLiteral("中止しました。この月の集計は途中です。\n"
-                           "もう一度「請求データの作成」を押すと、初めから集計し直します。"));
+            u"中止しました。この月の集計は途中です。\n"
+            "もう一度「請求データの作成」を押すと、初めから集計し直します。"_s);
         return;
     }
-    ShowAlert(QStringLiteral("集計しました。"));
+    ShowAlert(u"集計しました。"_s);
 }
 
 }  // namespace akarix

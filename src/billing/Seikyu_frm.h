@@ -5,6 +5,7 @@
 #include "billing/DebitButtons.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Label.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
@@ -24,9 +25,9 @@ class Seikyu_frm : public EntryForm {
     void Command_Click(int index);
     void runBilling();
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<CommandButton> Command_{QStringLiteral("Command")};
-    ControlArray<Image> F6{QStringLiteral("F6")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<CommandButton> Command_{u"Command"_s};
+    ControlArray<Image> F6{u"F6"_s};
     Label* lYobi1_ = nullptr;
     Label* sSyukeibi_ = nullptr;
     std::optional<DebitButtons> disks_;

@@ -1,6 +1,7 @@
 #include "billing/Sub.h"
 
 #include "platform/runtime/Int.h"
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -9,52 +10,49 @@
 namespace akarix {
 
 Currency PrevKonkaiMeter(int nendo, int getudo, std::int32_t deal) {
-    return moneyOf(FirstValue(QStringLiteral("SELECT TOP 1 KonkaiMeter FROM Dgd  WHERE Deal=") +
-                                  NumStr(deal) + QStringLiteral(" AND   Nendo*100+Getudo < ") +
-                                  NumStr(nendo * 100 + getudo) +
-                                  QStringLiteral(" ORDER BY Nendo*100+Getudo DESC"),
-                              QStringLiteral("KonkaiMeter")));
+    return MoneyOf(FirstValue(u"SELECT TOP 1 KonkaiMeter FROM Dgd  WHERE Deal="_s + NumStr(deal) +
+                                  u" AND   Nendo*100+Getudo < "_s + NumStr(nendo * 100 + getudo) +
+                                  u" ORDER BY Nendo*100+Getudo DESC"_s,
+                              u"KonkaiMeter"_s));
 }
 
 void ReadMonthMeter(std::int32_t deal, int nendo, int getudo, Currency& zenkaiMeter, Currency& konkaiMeter,
                     Currency& suu) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Dgd  WHERE Deal  =") + NumStr(deal) +
-                                       QStringLiteral(" AND   Nendo =") + NumStr(nendo) +
-                                       QStringLiteral(" AND   Getudo=") + NumStr(getudo));
+    Recordset set =
+        gDb->OpenRecordset(u"SELECT * FROM Dgd  WHERE Deal  ="_s + NumStr(deal) + u" AND   Nendo ="_s +
+                           NumStr(nendo) + u" AND   Getudo="_s + NumStr(getudo));
     zenkaiMeter = konkaiMeter = suu = Currency();
     if (!set.Eof()) {
-        zenkaiMeter = moneyOf(set[QStringLiteral("ZenkaiMeter")]);
-        konkaiMeter = moneyOf(set[QStringLiteral("KonkaiMeter")]);
-        suu = moneyOf(set[QStringLiteral("Suu")]);
+        zenkaiMeter = MoneyOf(set[u"ZenkaiMeter"_s]);
+        konkaiMeter = MoneyOf(set[u"KonkaiMeter"_s]);
+        suu = MoneyOf(set[u"Suu"_s]);
     }
     set.Close();
 }
 
 Currency CalcGasCharge(std::int32_t deal, Currency usage) {
-    const Variant pattern = FirstValue(
-        QStringLiteral("SELECT TankaPtn FROM Deal  WHERE Code=") + NumStr(deal), QStringLiteral("TankaPtn"));
+    const Variant pattern =
+        FirstValue(u"SELECT TankaPtn FROM Deal  WHERE Code="_s + NumStr(deal), u"TankaPtn"_s);
     if (pattern.IsEmpty()) return {};
 
     const QString use = NumStr(usage);
     // No order: where bands overlap, the one that comes first counts.
     Recordset band = gDb->OpenRecordset(
-        QStringLiteral("SELECT GasKeisan.Ptn, GasKeisan.St, GasKeisan.Ed, GasKeisan.Kihon, "
-                       "GasKeisan.Tanka From GasKeisan WHERE GasKeisan.Ptn=") +
-        NumStr(integerOf(pattern)) + QStringLiteral(" AND GasKeisan.St<=") + use +
-        QStringLiteral(" AND GasKeisan.Ed>=") + use);
+        u"SELECT GasKeisan.Ptn, GasKeisan.St, GasKeisan.Ed, GasKeisan.Kihon, "
+        "GasKeisan.Tanka From GasKeisan WHERE GasKeisan.Ptn="_s +
+        NumStr(IntegerOf(pattern)) + u" AND GasKeisan.St<="_s + use + u" AND GasKeisan.Ed>="_s + use);
     Currency charge;
     if (!band.Eof()) {
-        const Currency above = usage - Currency(int{integerOf(band[QStringLiteral("St")])});
-        charge = moneyOf(band[QStringLiteral("Kihon")]) + Int(above * moneyOf(band[QStringLiteral("Tanka")]));
+        const Currency above = usage - Currency(int{IntegerOf(band[u"St"_s])});
+        charge = MoneyOf(band[u"Kihon"_s]) + Int(above * MoneyOf(band[u"Tanka"_s]));
     }
     band.Close();
     return charge;
 }
 
 bool IsNoInvoice(std::int32_t deal) {
-    const Variant flag = FirstValue(QStringLiteral("SELECT NoSeikyu FROM Deal WHERE Code=") + NumStr(deal),
-                                    QStringLiteral("NoSeikyu"));
-    return flag.IsEmpty() || integerOf(flag) == 1;
+    const Variant flag = FirstValue(u"SELECT NoSeikyu FROM Deal WHERE Code="_s + NumStr(deal), u"NoSeikyu"_s);
+    return flag.IsEmpty() || IntegerOf(flag) == 1;
 }
 
 }  // namespace akarix

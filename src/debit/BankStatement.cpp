@@ -4,6 +4,7 @@
 #include "output/PrintRun.h"
 #include "output/PrintTrap.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "store/Consignor.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -18,36 +19,34 @@ constexpr int kPageLimit = 43;  // the line that no longer stands on the page
 constexpr int kBaseRow = 4;
 constexpr int kEraBase = 1988;  // the sheet counts its years by one era, whatever the screens do
 
-QString nameOf(const QString& mode, int bank) {
-    if (mode == u"Yubin") return QStringLiteral("郵便局");
+QString NameOf(const QString& mode, int bank) {
+    if (mode == u"Yubin") return u"郵便局"_s;
     Consignor consignor;
     LoadBankConsignor(bank, consignor);
     if (HasText(consignor.BkName)) return consignor.BkName;
-    return QStringLiteral("銀行コード : ") + NumStr(bank);
+    return u"銀行コード : "_s + NumStr(bank);
 }
 
-QString accountOf(const DebitRow& row) {
-    const QStringList parts{Format(row.Bnk, QStringLiteral("0000")), Format(row.Stn, QStringLiteral("000")),
-                            NumStr(row.Kind), Format(row.Koza, QStringLiteral("0000000"))};
+QString AccountOf(const DebitRow& row) {
+    const QStringList parts{Format(row.Bnk, u"0000"_s), Format(row.Stn, u"000"_s), NumStr(row.Kind),
+                            Format(row.Koza, u"0000000"_s)};
     return parts.join(u'-');
 }
 
 }  // namespace
 
 BankStatement::BankStatement(const QString& mode, int bank, int nendo, int getudo)
-    : bankName_(nameOf(mode, bank)),
-      month_(QStringLiteral("平成%1年%2月分").arg(nendo - kEraBase).arg(getudo)) {}
+    : bankName_(NameOf(mode, bank)), month_(u"平成%1年%2月分"_s.arg(nendo - kEraBase).arg(getudo)) {}
 
 void BankStatement::ClrDetail() {
-    for (const char16_t* block : {u"A5:AH46", u"T47", u"AA47"}) {
+    for (const char16_t* block : {u"A5:AH46", u"T47", u"AA47"})
         ExcelCell(QString::fromUtf16(block), {});
-    }
 }
 
 void BankStatement::PrintOutHead(int page) {
-    ExcelCell(QStringLiteral("A1"), bankName_);
-    ExcelCell(QStringLiteral("AC2"), month_);
-    ExcelCell(QStringLiteral("AM2"), NumStr(page) + QStringLiteral("ﾍﾟｰｼﾞ"));
+    ExcelCell(u"A1"_s, bankName_);
+    ExcelCell(u"AC2"_s, month_);
+    ExcelCell(u"AM2"_s, NumStr(page) + u"ﾍﾟｰｼﾞ"_s);
 }
 
 void BankStatement::PrintOutDetail(int row, Recordset& set) {
@@ -56,7 +55,7 @@ void BankStatement::PrintOutDetail(int row, Recordset& set) {
         ExcelCell(QString::fromUtf16(column) + NumStr(row), text);
     };
     put(u"A", NumStr(debit.Deal));
-    put(u"E", accountOf(debit));
+    put(u"E", AccountOf(debit));
     put(u"M", debit.Kana);
     put(u"T", GetDealName(debit.Deal));
     put(u"AA", NumStr(debit.tGaku));
@@ -65,17 +64,17 @@ void BankStatement::PrintOutDetail(int row, Recordset& set) {
 }
 
 void BankStatement::PrintOutDetailGokei(int /*line*/, int /*firstRow*/, int /*page*/) {
-    ExcelCell(QStringLiteral("T47"), NumStr(count_) + QStringLiteral("件"));
-    ExcelCell(QStringLiteral("AA47"), NumStr(total_));
+    ExcelCell(u"T47"_s, NumStr(count_) + u"件"_s);
+    ExcelCell(u"AA47"_s, NumStr(total_));
 }
 
 void PrintBankStatement(int bank, int nendo, int getudo) {
     TrapPrinting([=] {
-        const PrintRun run(QStringLiteral("口座振替明細表"));
+        const PrintRun run(u"口座振替明細表"_s);
         Recordset set = gDb->OpenRecordset(DebitQuery(bank, nendo, getudo));
         if (set.Eof()) return;
-        BankStatement statement(QStringLiteral("Bnk"), bank, nendo, getudo);
-        ExcelOpenPaged(QStringLiteral("口座振替明細表"), kPageLimit, kBaseRow);
+        BankStatement statement(u"Bnk"_s, bank, nendo, getudo);
+        ExcelOpenPaged(u"口座振替明細表"_s, kPageLimit, kBaseRow);
         SetReport(&statement, std::move(set));
         ExcelRunPaged();
     });

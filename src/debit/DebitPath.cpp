@@ -1,5 +1,6 @@
 #include "debit/DebitPath.h"
 
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/MkDir.h"
 #include "platform/runtime/RuntimeError.h"
 
@@ -9,7 +10,7 @@ namespace {
 
 constexpr int kRoot = 2;  // the place of "\" in "X:\"
 
-qsizetype endOfFolder(const QString& fName) {
+qsizetype EndOfFolder(const QString& fName) {
     if (fName.size() <= kRoot || fName[kRoot] != u'\\') return -1;
     return fName.indexOf(u'\\', kRoot + 1);
 }
@@ -17,18 +18,18 @@ qsizetype endOfFolder(const QString& fName) {
 }  // namespace
 
 QString FloppyFolder() {
-    return QStringLiteral("A:\\");
+    return u"A:\\"_s;
 }
 
 DebitPath SplitDebitPath(const QString& fName) {
-    const qsizetype end = endOfFolder(fName);
+    const qsizetype end = EndOfFolder(fName);
     if (end < 0) return {FloppyFolder(), fName};
     return {fName.left(end + 1), fName.mid(end + 1)};
 }
 
 DebitPath PrepareDebitPath(const QString& fName) {
     DebitPath path = SplitDebitPath(fName);
-    if (endOfFolder(fName) < 0) return path;
+    if (EndOfFolder(fName) < 0) return path;
     try {
         MkDir(path.folder);
     } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch): it exists, as a rule

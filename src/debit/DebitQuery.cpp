@@ -1,5 +1,6 @@
 #include "debit/DebitQuery.h"
 
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
@@ -8,32 +9,30 @@
 namespace akarix {
 
 QString DebitQuery(int bank, int nendo, int getudo) {
-    return QStringLiteral(
-               "SELECT First(Deal.Rte) AS Rte, First(Deal.Haisou) AS Haiso, First(TtoD.Deal) AS Deal,"
-               " Sum([TtoD].[ZenkaiGaku]+[TtoD].[Gaku]-[TtoD].[NGaku]) AS tGaku,"
-               " First(Deal.DiscGaku) AS DiscGaku, First(Deal.Kana) AS Kana, First(Deal.Bnk) AS Bnk,"
-               " First(Deal.Stn) AS Stn, First(Deal.Kind) AS Kind,"
-               " First(Deal.Koza) AS Koza"
-               " FROM TtoD INNER JOIN Deal ON TtoD.Deal = Deal.Code"
-               " Where [TtoD].[ZenkaiGaku] + [TtoD].[Gaku] - [TtoD].[NGaku] > 0"
-               " And Deal.Bnk = ") +
-           NumStr(bank) + QStringLiteral(" And TtoD.Nendo = ") + NumStr(nendo) +
-           QStringLiteral(" And TtoD.Getudo = ") + NumStr(getudo) +
-           QStringLiteral(
-               " GROUP BY Deal.Bnk,Deal.Stn,Deal.Kind,Deal.Koza"
-               " ORDER BY First(Deal.Rte), First(Deal.Haisou), First(TtoD.Deal)");
+    return u"SELECT First(Deal.Rte) AS Rte, First(Deal.Haisou) AS Haiso, First(TtoD.Deal) AS Deal,"
+           " Sum([TtoD].[ZenkaiGaku]+[TtoD].[Gaku]-[TtoD].[NGaku]) AS tGaku,"
+           " First(Deal.DiscGaku) AS DiscGaku, First(Deal.Kana) AS Kana, First(Deal.Bnk) AS Bnk,"
+           " First(Deal.Stn) AS Stn, First(Deal.Kind) AS Kind,"
+           " First(Deal.Koza) AS Koza"
+           " FROM TtoD INNER JOIN Deal ON TtoD.Deal = Deal.Code"
+           " Where [TtoD].[ZenkaiGaku] + [TtoD].[Gaku] - [TtoD].[NGaku] > 0"
+           " And Deal.Bnk = "_s +
+           NumStr(bank) + u" And TtoD.Nendo = "_s + NumStr(nendo) + u" And TtoD.Getudo = "_s +
+           NumStr(getudo) +
+           u" GROUP BY Deal.Bnk,Deal.Stn,Deal.Kind,Deal.Koza"
+           " ORDER BY First(Deal.Rte), First(Deal.Haisou), First(TtoD.Deal)"_s;
 }
 
 DebitRow ReadDebitRow(const Recordset& set) {
     DebitRow row;
-    row.Deal = longOf(set[QStringLiteral("Deal")]);
-    row.Bnk = integerOf(set[QStringLiteral("Bnk")]);
-    row.Stn = integerOf(set[QStringLiteral("Stn")]);
-    row.Kind = integerOf(set[QStringLiteral("Kind")]);
-    row.Koza = NullToEmpty(set[QStringLiteral("Koza")]);
-    row.Kana = NullToEmpty(set[QStringLiteral("Kana")]);
-    row.tGaku = moneyOf(set[QStringLiteral("tGaku")]);
-    row.DiscGaku = moneyOf(set[QStringLiteral("DiscGaku")]);
+    row.Deal = LongOf(set[u"Deal"_s]);
+    row.Bnk = IntegerOf(set[u"Bnk"_s]);
+    row.Stn = IntegerOf(set[u"Stn"_s]);
+    row.Kind = IntegerOf(set[u"Kind"_s]);
+    row.Koza = NullToEmpty(set[u"Koza"_s]);
+    row.Kana = NullToEmpty(set[u"Kana"_s]);
+    row.tGaku = MoneyOf(set[u"tGaku"_s]);
+    row.DiscGaku = MoneyOf(set[u"DiscGaku"_s]);
     return row;
 }
 

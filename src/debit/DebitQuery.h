@@ -3,7 +3,7 @@
 #include <QString>
 #include <cstdint>
 
-#include "platform/jet/Recordset.h"
+#include "platform/dao/Recordset.h"
 #include "platform/runtime/Currency.h"
 
 namespace akarix {

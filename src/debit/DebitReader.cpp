@@ -11,6 +11,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Input.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/Open.h"
 #include "store/Consignor.h"
 #include "store/dbAccess.h"
@@ -27,18 +28,17 @@ struct Disk {
     QString getudo;
 };
 
-bool isRead(const Disk& disk) {
-    Recordset log = gDb->OpenRecordset(QStringLiteral("SELECT * FROM FDLog  WHERE Bnk   =") + disk.bank +
-                                       QStringLiteral(" AND   Nendo =") + disk.nendo +
-                                       QStringLiteral(" AND   Getudo=") + disk.getudo);
+bool IsRead(const Disk& disk) {
+    Recordset log = gDb->OpenRecordset(u"SELECT * FROM FDLog  WHERE Bnk   ="_s + disk.bank +
+                                       u" AND   Nendo ="_s + disk.nendo + u" AND   Getudo="_s + disk.getudo);
     const bool found = !log.Eof();
     log.Close();
     return found;
 }
 
-void logDisk(const Disk& disk) {
-    gDb->Execute(QStringLiteral("INSERT INTO FDLog(Bnk,nendo,Getudo) VALUES(") + disk.bank + u',' +
-                 disk.nendo + u',' + disk.getudo + u')');
+void LogDisk(const Disk& disk) {
+    gDb->Execute(u"INSERT INTO FDLog(Bnk,nendo,Getudo) VALUES("_s + disk.bank + u',' + disk.nendo + u',' +
+                 disk.getudo + u')');
 }
 
 struct Counts {
@@ -46,7 +46,7 @@ struct Counts {
     int total = 0;
 };
 
-Counts postResults(Date debited) {
+Counts PostResults(Date debited) {
     Counts counts;
     for (QString record = Input(kDebitFile); !EndsResults(record); record = Input(kDebitFile)) {
         const DebitResult result = ReadResult(record);
@@ -58,45 +58,41 @@ Counts postResults(Date debited) {
     return counts;
 }
 
-QString wordsFor(const Counts& counts) {
-    const QString numbers = NumStr(counts.paid) + QStringLiteral(" / ") + NumStr(counts.total);
+QString WordsFor(const Counts& counts) {
+    const QString numbers = NumStr(counts.paid) + u" / "_s + NumStr(counts.total);
     // Equality first: a disk without any record is complete.
-    if (counts.paid == counts.total) return numbers + QStringLiteral(" 全件　完了しました。");
-    if (counts.paid < 1 || counts.total < 1) return numbers + QStringLiteral(" 入金が確認出来ませんでした。");
-    return numbers + QStringLiteral(" 件　完了しました。");
+    if (counts.paid == counts.total) return numbers + u" 全件　完了しました。"_s;
+    if (counts.paid < 1 || counts.total < 1) return numbers + u" 入金が確認出来ませんでした。"_s;
+    return numbers + u" 件　完了しました。"_s;
 }
 
-void read(const QString& path, const QString& bank, const ShowProgress& progress) {
+void Read(const QString& path, const QString& bank, const ShowProgress& progress) {
     const Date today = Today();
     Open(path, OpenMode::Input, kDebitFile);
     const Date debited = ResultDate(Input(kDebitFile), today);
     const Disk disk{bank, NumStr(Year(debited)), NumStr(Month(debited))};
-    if (!AskConfirm(QStringLiteral("処理年=") + disk.nendo + QStringLiteral(" 月=") + disk.getudo +
-                        QStringLiteral(" は正しいですか？"),
-                    QStringLiteral("はい"), QStringLiteral("いいえ"))) {
+    if (!AskConfirm(u"処理年="_s + disk.nendo + u" 月="_s + disk.getudo + u" は正しいですか？"_s, u"はい"_s,
+                    u"いいえ"_s)) {
         Close(kDebitFile);
         return;
     }
-    if (isRead(disk)) {
-        ShowAlert(QStringLiteral("このフロッピーは既に読み込み完了しています。"));
+    if (IsRead(disk)) {
+        ShowAlert(u"このフロッピーは既に読み込み完了しています。"_s);
         Close(kDebitFile);
         progress({});
         return;
     }
-    const Counts counts = postResults(debited);
+    const Counts counts = PostResults(debited);
     Close(kDebitFile);
-    logDisk(disk);
-    ShowAlert(wordsFor(counts));
+    LogDisk(disk);
+    ShowAlert(WordsFor(counts));
     progress({});
 }
 
-void readDisk(const Consignor& consignor, int bank, const ShowProgress& progress) {
-    if (!AskConfirm(QStringLiteral("ディスクを読みこみますか？"), QStringLiteral("はい"),
-                    QStringLiteral("いいえ"))) {
-        return;
-    }
-    progress(QStringLiteral("ディスク読込中!"));
-    TrapDebit([&] { read(SplitDebitPath(consignor.fName).whole(), NumStr(bank), progress); });
+void ReadDisk(const Consignor& consignor, int bank, const ShowProgress& progress) {
+    if (!AskConfirm(u"ディスクを読みこみますか？"_s, u"はい"_s, u"いいえ"_s)) return;
+    progress(u"ディスク読込中!"_s);
+    TrapDebit([&] { Read(SplitDebitPath(consignor.fName).whole(), NumStr(bank), progress); });
 }
 
 }  // namespace
@@ -105,13 +101,13 @@ void ReadBankResult(const QString& bankCode, const ShowProgress& progress) {
     const std::int16_t bank = CInt(KeepNumeric(bankCode));
     Consignor consignor;
     LoadBankConsignor(bank, consignor);
-    readDisk(consignor, bank, progress);
+    ReadDisk(consignor, bank, progress);
 }
 
 void ReadPostResult(const ShowProgress& progress) {
     Consignor consignor;
     LoadPostConsignor(consignor);
-    readDisk(consignor, kPostOffice, progress);
+    ReadDisk(consignor, kPostOffice, progress);
 }
 
 }  // namespace akarix

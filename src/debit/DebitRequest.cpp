@@ -4,6 +4,7 @@
 #include "debit/DebitRecords.h"
 #include "dialogs/ShowAlert.h"
 #include "platform/runtime/CInt.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/Open.h"
 #include "platform/runtime/Print.h"
 #include "platform/runtime/Trim.h"
@@ -14,9 +15,8 @@ namespace akarix {
 
 bool IsComplete(const Consignor& consignor) {
     for (const QString* needed :
-         {&consignor.ItakuCode, &consignor.Itakusya, &consignor.fName, &consignor.Bnk, &consignor.Stn}) {
+         {&consignor.ItakuCode, &consignor.Itakusya, &consignor.fName, &consignor.Bnk, &consignor.Stn})
         if (Trim(*needed).isEmpty()) return false;
-    }
     return true;
 }
 
@@ -27,7 +27,7 @@ DebitTotals WriteRequest(const QString& path, Recordset rows, const RequestKind&
     rows.MoveLast();
     const std::int16_t count = CInt(rows.RecordCount());
     rows.MoveFirst();
-    const QString ofAll = QStringLiteral(" / ") + NumStr(count);
+    const QString ofAll = u" / "_s + NumStr(count);
     DebitTotals totals;
     while (totals.count < count) {
         ++totals.count;
@@ -46,8 +46,7 @@ DebitTotals WriteRequest(const QString& path, Recordset rows, const RequestKind&
 }
 
 void TellRequestDone(const DebitTotals& totals, const QString& done) {
-    ShowAlert(QStringLiteral("件数：") + NumStr(totals.count) + u'\r' + QStringLiteral("金額：") +
-              NumStr(totals.total));
+    ShowAlert(u"件数："_s + NumStr(totals.count) + u'\r' + u"金額："_s + NumStr(totals.total));
     ShowAlert(done);
 }
 

@@ -3,7 +3,7 @@
 #include <QString>
 #include <functional>
 
-#include "platform/jet/Recordset.h"
+#include "platform/dao/Recordset.h"
 #include "platform/runtime/Currency.h"
 #include "platform/runtime/Date.h"
 

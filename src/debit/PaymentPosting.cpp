@@ -1,5 +1,6 @@
 #include "debit/PaymentPosting.h"
 
+#include "platform/runtime/Literals.h"
 #include "store/CustomerMonth.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
@@ -13,8 +14,8 @@ namespace {
 constexpr std::int16_t kDebited = 2;  // the payment class of direct debit
 
 /// The first payment of all gets 0.
-std::int32_t nextNumber() {
-    return longOf(FirstValue(QStringLiteral("SELECT MAX(Dno)+1 AS tDno FROM Dny"), QStringLiteral("tDno")));
+std::int32_t NextNumber() {
+    return LongOf(FirstValue(u"SELECT MAX(Dno)+1 AS tDno FROM Dny"_s, u"tDno"_s));
 }
 
 }  // namespace
@@ -23,20 +24,19 @@ void PostPayment(std::int32_t deal, Date hizuke, Currency amount) {
     int nendo = 0;
     int getudo = 0;
     DateToGetudo(deal, hizuke, nendo, getudo);
-    const std::int32_t dno = nextNumber();
-    Recordset payments = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Dny "));
+    const std::int32_t dno = NextNumber();
+    Recordset payments = gDb->OpenRecordset(u"SELECT * FROM Dny "_s);
     payments.AddNew();
-    payments.Fields(QStringLiteral("Dno")) = dno;
-    payments.Fields(QStringLiteral("Hizuke")) = hizuke;
-    payments.Fields(QStringLiteral("Deal")) = deal;
-    payments.Fields(QStringLiteral("Nendo")) = nendo;
-    payments.Fields(QStringLiteral("Getudo")) = getudo;
-    payments.Fields(QStringLiteral("Gaku")) = amount;
-    payments.Fields(QStringLiteral("Kubun")) = kDebited;
+    payments.Fields(u"Dno"_s) = dno;
+    payments.Fields(u"Hizuke"_s) = hizuke;
+    payments.Fields(u"Deal"_s) = deal;
+    payments.Fields(u"Nendo"_s) = nendo;
+    payments.Fields(u"Getudo"_s) = getudo;
+    payments.Fields(u"Gaku"_s) = amount;
+    payments.Fields(u"Kubun"_s) = kDebited;
     payments.Update();
     payments.Close();
-    gDb->Execute(QStringLiteral("UPDATE TtoD  SET   NGaku=") + NumStr(amount) +
-                 OfCustomerMonth(deal, nendo, getudo));
+    gDb->Execute(u"UPDATE TtoD  SET   NGaku="_s + NumStr(amount) + OfCustomerMonth(deal, nendo, getudo));
 }
 
 }  // namespace akarix

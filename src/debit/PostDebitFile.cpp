@@ -7,6 +7,7 @@
 #include "dialogs/AskConfirm.h"
 #include "dialogs/ShowAlert.h"
 #include "platform/runtime/DatePart.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/dbAccess.h"
 #include "values/Dates.h"
@@ -16,39 +17,39 @@ namespace akarix {
 
 namespace {
 
-bool ask(const QString& question) {
-    return AskConfirm(question, QStringLiteral("はい"), QStringLiteral("いいえ"));
+bool Ask(const QString& question) {
+    return AskConfirm(question, u"はい"_s, u"いいえ"_s);
 }
 
-RetransferDay dayOf(const QString& typed) {
+RetransferDay DayOf(const QString& typed) {
     constexpr int kTypeMismatch = 13;
     const Date date = ParseDate(typed);
     if (!IsDateSet(date)) throw RuntimeError(kTypeMismatch);
-    const QString twoDigits = QStringLiteral("00");
+    const QString twoDigits = u"00"_s;
     return {PadFormat(Month(date), twoDigits), PadFormat(Day(date), twoDigits)};
 }
 
-void write(const DebitWish& wish, const DebitPath& path, const Consignor& consignor, RetransferDay& again,
+void Write(const DebitWish& wish, const DebitPath& path, const Consignor& consignor, RetransferDay& again,
            const QString& typed, const ShowProgress& progress) {
     if (!IsComplete(consignor)) {
-        ShowAlert(QStringLiteral("郵便局の委託者が登録されていません。"));
+        ShowAlert(u"郵便局の委託者が登録されていません。"_s);
         return;
     }
     const Consignor fitted = FitPostConsignor(consignor);
     if (!typed.isEmpty()) {
-        if (!ask(QStringLiteral("再振替日の月日はいいですか？"))) return;
-        again = dayOf(typed);
+        if (!Ask(u"再振替日の月日はいいですか？"_s)) return;
+        again = DayOf(typed);
     }
     Recordset rows = gDb->OpenRecordset(DebitQuery(kPostOffice, wish.nendo, wish.getudo));
     if (rows.Eof()) {
         rows.Close();
-        ShowAlert(QStringLiteral("該当が有りません。"));
+        ShowAlert(u"該当が有りません。"_s);
         return;
     }
     const DebitTotals totals =
         WriteRequest(path.whole(), std::move(rows), PostRequest(fitted, wish.creation, again), progress);
     PrintPostTotalSheet(fitted, totals, typed);
-    TellRequestDone(totals, QStringLiteral("郵便ディスク作成、完了しました。"));
+    TellRequestDone(totals, u"郵便ディスク作成、完了しました。"_s);
     progress({});
 }
 
@@ -65,13 +66,13 @@ RequestKind PostRequest(const Consignor& consignor, Date creation, const Retrans
 
 void WritePostDebit(const DebitWish& wish, RetransferDay& again, const QString& typed,
                     const ShowProgress& progress) {
-    if (!ask(QStringLiteral("郵便局ディスクを作成しますか？"))) return;
-    progress(QStringLiteral("ディスク作成中！"));
+    if (!Ask(u"郵便局ディスクを作成しますか？"_s)) return;
+    progress(u"ディスク作成中！"_s);
     Consignor consignor;
     LoadPostConsignor(consignor);
     const DebitPath path = PrepareDebitPath(consignor.fName);
     consignor.fName = path.name;
-    TrapDebit([&] { write(wish, path, consignor, again, typed, progress); });
+    TrapDebit([&] { Write(wish, path, consignor, again, typed, progress); });
 }
 
 }  // namespace akarix

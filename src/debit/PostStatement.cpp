@@ -11,6 +11,7 @@
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
 
@@ -21,8 +22,8 @@ namespace {
 constexpr int kFirstRow = 17;
 constexpr int kPageLines = 34;
 constexpr int kClosingLines = 2;  // the closing block's lines below its head
-const QString kCount = QStringLiteral("件");
-const QString kYen = QStringLiteral("円");
+const QString kCount = u"件"_s;
+const QString kYen = u"円"_s;
 
 /// The texts above the lines; the same on every page.
 struct Head {
@@ -57,7 +58,7 @@ void PostStatement::run(Recordset set) {
     set.MoveLast();
     const std::int16_t records = CInt(set.RecordCount());
     set.MoveFirst();
-    ExcelOpen(QStringLiteral("郵便局口座振替明細表"));
+    ExcelOpen(u"郵便局口座振替明細表"_s);
     beginPage();
     while (count_ < records) {
         PrintRun::Count(count_, records);
@@ -82,14 +83,14 @@ void PostStatement::beginPage() {
     line_ = 0;
     pageTotal_ = {};
     const Consignor& consignor = head_.consignor;
-    ExcelCell(QStringLiteral("A17:AG51"), {});
-    ExcelCell(QStringLiteral("AC2"), head_.date);
-    ExcelCell(QStringLiteral("L7"), consignor.Keiyaku);
-    ExcelCell(QStringLiteral("L8"), consignor.Jimusyo);
-    ExcelCell(QStringLiteral("L9"), consignor.ItakuCode);
-    ExcelCell(QStringLiteral("L10"), consignor.Itakusya);
-    ExcelCell(QStringLiteral("L11"), head_.creation);
-    ExcelCell(QStringLiteral("L12"), consignor.KozaNo);
+    ExcelCell(u"A17:AG51"_s, {});
+    ExcelCell(u"AC2"_s, head_.date);
+    ExcelCell(u"L7"_s, consignor.Keiyaku);
+    ExcelCell(u"L8"_s, consignor.Jimusyo);
+    ExcelCell(u"L9"_s, consignor.ItakuCode);
+    ExcelCell(u"L10"_s, consignor.Itakusya);
+    ExcelCell(u"L11"_s, head_.creation);
+    ExcelCell(u"L12"_s, consignor.KozaNo);
 }
 
 void PostStatement::writeLine(const DebitRow& debit) {
@@ -97,16 +98,15 @@ void PostStatement::writeLine(const DebitRow& debit) {
     put(u"A", line_, NumStr(count_));
     put(u"E", line_, NumStr(debit.Deal));
     put(u"J", line_, debit.Kana);
-    put(u"Y", line_, Format(DebitAmount(debit.tGaku, debit.DiscGaku), QStringLiteral("##,###,##0")));
-    put(u"AG", line_,
-        Format(debit.Stn, QStringLiteral("00000")) + u'-' + Format(debit.Koza, QStringLiteral("00000000")));
+    put(u"Y", line_, Format(DebitAmount(debit.tGaku, debit.DiscGaku), u"##,###,##0"_s));
+    put(u"AG", line_, Format(debit.Stn, u"00000"_s) + u'-' + Format(debit.Koza, u"00000000"_s));
     pageTotal_ += debit.tGaku;
     total_ += debit.tGaku;
     ++line_;
 }
 
 void PostStatement::writePageTotal() const {
-    put(u"J", line_, QStringLiteral("この頁の小計件数金額   ") + NumStr(line_) + kCount);
+    put(u"J", line_, u"この頁の小計件数金額   "_s + NumStr(line_) + kCount);
     put(u"Y", line_, NumStr(pageTotal_) + kYen);
 }
 
@@ -114,14 +114,14 @@ void PostStatement::writePageTotal() const {
 void PostStatement::writeClosing() const {
     for (int line = line_; line <= line_ + kClosingLines; ++line) {
         const QString row = NumStr(kFirstRow + line);
-        ExcelMerge(QStringLiteral("A%1:AG%1").arg(row), QStringLiteral("0"));
-        ExcelMerge(QStringLiteral("A%1:I%1").arg(row), QStringLiteral("1"));
-        ExcelMerge(QStringLiteral("J%1:O%1").arg(row), QStringLiteral("1"));
+        ExcelMerge(u"A%1:AG%1"_s.arg(row), u"0"_s);
+        ExcelMerge(u"A%1:I%1"_s.arg(row), u"1"_s);
+        ExcelMerge(u"J%1:O%1"_s.arg(row), u"1"_s);
     }
-    put(u"A", line_, QStringLiteral("◎ 合計件数金額情報(ﾄﾚｰﾗﾚｺｰﾄﾞ)"));
-    put(u"A", line_ + 1, QStringLiteral("合計件数"));
+    put(u"A", line_, u"◎ 合計件数金額情報(ﾄﾚｰﾗﾚｺｰﾄﾞ)"_s);
+    put(u"A", line_ + 1, u"合計件数"_s);
     put(u"J", line_ + 1, NumStr(count_) + kCount);
-    put(u"A", line_ + 2, QStringLiteral("合計金額"));
+    put(u"A", line_ + 2, u"合計金額"_s);
     put(u"J", line_ + 2, NumStr(total_) + kYen);
 }
 
@@ -129,10 +129,10 @@ void PostStatement::writeClosing() const {
 
 void PrintPostStatement(int nendo, int getudo, const QString& creation, Date opened) {
     TrapPrinting([&] {
-        const PrintRun run(QStringLiteral("郵便局口座振替明細表"));
+        const PrintRun run(u"郵便局口座振替明細表"_s);
         Recordset set = gDb->OpenRecordset(DebitQuery(kPostOffice, nendo, getudo));
         if (set.Eof()) {
-            ShowAlert(QStringLiteral("該当データが有りません。"));
+            ShowAlert(u"該当データが有りません。"_s);
             return;
         }
         Consignor consignor;
@@ -140,8 +140,7 @@ void PrintPostStatement(int nendo, int getudo, const QString& creation, Date ope
         const Consignor onDisk = FitPostConsignor(consignor);
         consignor.ItakuCode = onDisk.ItakuCode;
         consignor.Itakusya = onDisk.Itakusya;
-        const QString date =
-            QStringLiteral("%1年%2月%3日").arg(Year(opened)).arg(Month(opened)).arg(Day(opened));
+        const QString date = u"%1年%2月%3日"_s.arg(Year(opened)).arg(Month(opened)).arg(Day(opened));
         PostStatement({date, creation, consignor}).run(std::move(set));
     });
 }

@@ -5,6 +5,7 @@
 #include "output/EX.h"
 #include "output/PrintRun.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/Consignor.h"
 #include "values/NumStr.h"
@@ -13,10 +14,10 @@ namespace akarix {
 
 namespace {
 
-const QString kTemplate = QStringLiteral("口座振替合計表");
+const QString kTemplate = u"口座振替合計表"_s;
 
 /// Nothing where the printer's dialog is cancelled.
-void printSheet(const std::function<void()>& fill) {
+void PrintSheet(const std::function<void()>& fill) {
     try {
         const PrintRun run(kTemplate);
         ExcelOpen(kTemplate);
@@ -28,20 +29,19 @@ void printSheet(const std::function<void()>& fill) {
     }
 }
 
-void fillSheet(const QString& title, const Consignor& consignor, const DebitTotals& totals) {
-    ExcelCell(QStringLiteral("A2"), title);
-    ExcelCell(QStringLiteral("I5"), consignor.ItakuCode);
-    ExcelCell(QStringLiteral("I6"), consignor.Itakusya);
-    ExcelCell(QStringLiteral("I7"), NumStr(totals.count) + QStringLiteral("件"));
-    ExcelCell(QStringLiteral("I8"),
-              Format(totals.total, QStringLiteral("##,###,##0")) + QStringLiteral("円"));
+void FillSheet(const QString& title, const Consignor& consignor, const DebitTotals& totals) {
+    ExcelCell(u"A2"_s, title);
+    ExcelCell(u"I5"_s, consignor.ItakuCode);
+    ExcelCell(u"I6"_s, consignor.Itakusya);
+    ExcelCell(u"I7"_s, NumStr(totals.count) + u"件"_s);
+    ExcelCell(u"I8"_s, Format(totals.total, u"##,###,##0"_s) + u"円"_s);
 }
 
 }  // namespace
 
 void PrintBankTotalSheet(const Consignor& consignor, const DebitTotals& totals) {
-    printSheet([&] {
-        fillSheet(QStringLiteral("自払ＦＤ合計表"), consignor, totals);
+    PrintSheet([&] {
+        FillSheet(u"自払ＦＤ合計表"_s, consignor, totals);
         // A bank tries only once: what the sheet says of a second date goes.
         for (const char16_t* address : {u"C9", u"H9", u"I9"})
             ExcelCell(QString::fromUtf16(address), {});
@@ -49,9 +49,9 @@ void PrintBankTotalSheet(const Consignor& consignor, const DebitTotals& totals) 
 }
 
 void PrintPostTotalSheet(const Consignor& consignor, const DebitTotals& totals, const QString& again) {
-    printSheet([&] {
-        fillSheet(QStringLiteral("ゆうちょ銀行ＦＤ合計表"), consignor, totals);
-        ExcelCell(QStringLiteral("I9"), again);
+    PrintSheet([&] {
+        FillSheet(u"ゆうちょ銀行ＦＤ合計表"_s, consignor, totals);
+        ExcelCell(u"I9"_s, again);
     });
 }
 

@@ -1,6 +1,7 @@
 #include "debit/TrapDebit.h"
 
 #include "dialogs/ShowAlert.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "values/NumStr.h"
 
@@ -8,16 +9,16 @@ namespace akarix {
 
 namespace {
 
-QString wordsFor(const RuntimeError& error) {
+QString WordsFor(const RuntimeError& error) {
     constexpr int kDiskFull = 61;
     constexpr int kDiskNotReady = 71;
     switch (error.number()) {
         case kDiskFull:
-            return QStringLiteral("フロッピーがいっぱいです。");
+            return u"フロッピーがいっぱいです。"_s;
         case kDiskNotReady:
-            return QStringLiteral("フロッピーが入っていません。");
+            return u"フロッピーが入っていません。"_s;
         default:
-            return QStringLiteral("エラー") + NumStr(error.number()) + u'\r' + error.description();
+            return u"エラー"_s + NumStr(error.number()) + u'\r' + error.description();
     }
 }
 
@@ -27,7 +28,7 @@ void TrapDebit(const std::function<void()>& action) {
     try {
         action();
     } catch (const RuntimeError& error) {
-        ShowAlert(wordsFor(error));
+        ShowAlert(WordsFor(error));
     }
 }
 

@@ -4,14 +4,15 @@
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Label.h"
 #include "platform/forms/LineEnds.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
 Alert_frm::Alert_frm()
-    : Form(QStringLiteral("Alert_frm"), QStringLiteral("Nagomi Systems")),
-      Message(&Named(new Label, QStringLiteral("Message"))),
-      Btn(&Named(new CommandButton(QStringLiteral("OK")), QStringLiteral("Btn"))) {
-    LayOutDialog(*this, Icon::Notice, QStringLiteral("Image1"), *Message, Btn);
+    : Form(u"Alert_frm"_s, u"Nagomi Systems"_s),
+      Message(&Named(new Label, u"Message"_s)),
+      Btn(&Named(new CommandButton(u"OK"_s), u"Btn"_s)) {
+    LayOutDialog(*this, Icon::Notice, u"Image1"_s, *Message, Btn);
     SetTabIndex(Btn, 0);
     on(Btn, &CommandButton::Click, [this] { Unload(); });
 }

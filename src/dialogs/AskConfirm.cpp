@@ -6,7 +6,7 @@ namespace akarix {
 namespace {
 
 template <class F>
-bool ask(const QString& question, const QString& first, const QString& second) {
+bool Ask(const QString& question, const QString& first, const QString& second) {
     auto& form = Form::Instance<F>();
     form.Prepare(question, first, second);
     form.ShowModal();
@@ -18,11 +18,11 @@ bool ask(const QString& question, const QString& first, const QString& second) {
 }  // namespace
 
 bool AskConfirm(const QString& question, const QString& first, const QString& second) {
-    return ask<Confirm_frm>(question, first, second);
+    return Ask<Confirm_frm>(question, first, second);
 }
 
 bool AskConfirmRev(const QString& question, const QString& first, const QString& second) {
-    return ask<gyakuConfirm_frm>(question, first, second);
+    return Ask<gyakuConfirm_frm>(question, first, second);
 }
 
 }  // namespace akarix

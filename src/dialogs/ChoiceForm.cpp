@@ -4,14 +4,15 @@
 
 #include "dialogs/DialogLayout.h"
 #include "platform/forms/CommandButton.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
 ChoiceForm::ChoiceForm(const QString& name, const QString& caption, int safeIndex)
     : Form(name, caption),
       safeIndex_(safeIndex),
-      Frame1(&Named(new Frame, QStringLiteral("Frame1"))),
-      Btn(&Named(new CommandButton(QStringLiteral("OK")), QStringLiteral("Btn"))) {
+      Frame1(&Named(new Frame, u"Frame1"_s)),
+      Btn(&Named(new CommandButton(u"OK"_s), u"Btn"_s)) {
     auto* choices = new QVBoxLayout(Frame1);
     choices->setContentsMargins(16, 12, 16, 12);
     choices->setSpacing(10);
@@ -21,7 +22,7 @@ ChoiceForm::ChoiceForm(const QString& name, const QString& caption, int safeInde
         choices->addWidget(&option);
     }
     SetTabIndex(Btn, 2);
-    LayOutDialog(*this, Icon::Question, QStringLiteral("Image1"), *Frame1, Btn);
+    LayOutDialog(*this, Icon::Question, u"Image1"_s, *Frame1, Btn);
     on(Btn, &CommandButton::Click, [this] { Hide(); });
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/forms/Choice.h"
 #include "platform/forms/Form.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -24,7 +25,7 @@ class ChoiceForm : public Form {
  private:
     int safeIndex_;
     Frame* Frame1;
-    ControlArray<OptionButton> OptBtn{QStringLiteral("OptBtn")};
+    ControlArray<OptionButton> OptBtn{u"OptBtn"_s};
     CommandButton* Btn;
 };
 
@@ -33,7 +34,7 @@ class Confirm_frm : public ChoiceForm {
     Q_OBJECT
 
  public:
-    Confirm_frm() : ChoiceForm(QStringLiteral("Confirm_frm"), QStringLiteral("選択"), 1) {}
+    Confirm_frm() : ChoiceForm(u"Confirm_frm"_s, u"選択"_s, 1) {}
 };
 
 /// Closing the window refuses by the first answer.
@@ -41,7 +42,7 @@ class gyakuConfirm_frm : public ChoiceForm {
     Q_OBJECT
 
  public:
-    gyakuConfirm_frm() : ChoiceForm(QStringLiteral("gyakuConfirm_frm"), QStringLiteral("変更"), 0) {}
+    gyakuConfirm_frm() : ChoiceForm(u"gyakuConfirm_frm"_s, u"変更"_s, 0) {}
 };
 
 }  // namespace akarix

@@ -4,15 +4,16 @@
 #include "platform/forms/Label.h"
 #include "platform/forms/Style.h"
 #include "platform/forms/TextBox.h"
+#include "platform/runtime/Literals.h"
 
 #include <QVBoxLayout>
 
 namespace akarix {
 
 Request_frm::Request_frm()
-    : Form(QStringLiteral("Request_frm"), QStringLiteral("Nagomi Systems")),
-      Message(&Named(new Label, QStringLiteral("Message"))),
-      ebox(&Named(new TextBox, QStringLiteral("ebox"))) {
+    : Form(u"Request_frm"_s, u"Nagomi Systems"_s),
+      Message(&Named(new Label, u"Message"_s)),
+      ebox(&Named(new TextBox, u"ebox"_s)) {
     auto* words = new QWidget;
     auto* lines = new QVBoxLayout(words);
     lines->setContentsMargins(0, 0, 0, 0);
@@ -20,7 +21,7 @@ Request_frm::Request_frm()
     lines->addWidget(Message);
     lines->addWidget(ebox);
     ebox->setMinimumWidth(BoxWidth(40));
-    LayOutDialog(*this, Icon::Keyboard, QStringLiteral("Image"), *words, nullptr);
+    LayOutDialog(*this, Icon::Keyboard, u"Image"_s, *words, nullptr);
     SetTabIndex(ebox, 0);
     on(ebox, &TextBox::KeyDown, [this](KeyEvent& event) { ebox_KeyDown(event); });
 }

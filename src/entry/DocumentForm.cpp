@@ -1,5 +1,6 @@
 #include "entry/DocumentForm.h"
 
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "values/NumStr.h"
@@ -17,12 +18,12 @@ QString DocumentForm::proposedCode() {
 }
 
 void DocumentForm::showRow(Recordset& row) {
-    ebox(kCode).SetText(NumStr(longOf(row[QStringLiteral("Dno")])));
+    ebox(kCode).SetText(NumStr(LongOf(row[u"Dno"_s])));
     load();
 }
 
 void DocumentForm::showCustomer(int index) {
-    nameLabel(QStringLiteral("sNamae")).SetCaption(GetDealName(NumVal(ebox(index).Text())));
+    nameLabel(u"sNamae"_s).SetCaption(GetDealName(NumVal(ebox(index).Text())));
 }
 
 void DocumentForm::openDocument(std::int32_t dno) {

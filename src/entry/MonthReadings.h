@@ -3,7 +3,7 @@
 #include <QHash>
 #include <QStringList>
 
-#include "platform/jet/Recordset.h"
+#include "platform/dao/Recordset.h"
 
 namespace akarix {
 

@@ -1,5 +1,6 @@
 #include "entry/OpeningBalance.h"
 
+#include "platform/runtime/Literals.h"
 #include "store/CustomerMonth.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
@@ -7,25 +8,25 @@
 namespace akarix {
 
 void SetOpeningBalance(std::int32_t deal, int nendo, int getudo, Currency amount) {
-    Recordset row = gDb->OpenRecordset(QStringLiteral("SELECT * FROM TtoD  WHERE Deal   =") + NumStr(deal) +
-                                       QStringLiteral(" AND   Nendo =") + NumStr(nendo) +
-                                       QStringLiteral(" AND   Getudo=") + NumStr(getudo));
+    Recordset row =
+        gDb->OpenRecordset(u"SELECT * FROM TtoD  WHERE Deal   ="_s + NumStr(deal) + u" AND   Nendo ="_s +
+                           NumStr(nendo) + u" AND   Getudo="_s + NumStr(getudo));
     if (row.Eof()) {
         row.AddNew();
-        row.Fields(QStringLiteral("Deal")) = deal;
-        row.Fields(QStringLiteral("Nendo")) = nendo;
-        row.Fields(QStringLiteral("Getudo")) = getudo;
+        row.Fields(u"Deal"_s) = deal;
+        row.Fields(u"Nendo"_s) = nendo;
+        row.Fields(u"Getudo"_s) = getudo;
     } else {
         row.Edit();
     }
-    row.Fields(QStringLiteral("ZenkaiGaku")) = amount;
-    row.Fields(QStringLiteral("SyokiFlg")) = 1;
+    row.Fields(u"ZenkaiGaku"_s) = amount;
+    row.Fields(u"SyokiFlg"_s) = 1;
     row.Update();
     row.Close();
 }
 
 void RemoveOpeningBalance(std::int32_t deal, int nendo, int getudo) {
-    gDb->Execute(QStringLiteral("DELETE FROM TtoD ") + OfCustomerMonth(deal, nendo, getudo));
+    gDb->Execute(u"DELETE FROM TtoD "_s + OfCustomerMonth(deal, nendo, getudo));
 }
 
 }  // namespace akarix

@@ -9,6 +9,7 @@
 #include "platform/forms/GridHead.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
@@ -28,74 +29,73 @@ constexpr std::array<GridHead, 6> kHeads{{
     {u"合計金額", 1500},
 }};
 
-const QString kAmount = QStringLiteral("###,##0");
+const QString kAmount = u"###,##0"_s;
 
-QString amountText(Currency amount) {
+QString AmountText(Currency amount) {
     return Format(amount, kAmount);
 }
 
-int addRow(FlexGrid& list) {
+int AddRow(FlexGrid& list) {
     const int row = list.Rows();
     list.SetRows(row + 1);
     return row;
 }
 
-void addCarriedIn(FlexGrid& list, Currency total) {
-    const int row = addRow(list);
-    list.SetTextMatrix(row, kMonth, QStringLiteral("繰越"));
-    list.SetTextMatrix(row, kTotal, Format(total, QStringLiteral("#,##0")));
+void AddCarriedIn(FlexGrid& list, Currency total) {
+    const int row = AddRow(list);
+    list.SetTextMatrix(row, kMonth, u"繰越"_s);
+    list.SetTextMatrix(row, kTotal, Format(total, u"#,##0"_s));
 }
 
-Currency balanceAt(std::int32_t deal, int nendo, int getudo) {
+Currency BalanceAt(std::int32_t deal, int nendo, int getudo) {
     Currency balance;
     int setByHand = 0;
     ReadLedgerHead(deal, nendo, getudo, balance, setByHand);
     return balance;
 }
 
-QString fromMonth(int nendo, int getudo) {
-    return QStringLiteral(" AND    Nendo*100+Getudo>=") + NumStr(nendo * 100 + getudo);
+QString FromMonth(int nendo, int getudo) {
+    return u" AND    Nendo*100+Getudo>="_s + NumStr(nendo * 100 + getudo);
 }
 
 // ---- the merge of ledger months and payment lines
 
-void gatherMonths(std::int32_t deal, int nendo, int getudo) {
-    gDb->Execute(QStringLiteral("INSERT  INTO TempTtoD(Nendo,Getudo,Eda,GGaku,UGaku)  SELECT "
-                                "Nendo,Getudo,1,GGaku,UGaku  FROM   TtoD  WHERE  Deal=") +
-                 NumStr(deal) + fromMonth(nendo, getudo));
+void GatherMonths(std::int32_t deal, int nendo, int getudo) {
+    gDb->Execute(
+        u"INSERT  INTO TempTtoD(Nendo,Getudo,Eda,GGaku,UGaku)  SELECT "
+        "Nendo,Getudo,1,GGaku,UGaku  FROM   TtoD  WHERE  Deal="_s +
+        NumStr(deal) + FromMonth(nendo, getudo));
 }
 
-void gatherPayment(const Recordset& payment, Date hizuke, std::int16_t eda) {
-    const std::int32_t dno = longOf(payment[QStringLiteral("Dno")]);
-    Recordset row = gDb->OpenRecordset(QStringLiteral("SELECT * FROM TempTtoD  WHERE Nendo =") +
-                                       NumStr(Year(hizuke)) + QStringLiteral(" AND   Getudo=") +
-                                       NumStr(Month(hizuke)) + QStringLiteral(" AND   Hi=") +
-                                       NumStr(Day(hizuke)) + QStringLiteral(" AND   Eda   =") + NumStr(eda) +
-                                       QStringLiteral(" AND   Dno   =") + NumStr(dno));
+void GatherPayment(const Recordset& payment, Date hizuke, std::int16_t eda) {
+    const std::int32_t dno = LongOf(payment[u"Dno"_s]);
+    Recordset row = gDb->OpenRecordset(u"SELECT * FROM TempTtoD  WHERE Nendo ="_s + NumStr(Year(hizuke)) +
+                                       u" AND   Getudo="_s + NumStr(Month(hizuke)) + u" AND   Hi="_s +
+                                       NumStr(Day(hizuke)) + u" AND   Eda   ="_s + NumStr(eda) +
+                                       u" AND   Dno   ="_s + NumStr(dno));
     if (row.Eof()) {
         row.AddNew();
-        row.Fields(QStringLiteral("Dno")) = dno;
-        row.Fields(QStringLiteral("Nendo")) = Year(hizuke);
-        row.Fields(QStringLiteral("Getudo")) = Month(hizuke);
-        row.Fields(QStringLiteral("Hi")) = Day(hizuke);
-        row.Fields(QStringLiteral("Eda")) = eda;
+        row.Fields(u"Dno"_s) = dno;
+        row.Fields(u"Nendo"_s) = Year(hizuke);
+        row.Fields(u"Getudo"_s) = Month(hizuke);
+        row.Fields(u"Hi"_s) = Day(hizuke);
+        row.Fields(u"Eda"_s) = eda;
     } else {
         row.Edit();
     }
-    row.Fields(QStringLiteral("NGaku")) = moneyOf(payment[QStringLiteral("Gaku")]);
+    row.Fields(u"NGaku"_s) = MoneyOf(payment[u"Gaku"_s]);
     row.Update();
     row.Close();
 }
 
-void gatherPayments(std::int32_t deal, int nendo, int getudo) {
-    Recordset payments =
-        gDb->OpenRecordset(QStringLiteral("SELECT * FROM Dny  WHERE Deal=") + NumStr(deal) +
-                           QStringLiteral(" AND   Nendo*100+Getudo>=") + NumStr(nendo * 100 + getudo) +
-                           QStringLiteral(" ORDER BY Nendo,Getudo"));
+void GatherPayments(std::int32_t deal, int nendo, int getudo) {
+    Recordset payments = gDb->OpenRecordset(u"SELECT * FROM Dny  WHERE Deal="_s + NumStr(deal) +
+                                            u" AND   Nendo*100+Getudo>="_s + NumStr(nendo * 100 + getudo) +
+                                            u" ORDER BY Nendo,Getudo"_s);
     QHash<int, std::int16_t> linesOfMonth;
     for (; !payments.Eof(); payments.MoveNext()) {
-        const Date hizuke = dateOf(payments[QStringLiteral("Hizuke")]);
-        gatherPayment(payments, hizuke, ++linesOfMonth[Year(hizuke) * 100 + Month(hizuke)]);
+        const Date hizuke = DateOf(payments[u"Hizuke"_s]);
+        GatherPayment(payments, hizuke, ++linesOfMonth[Year(hizuke) * 100 + Month(hizuke)]);
     }
     payments.Close();
 }
@@ -104,11 +104,8 @@ void gatherPayments(std::int32_t deal, int nendo, int getudo) {
 
 LedgerMonth LatestLedgerMonth() {
     LedgerMonth month;
-    Recordset latest =
-        gDb->OpenRecordset(QStringLiteral("SELECT TOP 1 * FROM TtoD ORDER BY Nendo*100+Getudo DESC"));
-    if (!latest.Eof()) {
-        month = {integerOf(latest[QStringLiteral("Nendo")]), integerOf(latest[QStringLiteral("Getudo")])};
-    }
+    Recordset latest = gDb->OpenRecordset(u"SELECT TOP 1 * FROM TtoD ORDER BY Nendo*100+Getudo DESC"_s);
+    if (!latest.Eof()) month = {IntegerOf(latest[u"Nendo"_s]), IntegerOf(latest[u"Getudo"_s])};
     latest.Close();
     return month;
 }
@@ -118,54 +115,49 @@ void EmptyHistory(FlexGrid& list) {
 }
 
 void ShowLedgerHistory(FlexGrid& list, std::int32_t deal, int nendo, int getudo) {
-    Currency total = balanceAt(deal, nendo, getudo);
+    Currency total = BalanceAt(deal, nendo, getudo);
     EmptyHistory(list);
-    Recordset months = gDb->OpenRecordset(
-        QStringLiteral(" SELECT Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku  FROM   TtoD  WHERE  Deal=") +
-        NumStr(deal) + fromMonth(nendo, getudo));
-    if (!months.Eof()) addCarriedIn(list, total);
+    Recordset months =
+        gDb->OpenRecordset(u" SELECT Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku  FROM   TtoD  WHERE  Deal="_s +
+                           NumStr(deal) + FromMonth(nendo, getudo));
+    if (!months.Eof()) AddCarriedIn(list, total);
     for (; !months.Eof(); months.MoveNext()) {
         const auto money = [&months](const char16_t* column) {
-            return moneyOf(months[QString::fromUtf16(column)]);
+            return MoneyOf(months[QString::fromUtf16(column)]);
         };
         const Currency gas = money(u"GGaku");
         const Currency sales = money(u"UGaku");
         const Currency paid = money(u"NGaku");
         total += gas + sales - paid;
-        const int row = addRow(list);
-        list.SetTextMatrix(
-            row, kMonth,
-            NumStr(months[QStringLiteral("Nendo")]) + u'/' + NumStr(months[QStringLiteral("Getudo")]));
+        const int row = AddRow(list);
+        list.SetTextMatrix(row, kMonth, NumStr(months[u"Nendo"_s]) + u'/' + NumStr(months[u"Getudo"_s]));
         int column = kPrior;
-        for (const Currency amount : {money(u"ZenkaiGaku"), gas, sales, paid, total}) {
-            list.SetTextMatrix(row, column++, amountText(amount));
-        }
+        for (const Currency amount : {money(u"ZenkaiGaku"), gas, sales, paid, total})
+            list.SetTextMatrix(row, column++, AmountText(amount));
     }
     months.Close();
 }
 
 void ShowPaymentHistory(FlexGrid& list, std::int32_t deal, int nendo, int getudo) {
-    gDb->Execute(QStringLiteral("DELETE FROM TempTtoD"));
-    const Currency carriedIn = balanceAt(deal, nendo, getudo);
-    gatherMonths(deal, nendo, getudo);
-    gatherPayments(deal, nendo, getudo);
+    gDb->Execute(u"DELETE FROM TempTtoD"_s);
+    const Currency carriedIn = BalanceAt(deal, nendo, getudo);
+    GatherMonths(deal, nendo, getudo);
+    GatherPayments(deal, nendo, getudo);
 
     EmptyHistory(list);
-    addCarriedIn(list, carriedIn);
-    Recordset lines = gDb->OpenRecordset(QStringLiteral("SELECT * FROM TempTtoD ORDER BY Nendo,Getudo,Eda"));
+    AddCarriedIn(list, carriedIn);
+    Recordset lines = gDb->OpenRecordset(u"SELECT * FROM TempTtoD ORDER BY Nendo,Getudo,Eda"_s);
     QString yearAbove;
     for (; !lines.Eof(); lines.MoveNext()) {
-        const int row = addRow(list);
-        const QString year = NumStr(lines[QStringLiteral("Nendo")]);
+        const int row = AddRow(list);
+        const QString year = NumStr(lines[u"Nendo"_s]);
         if (year != yearAbove) {
             list.SetTextMatrix(row, 0, year);
-            list.SetTextMatrix(row, 1, NumStr(lines[QStringLiteral("Getudo")]));
+            list.SetTextMatrix(row, 1, NumStr(lines[u"Getudo"_s]));
             yearAbove = year;
         }
-        list.SetTextMatrix(
-            row, 4,
-            amountText(moneyOf(lines[QStringLiteral("GGaku")]) + moneyOf(lines[QStringLiteral("UGaku")])));
-        list.SetTextMatrix(row, 5, amountText(moneyOf(lines[QStringLiteral("NGaku")])));
+        list.SetTextMatrix(row, 4, AmountText(MoneyOf(lines[u"GGaku"_s]) + MoneyOf(lines[u"UGaku"_s])));
+        list.SetTextMatrix(row, 5, AmountText(MoneyOf(lines[u"NGaku"_s])));
     }
     lines.Close();
 }

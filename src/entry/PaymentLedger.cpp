@@ -2,6 +2,7 @@
 
 #include "billing/Tto.h"
 #include "platform/runtime/CInt.h"
+#include "platform/runtime/Literals.h"
 #include "store/CustomerMonth.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
@@ -19,69 +20,65 @@ struct BillingMonth {
     int Getudo = 0;
 };
 
-BillingMonth monthOf(std::int32_t deal, Date hizuke) {
+BillingMonth MonthOf(std::int32_t deal, Date hizuke) {
     BillingMonth month;
     DateToGetudo(deal, hizuke, month.Nendo, month.Getudo);
     return month;
 }
 
-Currency paidIn(std::int32_t deal, BillingMonth month) {
-    return moneyOf(FirstValue(QStringLiteral("SELECT SUM(Gaku) AS tNGaku FROM Dny ") +
-                                  OfCustomerMonth(deal, month.Nendo, month.Getudo),
-                              QStringLiteral("tNGaku")));
+Currency PaidIn(std::int32_t deal, BillingMonth month) {
+    return MoneyOf(FirstValue(
+        u"SELECT SUM(Gaku) AS tNGaku FROM Dny "_s + OfCustomerMonth(deal, month.Nendo, month.Getudo),
+        u"tNGaku"_s));
 }
 
-void writeLines(const PaymentSlip& slip, BillingMonth month) {
-    const QString ofSlip = QStringLiteral(" FROM Dny WHERE Dno=") + NumStr(slip.Dno) +
-                           QStringLiteral(" AND Deal=") + NumStr(slip.Deal);
-    gDb->Execute(QStringLiteral("DELETE *") + ofSlip);
-    Recordset rows =
-        gDb->OpenRecordset(QStringLiteral("SELECT *") + ofSlip + QStringLiteral(" ORDER BY Eda"));
+void WriteLines(const PaymentSlip& slip, BillingMonth month) {
+    const QString ofSlip = u" FROM Dny WHERE Dno="_s + NumStr(slip.Dno) + u" AND Deal="_s + NumStr(slip.Deal);
+    gDb->Execute(u"DELETE *"_s + ofSlip);
+    Recordset rows = gDb->OpenRecordset(u"SELECT *"_s + ofSlip + u" ORDER BY Eda"_s);
     std::int16_t eda = 0;
     for (const PaymentLine& line : slip.lines) {
         ++eda;
         if (line.Gaku.IsZero()) continue;
-        rows.FindFirst(QStringLiteral("Eda=") + NumStr(eda));
-        if (rows.NoMatch()) {
+        rows.FindFirst(u"Eda="_s + NumStr(eda));
+        if (rows.NoMatch())
             rows.AddNew();
-        } else {
+        else
             rows.Edit();
-        }
-        rows.Fields(QStringLiteral("Deal")) = slip.Deal;
-        rows.Fields(QStringLiteral("Nendo")) = month.Nendo;
-        rows.Fields(QStringLiteral("Dno")) = slip.Dno;
-        rows.Fields(QStringLiteral("Eda")) = eda;
-        rows.Fields(QStringLiteral("Getudo")) = month.Getudo;
-        rows.Fields(QStringLiteral("Hizuke")) = slip.Hizuke;
-        rows.Fields(QStringLiteral("Gaku")) = line.Gaku;
-        Field& naiyo = rows.Fields(QStringLiteral("Naiyo"));
+        rows.Fields(u"Deal"_s) = slip.Deal;
+        rows.Fields(u"Nendo"_s) = month.Nendo;
+        rows.Fields(u"Dno"_s) = slip.Dno;
+        rows.Fields(u"Eda"_s) = eda;
+        rows.Fields(u"Getudo"_s) = month.Getudo;
+        rows.Fields(u"Hizuke"_s) = slip.Hizuke;
+        rows.Fields(u"Gaku"_s) = line.Gaku;
+        Field& naiyo = rows.Fields(u"Naiyo"_s);
         Variant text;
         TextToField(text, naiyo, line.Naiyo);
         naiyo = text;
-        rows.Fields(QStringLiteral("Kubun")) = line.Kubun;
+        rows.Fields(u"Kubun"_s) = line.Kubun;
         rows.Update();
     }
     rows.Close();
 }
 
-void writeLedger(std::int32_t deal, BillingMonth month) {
-    const Currency paid = paidIn(deal, month);
-    const Currency prior = moneyOf(PriorBalance(deal, month.Nendo, month.Getudo));
-    Recordset row = gDb->OpenRecordset(QStringLiteral("SELECT * FROM TtoD ") +
-                                       OfCustomerMonth(deal, month.Nendo, month.Getudo));
+void WriteLedger(std::int32_t deal, BillingMonth month) {
+    const Currency paid = PaidIn(deal, month);
+    const Currency prior = MoneyOf(PriorBalance(deal, month.Nendo, month.Getudo));
+    Recordset row =
+        gDb->OpenRecordset(u"SELECT * FROM TtoD "_s + OfCustomerMonth(deal, month.Nendo, month.Getudo));
     if (row.Eof()) {
         row.AddNew();
-        row.Fields(QStringLiteral("Deal")) = deal;
-        row.Fields(QStringLiteral("Nendo")) = month.Nendo;
-        row.Fields(QStringLiteral("Getudo")) = month.Getudo;
-        row.Fields(QStringLiteral("ZenkaiGaku")) = prior;
-        for (const char16_t* none : {u"GGaku", u"UGaku", u"Gaku"}) {
+        row.Fields(u"Deal"_s) = deal;
+        row.Fields(u"Nendo"_s) = month.Nendo;
+        row.Fields(u"Getudo"_s) = month.Getudo;
+        row.Fields(u"ZenkaiGaku"_s) = prior;
+        for (const char16_t* none : {u"GGaku", u"UGaku", u"Gaku"})
             row.Fields(QString::fromUtf16(none)) = Currency();
-        }
     } else {
         row.Edit();
     }
-    row.Fields(QStringLiteral("NGaku")) = paid;
+    row.Fields(u"NGaku"_s) = paid;
     row.Update();
     row.Close();
 }
@@ -89,31 +86,29 @@ void writeLedger(std::int32_t deal, BillingMonth month) {
 }  // namespace
 
 LedgerMonth SavePayment(const PaymentSlip& slip) {
-    const BillingMonth month = monthOf(slip.Deal, slip.Hizuke);
-    writeLines(slip, month);
-    writeLedger(slip.Deal, month);
+    const BillingMonth month = MonthOf(slip.Deal, slip.Hizuke);
+    WriteLines(slip, month);
+    WriteLedger(slip.Deal, month);
     return {CInt(month.Nendo), CInt(month.Getudo)};
 }
 
 void DeletePayment(std::int32_t dno, std::int32_t deal, Date hizuke) {
-    const BillingMonth month = monthOf(deal, hizuke);
-    gDb->Execute(QStringLiteral("DELETE FROM Dny WHERE Dno=") + NumStr(dno));
-    gDb->Execute(QStringLiteral("UPDATE TtoD SET NGaku=") + NumStr(paidIn(deal, month)) +
+    const BillingMonth month = MonthOf(deal, hizuke);
+    gDb->Execute(u"DELETE FROM Dny WHERE Dno="_s + NumStr(dno));
+    gDb->Execute(u"UPDATE TtoD SET NGaku="_s + NumStr(PaidIn(deal, month)) +
                  OfCustomerMonth(deal, month.Nendo, month.Getudo));
 }
 
 PaymentSlip LoadPayment(std::int32_t dno) {
     PaymentSlip slip;
-    Recordset rows = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Dny WHERE Dno=") + NumStr(dno) +
-                                        QStringLiteral(" ORDER BY Eda"));
+    Recordset rows = gDb->OpenRecordset(u"SELECT * FROM Dny WHERE Dno="_s + NumStr(dno) + u" ORDER BY Eda"_s);
     if (rows.Eof()) return slip;
     slip.Dno = dno;
-    slip.Deal = longOf(rows[QStringLiteral("Deal")]);
-    slip.Hizuke = dateOf(rows[QStringLiteral("Hizuke")]);
+    slip.Deal = LongOf(rows[u"Deal"_s]);
+    slip.Hizuke = DateOf(rows[u"Hizuke"_s]);
     for (PaymentLine& line : slip.lines) {
         if (rows.Eof()) break;
-        line = {integerOf(rows[QStringLiteral("Kubun")]), moneyOf(rows[QStringLiteral("Gaku")]),
-                NullToEmpty(rows[QStringLiteral("Naiyo")])};
+        line = {IntegerOf(rows[u"Kubun"_s]), MoneyOf(rows[u"Gaku"_s]), NullToEmpty(rows[u"Naiyo"_s])};
         rows.MoveNext();
     }
     rows.Close();

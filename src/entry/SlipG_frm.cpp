@@ -19,6 +19,7 @@
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/IsDate.h"
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "toolkit/CellBox.h"
@@ -71,7 +72,7 @@ constexpr std::array<ColumnPlan, kColumns> kPlan{{
 
 constexpr int kEarliestYear = 2000;
 
-QString slashed(const QString& year, const QString& month, const QString& day) {
+QString Slashed(const QString& year, const QString& month, const QString& day) {
     return year + u'/' + month + u'/' + day;
 }
 
@@ -82,7 +83,7 @@ class FigureColumn {
     FigureColumn(const Field& source, const QString& mask) : source_(&source), mask_(mask) {}
 
     const QString& text() {
-        const Currency value = moneyOf(source_->Value());
+        const Currency value = MoneyOf(source_->Value());
         if (!known_ || value != value_) {
             text_ = Format(value, mask_);
             value_ = value;
@@ -101,24 +102,31 @@ class FigureColumn {
 
 }  // namespace
 
-SlipG_frm::SlipG_frm() : EntryForm(QStringLiteral("SlipG_frm"), QStringLiteral("検針入力")) {
+SlipG_frm::SlipG_frm() : EntryForm(u"SlipG_frm"_s, u"検針入力"_s) {
     layOut();
-    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
+    const PressEnter press = wireKeys(
+        ebox, [this](int index) { return enter(index); });
     on(&ebox(kRoute), &TextBox::LostFocus, [this] { takeRouteDay(); });
     // A picked route goes the way of the day box: the walk then comes to the route and reads it there.
-    wireLookup(F6(0), QStringLiteral("Rte"), QStringLiteral("ALL"), ebox(kRoute), press, kDay);
-    wireLookup(F6(1), QStringLiteral("Deal"), {}, ebox(kCustomer), press, kCustomer);
-    on(Command1_, &CommandButton::Click, [this] { showMonth(); });
-    on(&Btn(kClear), &CommandButton::Click, [this] { clear(); });
-    on(&Btn(kDelete), &CommandButton::Click, [this] { askAndDelete(); });
-    on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
+    wireLookup(F6(0), u"Rte"_s, u"ALL"_s, ebox(kRoute), press, kDay);
+    wireLookup(F6(1), u"Deal"_s, {}, ebox(kCustomer), press, kCustomer);
+    on(
+        Command1_, &CommandButton::Click, [this] { showMonth(); });
+    on(
+        &Btn(kClear), &CommandButton::Click, [this] { clear(); });
+    on(
+        &Btn(kDelete), &CommandButton::Click, [this] { askAndDelete(); });
+    on(
+        &Btn(kSave), &CommandButton::Click, [this] { save(); });
     on(&Btn(kExport), &CommandButton::Click, [this] { exportGrid(); });
-    on(List_, &FlexGrid::KeyDown, [this](KeyEvent& event) {
-        if (event.KeyCode != key::Tab) return;
-        event.KeyCode = 0;
-        if (event.Shift == 0) return SetFocus(Command1_);
-        FocusSelect(ebox(kCustomer));
-    });
+    on(
+        List_, &FlexGrid::KeyDown,
+        [this](KeyEvent& event) {
+            if (event.KeyCode != key::Tab) return;
+            event.KeyCode = 0;
+            if (event.Shift == 0) return SetFocus(Command1_);
+            FocusSelect(ebox(kCustomer));
+        });
     WireCellBox(
         *this, *List_, *tBox_, [this] { openEditor(); }, [this](KeyEvent& event) { cellKey(event); });
 }
@@ -132,34 +140,33 @@ SlipG_frm::~SlipG_frm() {
 void SlipG_frm::layOut() {
     constexpr int kNameBytes = 30;
     FieldLayout fields(*this);
-    fields.row(QStringLiteral("検針日"))
+    fields.row(u"検針日"_s)
         .text(addBox(ebox, kYear, ImeMode::Off), 4)
-        .note(QStringLiteral("年"))
+        .note(u"年"_s)
         .text(addBox(ebox, kMonth, ImeMode::Off), 2)
-        .note(QStringLiteral("月分"))
+        .note(u"月分"_s)
         .text(addBox(ebox, kDay, ImeMode::Off), kIntegerBytes)
-        .note(QStringLiteral("日"));
-    sRte_ = &Named(new Label({}, this), QStringLiteral("sRte"));
-    fields.row(QStringLiteral("地区"))
+        .note(u"日"_s);
+    sRte_ = &Named(new Label({}, this), u"sRte"_s);
+    fields.row(u"地区"_s)
         .text(addBox(ebox, kRoute, ImeMode::Off), kIntegerBytes, kLongKeyBytes)
         .lookup(F6.add(0, new Image))
         .name(*sRte_, kNameBytes);
-    Command1_ = &Named(new CommandButton(QStringLiteral("表示")), QStringLiteral("Command1"));
-    fields.row(QStringLiteral("コード"))
+    Command1_ = &Named(new CommandButton(u"表示"_s), u"Command1"_s);
+    fields.row(u"コード"_s)
         .text(addBox(ebox, kCustomer, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(1, new Image))
         .button(*Command1_);
 
-    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    List_ = &Named(new FlexGrid(this), u"List"_s);
     List_->SetFixedRows(1);
     int width = 0;
-    for (const ColumnPlan& column : kPlan) {
+    for (const ColumnPlan& column : kPlan)
         width += Twips(column.width);
-    }
     constexpr int kScrollBar = 24;
     constexpr int kGridHeight = 460;
     List_->SetRoom({width + kScrollBar, kGridHeight});
-    tBox_ = &Named(new TextBox(this), QStringLiteral("tBox"));
+    tBox_ = &Named(new TextBox(this), u"tBox"_s);
     tBox_->setAlignment(Qt::AlignRight);  // all that is typed into the grid are numbers
     tBox_->hide();
 
@@ -174,20 +181,20 @@ void SlipG_frm::layOut() {
         JoinWalk(*this, added);
         bar->addWidget(&added);
     };
-    button(kSave, QStringLiteral("保存"));
-    button(kExport, QStringLiteral("Excel"));
-    button(kClear, QStringLiteral("画面クリア"));
-    button(kDelete, QStringLiteral("削除"));
+    button(kSave, u"保存"_s);
+    button(kExport, u"Excel"_s);
+    button(kClear, u"画面クリア"_s);
+    button(kDelete, u"削除"_s);
     body->addLayout(bar);
 }
 
 void SlipG_frm::defineColumns() {
     gGridForm = this;
     gGrid = List_;
-    GridInit(QStringLiteral("List"));
+    GridInit(u"List"_s);
     for (const ColumnPlan& plan : kPlan) {
         GridAddCol({QString::fromUtf16(plan.title), QString::fromUtf16(plan.mask), plan.width,
-                    QString::fromUtf16(plan.align), plan.editable, QStringLiteral("T"),
+                    QString::fromUtf16(plan.align), plan.editable, u"T"_s,
                     static_cast<std::int16_t>(ImeMode::Off)});
     }
     GridApply();
@@ -197,8 +204,7 @@ void SlipG_frm::init() {
     if (!mayDropReadings()) return;
     List_->SetRows(1);
     defineColumns();
-    defaultDay_ =
-        CInt(KeepNumeric(GetContents(QStringLiteral("SELECT Contents FROM zSysFunc WHERE Code=3"))));
+    defaultDay_ = CInt(KeepNumeric(GetContents(u"SELECT Contents FROM zSysFunc WHERE Code=3"_s)));
     clear();
 }
 
@@ -222,10 +228,8 @@ void SlipG_frm::QueryUnload(bool& cancel) {
 
 /// False when the clerk wants to keep what stands on the sheet.
 bool SlipG_frm::mayDropReadings() {
-    if (unsaved_ && AskConfirmRev(QStringLiteral("保存していない検針値を捨てますか？"),
-                                  QStringLiteral("いいえ"), QStringLiteral("捨てる"))) {
+    if (unsaved_ && AskConfirmRev(u"保存していない検針値を捨てますか？"_s, u"いいえ"_s, u"捨てる"_s))
         return false;
-    }
     unsaved_ = false;
     return true;
 }
@@ -257,7 +261,7 @@ bool SlipG_frm::enter(int index) {
             // The month, not the day, is held against 31: a day past the month's end is the save's to tell.
             return NumVal(ebox(kDay).Text()) >= 1 && month() <= 31;
         case kRoute:
-            sRte_->SetCaption(GetName(QStringLiteral("Rte"), NumVal(ebox(kRoute).Text())));
+            sRte_->SetCaption(GetName(u"Rte"_s, NumVal(ebox(kRoute).Text())));
             return true;
         case kCustomer:
             SetFocus(Command1_);
@@ -317,20 +321,19 @@ void SlipG_frm::fill(Recordset& rows, const QHash<std::int32_t, QString>& names)
                              gCols[column].Fmt);
     }
     for (int row = 1; row <= count; ++row, rows.MoveNext()) {
-        const std::int32_t deal = longOf(rows[QStringLiteral("Deal")]);
+        const std::int32_t deal = LongOf(rows[u"Deal"_s]);
         List_->SetTextMatrix(row, kColDeal, NumStr(deal));
-        List_->SetTextMatrix(row, kColNamae, names.value(deal, QStringLiteral(" ")));
+        List_->SetTextMatrix(row, kColNamae, names.value(deal, u" "_s));
         int column = kColZenkaiMeter;
-        for (FigureColumn& figure : figures) {
+        for (FigureColumn& figure : figures)
             List_->SetTextMatrix(row, column++, figure.text());
-        }
     }
 }
 
 void SlipG_frm::save() {
     const QString day = ebox(kDay).Text();
-    if (!IsDate(slashed(ebox(kYear).Text(), ebox(kMonth).Text(), day))) {
-        ShowAlert(QStringLiteral("検針日を正しく入れて下さい。"));
+    if (!IsDate(Slashed(ebox(kYear).Text(), ebox(kMonth).Text(), day))) {
+        ShowAlert(u"検針日を正しく入れて下さい。"_s);
         return;
     }
     const MonthReadings readings = month();
@@ -340,9 +343,8 @@ void SlipG_frm::save() {
         const auto number = [this, row](int column) { return KeepNumeric(List_->TextMatrix(row, column)); };
         if (NumVal(number(kColDeal)) == 0) continue;
         QStringList rest;
-        for (int column = kColKoukanMeter; column <= kColGaku; ++column) {
+        for (int column = kColKoukanMeter; column <= kColGaku; ++column)
             rest += number(column);
-        }
         // One day for all: what a row's own day column shows is not kept.
         rest += KeepNumeric(day);
         readings.add(number(kColDeal), number(kColZenkaiMeter), rest);
@@ -352,19 +354,15 @@ void SlipG_frm::save() {
 }
 
 void SlipG_frm::askAndDelete() {
-    if (AskConfirmRev(QStringLiteral("この月度の検針を削除します。"), QStringLiteral("いいえ"),
-                      QStringLiteral("削除"))) {
-        return;
-    }
+    if (AskConfirmRev(u"この月度の検針を削除します。"_s, u"いいえ"_s, u"削除"_s)) return;
     month().clearRoute(KeepNumeric(ebox(kRoute).Text()));
     clear();
 }
 
 void SlipG_frm::exportGrid() {
     if (List_->Rows() <= 1) return;
-    GridToExcel(QStringLiteral("検針入力一覧"),
-                QStringLiteral("ルート : ") + ebox(kRoute).Text() + QStringLiteral(" : ") + sRte_->Caption(),
-                slashed(ebox(kYear).Text(), ebox(kMonth).Text(), ebox(kDay).Text()), *List_);
+    GridToExcel(u"検針入力一覧"_s, u"ルート : "_s + ebox(kRoute).Text() + u" : "_s + sRte_->Caption(),
+                Slashed(ebox(kYear).Text(), ebox(kMonth).Text(), ebox(kDay).Text()), *List_);
 }
 
 // ---- the cells
@@ -398,11 +396,10 @@ void SlipG_frm::confirmCell() {
         case kColKonkaiMeter:
             takeCell();
             calculateRow(row);
-            if (row + 1 < List_->Rows()) {
+            if (row + 1 < List_->Rows())
                 GridNextRow();
-            } else {
+            else
                 FocusSelect(ebox(kRoute));
-            }
             break;
         case kColHi:
             if (!isDayOfMonth(tBox_->Text())) break;
@@ -423,13 +420,13 @@ void SlipG_frm::calculateRow(int row) {
     const auto money = [this, row](int column) { return CCur(KeepNumeric(List_->TextMatrix(row, column))); };
     const Currency usage = CalcGasUsage(money(kColZenkaiMeter), money(kColKoukanMeter),
                                         money(kColKoukanGoMeter), money(kColKonkaiMeter));
-    List_->SetTextMatrix(row, kColSuu, Format(usage, QStringLiteral("#,##0.0")));
+    List_->SetTextMatrix(row, kColSuu, Format(usage, u"#,##0.0"_s));
     const std::int32_t deal = CLng(KeepNumeric(List_->TextMatrix(row, kColDeal)));
-    List_->SetTextMatrix(row, kColGaku, Format(CalcGasCharge(deal, usage), QStringLiteral("###,##0")));
+    List_->SetTextMatrix(row, kColGaku, Format(CalcGasCharge(deal, usage), u"###,##0"_s));
 }
 
 bool SlipG_frm::isDayOfMonth(const QString& day) const {
-    return IsDate(slashed(ebox(kYear).Text(), ebox(kMonth).Text(), NumStr(NumVal(day))));
+    return IsDate(Slashed(ebox(kYear).Text(), ebox(kMonth).Text(), NumStr(NumVal(day))));
 }
 
 }  // namespace akarix

@@ -5,6 +5,7 @@
 #include "entry/MonthReadings.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Label.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 #include "toolkit/GridEdit.h"
 
@@ -52,9 +53,9 @@ class SlipG_frm : public EntryForm, public GridForm {
     void calculateRow(int row);
     bool isDayOfMonth(const QString& day) const;
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
-    ControlArray<Image> F6{QStringLiteral("F6")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<CommandButton> Btn{u"Btn"_s};
+    ControlArray<Image> F6{u"F6"_s};
     CommandButton* Command1_ = nullptr;
     Label* sRte_ = nullptr;
     FlexGrid* List_ = nullptr;

@@ -14,6 +14,7 @@
 #include "platform/runtime/CLng.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
@@ -42,25 +43,25 @@ constexpr int kDateBytes = 10;
 constexpr int kYearBytes = 4;
 constexpr int kMonthBytes = 2;
 
-DocumentTexts texts() {
-    return {.highest = QStringLiteral("SELECT MAX(Dno) AS tDno FROM Dny"),
-            .left = QStringLiteral("SELECT * FROM Dny WHERE Dno<%1 ORDER BY Dno DESC,Hizuke DESC"),
-            .right = QStringLiteral("SELECT * FROM Dny WHERE Dno>%1 ORDER BY Dno ,Hizuke DESC")};
+DocumentTexts Texts() {
+    return {.highest = u"SELECT MAX(Dno) AS tDno FROM Dny"_s,
+            .left = u"SELECT * FROM Dny WHERE Dno<%1 ORDER BY Dno DESC,Hizuke DESC"_s,
+            .right = u"SELECT * FROM Dny WHERE Dno>%1 ORDER BY Dno ,Hizuke DESC"_s};
 }
 
-QString yen(Currency amount) {
-    return Format(amount, QStringLiteral("###,###,###"));
+QString Yen(Currency amount) {
+    return Format(amount, u"###,###,###"_s);
 }
 
 constexpr int kLastMonth = 12;
 
-bool isMonth(double value) {
+bool IsMonth(double value) {
     return value >= 1 && value <= kLastMonth;
 }
 
 }  // namespace
 
-SlipN2_frm::SlipN2_frm() : DocumentForm(QStringLiteral("SlipN2_frm"), QStringLiteral("入金入力"), texts()) {
+SlipN2_frm::SlipN2_frm() : DocumentForm(u"SlipN2_frm"_s, u"入金入力"_s, Texts()) {
     constexpr int kBetweenColumns = 24;
     auto* columns = new QHBoxLayout;
     columns->setSpacing(kBetweenColumns);
@@ -80,24 +81,21 @@ QVBoxLayout* SlipN2_frm::layOutSlip() {
     column->setSpacing(kBetweenGroups);
     layOutHead(*column);
     layOutLines(*column);
-    addBar({{kSave, QStringLiteral("入金保存")},
-            {kClear, QStringLiteral("画面クリア")},
-            {kDelete, QStringLiteral("削除")}},
-           column);
+    addBar({{kSave, u"入金保存"_s}, {kClear, u"画面クリア"_s}, {kDelete, u"削除"_s}}, column);
     return column;
 }
 
 void SlipN2_frm::layOutHead(QVBoxLayout& column) {
     constexpr int kNameBytes = 30;
     FieldLayout head(*this);
-    head.row(QStringLiteral("伝票番号"))
+    head.row(u"伝票番号"_s)
         .text(addBox(ebox, kNumber, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(kPickSlip, new Image));
-    head.row(QStringLiteral("得意先"))
+    head.row(u"得意先"_s)
         .text(addBox(ebox, kCustomer, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(kPickCustomer, new Image))
-        .name(addName(QStringLiteral("sNamae")), kNameBytes);
-    head.row(QStringLiteral("入金日")).text(addBox(ebox, kDate, ImeMode::Off), kDateBytes);
+        .name(addName(u"sNamae"_s), kNameBytes);
+    head.row(u"入金日"_s).text(addBox(ebox, kDate, ImeMode::Off), kDateBytes);
     column.addLayout(head.layout());
 }
 
@@ -105,9 +103,9 @@ void SlipN2_frm::layOutLines(QVBoxLayout& column) {
     constexpr int kClassShown = 12;
     constexpr int kTextBytes = 40;
     LineLayout lines(*this);
-    lines.head(QStringLiteral("区分"));
-    lines.head(QStringLiteral("金額"), Qt::AlignRight);
-    lines.head(QStringLiteral("内容"));
+    lines.head(u"区分"_s);
+    lines.head(u"金額"_s, Qt::AlignRight);
+    lines.head(u"内容"_s);
     for (int line = 0; line < PaymentSlip::kLines; ++line) {
         lines.cell(line, 0).combo(dKubun.add(line, new ComboBox), kClassShown);
         TextBox& amount = addBox(eGaku, line, ImeMode::Off);
@@ -115,11 +113,11 @@ void SlipN2_frm::layOutLines(QVBoxLayout& column) {
         lines.cell(line, 1).text(amount, kCurrencyBytes, kCurrencyShown);
         lines.cell(line, 2).text(addBox(eNaiyo, line, ImeMode::Hiragana), kTextBytes);
     }
-    Label& total = addName(QStringLiteral("sTotal"));
+    Label& total = addName(u"sTotal"_s);
     total.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     constexpr int kUnderFigures = 6;  // the amounts above stand that far from their frames
     total.setIndent(kUnderFigures);
-    auto* caption = new Label(QStringLiteral("合計"));
+    auto* caption = new Label(u"合計"_s);
     caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     lines.layout()->addWidget(caption, PaymentSlip::kLines + 1, 0);
     lines.layout()->addWidget(&total, PaymentSlip::kLines + 1, 1);
@@ -128,17 +126,17 @@ void SlipN2_frm::layOutLines(QVBoxLayout& column) {
 
 QVBoxLayout* SlipN2_frm::layOutHistory() {
     FieldLayout start(*this);
-    ledgerEnd_ = &Named(new Label({}, this), QStringLiteral("ledgerEnd"));
+    ledgerEnd_ = &Named(new Label({}, this), u"ledgerEnd"_s);
     ledgerEnd_->setForegroundRole(QPalette::PlaceholderText);
-    start.row(QStringLiteral("売掛表示年月"))
+    start.row(u"売掛表示年月"_s)
         .text(addBox(ebox, kHistoryYear, ImeMode::Off), kYearBytes)
-        .note(QStringLiteral("年"))
+        .note(u"年"_s)
         .text(addBox(ebox, kHistoryMonth, ImeMode::Off), kMonthBytes)
-        .note(QStringLiteral("月から"))
-        .button(Btn.add(kShow, new CommandButton(QStringLiteral("表示"))));
+        .note(u"月から"_s)
+        .button(Btn.add(kShow, new CommandButton(u"表示"_s)));
     start.row({}).widget(ledgerEnd_);
 
-    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    List_ = &Named(new FlexGrid(this), u"List"_s);
     EmptyHistory(*List_);
     constexpr int kHeight = 300;
     ReserveRoom(*List_, kHeight);
@@ -150,34 +148,36 @@ QVBoxLayout* SlipN2_frm::layOutHistory() {
 }
 
 QGroupBox* SlipN2_frm::layOutOpening() {
-    auto* group = new QGroupBox(QStringLiteral("初期繰越の作成"), this);
+    auto* group = new QGroupBox(u"初期繰越の作成"_s, this);
     auto* line = new QHBoxLayout(group);
     line->addStretch();
     TextBox& amount = addBox(ebox, kOpeningAmount, ImeMode::Off);
     amount.setAlignment(Qt::AlignRight);
     FieldLine(*this, line)
         .text(addBox(ebox, kOpeningYear, ImeMode::Off), kYearBytes)
-        .note(QStringLiteral("年"))
+        .note(u"年"_s)
         .text(addBox(ebox, kOpeningMonth, ImeMode::Off), kMonthBytes)
-        .note(QStringLiteral("月請求の前回請求額"))
+        .note(u"月請求の前回請求額"_s)
         .text(amount, kCurrencyBytes, kCurrencyShown)
-        .button(Btn.add(kSaveOpening, new CommandButton(QStringLiteral("繰越保存"))))
-        .note(QStringLiteral("初期繰り越しの削除は0でエンター"));
+        .button(Btn.add(kSaveOpening, new CommandButton(u"繰越保存"_s)))
+        .note(u"初期繰り越しの削除は0でエンター"_s);
     return group;
 }
 
 void SlipN2_frm::wire() {
-    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
+    const PressEnter press = wireKeys(
+        ebox, [this](int index) { return enter(index); });
     const auto goOn = [](int) { return true; };
     wireKeys(eGaku, goOn);
     wireKeys(eNaiyo, goOn);
     wireKeys(dKubun);
-    on(eGaku, &TextBox::LostFocus, [this](int) { showTotal(); });
+    on(
+        eGaku, &TextBox::LostFocus, [this](int) { showTotal(); });
     WireLookup(
         *this, F6(kPickSlip),
         [this] { return requireCustomer() ? PickPayment(number(kCustomer)) : QString(); }, ebox(kNumber),
         [press] { press(kNumber); });
-    wireLookup(F6(kPickCustomer), QStringLiteral("Deal"), {}, ebox(kCustomer), press, kCustomer);
+    wireLookup(F6(kPickCustomer), u"Deal"_s, {}, ebox(kCustomer), press, kCustomer);
     const auto onPress = [this](Button button, void (SlipN2_frm::*action)()) {
         on(&Btn(button), &CommandButton::Click, [this, action] { (this->*action)(); });
     };
@@ -191,9 +191,8 @@ void SlipN2_frm::wire() {
 // ---- the slip on the screen
 
 void SlipN2_frm::init() {
-    for (const auto& [line, list] : dKubun) {
-        FillCombo(QStringLiteral("SELECT Code,Namae FROM NyukinKubun ORDER BY Code"), *list, true);
-    }
+    for (const auto& [line, list] : dKubun)
+        FillCombo(u"SELECT Code,Namae FROM NyukinKubun ORDER BY Code"_s, *list, true);
     showLedgerEnd(LatestLedgerMonth());
     clear();
 }
@@ -228,7 +227,7 @@ void SlipN2_frm::show(const PaymentSlip& slip) {
     for (const auto& [line, list] : dKubun) {
         const PaymentLine& paid = slip.lines[static_cast<std::size_t>(line)];
         ComboSelect(*list, paid.Kubun);
-        eGaku(line).SetText(yen(paid.Gaku));
+        eGaku(line).SetText(Yen(paid.Gaku));
         eNaiyo(line).SetText(paid.Naiyo);
     }
     showTotal();
@@ -241,17 +240,15 @@ void SlipN2_frm::show(const PaymentSlip& slip) {
 
 void SlipN2_frm::showTotal() {
     Currency total;
-    for (const auto& [line, box] : eGaku) {
+    for (const auto& [line, box] : eGaku)
         total += ToCurrency(box->Text());
-    }
-    nameLabel(QStringLiteral("sTotal")).SetCaption(yen(total));
+    nameLabel(u"sTotal"_s).SetCaption(Yen(total));
 }
 
 void SlipN2_frm::showLedgerEnd(LedgerMonth end) {
     end_ = end;
     ledgerEnd_->SetCaption(
-        end.Nendo == 0 ? QString()
-                       : QStringLiteral("売掛は%1年%2月まで").arg(NumStr(end.Nendo), NumStr(end.Getudo)));
+        end.Nendo == 0 ? QString() : u"売掛は%1年%2月まで"_s.arg(NumStr(end.Nendo), NumStr(end.Getudo)));
 }
 
 bool SlipN2_frm::enter(int index) {
@@ -266,7 +263,7 @@ bool SlipN2_frm::enter(int index) {
             ShowDate(ReadDate(ebox(kDate)), ebox(kDate));
             return true;
         case kOpeningMonth:
-            return isMonth(NumVal(ebox(kOpeningMonth).Text()));
+            return IsMonth(NumVal(ebox(kOpeningMonth).Text()));
         default:
             return true;
     }
@@ -288,13 +285,13 @@ PaymentSlip SlipN2_frm::slipOnScreen() const {
 }
 
 bool SlipN2_frm::requireCustomer() {
-    return number(kCustomer) != 0 || refuse(QStringLiteral("得意先を入れてください。"), kCustomer);
+    return number(kCustomer) != 0 || refuse(u"得意先を入れてください。"_s, kCustomer);
 }
 
 bool SlipN2_frm::maySave() {
-    if (number(kNumber) == 0) return refuse(QStringLiteral("伝票番号を入れてください。"), kNumber);
+    if (number(kNumber) == 0) return refuse(u"伝票番号を入れてください。"_s, kNumber);
     if (!requireCustomer()) return false;
-    return ReadDate(ebox(kDate)) != Date() || refuse(QStringLiteral("入金日を入れてください。"), kDate);
+    return ReadDate(ebox(kDate)) != Date() || refuse(u"入金日を入れてください。"_s, kDate);
 }
 
 void SlipN2_frm::save() {
@@ -322,11 +319,10 @@ void SlipN2_frm::saveOpening() {
     // Nothing below is asked for: what a take-over put under a month 0 can be taken away here as well.
     if (month > kLastMonth) return;
     const Currency amount = ToCurrency(ebox(kOpeningAmount).Text());
-    if (amount.IsZero()) {
+    if (amount.IsZero())
         RemoveOpeningBalance(number(kCustomer), year, month);
-    } else {
+    else
         SetOpeningBalance(number(kCustomer), year, month, amount);
-    }
     showLedgerEnd(amount.IsZero() ? LatestLedgerMonth() : std::max(end_, LedgerMonth{year, month}));
     clear();
     NoticeSaved();

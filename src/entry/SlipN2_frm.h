@@ -3,6 +3,7 @@
 #include "entry/DocumentForm.h"
 #include "entry/LedgerMonth.h"
 #include "platform/forms/ComboBox.h"
+#include "platform/runtime/Literals.h"
 
 class QGroupBox;
 class QVBoxLayout;
@@ -46,9 +47,9 @@ class SlipN2_frm : public DocumentForm {
     void saveOpening();
     void showHistory();
 
-    ControlArray<ComboBox> dKubun{QStringLiteral("dKubun")};
-    ControlArray<TextBox> eGaku{QStringLiteral("eGaku")};
-    ControlArray<TextBox> eNaiyo{QStringLiteral("eNaiyo")};
+    ControlArray<ComboBox> dKubun{u"dKubun"_s};
+    ControlArray<TextBox> eGaku{u"eGaku"_s};
+    ControlArray<TextBox> eNaiyo{u"eNaiyo"_s};
     FlexGrid* List_ = nullptr;
     Label* ledgerEnd_ = nullptr;
     LedgerMonth end_;

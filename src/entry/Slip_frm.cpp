@@ -10,6 +10,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Fix.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/Trim.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
@@ -39,34 +40,32 @@ struct LineBoxes {
     int gaku;
 };
 
-constexpr LineBoxes boxesOf(int line) {
+constexpr LineBoxes BoxesOf(int line) {
     return {3 + 3 * line, 4 + 3 * line, 21 + line, 27 + line, 5 + 3 * line};
 }
 
 constexpr int kNameBytes = 40;
 
-QString yen(Currency amount) {
-    return Format(amount, QStringLiteral("###,###"));
+QString Yen(Currency amount) {
+    return Format(amount, u"###,###"_s);
 }
 
-DocumentTexts texts() {
-    return {.highest = QStringLiteral("SELECT MAX(Dno) AS tDno FROM Dud"),
-            .left = QStringLiteral("SELECT * FROM Dud WHERE Dno<%1 ORDER BY Dno DESC,Hizuke DESC"),
-            .right = QStringLiteral("SELECT * FROM Dud WHERE Dno>%1 ORDER BY Dno ,Hizuke DESC")};
+DocumentTexts Texts() {
+    return {.highest = u"SELECT MAX(Dno) AS tDno FROM Dud"_s,
+            .left = u"SELECT * FROM Dud WHERE Dno<%1 ORDER BY Dno DESC,Hizuke DESC"_s,
+            .right = u"SELECT * FROM Dud WHERE Dno>%1 ORDER BY Dno ,Hizuke DESC"_s};
 }
 
-QString slipSql(const QString& number) {
-    return QStringLiteral("SELECT * FROM Dud  WHERE Dno=%1 ORDER BY Eda").arg(number);
+QString SlipSql(const QString& number) {
+    return u"SELECT * FROM Dud  WHERE Dno=%1 ORDER BY Eda"_s.arg(number);
 }
 
 }  // namespace
 
-Slip_frm::Slip_frm() : DocumentForm(QStringLiteral("Slip_frm"), QStringLiteral("売上伝票"), texts()) {
+Slip_frm::Slip_frm() : DocumentForm(u"Slip_frm"_s, u"売上伝票"_s, Texts()) {
     layOutHead();
     layOutLines();
-    addBar({{kSave, QStringLiteral("保存")},
-            {kClear, QStringLiteral("画面クリア")},
-            {kDelete, QStringLiteral("削除")}});
+    addBar({{kSave, u"保存"_s}, {kClear, u"画面クリア"_s}, {kDelete, u"削除"_s}});
     wire();
 }
 
@@ -75,16 +74,16 @@ Slip_frm::Slip_frm() : DocumentForm(QStringLiteral("Slip_frm"), QStringLiteral("
 void Slip_frm::layOutHead() {
     constexpr int kDateBytes = 10;
     FieldLayout head(*this);
-    head.row(QStringLiteral("伝票番号"))
+    head.row(u"伝票番号"_s)
         .text(addBox(ebox, kNumber, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(kPickSlip, new Image));
     head.nextColumn();
-    head.row(QStringLiteral("日付")).text(addBox(ebox, kDate, ImeMode::Off), kDateBytes);
+    head.row(u"日付"_s).text(addBox(ebox, kDate, ImeMode::Off), kDateBytes);
     head.nextColumn();
-    head.row(QStringLiteral("得意先"))
+    head.row(u"得意先"_s)
         .text(addBox(ebox, kDeal, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(kPickDeal, new Image))
-        .name(addName(QStringLiteral("sNamae")), kNameBytes);
+        .name(addName(u"sNamae"_s), kNameBytes);
     body().addLayout(head.layout());
 }
 
@@ -93,14 +92,12 @@ void Slip_frm::layOutLines() {
     constexpr int kTankaShown = 14;
     constexpr int kGakuShown = 17;
     LineLayout lines(*this);
-    for (const char16_t* caption : {u"コード", u"名称"}) {
+    for (const char16_t* caption : {u"コード", u"名称"})
         lines.head(QString::fromUtf16(caption));
-    }
-    for (const char16_t* caption : {u"数量", u"単価", u"金額"}) {
+    for (const char16_t* caption : {u"数量", u"単価", u"金額"})
         lines.head(QString::fromUtf16(caption), Qt::AlignRight);
-    }
     for (int line = 0; line < kLines; ++line) {
-        const LineBoxes boxes = boxesOf(line);
+        const LineBoxes boxes = BoxesOf(line);
         const auto figure = [&](int column, int index, int shownBytes) {
             TextBox& box = addBox(ebox, index, ImeMode::Off);
             box.setAlignment(Qt::AlignRight);
@@ -115,19 +112,22 @@ void Slip_frm::layOutLines() {
         figure(4, boxes.gaku, kGakuShown);
     }
     body().addLayout(lines.layout());
-    body().addWidget(new Label(QStringLiteral("消費税 : 売上の次の行 金額欄　* 税率　Enter")));
+    body().addWidget(new Label(u"消費税 : 売上の次の行 金額欄　* 税率　Enter"_s));
 }
 
 void Slip_frm::wire() {
-    press_ = wireKeys(ebox, [this](int index) { return enter(index); });
+    press_ = wireKeys(
+        ebox, [this](int index) { return enter(index); });
     WireLookup(*this, F6(kPickSlip), &PickSlip, ebox(kNumber), [this] { press_(kNumber); });
-    wireLookup(F6(kPickDeal), QStringLiteral("Deal"), {}, ebox(kDeal), press_, kDeal);
+    wireLookup(F6(kPickDeal), u"Deal"_s, {}, ebox(kDeal), press_, kDeal);
     for (int line = 0; line < kLines; ++line) {
-        const int code = boxesOf(line).code;
-        wireLookup(F6(kPickItem + line), QStringLiteral("Hin"), {}, ebox(code), press_, code);
+        const int code = BoxesOf(line).code;
+        wireLookup(F6(kPickItem + line), u"Hin"_s, {}, ebox(code), press_, code);
     }
-    on(&Btn(kClear), &CommandButton::Click, [this] { clear(); });
-    on(&Btn(kDelete), &CommandButton::Click, [this] { askAndRemove(); });
+    on(
+        &Btn(kClear), &CommandButton::Click, [this] { clear(); });
+    on(
+        &Btn(kDelete), &CommandButton::Click, [this] { askAndRemove(); });
     on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
 }
 
@@ -148,7 +148,7 @@ void Slip_frm::showDefaults() {
 }
 
 void Slip_frm::load() {
-    Recordset rows = gDb->OpenRecordset(slipSql(codeText()));
+    Recordset rows = gDb->OpenRecordset(SlipSql(codeText()));
     if (rows.Eof()) {
         const QString typed = ebox(kNumber).Text();
         clear();
@@ -157,25 +157,24 @@ void Slip_frm::load() {
     }
     ClearControls(*this);
     items_.fill(0);
-    ebox(kNumber).SetText(NumStr(longOf(rows[QStringLiteral("Dno")])));
-    ShowDateVar(rows[QStringLiteral("Hizuke")], ebox(kDate));
-    ebox(kDeal).SetText(NumStr(longOf(rows[QStringLiteral("Deal")])));
+    ebox(kNumber).SetText(NumStr(LongOf(rows[u"Dno"_s])));
+    ShowDateVar(rows[u"Hizuke"_s], ebox(kDate));
+    ebox(kDeal).SetText(NumStr(LongOf(rows[u"Deal"_s])));
     showCustomer(kDeal);
-    for (int line = 0; line < kLines && !rows.Eof(); ++line, rows.MoveNext()) {
+    for (int line = 0; line < kLines && !rows.Eof(); ++line, rows.MoveNext())
         showLine(line, rows);
-    }
 }
 
 void Slip_frm::showLine(int line, Recordset& row) {
-    static const DisplayRule suuText = MaskedUnlessZero(QStringLiteral("#,###.0"));
-    const LineBoxes boxes = boxesOf(line);
-    const std::int32_t code = longOf(row[QStringLiteral("HinCode")]);
+    static const DisplayRule suuText = MaskedUnlessZero(u"#,###.0"_s);
+    const LineBoxes boxes = BoxesOf(line);
+    const std::int32_t code = LongOf(row[u"HinCode"_s]);
     items_[static_cast<std::size_t>(line)] = code;
     if (code != 0) ebox(boxes.code).SetText(NumStr(code));
-    ebox(boxes.name).SetText(NullToEmpty(row[QStringLiteral("HinNamae")]));
-    ebox(boxes.suu).SetText(suuText(moneyOf(row[QStringLiteral("Suu")])));
-    ebox(boxes.tanka).SetText(yen(moneyOf(row[QStringLiteral("Tanka")])));
-    ebox(boxes.gaku).SetText(yen(moneyOf(row[QStringLiteral("Gaku")])));
+    ebox(boxes.name).SetText(NullToEmpty(row[u"HinNamae"_s]));
+    ebox(boxes.suu).SetText(suuText(MoneyOf(row[u"Suu"_s])));
+    ebox(boxes.tanka).SetText(Yen(MoneyOf(row[u"Tanka"_s])));
+    ebox(boxes.gaku).SetText(Yen(MoneyOf(row[u"Gaku"_s])));
 }
 
 // ---- Enter
@@ -192,16 +191,15 @@ bool Slip_frm::enter(int index) {
             showCustomer(kDeal);
             break;
         default:
-            for (int line = 0; line < kLines; ++line) {
+            for (int line = 0; line < kLines; ++line)
                 enterLine(line, index);
-            }
             break;
     }
     return true;
 }
 
 void Slip_frm::enterLine(int line, int index) {
-    const LineBoxes boxes = boxesOf(line);
+    const LineBoxes boxes = BoxesOf(line);
     if (index == boxes.code) {
         takeItem(line);
     } else if (index == boxes.tanka) {
@@ -210,23 +208,23 @@ void Slip_frm::enterLine(int line, int index) {
         const QString typed = Trim(ebox(boxes.gaku).Text());
         if (!typed.startsWith(u'*')) return;
         const Currency rate = ToCurrency(typed.mid(1)) / 100;
-        putAmount(line, figure(boxesOf(line - 1).gaku) * rate);
+        putAmount(line, figure(BoxesOf(line - 1).gaku) * rate);
     }
 }
 
 void Slip_frm::takeItem(int line) {
-    const LineBoxes boxes = boxesOf(line);
+    const LineBoxes boxes = BoxesOf(line);
     const double code = NumVal(ebox(boxes.code).Text());
     double& shown = items_[static_cast<std::size_t>(line)];
     // A line of free text goes on having none; an emptied code takes its item along.
     if (code == 0.0 && shown == 0.0) return;
     shown = code;
-    ebox(boxes.name).SetText(GetName(QStringLiteral("Hin"), code));
-    ebox(boxes.tanka).SetText(yen(GetHinTanka(code)));
+    ebox(boxes.name).SetText(GetName(u"Hin"_s, code));
+    ebox(boxes.tanka).SetText(Yen(GetHinTanka(code)));
 }
 
 void Slip_frm::putAmount(int line, Currency amount) {
-    ebox(boxesOf(line).gaku).SetText(yen(Fix(amount)));
+    ebox(BoxesOf(line).gaku).SetText(Yen(Fix(amount)));
 }
 
 Currency Slip_frm::figure(int index) const {
@@ -236,15 +234,11 @@ Currency Slip_frm::figure(int index) const {
 // ---- the slip in the store
 
 bool Slip_frm::maySave(Date date) {
-    if (NumVal(ebox(kNumber).Text()) == 0.0) {
-        return refuse(QStringLiteral("伝票番号は不正です。"), kNumber);
-    }
-    if (!IsDateSet(date)) return refuse(QStringLiteral("日付が不正です。"), kDate);
-    if (NumVal(ebox(kDeal).Text()) == 0.0) {
-        return refuse(QStringLiteral("得意先が選択されていません。"), kNumber);
-    }
-    if (integerOf(FirstValue(slipSql(codeText()), QStringLiteral("CreateAuto"))) == 1) {
-        ShowAlert(QStringLiteral("自動で作成された伝票は修正できません。"));
+    if (NumVal(ebox(kNumber).Text()) == 0.0) return refuse(u"伝票番号は不正です。"_s, kNumber);
+    if (!IsDateSet(date)) return refuse(u"日付が不正です。"_s, kDate);
+    if (NumVal(ebox(kDeal).Text()) == 0.0) return refuse(u"得意先が選択されていません。"_s, kNumber);
+    if (IntegerOf(FirstValue(SlipSql(codeText()), u"CreateAuto"_s)) == 1) {
+        ShowAlert(u"自動で作成された伝票は修正できません。"_s);
         return false;
     }
     return true;
@@ -258,51 +252,47 @@ void Slip_frm::save() {
     DateToGetudo(CLng(NumVal(ebox(kDeal).Text())), date, nendo, getudo);
     removeRows();
     int eda = 0;
-    for (int line = 0; line < kLines; ++line) {
+    for (int line = 0; line < kLines; ++line)
         if (isUsed(line)) storeLine(line, ++eda, date, nendo, getudo);
-    }
     clear();
     NoticeSaved();
 }
 
 bool Slip_frm::isUsed(int line) const {
-    const LineBoxes boxes = boxesOf(line);
+    const LineBoxes boxes = BoxesOf(line);
     return NumVal(ebox(boxes.code).Text()) != 0.0 || HasText(ebox(boxes.name).Text());
 }
 
 void Slip_frm::storeLine(int line, int eda, Date date, int nendo, int getudo) {
-    const LineBoxes boxes = boxesOf(line);
+    const LineBoxes boxes = BoxesOf(line);
     const auto number = [this](int index) { return KeepNumeric(ebox(index).Text()); };
     // The date goes in with its western year, whatever years the screen shows.
-    gDb->Execute(QStringLiteral("INSERT INTO Dud(Dno, Eda, Hizuke, Deal, HinCode, HinNamae, Suu, Tanka, Gaku,"
-                                " Nendo, Getudo, CreateAuto) "
-                                " SELECT %1"
-                                "      , %2"
-                                "      , CDATE('%3') "
-                                "      , %4"
-                                "      , %5"
-                                "      ,'%6'"
-                                "      , %7"
-                                "      , %8"
-                                "      , %9"
-                                "      , %10"
-                                "      , %11"
-                                "      , 0")
-                     .arg(codeText(), NumStr(eda), Format(date, QStringLiteral("yyyy/mm/dd")),
+    gDb->Execute(
+        u"INSERT INTO Dud(Dno, Eda, Hizuke, Deal, HinCode, HinNamae, Suu, Tanka, Gaku,"
+        " Nendo, Getudo, CreateAuto) "
+        " SELECT %1"
+        "      , %2"
+        "      , CDATE('%3') "
+        "      , %4"
+        "      , %5"
+        "      ,'%6'"
+        "      , %7"
+        "      , %8"
+        "      , %9"
+        "      , %10"
+        "      , %11"
+        "      , 0"_s.arg(codeText(), NumStr(eda), Format(date, u"yyyy/mm/dd"_s),
                           NumStr(NumVal(ebox(kDeal).Text())), number(boxes.code),
                           EmptyToBlank(ebox(boxes.name).Text()), number(boxes.suu), number(boxes.tanka),
                           number(boxes.gaku), NumStr(nendo), NumStr(getudo)));
 }
 
 void Slip_frm::removeRows() {
-    gDb->Execute(QStringLiteral("DELETE FROM Dud WHERE Dno=%1").arg(codeText()));
+    gDb->Execute(u"DELETE FROM Dud WHERE Dno=%1"_s.arg(codeText()));
 }
 
 void Slip_frm::askAndRemove() {
-    if (!AskConfirm(QStringLiteral("この売上伝票を削除します。"), QStringLiteral("はい"),
-                    QStringLiteral("いいえ"))) {
-        return;
-    }
+    if (!AskConfirm(u"この売上伝票を削除します。"_s, u"はい"_s, u"いいえ"_s)) return;
     removeRows();
     clear();
 }

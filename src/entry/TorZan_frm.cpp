@@ -12,6 +12,7 @@
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -41,15 +42,19 @@ constexpr std::array<GridHead, kColumns> kHeads{{
 
 }  // namespace
 
-TorZan_frm::TorZan_frm() : EntryForm(QStringLiteral("TorZan_frm"), QStringLiteral("得意先残設定")) {
+TorZan_frm::TorZan_frm() : EntryForm(u"TorZan_frm"_s, u"得意先残設定"_s) {
     layOut();
     const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
-    wireLookup(F6(kPickRoute), QStringLiteral("Rte"), QStringLiteral("ALL"), ebox(kRoute), press, kRoute);
-    wireLookup(F6(kPickCustomer), QStringLiteral("Deal"), {}, ebox(kCustomer), press, kCustomer);
-    on(&Btn(kClose), &CommandButton::Click, [this] { Unload(); });
-    on(&Btn(kClear), &CommandButton::Click, [this] { clear(); });
-    on(&Btn(kShow), &CommandButton::Click, [this] { show(); });
-    on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
+    wireLookup(F6(kPickRoute), u"Rte"_s, u"ALL"_s, ebox(kRoute), press, kRoute);
+    wireLookup(F6(kPickCustomer), u"Deal"_s, {}, ebox(kCustomer), press, kCustomer);
+    on(
+        &Btn(kClose), &CommandButton::Click, [this] { Unload(); });
+    on(
+        &Btn(kClear), &CommandButton::Click, [this] { clear(); });
+    on(
+        &Btn(kShow), &CommandButton::Click, [this] { show(); });
+    on(
+        &Btn(kSave), &CommandButton::Click, [this] { save(); });
     WireCellBox(
         *this, *List_, *tBox_, [this] { openBox(); }, [this](KeyEvent& event) { boxKey(event); });
 }
@@ -60,29 +65,29 @@ void TorZan_frm::layOut() {
     const auto button = [this](Button index, const char16_t* caption) -> CommandButton& {
         return Btn.add(index, new CommandButton(QString::fromUtf16(caption)));
     };
-    sRte_ = &Named(new Label({}, this), QStringLiteral("sRte"));
-    sNamae_ = &Named(new Label({}, this), QStringLiteral("sNamae"));
+    sRte_ = &Named(new Label({}, this), u"sRte"_s);
+    sNamae_ = &Named(new Label({}, this), u"sNamae"_s);
 
     FieldLayout fields(*this);
-    fields.row(QStringLiteral("初期残設定年月"))
+    fields.row(u"初期残設定年月"_s)
         .text(addBox(ebox, kYear, ImeMode::Off), 4)
-        .note(QStringLiteral("年"))
+        .note(u"年"_s)
         .text(addBox(ebox, kMonth, ImeMode::Off), 2)
-        .note(QStringLiteral("月度"));
-    fields.row(QStringLiteral("地区"))
+        .note(u"月度"_s);
+    fields.row(u"地区"_s)
         .text(addBox(ebox, kRoute, ImeMode::Off), kIntegerBytes, kLongKeyBytes)
         .lookup(F6.add(kPickRoute, new Image))
         .name(*sRte_, kNameBytes);
-    fields.row(QStringLiteral("コード"))
+    fields.row(u"コード"_s)
         .text(addBox(ebox, kCustomer, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(kPickCustomer, new Image))
         .name(*sNamae_, kNameBytes)
         .button(button(kShow, u"表示"));
 
-    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    List_ = &Named(new FlexGrid(this), u"List"_s);
     SetHeads(*List_, kHeads);
     ReserveRoom(*List_, kGridHeight);
-    tBox_ = &Named(new TextBox(this), QStringLiteral("tBox"));
+    tBox_ = &Named(new TextBox(this), u"tBox"_s);
     tBox_->SetIMEMode(ImeMode::Off);
     tBox_->setAlignment(Qt::AlignRight);
     tBox_->hide();
@@ -115,7 +120,7 @@ void TorZan_frm::clear() {
 
 bool TorZan_frm::enter(int index) {
     const double code = NumVal(ebox(index).Text());
-    if (index == kRoute) sRte_->SetCaption(GetName(QStringLiteral("Rte"), code));
+    if (index == kRoute) sRte_->SetCaption(GetName(u"Rte"_s, code));
     if (index == kCustomer) sNamae_->SetCaption(GetDealName(code));
     return true;
 }
@@ -131,13 +136,13 @@ void TorZan_frm::show() {
     const LedgerMonth wanted = month();
     if (wanted.Nendo == 0 || wanted.Getudo < 1 || wanted.Getudo > kLastMonth) return;
     List_->SetRows(1);
-    gDb->Execute(QStringLiteral("DELETE *.* From TempZan"));
+    gDb->Execute(u"DELETE *.* From TempZan"_s);
+    gDb->Execute(u"INSERT INTO TempZan ( Code, Zan ) SELECT Code, 0 From Deal WHERE Deal.Code>0"_s +
+                 FilterTerms({{ebox(kCustomer), u" AND Deal.Code="}, {ebox(kRoute), u" AND Deal.Rte="}}));
     gDb->Execute(
-        QStringLiteral("INSERT INTO TempZan ( Code, Zan ) SELECT Code, 0 From Deal WHERE Deal.Code>0") +
-        FilterTerms({{ebox(kCustomer), u" AND Deal.Code="}, {ebox(kRoute), u" AND Deal.Rte="}}));
-    gDb->Execute(QStringLiteral("UPDATE TempZan INNER JOIN TtoD ON TempZan.Code = TtoD.Deal SET TempZan.Zan "
-                                "= [TtoD].[ZenkaiGaku] WHERE TtoD.Nendo=") +
-                 NumStr(wanted.Nendo) + QStringLiteral(" AND TtoD.Getudo=") + NumStr(wanted.Getudo));
+        u"UPDATE TempZan INNER JOIN TtoD ON TempZan.Code = TtoD.Deal SET TempZan.Zan "
+        "= [TtoD].[ZenkaiGaku] WHERE TtoD.Nendo="_s +
+        NumStr(wanted.Nendo) + u" AND TtoD.Getudo="_s + NumStr(wanted.Getudo));
     fill(wanted);
     if (List_->Rows() <= 1) return;
     List_->SetRow(1);
@@ -146,22 +151,22 @@ void TorZan_frm::show() {
 }
 
 void TorZan_frm::fill(LedgerMonth month) {
-    Recordset rows =
-        gDb->OpenRecordset(QStringLiteral("SELECT Deal.*, TempZan.Zan FROM TempZan INNER JOIN Deal ON "
-                                          "TempZan.Code = Deal.Code ORDER BY Deal.Code"));
+    Recordset rows = gDb->OpenRecordset(
+        u"SELECT Deal.*, TempZan.Zan FROM TempZan INNER JOIN Deal ON "
+        "TempZan.Code = Deal.Code ORDER BY Deal.Code"_s);
     if (rows.Eof()) return;
     rows.MoveLast();
     List_->SetRows(rows.RecordCount() + 1);
     rows.MoveFirst();
-    const Field& code = rows.Fields(QStringLiteral("Code"));
-    const Field& namae = rows.Fields(QStringLiteral("Namae"));
-    const Field& zan = rows.Fields(QStringLiteral("Zan"));
+    const Field& code = rows.Fields(u"Code"_s);
+    const Field& namae = rows.Fields(u"Namae"_s);
+    const Field& zan = rows.Fields(u"Zan"_s);
     const QString monthText = NumStr(month.Nendo) + u'/' + NumStr(month.Getudo);
     for (int row = 1; !rows.Eof(); ++row, rows.MoveNext()) {
         List_->SetTextMatrix(row, kColCode, NumStr(code.Value()));
         List_->SetTextMatrix(row, kColNamae, NullToEmpty(namae.Value()));
         List_->SetTextMatrix(row, kColMonth, monthText);
-        List_->SetTextMatrix(row, kColZan, Format(moneyOf(zan.Value()), QStringLiteral("###,###,##0")));
+        List_->SetTextMatrix(row, kColZan, Format(MoneyOf(zan.Value()), u"###,###,##0"_s));
     }
     rows.Close();
 }
@@ -180,11 +185,10 @@ void TorZan_frm::save() {
 // ---- the cells
 
 void TorZan_frm::openBox() {
-    if (List_->Rows() > 1 && List_->Col() == kColZan) {
+    if (List_->Rows() > 1 && List_->Col() == kColZan)
         EditCell(*List_, *tBox_);
-    } else {
+    else
         LeaveCell(*List_, *tBox_);
-    }
 }
 
 void TorZan_frm::boxKey(KeyEvent& event) {

@@ -4,6 +4,7 @@
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/KeyEvent.h"
 #include "platform/forms/Label.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
@@ -33,9 +34,9 @@ class TorZan_frm : public EntryForm {
     void confirm();
     void moveTo(int row);
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
-    ControlArray<Image> F6{QStringLiteral("F6")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<CommandButton> Btn{u"Btn"_s};
+    ControlArray<Image> F6{u"F6"_s};
     Label* sRte_ = nullptr;
     Label* sNamae_ = nullptr;
     FlexGrid* List_ = nullptr;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/CommandButton.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 #include "toolkit/FieldTable.h"
 
@@ -19,8 +20,8 @@ class BKItaku_frm : public EntryForm {
     void addFrame(QVBoxLayout& body, const QString& caption, const FieldTable& fields);
     void save();
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<CommandButton> Btn{u"Btn"_s};
 };
 
 }  // namespace akarix

@@ -14,9 +14,8 @@ bool CapacityKind::accepts(Currency capacity) const {
 }
 
 const CapacityKind* CapacityKindOf(int kubun) {
-    for (const CapacityKind& kind : kCapacityKinds) {
+    for (const CapacityKind& kind : kCapacityKinds)
         if (kind.kubun == kubun) return &kind;
-    }
     return nullptr;
 }
 

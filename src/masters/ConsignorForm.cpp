@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/runtime/Literals.h"
 #include "toolkit/FieldBytes.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
@@ -11,7 +12,7 @@ namespace akarix {
 
 namespace {
 
-const QString kBranch = QStringLiteral("Stn");
+const QString kBranch = u"Stn"_s;
 
 struct Shape {
     const char16_t* column;
@@ -52,29 +53,29 @@ MasterField ConsignorField(int index, const QString& label, const QString& colum
 
 MasterTexts ConsignorTexts(const QString& load, const QString& left, const QString& right) {
     return {
-        .table = QStringLiteral("Bnk"),
+        .table = u"Bnk"_s,
         .load = load,
         .left = left,
         .right = right,
         // The branch as it stands on the screen: changed there, nothing is deleted.
-        .remove = QStringLiteral("DELETE FROM Bnk  WHERE Code=%1 AND   Stn =%2"),
-        .removeQuestion = QStringLiteral("この委託を削除します。"),
+        .remove = u"DELETE FROM Bnk  WHERE Code=%1 AND   Stn =%2"_s,
+        .removeQuestion = u"この委託を削除します。"_s,
     };
 }
 
 ConsignorForm::ConsignorForm(const QString& name, const QString& caption, MasterTexts texts,
                              const FieldTable& fields, std::vector<Requirement> required)
     : MasterForm(name, caption, std::move(texts)), required_(std::move(required)) {
-    for (const MasterField& field : fields) {
+    for (const MasterField& field : fields)
         if (field.column == kBranch) branch_ = field.index;
-    }
     addFields(fields);
     addButtons();
 }
 
 bool ConsignorForm::maySave() {
-    return std::all_of(required_.begin(), required_.end(),
-                       [this](const Requirement& need) { return require(need.field, need.message); });
+    return std::all_of(
+        required_.begin(), required_.end(),
+        [this](const Requirement& need) { return require(need.field, need.message); });
 }
 
 QString ConsignorForm::removeSql() {

@@ -12,6 +12,7 @@
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
+#include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 #include "toolkit/Dentaku_frm.h"
 #include "toolkit/FieldBytes.h"
@@ -37,21 +38,21 @@ constexpr std::array<GridHead, kColumns> kHeads{{
     {u"実行", 600, AlignCenterCenter},
 }};
 
-const QString kKeep = QStringLiteral("○");
-const QString kDelete = QStringLiteral("×");
+const QString kKeep = u"○"_s;
+const QString kDelete = u"×"_s;
 
 constexpr int kSpacing = 10;
 constexpr int kScrollBar = 24;
 constexpr int kUsageWidth = 600;
 constexpr int kPriceWidth = 800;
 
-TariffBand bandFrom(const QString& st, const QString& ed, const QString& kihon, const QString& tanka) {
+TariffBand BandFrom(const QString& st, const QString& ed, const QString& kihon, const QString& tanka) {
     return {CInt(KeepNumeric(st)), CInt(KeepNumeric(ed)), CCur(KeepNumeric(kihon)), CCur(KeepNumeric(tanka))};
 }
 
 }  // namespace
 
-GTanka_frm::GTanka_frm() : EntryForm(QStringLiteral("GTanka_frm"), QStringLiteral("価格表")) {
+GTanka_frm::GTanka_frm() : EntryForm(u"GTanka_frm"_s, u"価格表"_s) {
     auto* body = new QHBoxLayout(this);
     constexpr int kBetweenHalves = 20;
     body->setSpacing(kBetweenHalves);
@@ -92,16 +93,15 @@ QVBoxLayout* GTanka_frm::layOutBands() {
     const auto row = [this](std::initializer_list<std::pair<Button, const char16_t*>> buttons) {
         auto* line = new QHBoxLayout;
         line->setSpacing(kSpacing);
-        for (const auto& [index, caption] : buttons) {
+        for (const auto& [index, caption] : buttons)
             line->addWidget(&Command.add(index, new CommandButton(QString::fromUtf16(caption))));
-        }
         return line;
     };
     QHBoxLayout* bandButtons = row({{kAdd, u"追加"}, {kShow, u"表示"}});
-    Command1_ = &Named(new CommandButton(QStringLiteral("電卓")), QStringLiteral("Command1"));
+    Command1_ = &Named(new CommandButton(u"電卓"_s), u"Command1"_s);
     bandButtons->addWidget(Command1_);
 
-    ListK_ = &Named(new FlexGrid(this), QStringLiteral("ListK"));
+    ListK_ = &Named(new FlexGrid(this), u"ListK"_s);
     SetHeads(*ListK_, kHeads);
     ReserveRoom(*ListK_, 0);
     ListK_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
@@ -116,8 +116,8 @@ QVBoxLayout* GTanka_frm::layOutBands() {
 }
 
 QVBoxLayout* GTanka_frm::layOutTable() {
-    Check1_ = &Named(new CheckBox(QStringLiteral("追加表示"), this), QStringLiteral("Check1"));
-    Check2_ = &Named(new CheckBox(QStringLiteral("整数部のみ表示"), this), QStringLiteral("Check2"));
+    Check1_ = &Named(new CheckBox(u"追加表示"_s, this), u"Check1"_s);
+    Check2_ = &Named(new CheckBox(u"整数部のみ表示"_s, this), u"Check2"_s);
     auto* line = new QHBoxLayout;
     line->setSpacing(kSpacing);
     line->addWidget(Check1_);
@@ -125,11 +125,10 @@ QVBoxLayout* GTanka_frm::layOutTable() {
     line->addStretch();
     constexpr std::array<std::pair<Button, const char16_t*>, 3> kButtons{
         {{kShowAll, u"全表示"}, {kExport, u"Excel"}, {kEmptyTable, u"クリア"}}};
-    for (const auto& [index, caption] : kButtons) {
+    for (const auto& [index, caption] : kButtons)
         line->addWidget(&Command.add(index, new CommandButton(QString::fromUtf16(caption))));
-    }
 
-    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    List_ = &Named(new FlexGrid(this), u"List"_s);
     List_->SetFixedRows(1);
     constexpr int kHeight = 420;
     List_->SetRoom({Twips(kUsageWidth) + PriceTable::kPrices * Twips(kPriceWidth) + kScrollBar, kHeight});
@@ -143,24 +142,22 @@ QVBoxLayout* GTanka_frm::layOutTable() {
 
 // The four fields of a band lead to 追加; what is done to the whole pattern comes behind it.
 void GTanka_frm::orderWalk() {
-    for (const auto& [index, box] : ebox) {
+    for (const auto& [index, box] : ebox)
         JoinWalk(*this, *box);
-    }
-    for (const Button button : {kAdd, kSave, kShow, kShowAll, kExport, kEmptyTable, kClear}) {
+    for (const Button button : {kAdd, kSave, kShow, kShowAll, kExport, kEmptyTable, kClear})
         JoinWalk(*this, Command(button));
-    }
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{cmdLeft_, cmdRight_, Command1_, Check1_, Check2_}) {
+    for (QWidget* control : std::initializer_list<QWidget*>{cmdLeft_, cmdRight_, Command1_, Check1_, Check2_})
         JoinWalk(*this, *control);
-    }
     goRoundPast(ebox(kPattern));
 }
 
 void GTanka_frm::wire() {
-    wireKeys(ebox, [this](int index) {
-        if (index == kPattern) load();
-        return true;
-    });
+    wireKeys(
+        ebox,
+        [this](int index) {
+            if (index == kPattern) load();
+            return true;
+        });
     const auto press = [this](Button button, void (GTanka_frm::*action)()) {
         on(&Command(button), &CommandButton::Click, [this, action] { (this->*action)(); });
     };
@@ -170,13 +167,18 @@ void GTanka_frm::wire() {
     press(kShowAll, &GTanka_frm::showAllBands);
     press(kExport, &GTanka_frm::exportTable);
     on(&Command(kShow), &CommandButton::Click, [this] { showBand(typedBand()); });
-    on(&Command(kEmptyTable), &CommandButton::Click, [this] {
-        emptyTable();
-        Check1_->SetValue(0);
-    });
-    on(cmdLeft_, &CommandButton::Click, [this] { walk(QStringLiteral(" WHERE Ptn<%1 ORDER BY Ptn DESC")); });
-    on(cmdRight_, &CommandButton::Click, [this] { walk(QStringLiteral(" WHERE Ptn>%1 ORDER BY Ptn")); });
-    on(Command1_, &CommandButton::Click, [] { OpenScreen<Dentaku_frm>(); });
+    on(
+        &Command(kEmptyTable), &CommandButton::Click,
+        [this] {
+            emptyTable();
+            Check1_->SetValue(0);
+        });
+    on(
+        cmdLeft_, &CommandButton::Click, [this] { walk(u" WHERE Ptn<%1 ORDER BY Ptn DESC"_s); });
+    on(
+        cmdRight_, &CommandButton::Click, [this] { walk(u" WHERE Ptn>%1 ORDER BY Ptn"_s); });
+    on(
+        Command1_, &CommandButton::Click, [] { OpenScreen<Dentaku_frm>(); });
     on(ListK_, &FlexGrid::Click, [this] { clickBand(); });
 }
 
@@ -197,8 +199,8 @@ void GTanka_frm::clear() {
     Check2_->SetValue(0);
     ListK_->SetRows(1);
     emptyTable();
-    Recordset highest = gDb->OpenRecordset(QStringLiteral("SELECT MAX(Ptn) AS tCode FROM Gaskeisan"));
-    ebox(kPattern).SetText(NumStr(CLng(NullToZero(highest[QStringLiteral("tCode")])) + 1));
+    Recordset highest = gDb->OpenRecordset(u"SELECT MAX(Ptn) AS tCode FROM Gaskeisan"_s);
+    ebox(kPattern).SetText(NumStr(CLng(NullToZero(highest[u"tCode"_s])) + 1));
     FocusSelect(ebox(kPattern));
 }
 
@@ -208,9 +210,10 @@ QString GTanka_frm::pattern() const {
 
 void GTanka_frm::load() {
     ListK_->SetRows(1);
-    Recordset bands = gDb->OpenRecordset(QStringLiteral("SELECT * FROM GasKeisan"
-                                                        " WHERE Ptn=") +
-                                         pattern() + QStringLiteral(" ORDER BY St,Ed"));
+    Recordset bands = gDb->OpenRecordset(
+        u"SELECT * FROM GasKeisan"
+        " WHERE Ptn="_s +
+        pattern() + u" ORDER BY St,Ed"_s);
     for (; !bands.Eof(); bands.MoveNext()) {
         const auto text = [&bands](const char16_t* column) {
             return NumStr(NullToZero(bands[QString::fromUtf16(column)]));
@@ -220,9 +223,9 @@ void GTanka_frm::load() {
 }
 
 void GTanka_frm::walk(const QString& condition) {
-    Recordset next = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Gaskeisan") + condition.arg(pattern()));
+    Recordset next = gDb->OpenRecordset(u"SELECT * FROM Gaskeisan"_s + condition.arg(pattern()));
     if (next.Eof()) return clear();
-    ebox(kPattern).SetText(NumStr(next[QStringLiteral("Ptn")]));
+    ebox(kPattern).SetText(NumStr(next[u"Ptn"_s]));
     load();
 }
 
@@ -230,10 +233,9 @@ void GTanka_frm::putBand(const std::array<QString, 4>& texts) {
     const int row = ListK_->Rows();
     ListK_->SetRows(row + 1);
     ListK_->SetTextMatrix(row, kColMark, kKeep);
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 4; ++i)
         ListK_->SetTextMatrix(row, kColSt + i, texts[static_cast<std::size_t>(i)]);
-    }
-    ListK_->SetTextMatrix(row, kColShow, QStringLiteral("表示"));
+    ListK_->SetTextMatrix(row, kColShow, u"表示"_s);
 }
 
 void GTanka_frm::addBand() {
@@ -254,9 +256,8 @@ void GTanka_frm::clickBand() {
             if (mark == kKeep) showBand(bandOf(row));
             break;
         default:
-            for (int field = kSt; field <= kTanka; ++field) {
+            for (int field = kSt; field <= kTanka; ++field)
                 ebox(field).SetText(ListK_->TextMatrix(row, kColSt + field - kSt));
-            }
             break;
     }
 }
@@ -264,29 +265,27 @@ void GTanka_frm::clickBand() {
 void GTanka_frm::save() {
     if (ListK_->Rows() <= 1 || NumVal(ebox(kPattern).Text()) == 0.0) return;
     const auto where = [this](const QString& st, const QString& ed) {
-        return QStringLiteral(" WHERE Ptn=") + pattern() + QStringLiteral(" AND St=") + st +
-               QStringLiteral(" AND Ed=") + ed;
+        return u" WHERE Ptn="_s + pattern() + u" AND St="_s + st + u" AND Ed="_s + ed;
     };
     for (int row = 1; row < ListK_->Rows(); ++row) {
         if (ListK_->TextMatrix(row, kColMark) == kDelete) {
-            gDb->Execute(QStringLiteral("DELETE * FROM GasKeisan") +
-                         where(KeepNumeric(ListK_->TextMatrix(row, kColSt)),
-                               KeepNumeric(ListK_->TextMatrix(row, kColEd))));
+            gDb->Execute(u"DELETE * FROM GasKeisan"_s + where(KeepNumeric(ListK_->TextMatrix(row, kColSt)),
+                                                              KeepNumeric(ListK_->TextMatrix(row, kColEd))));
             continue;
         }
         const TariffBand band = bandOf(row);
-        Recordset stored = gDb->OpenRecordset(QStringLiteral("SELECT * FROM GasKeisan") +
-                                              where(NumStr(band.st), NumStr(band.ed)));
+        Recordset stored =
+            gDb->OpenRecordset(u"SELECT * FROM GasKeisan"_s + where(NumStr(band.st), NumStr(band.ed)));
         if (stored.Eof()) {
             stored.AddNew();
-            stored.Fields(QStringLiteral("Ptn")) = CInt(NumVal(ebox(kPattern).Text()));
-            stored.Fields(QStringLiteral("St")) = band.st;
-            stored.Fields(QStringLiteral("Ed")) = band.ed;
+            stored.Fields(u"Ptn"_s) = CInt(NumVal(ebox(kPattern).Text()));
+            stored.Fields(u"St"_s) = band.st;
+            stored.Fields(u"Ed"_s) = band.ed;
         } else {
             stored.Edit();
         }
-        stored.Fields(QStringLiteral("Kihon")) = band.kihon;
-        stored.Fields(QStringLiteral("Tanka")) = band.tanka;
+        stored.Fields(u"Kihon"_s) = band.kihon;
+        stored.Fields(u"Tanka"_s) = band.tanka;
         stored.Update();
     }
     clear();
@@ -296,11 +295,11 @@ void GTanka_frm::save() {
 // ---- the price table
 
 TariffBand GTanka_frm::typedBand() const {
-    return bandFrom(ebox(kSt).Text(), ebox(kEd).Text(), ebox(kKihon).Text(), ebox(kTanka).Text());
+    return BandFrom(ebox(kSt).Text(), ebox(kEd).Text(), ebox(kKihon).Text(), ebox(kTanka).Text());
 }
 
 TariffBand GTanka_frm::bandOf(int row) const {
-    return bandFrom(ListK_->TextMatrix(row, kColSt), ListK_->TextMatrix(row, kColEd),
+    return BandFrom(ListK_->TextMatrix(row, kColSt), ListK_->TextMatrix(row, kColEd),
                     ListK_->TextMatrix(row, kColKihon), ListK_->TextMatrix(row, kColTanka));
 }
 
@@ -312,9 +311,8 @@ void GTanka_frm::showBand(const TariffBand& band) {
 void GTanka_frm::showAllBands() {
     Check1_->SetValue(1);
     if (Check2_->Value() == 0) table_.Clear();
-    for (int row = 1; row < ListK_->Rows(); ++row) {
+    for (int row = 1; row < ListK_->Rows(); ++row)
         if (ListK_->TextMatrix(row, kColMark) == kKeep) addToTable(bandOf(row));
-    }
     paintTable();
 }
 
@@ -336,23 +334,20 @@ void GTanka_frm::emptyTable() {
 
 void GTanka_frm::paintTable() {
     const auto put = [this](int row, const PriceTable::Row& texts) {
-        for (int column = 0; column < List_->Cols(); ++column) {
+        for (int column = 0; column < List_->Cols(); ++column)
             List_->SetTextMatrix(row, column, texts[static_cast<std::size_t>(column)]);
-        }
     };
     List_->SetRows(static_cast<int>(table_.Rows().size()) + 1);
     put(0, PriceTable::Heads(Check2_->Value() == 1));
     int row = 1;
-    for (const PriceTable::Row& texts : table_.Rows()) {
+    for (const PriceTable::Row& texts : table_.Rows())
         put(row++, texts);
-    }
     List_->Refresh();
 }
 
 void GTanka_frm::exportTable() {
     if (List_->Rows() <= 1) return;
-    GridToExcel(QStringLiteral("ガス料金表"), QStringLiteral("パターン : ") + ebox(kPattern).Text(), {},
-                *List_);
+    GridToExcel(u"ガス料金表"_s, u"パターン : "_s + ebox(kPattern).Text(), {}, *List_);
 }
 
 }  // namespace akarix

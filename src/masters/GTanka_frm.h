@@ -2,6 +2,7 @@
 
 #include "masters/PriceTable.h"
 #include "platform/forms/CommandButton.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 class QVBoxLayout;
@@ -42,8 +43,8 @@ class GTanka_frm : public EntryForm {
     void paintTable();
     void exportTable();
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<CommandButton> Command{QStringLiteral("Command")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<CommandButton> Command{u"Command"_s};
     CommandButton* Command1_ = nullptr;
     CommandButton* cmdLeft_ = nullptr;
     CommandButton* cmdRight_ = nullptr;

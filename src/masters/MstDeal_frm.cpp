@@ -11,6 +11,7 @@
 #include "platform/forms/FieldLayout.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -44,33 +45,33 @@ enum { kClear, kRemove, kSave, kPrint };
 constexpr int kSheetRows = 59;  // 58 customers a page: the driver turns the page when it reaches this line
 constexpr int kSheetFirstRow = 3;
 
-MasterTexts texts() {
+MasterTexts Texts() {
     return {
-        .table = QStringLiteral("Deal"),
-        .load = QStringLiteral("SELECT * FROM Deal  WHERE Code=%1"),
-        .left = QStringLiteral("SELECT * FROM Deal WHERE Code<%1 ORDER BY Code DESC"),
-        .right = QStringLiteral("SELECT * FROM Deal WHERE Code>%1 ORDER BY Code"),
-        .remove = QStringLiteral("DELETE FROM Deal  WHERE Code=%1"),
-        .removeQuestion = QStringLiteral("この取引先を削除します。"),
+        .table = u"Deal"_s,
+        .load = u"SELECT * FROM Deal  WHERE Code=%1"_s,
+        .left = u"SELECT * FROM Deal WHERE Code<%1 ORDER BY Code DESC"_s,
+        .right = u"SELECT * FROM Deal WHERE Code>%1 ORDER BY Code"_s,
+        .remove = u"DELETE FROM Deal  WHERE Code=%1"_s,
+        .removeQuestion = u"この取引先を削除します。"_s,
     };
 }
 
-QString dealName(const Variant& code) {
+QString DealName(const Variant& code) {
     return GetDealName(code);
 }
 
-QString routeName(const Variant& code) {
-    return GetName(QStringLiteral("Rte"), code);
+QString RouteName(const Variant& code) {
+    return GetName(u"Rte"_s, code);
 }
 
 // Branch codes are shown with three digits; what is longer is a post office's code and stands as it is.
-QString branchText(const Variant& value) {
+QString BranchText(const Variant& value) {
     const QString text = NullToEmpty(value);
     constexpr int kShort = 2;
-    return text.isEmpty() || text.size() > kShort ? text : Format(text, QStringLiteral("000"));
+    return text.isEmpty() || text.size() > kShort ? text : Format(text, u"000"_s);
 }
 
-MasterField text(int index, const char16_t* label, const char16_t* column, int bytes, ImeMode ime) {
+MasterField Text(int index, const char16_t* label, const char16_t* column, int bytes, ImeMode ime) {
     return {.index = index,
             .label = QString::fromUtf16(label),
             .column = QString::fromUtf16(column),
@@ -78,7 +79,7 @@ MasterField text(int index, const char16_t* label, const char16_t* column, int b
             .ime = ime};
 }
 
-MasterField number(int index, const char16_t* label, const char16_t* column, FieldKind kind,
+MasterField Number(int index, const char16_t* label, const char16_t* column, FieldKind kind,
                    const char16_t* note = u"") {
     const auto bytes = [kind] {
         switch (kind) {
@@ -98,46 +99,46 @@ MasterField number(int index, const char16_t* label, const char16_t* column, Fie
             .note = QString::fromUtf16(note)};
 }
 
-FieldTable fields() {
-    const QString all = QStringLiteral("ALL");
-    MasterField code = number(kCode, u"コード", u"Code", FieldKind::Long);
+FieldTable Fields() {
+    const QString all = u"ALL"_s;
+    MasterField code = Number(kCode, u"コード", u"Code", FieldKind::Long);
     code.bytes = kLongKeyBytes;
-    code.lookup = FieldLookup{0, QStringLiteral("Deal"), {}};
-    MasterField route = number(kRoute, u"地区", u"Rte", FieldKind::Integer);
-    route.lookup = FieldLookup{3, QStringLiteral("Rte"), all};
-    route.nameLabel = QStringLiteral("sRte");
-    route.nameOf = routeName;
-    MasterField sime = number(kSime, u"締日", u"Sime", FieldKind::Integer, u"末締めは 31 ");
+    code.lookup = FieldLookup{0, u"Deal"_s, {}};
+    MasterField route = Number(kRoute, u"地区", u"Rte", FieldKind::Integer);
+    route.lookup = FieldLookup{3, u"Rte"_s, all};
+    route.nameLabel = u"sRte"_s;
+    route.nameOf = RouteName;
+    MasterField sime = Number(kSime, u"締日", u"Sime", FieldKind::Integer, u"末締めは 31 ");
     sime.newColumn = true;
-    MasterField bank = number(16, u"銀行", u"Bnk", FieldKind::Integer);
-    bank.display = MaskedUnlessZero(QStringLiteral("0000"));
-    MasterField branch = number(kStn, u"支店", u"Stn", FieldKind::Integer, u"郵便局は2文字目から3文字");
-    branch.display = branchText;
-    MasterField kind = number(18, u"種類", u"Kind", FieldKind::Integer, u"1:普通 2：当座");
-    kind.display = Masked(QStringLiteral("#"));
-    MasterField account = text(19, u"口座番号", u"Koza", 10, ImeMode::Off);
-    MasterField fixedDebit = number(kDiscGaku, u"毎月引落額", u"DiscGaku", FieldKind::Currency);
+    MasterField bank = Number(16, u"銀行", u"Bnk", FieldKind::Integer);
+    bank.display = MaskedUnlessZero(u"0000"_s);
+    MasterField branch = Number(kStn, u"支店", u"Stn", FieldKind::Integer, u"郵便局は2文字目から3文字");
+    branch.display = BranchText;
+    MasterField kind = Number(18, u"種類", u"Kind", FieldKind::Integer, u"1:普通 2：当座");
+    kind.display = Masked(u"#"_s);
+    MasterField account = Text(19, u"口座番号", u"Koza", 10, ImeMode::Off);
+    MasterField fixedDebit = Number(kDiscGaku, u"毎月引落額", u"DiscGaku", FieldKind::Currency);
     fixedDebit.shownBytes = kCurrencyShown;
     fixedDebit.display = MaskedUnlessZero({});
     return {
         code,
         route,
-        text(1, u"ﾌﾘｶﾞﾅ", u"Kana", 30, ImeMode::KatakanaHalf),
-        text(kNamae, u"名前", u"Namae", 40, ImeMode::Hiragana),
-        text(kRyaku, u"略称", u"Ryaku", 20, ImeMode::Hiragana),
-        text(kYubin, u"〒", u"Yubin", 8, ImeMode::Off),
-        text(kAddr1, u"住所", u"Addr1", 50, ImeMode::Hiragana),
-        text(6, u"住所", u"Addr2", 50, ImeMode::Hiragana),
-        text(7, u"電話", u"TEL", 15, ImeMode::Off),
-        text(8, u"ファックス", u"Fax", 15, ImeMode::Off),
+        Text(1, u"ﾌﾘｶﾞﾅ", u"Kana", 30, ImeMode::KatakanaHalf),
+        Text(kNamae, u"名前", u"Namae", 40, ImeMode::Hiragana),
+        Text(kRyaku, u"略称", u"Ryaku", 20, ImeMode::Hiragana),
+        Text(kYubin, u"〒", u"Yubin", 8, ImeMode::Off),
+        Text(kAddr1, u"住所", u"Addr1", 50, ImeMode::Hiragana),
+        Text(6, u"住所", u"Addr2", 50, ImeMode::Hiragana),
+        Text(7, u"電話", u"TEL", 15, ImeMode::Off),
+        Text(8, u"ファックス", u"Fax", 15, ImeMode::Off),
         sime,
-        number(10, u"支払方法", u"SH", FieldKind::Integer, u"1:集金  2:振込"),
-        number(11, u"地図", u"Map", FieldKind::Integer),
-        number(12, u"施設販売", u"Sisetu", FieldKind::Integer,
+        Number(10, u"支払方法", u"SH", FieldKind::Integer, u"1:集金  2:振込"),
+        Number(11, u"地図", u"Map", FieldKind::Integer),
+        Number(12, u"施設販売", u"Sisetu", FieldKind::Integer,
                u"0:不明 1:学校等 2:病院等\n3:公会堂等 4:料飲店等 5:その他\n6:共同住宅 7:一般住宅"),
-        number(13, u"締切", u"Simekiri", FieldKind::Integer),
-        number(kHaisou, u"順路", u"Haisou", FieldKind::Long),
-        number(15, u"単価ﾊﾟﾀｰﾝ", u"TankaPtn", FieldKind::Integer),
+        Number(13, u"締切", u"Simekiri", FieldKind::Integer),
+        Number(kHaisou, u"順路", u"Haisou", FieldKind::Long),
+        Number(15, u"単価ﾊﾟﾀｰﾝ", u"TankaPtn", FieldKind::Integer),
         bank,
         branch,
         kind,
@@ -149,14 +150,15 @@ FieldTable fields() {
 }  // namespace
 
 MstDeal_frm::MstDeal_frm()
-    : MasterForm(QStringLiteral("MstDeal_frm"), QStringLiteral("取引先"), texts()),
-      defaultSime_(CInt(NumVal(GetContents(QStringLiteral("SELECT Contents FROM zSysFunc WHERE Code=1"))))) {
-    addFields(fields());
+    : MasterForm(u"MstDeal_frm"_s, u"取引先"_s, Texts()),
+      defaultSime_(CInt(NumVal(GetContents(u"SELECT Contents FROM zSysFunc WHERE Code=1"_s)))) {
+    addFields(Fields());
     addLeases();
     addListFields();
     addButtons();
     orderWalk();
-    on(&ebox(kHaisou), &TextBox::GotFocus, [this] { proposeHaisou(); });
+    on(
+        &ebox(kHaisou), &TextBox::GotFocus, [this] { proposeHaisou(); });
     on(&Btn(kPrint), &CommandButton::Click, [this] { TrapPrinting([this] { print(); }); });
 }
 
@@ -173,15 +175,14 @@ void MstDeal_frm::addLeases() {
     ChkKeihou_ = tick(u"ChkKeihou", u"警報機リース");
     ChkNoSeikyu_ = tick(u"ChkNoSeikyu", u"請求書を発行しない");
     line->addStretch();
-    BtnDiscGaku_ =
-        &Named(new CommandButton(QStringLiteral("毎月引落額"), this), QStringLiteral("BtnDiscGaku"));
+    BtnDiscGaku_ = &Named(new CommandButton(u"毎月引落額"_s, this), u"BtnDiscGaku"_s);
     line->addWidget(BtnDiscGaku_);
     body().addLayout(line);
 }
 
 void MstDeal_frm::addListFields() {
     constexpr int kNameBytes = 24;
-    auto* group = new QGroupBox(QStringLiteral("取引先一覧"), this);
+    auto* group = new QGroupBox(u"取引先一覧"_s, this);
     FieldLayout rows(*this);
     const auto bound = [&](int field, int picture, const char16_t* caption, const char16_t* nameLabel) {
         rows.row(QString::fromUtf16(caption))
@@ -192,47 +193,43 @@ void MstDeal_frm::addListFields() {
     bound(kFrom, 1, u"コード自", u"sNamaeS");
     bound(kTo, 2, u"コード至", u"sNamaeE");
     rows.nextColumn();
-    TextBox& bank = Named(new TextBox, QStringLiteral("eSearchBnk"));
+    TextBox& bank = Named(new TextBox, u"eSearchBnk"_s);
     bank.SetIMEMode(ImeMode::Off);
     searchBank_.add(0, &bank);
-    rows.row(QStringLiteral("銀行コード")).text(bank, kIntegerBytes).lookup(F6.add(4, new Image));
-    rows.row({}).button(Btn.add(kPrint, new CommandButton(QStringLiteral("印刷"))));
+    rows.row(u"銀行コード"_s).text(bank, kIntegerBytes).lookup(F6.add(4, new Image));
+    rows.row({}).button(Btn.add(kPrint, new CommandButton(u"印刷"_s)));
     group->setLayout(rows.layout());
     body().addWidget(group);
 
-    wireKeys(searchBank_, [](int) { return true; });
+    wireKeys(
+        searchBank_, [](int) { return true; });
     const auto press = [this](int field) { pressEnter(field); };
-    wireLookup(F6(1), QStringLiteral("Deal"), {}, ebox(kFrom), press, kFrom);
-    wireLookup(F6(2), QStringLiteral("Deal"), {}, ebox(kTo), press, kTo);
+    wireLookup(F6(1), u"Deal"_s, {}, ebox(kFrom), press, kFrom);
+    wireLookup(F6(2), u"Deal"_s, {}, ebox(kTo), press, kTo);
     wireLookup(
-        F6(4), QStringLiteral("Bnk"), {}, bank, [](int) {}, 0);
+        F6(4), u"Bnk"_s, {}, bank, [](int) {}, 0);
 }
 
 // The row's own fields and its ticks lead to Save; the fields of the list are walked behind it.
 void MstDeal_frm::orderWalk() {
     std::vector<QWidget*> walk;
-    for (const MasterField& field : fields()) {
+    for (const MasterField& field : Fields())
         walk.push_back(&ebox(field.index));
-    }
     walk.insert(walk.end(), {ChkACU_, ChkKeihou_, ChkNoSeikyu_});
-    for (const int button : {kSave, kClear, kRemove}) {
+    for (const int button : {kSave, kClear, kRemove})
         walk.push_back(&Btn(button));
-    }
-    for (const QString& name : {QStringLiteral("cmdLeft"), QStringLiteral("cmdRight")}) {
+    for (const QString& name : {u"cmdLeft"_s, u"cmdRight"_s})
         walk.push_back(findChild<CommandButton*>(name));
-    }
     walk.insert(walk.end(), {BtnDiscGaku_, &ebox(kFrom), &ebox(kTo), &searchBank_(0), &Btn(kPrint)});
-    for (std::size_t place = 0; place < walk.size(); ++place) {
+    for (std::size_t place = 0; place < walk.size(); ++place)
         SetTabIndex(walk[place], static_cast<int>(place));
-    }
 }
 
 // ---- the row
 
 void MstDeal_frm::showDefaults() {
-    for (CheckBox* tick : {ChkACU_, ChkKeihou_, ChkNoSeikyu_}) {
+    for (CheckBox* tick : {ChkACU_, ChkKeihou_, ChkNoSeikyu_})
         tick->SetValue(0);
-    }
     if (defaultSime_ != 0) ebox(kSime).SetText(NumStr(defaultSime_));
 }
 
@@ -245,10 +242,10 @@ bool MstDeal_frm::enter(int index) {
             FillAddressFromZip(ebox(kYubin).Text(), ebox(kAddr1));
             break;
         case kFrom:
-            nameLabel(QStringLiteral("sNamaeS")).SetCaption(dealName(NumVal(ebox(kFrom).Text())));
+            nameLabel(u"sNamaeS"_s).SetCaption(DealName(NumVal(ebox(kFrom).Text())));
             break;
         case kTo:
-            nameLabel(QStringLiteral("sNamaeE")).SetCaption(dealName(NumVal(ebox(kTo).Text())));
+            nameLabel(u"sNamaeE"_s).SetCaption(DealName(NumVal(ebox(kTo).Text())));
             break;
         case kDiscGaku:
             FitMaxLength(ebox(kDiscGaku));
@@ -261,16 +258,16 @@ bool MstDeal_frm::enter(int index) {
 }
 
 void MstDeal_frm::showExtras(Recordset& row) {
-    if (row[QStringLiteral("Stn")].IsNull()) ebox(kStn).SetText({});  // branch 000 is a branch
-    ChkACU_->SetValue(integerOf(row[QStringLiteral("ACU")]));
-    ChkKeihou_->SetValue(integerOf(row[QStringLiteral("Keihou")]));
-    ChkNoSeikyu_->SetValue(integerOf(row[QStringLiteral("NoSeikyu")]));
+    if (row[u"Stn"_s].IsNull()) ebox(kStn).SetText({});  // branch 000 is a branch
+    ChkACU_->SetValue(IntegerOf(row[u"ACU"_s]));
+    ChkKeihou_->SetValue(IntegerOf(row[u"Keihou"_s]));
+    ChkNoSeikyu_->SetValue(IntegerOf(row[u"NoSeikyu"_s]));
 }
 
 void MstDeal_frm::storeExtras(Recordset& row) {
-    row.Fields(QStringLiteral("ACU")) = ChkACU_->Value();
-    row.Fields(QStringLiteral("Keihou")) = ChkKeihou_->Value();
-    row.Fields(QStringLiteral("NoSeikyu")) = ChkNoSeikyu_->Value();
+    row.Fields(u"ACU"_s) = ChkACU_->Value();
+    row.Fields(u"Keihou"_s) = ChkKeihou_->Value();
+    row.Fields(u"NoSeikyu"_s) = ChkNoSeikyu_->Value();
 }
 
 // The highest place of all routes, not of this one: a new customer goes to the end of whatever route he
@@ -311,33 +308,31 @@ QString MstDeal_frm::bankFilter() const {
 }
 
 void MstDeal_frm::print() {
-    const PrintRun run(QStringLiteral("取引先一覧"));
+    const PrintRun run(u"取引先一覧"_s);
     // One box gives both bounds: a code lists that customer alone. The second box only shows its name.
     const QString code = NumStr(NumVal(ebox(kFrom).Text()));
     listsBank_ = NumVal(searchBank_(0).Text()) >= 1;
-    QString sql = QStringLiteral(
-        "SELECT * FROM Deal "
-        " WHERE Code>0");
-    if (listsBank_) sql += QStringLiteral(" AND Bnk=") + bankFilter();
-    if (code != QStringLiteral("0")) {
-        sql += QStringLiteral(" AND Code>=") + code + QStringLiteral(" AND Code<=") + code;
-    }
-    sql += QStringLiteral(" ORDER BY Rte,Haisou,Code");
+    QString sql =
+        u"SELECT * FROM Deal "
+        " WHERE Code>0"_s;
+    if (listsBank_) sql += u" AND Bnk="_s + bankFilter();
+    if (code != u"0"_s) sql += u" AND Code>="_s + code + u" AND Code<="_s + code;
+    sql += u" ORDER BY Rte,Haisou,Code"_s;
     Recordset set = gDb->OpenRecordset(sql);
     if (set.Eof()) return;
-    ExcelOpenPaged(QStringLiteral("取引先一覧"), kSheetRows, kSheetFirstRow);
+    ExcelOpenPaged(u"取引先一覧"_s, kSheetRows, kSheetFirstRow);
     SetReport(this, std::move(set));
     ExcelRunPaged();
 }
 
 void MstDeal_frm::ClrDetail() {
-    ExcelCell(QStringLiteral("A4:G61"), {});
+    ExcelCell(u"A4:G61"_s, {});
 }
 
 void MstDeal_frm::PrintOutHead(int /*page*/) {
     if (!listsBank_) return;
-    ExcelCell(QStringLiteral("F3"), QStringLiteral("銀行-支店"));
-    ExcelCell(QStringLiteral("G3"), QStringLiteral("口座番号"));
+    ExcelCell(u"F3"_s, u"銀行-支店"_s);
+    ExcelCell(u"G3"_s, u"口座番号"_s);
 }
 
 void MstDeal_frm::PrintOutDetail(int row, Recordset& set) {
@@ -355,9 +350,9 @@ void MstDeal_frm::PrintOutDetail(int row, Recordset& set) {
         put(u'G', read(u"Fax"));
         return;
     }
-    put(u'F', Format(integerOf(set[QStringLiteral("Bnk")]), QStringLiteral("0000")) + QStringLiteral("-") +
-                  Format(integerOf(set[QStringLiteral("Stn")]), QStringLiteral("000")));
-    put(u'G', Format(read(u"Koza"), QStringLiteral("0000000")));
+    put(u'F',
+        Format(IntegerOf(set[u"Bnk"_s]), u"0000"_s) + u"-"_s + Format(IntegerOf(set[u"Stn"_s]), u"000"_s));
+    put(u'G', Format(read(u"Koza"), u"0000000"_s));
 }
 
 }  // namespace akarix

@@ -1,5 +1,6 @@
 #include "masters/MstHin_frm.h"
 
+#include "platform/runtime/Literals.h"
 #include "toolkit/FieldBytes.h"
 
 namespace akarix {
@@ -8,54 +9,46 @@ namespace {
 
 constexpr int kName = 2;
 
-MasterTexts texts() {
+MasterTexts Texts() {
     return {
-        .table = QStringLiteral("Hin"),
-        .load = QStringLiteral("SELECT * FROM Hin  WHERE Code=%1"),
-        .left = QStringLiteral("SELECT * FROM Hin WHERE Code<%1 ORDER BY Code DESC"),
-        .right = QStringLiteral("SELECT * FROM Hin WHERE Code>%1 ORDER BY Code"),
-        .remove = QStringLiteral("DELETE FROM Hin  WHERE Code=%1"),
-        .removeQuestion = QStringLiteral("この商品を削除します。"),
+        .table = u"Hin"_s,
+        .load = u"SELECT * FROM Hin  WHERE Code=%1"_s,
+        .left = u"SELECT * FROM Hin WHERE Code<%1 ORDER BY Code DESC"_s,
+        .right = u"SELECT * FROM Hin WHERE Code>%1 ORDER BY Code"_s,
+        .remove = u"DELETE FROM Hin  WHERE Code=%1"_s,
+        .removeQuestion = u"この商品を削除します。"_s,
     };
 }
 
-FieldTable fields() {
+FieldTable Fields() {
     return {
         {.index = 0,
-         .label = QStringLiteral("コード"),
-         .column = QStringLiteral("Code"),
+         .label = u"コード"_s,
+         .column = u"Code"_s,
          .kind = FieldKind::Long,
          .bytes = kLongKeyBytes,
-         .lookup = FieldLookup{0, QStringLiteral("Hin"), QStringLiteral("ALL")}},
-        {.index = 1,
-         .label = QStringLiteral("ﾌﾘｶﾞﾅ"),
-         .column = QStringLiteral("Kana"),
-         .bytes = 30,
-         .ime = ImeMode::KatakanaHalf},
-        {.index = kName,
-         .label = QStringLiteral("名前"),
-         .column = QStringLiteral("Namae"),
-         .bytes = 40,
-         .ime = ImeMode::Hiragana},
+         .lookup = FieldLookup{0, u"Hin"_s, u"ALL"_s}},
+        {.index = 1, .label = u"ﾌﾘｶﾞﾅ"_s, .column = u"Kana"_s, .bytes = 30, .ime = ImeMode::KatakanaHalf},
+        {.index = kName, .label = u"名前"_s, .column = u"Namae"_s, .bytes = 40, .ime = ImeMode::Hiragana},
         {.index = 3,
-         .label = QStringLiteral("単価"),
-         .column = QStringLiteral("Tanka"),
+         .label = u"単価"_s,
+         .column = u"Tanka"_s,
          .kind = FieldKind::Currency,
          .bytes = kCurrencyBytes,
          .shownBytes = kCurrencyShown,
-         .display = Masked(QStringLiteral("###,###"))},
+         .display = Masked(u"###,###"_s)},
     };
 }
 
 }  // namespace
 
-MstHin_frm::MstHin_frm() : MasterForm(QStringLiteral("MstHin_frm"), QStringLiteral("商品マスター"), texts()) {
-    addFields(fields());
+MstHin_frm::MstHin_frm() : MasterForm(u"MstHin_frm"_s, u"商品マスター"_s, Texts()) {
+    addFields(Fields());
     addButtons();
 }
 
 bool MstHin_frm::maySave() {
-    return MasterForm::maySave() && require(kName, QStringLiteral("商品名を入れて下さい。"));
+    return MasterForm::maySave() && require(kName, u"商品名を入れて下さい。"_s);
 }
 
 }  // namespace akarix

@@ -1,53 +1,46 @@
 #include "masters/MstRte_frm.h"
 
+#include "platform/runtime/Literals.h"
 #include "toolkit/FieldBytes.h"
 
 namespace akarix {
 
 namespace {
 
-MasterTexts texts() {
+MasterTexts Texts() {
     return {
-        .table = QStringLiteral("Rte"),
-        .load = QStringLiteral("SELECT * FROM Rte  WHERE Code=%1"),
-        .left = QStringLiteral("SELECT * FROM Rte WHERE Code<%1 ORDER BY Code DESC"),
-        .right = QStringLiteral("SELECT * FROM Rte WHERE Code>%1 ORDER BY Code"),
-        .remove = QStringLiteral("DELETE FROM Rte  WHERE Code=%1"),
-        .removeQuestion = QStringLiteral("このルートを削除します。"),
+        .table = u"Rte"_s,
+        .load = u"SELECT * FROM Rte  WHERE Code=%1"_s,
+        .left = u"SELECT * FROM Rte WHERE Code<%1 ORDER BY Code DESC"_s,
+        .right = u"SELECT * FROM Rte WHERE Code>%1 ORDER BY Code"_s,
+        .remove = u"DELETE FROM Rte  WHERE Code=%1"_s,
+        .removeQuestion = u"このルートを削除します。"_s,
     };
 }
 
-FieldTable fields() {
+FieldTable Fields() {
     return {
         {.index = 0,
-         .label = QStringLiteral("コード"),
-         .column = QStringLiteral("Code"),
+         .label = u"コード"_s,
+         .column = u"Code"_s,
          .kind = FieldKind::Integer,
          .bytes = kIntegerBytes,
-         .lookup = FieldLookup{0, QStringLiteral("Rte"), QStringLiteral("ALL")}},
-        {.index = 1,
-         .label = QStringLiteral("ﾌﾘｶﾞﾅ"),
-         .column = QStringLiteral("Kana"),
-         .bytes = 20,
-         .ime = ImeMode::KatakanaHalf},
-        {.index = 2,
-         .label = QStringLiteral("名前"),
-         .column = QStringLiteral("Namae"),
-         .bytes = 30,
-         .ime = ImeMode::Hiragana},
+         .lookup = FieldLookup{0, u"Rte"_s, u"ALL"_s}},
+        {.index = 1, .label = u"ﾌﾘｶﾞﾅ"_s, .column = u"Kana"_s, .bytes = 20, .ime = ImeMode::KatakanaHalf},
+        {.index = 2, .label = u"名前"_s, .column = u"Namae"_s, .bytes = 30, .ime = ImeMode::Hiragana},
         {.index = 3,
-         .label = QStringLiteral("検針日"),
-         .column = QStringLiteral("Kensin"),
+         .label = u"検針日"_s,
+         .column = u"Kensin"_s,
          .kind = FieldKind::Integer,
          .bytes = kIntegerBytes,
-         .display = Masked(QStringLiteral("##"))},
+         .display = Masked(u"##"_s)},
     };
 }
 
 }  // namespace
 
-MstRte_frm::MstRte_frm() : MasterForm(QStringLiteral("MstRte_frm"), QStringLiteral("地区マスター"), texts()) {
-    addFields(fields());
+MstRte_frm::MstRte_frm() : MasterForm(u"MstRte_frm"_s, u"地区マスター"_s, Texts()) {
+    addFields(Fields());
     addButtons();
 }
 

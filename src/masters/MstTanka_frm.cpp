@@ -12,6 +12,7 @@
 #include "platform/forms/GridHead.h"
 #include "platform/forms/Notice.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
@@ -33,8 +34,7 @@ constexpr int kColumns = 11;  // the capacities of the rows, and ten prices
 }  // namespace
 
 MstTanka_frm::MstTanka_frm()
-    : EntryForm(QStringLiteral("MstTanka_frm"), QStringLiteral("価格表")),
-      List_(&Named(new FlexGrid(this), QStringLiteral("List"))) {
+    : EntryForm(u"MstTanka_frm"_s, u"価格表"_s), List_(&Named(new FlexGrid(this), u"List"_s)) {
     constexpr int kLabelWidth = 600;
     constexpr int kPriceWidth = 800;
     constexpr int kGridHeight = 420;
@@ -53,18 +53,23 @@ MstTanka_frm::MstTanka_frm()
 
     wireKeys(ebox, [this](int index) { return enter(index); });
     goRoundPast(ebox(kPattern));
-    on(Opt, &OptionButton::Click, [this](int) { drawGrid(); });
+    on(
+        Opt, &OptionButton::Click, [this](int) { drawGrid(); });
     const auto press = [this](Button button, auto action) {
         on(&Btn(button), &CommandButton::Click, std::move(action));
     };
-    press(kClear, [this] { clear(); });
+    press(
+        kClear, [this] { clear(); });
     press(kDelete, [this] { remove(); });
-    press(kSave, [this] {
-        if (!save()) return;
-        clear();
-        NoticeSaved();
-    });
-    press(kPrint, [this] { print(); });
+    press(
+        kSave,
+        [this] {
+            if (!save()) return;
+            clear();
+            NoticeSaved();
+        });
+    press(
+        kPrint, [this] { print(); });
     press(kExport, [this] { exportGrid(); });
 }
 
@@ -80,9 +85,8 @@ QBoxLayout* MstTanka_frm::layOutFields() {
 
     auto* kinds = new QVBoxLayout;
     int index = 0;
-    for (const CapacityKind& kind : kCapacityKinds) {
+    for (const CapacityKind& kind : kCapacityKinds)
         kinds->addWidget(&Opt.add(index++, new OptionButton(QString::fromUtf16(kind.name), this)));
-    }
     kinds->addStretch();
 
     constexpr int kBetween = 40;
@@ -135,12 +139,10 @@ QString MstTanka_frm::pattern() const {
 void MstTanka_frm::drawGrid() {
     List_->SetRows(1);
     List_->SetRows(kind().gridRows);
-    for (int column = 1; column < kColumns; ++column) {
+    for (int column = 1; column < kColumns; ++column)
         List_->SetTextMatrix(0, column, QString::fromUtf16(kind().columnMark) + NumStr(column - 1));
-    }
-    for (int row = 1; row < List_->Rows(); ++row) {
+    for (int row = 1; row < List_->Rows(); ++row)
         List_->SetTextMatrix(row, 0, NumStr((row - 1) * kind().rowStep));
-    }
 }
 
 bool MstTanka_frm::enter(int index) {
@@ -153,27 +155,26 @@ bool MstTanka_frm::enter(int index) {
 }
 
 void MstTanka_frm::load() {
-    if (const CapacityKind* stored = StoredKind(pattern())) {
+    if (const CapacityKind* stored = StoredKind(pattern()))
         Opt(stored == &kCapacityKinds[0] ? 0 : 1).SetValue(true);
-    }
     drawGrid();
-    Recordset rows = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Tnk "
-                                                       " WHERE Ptn=") +
-                                        pattern() + QStringLiteral(" ORDER BY Capa"));
-    for (; !rows.Eof(); rows.MoveNext()) {
-        put(moneyOf(rows[QStringLiteral("Capa")]), moneyOf(rows[QStringLiteral("Tanka")]));
-    }
+    Recordset rows = gDb->OpenRecordset(
+        u"SELECT * FROM Tnk "
+        " WHERE Ptn="_s +
+        pattern() + u" ORDER BY Capa"_s);
+    for (; !rows.Eof(); rows.MoveNext())
+        put(MoneyOf(rows[u"Capa"_s]), MoneyOf(rows[u"Tanka"_s]));
 }
 
 void MstTanka_frm::put(Currency capacity, Currency price) {
     const CapacityPlace place = PlaceOf(kind().index(capacity));
-    List_->SetTextMatrix(place.row + 1, place.column + 1, Format(price, QStringLiteral("###,###")));
+    List_->SetTextMatrix(place.row + 1, place.column + 1, Format(price, u"###,###"_s));
 }
 
 void MstTanka_frm::takePrice() {
     const Currency capacity = ToCurrency(ebox(kCapacity).Text());
     // The price is taken all the same: the grid holds a little more than is kept, and past it is an error.
-    if (!kind().accepts(capacity)) ShowAlert(QStringLiteral("数量が正しくありません。"));
+    if (!kind().accepts(capacity)) ShowAlert(u"数量が正しくありません。"_s);
     FocusSelect(ebox(kCapacity));
     put(capacity, ToCurrency(ebox(kPrice).Text()));
     const CapacityPlace place = PlaceOf(kind().index(capacity));
@@ -185,7 +186,7 @@ void MstTanka_frm::takePrice() {
 
 bool MstTanka_frm::save() {
     if (NumVal(ebox(kPattern).Text()) == 0.0) {
-        ShowAlert(QStringLiteral("パターンが不正です。"));
+        ShowAlert(u"パターンが不正です。"_s);
         FocusSelect(ebox(kPattern));
         return false;
     }
@@ -193,29 +194,27 @@ bool MstTanka_frm::save() {
     // capacity in the box alone that changes.
     const QString capacity = ebox(kCapacity).Text();
     if (HasText(capacity)) {
-        gDb->Execute(QStringLiteral("DELETE FROM Tnk "
-                                    " WHERE Ptn =") +
-                     pattern() + QStringLiteral(" AND   Capa=") + capacity);
+        gDb->Execute(
+            u"DELETE FROM Tnk "
+            " WHERE Ptn ="_s +
+            pattern() + u" AND   Capa="_s + capacity);
     }
     for (int i = 0; i < kind().indices; ++i) {
         const CapacityPlace place = PlaceOf(Currency(i));
         const Currency price = ToCurrency(List_->TextMatrix(place.row + 1, place.column + 1));
         if (price.IsZero()) continue;
         const QStringList values{pattern(), NumStr(kind().capacity(i)), NumStr(price), NumStr(kind().kubun)};
-        gDb->Execute(QStringLiteral("INSERT INTO Tnk(Ptn,Capa,Tanka,Kubun) VALUES(") + values.join(u',') +
-                     QStringLiteral(")"));
+        gDb->Execute(u"INSERT INTO Tnk(Ptn,Capa,Tanka,Kubun) VALUES("_s + values.join(u',') + u")"_s);
     }
     return true;
 }
 
 void MstTanka_frm::remove() {
-    if (!AskConfirm(QStringLiteral("この単価パターンを削除します。"), QStringLiteral("はい"),
-                    QStringLiteral("いいえ"))) {
-        return;
-    }
-    gDb->Execute(QStringLiteral("DELETE FROM Tnk "
-                                " WHERE Ptn=") +
-                 pattern());
+    if (!AskConfirm(u"この単価パターンを削除します。"_s, u"はい"_s, u"いいえ"_s)) return;
+    gDb->Execute(
+        u"DELETE FROM Tnk "
+        " WHERE Ptn="_s +
+        pattern());
     clear();
 }
 
@@ -233,8 +232,7 @@ void MstTanka_frm::print() {
 
 void MstTanka_frm::exportGrid() {
     if (List_->Rows() == 0) return;
-    GridToExcel(QStringLiteral("単価表"),
-                QStringLiteral("条件 : ") + QStringLiteral("パターン : ") + ebox(kPattern).Text(),
+    GridToExcel(u"単価表"_s, u"条件 : "_s + u"パターン : "_s + ebox(kPattern).Text(),
                 QString::fromUtf16(kind().name), *List_);
 }
 

@@ -3,6 +3,7 @@
 #include "masters/CapacityKind.h"
 #include "platform/forms/Choice.h"
 #include "platform/forms/CommandButton.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 class QBoxLayout;
@@ -37,9 +38,9 @@ class MstTanka_frm : public EntryForm {
     QString pattern() const;
     void put(Currency capacity, Currency price);
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<OptionButton> Opt{QStringLiteral("Opt")};
-    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<OptionButton> Opt{u"Opt"_s};
+    ControlArray<CommandButton> Btn{u"Btn"_s};
     FlexGrid* List_;
 };
 

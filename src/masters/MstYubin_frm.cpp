@@ -1,5 +1,7 @@
 #include "masters/MstYubin_frm.h"
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix {
 
 namespace {
@@ -18,56 +20,54 @@ enum Field {
     kJimusyo
 };
 
-MasterTexts texts() {
+MasterTexts Texts() {
     // The whole table: the way back to the post office must be open from any row.
-    return ConsignorTexts(QStringLiteral("SELECT * FROM Bnk WHERE Code =%1"),
-                          QStringLiteral("SELECT * FROM Bnk WHERE Code<%1 ORDER BY Code DESC"),
-                          QStringLiteral("SELECT * FROM Bnk WHERE Code>%1 ORDER BY Code"));
+    return ConsignorTexts(u"SELECT * FROM Bnk WHERE Code =%1"_s,
+                          u"SELECT * FROM Bnk WHERE Code<%1 ORDER BY Code DESC"_s,
+                          u"SELECT * FROM Bnk WHERE Code>%1 ORDER BY Code"_s);
 }
 
-FieldTable fields() {
+FieldTable Fields() {
     FieldTable table{
-        ConsignorField(kCode, QStringLiteral("コード"), QStringLiteral("Code")),
-        ConsignorField(kBkName, QStringLiteral("郵便局"), QStringLiteral("BkName")),
-        ConsignorField(kItakuCode, QStringLiteral("委託者コード"), QStringLiteral("ItakuCode")),
-        ConsignorField(kItakusya, QStringLiteral("委託者名"), QStringLiteral("Itakusya")),
-        ConsignorField(kFName, QStringLiteral("ファイル名"), QStringLiteral("fName")),
-        ConsignorField(kKozaNo, QStringLiteral("口座番号"), QStringLiteral("KozaNo")),
-        ConsignorField(kStn, QStringLiteral("支店"), QStringLiteral("Stn")),
-        ConsignorField(kStnName, QStringLiteral("支店名"), QStringLiteral("StnName")),
-        ConsignorField(kSaifurikae, QStringLiteral("再振替日"), QStringLiteral("Saifurikae")),
-        ConsignorField(kKeiyaku, QStringLiteral("契約種別"), QStringLiteral("Keiyaku")),
-        ConsignorField(kJimusyo, QStringLiteral("受入事務センター"), QStringLiteral("Jimusyo")),
+        ConsignorField(kCode, u"コード"_s, u"Code"_s),
+        ConsignorField(kBkName, u"郵便局"_s, u"BkName"_s),
+        ConsignorField(kItakuCode, u"委託者コード"_s, u"ItakuCode"_s),
+        ConsignorField(kItakusya, u"委託者名"_s, u"Itakusya"_s),
+        ConsignorField(kFName, u"ファイル名"_s, u"fName"_s),
+        ConsignorField(kKozaNo, u"口座番号"_s, u"KozaNo"_s),
+        ConsignorField(kStn, u"支店"_s, u"Stn"_s),
+        ConsignorField(kStnName, u"支店名"_s, u"StnName"_s),
+        ConsignorField(kSaifurikae, u"再振替日"_s, u"Saifurikae"_s),
+        ConsignorField(kKeiyaku, u"契約種別"_s, u"Keiyaku"_s),
+        ConsignorField(kJimusyo, u"受入事務センター"_s, u"Jimusyo"_s),
     };
-    table[kSaifurikae].note = QStringLiteral("日");
+    table[kSaifurikae].note = u"日"_s;
     return table;
 }
 
 }  // namespace
 
 MstYubin_frm::MstYubin_frm()
-    : ConsignorForm(QStringLiteral("MstYubin_frm"), QStringLiteral("委託郵便局マスター"), texts(), fields(),
-                    {{kBkName, QStringLiteral("郵便局を入れてください。")},
-                     {kItakuCode, QStringLiteral("委託者コードを入れてください。")},
-                     {kItakusya, QStringLiteral("委託者名を入れてください。")},
-                     {kFName, QStringLiteral("ファイル名を入れてください。")},
-                     {kKozaNo, QStringLiteral("口座番号を入れてください。")},
-                     {kStn, QStringLiteral("支店を入れてください。")}}) {}
+    : ConsignorForm(u"MstYubin_frm"_s, u"委託郵便局マスター"_s, Texts(), Fields(),
+                    {{kBkName, u"郵便局を入れてください。"_s},
+                     {kItakuCode, u"委託者コードを入れてください。"_s},
+                     {kItakusya, u"委託者名を入れてください。"_s},
+                     {kFName, u"ファイル名を入れてください。"_s},
+                     {kKozaNo, u"口座番号を入れてください。"_s},
+                     {kStn, u"支店を入れてください。"_s}}) {}
 
 QString MstYubin_frm::proposedCode() {
-    return QStringLiteral("9900");
+    return u"9900"_s;
 }
 
 void MstYubin_frm::showDefaults() {
-    ebox(kBkName).SetText(QStringLiteral("ﾕｳｾｲｼﾖｳﾁﾖｷﾝｷﾖｸ"));
-    ebox(kFName).SetText(QStringLiteral("jiharai"));
+    ebox(kBkName).SetText(u"ﾕｳｾｲｼﾖｳﾁﾖｷﾝｷﾖｸ"_s);
+    ebox(kFName).SetText(u"jiharai"_s);
 }
 
 bool MstYubin_frm::maySave() {
     constexpr int kCodeLength = 4;
-    if (ebox(kCode).Text().size() != kCodeLength) {
-        return refuse(QStringLiteral("コードを入れてください。"), kCode);
-    }
+    if (ebox(kCode).Text().size() != kCodeLength) return refuse(u"コードを入れてください。"_s, kCode);
     return ConsignorForm::maySave();
 }
 

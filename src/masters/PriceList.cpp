@@ -5,6 +5,7 @@
 #include "masters/CapacityKind.h"
 #include "output/EX.h"
 #include "output/PrintRun.h"
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -23,7 +24,7 @@ struct Page {
     int base;  ///< the page's first capacity
 };
 
-const std::vector<Page>& pagesOf(const CapacityKind& kind) {
+const std::vector<Page>& PagesOf(const CapacityKind& kind) {
     static const std::vector<Page> whole{{u" AND Capa>=  0 AND Capa<200", 0},
                                          {u" AND Capa>=200 AND Capa<400", 200}};
     static const std::vector<Page> tenths{{u" AND Capa>= 0 AND Capa<20", 0},
@@ -32,41 +33,37 @@ const std::vector<Page>& pagesOf(const CapacityKind& kind) {
     return kind.perUnit == 1 ? whole : tenths;
 }
 
-void fillPage(const QString& pattern, const CapacityKind& kind, const Page& page) {
-    ExcelCell(QStringLiteral("H2"), pattern);
-    ExcelCell(QStringLiteral("C5:L24"), {});
-    Recordset rows =
-        gDb->OpenRecordset(QStringLiteral("SELECT * FROM Tnk "
-                                          " WHERE Ptn=") +
-                           pattern + QString::fromUtf16(page.filter) + QStringLiteral(" ORDER BY Capa"));
+void FillPage(const QString& pattern, const CapacityKind& kind, const Page& page) {
+    ExcelCell(u"H2"_s, pattern);
+    ExcelCell(u"C5:L24"_s, {});
+    Recordset rows = gDb->OpenRecordset(
+        u"SELECT * FROM Tnk "
+        " WHERE Ptn="_s +
+        pattern + QString::fromUtf16(page.filter) + u" ORDER BY Capa"_s);
     for (; !rows.Eof(); rows.MoveNext()) {
-        const CapacityPlace place =
-            PlaceOf(kind.index(moneyOf(rows[QStringLiteral("Capa")]) - Currency(page.base)));
-        ExcelCell(CellAddress(QStringLiteral("C"), kFirstRow, place.column, place.row),
-                  NumStr(moneyOf(rows[QStringLiteral("Tanka")])));
+        const CapacityPlace place = PlaceOf(kind.index(MoneyOf(rows[u"Capa"_s]) - Currency(page.base)));
+        ExcelCell(CellAddress(u"C"_s, kFirstRow, place.column, place.row), NumStr(MoneyOf(rows[u"Tanka"_s])));
     }
-    for (int row = 0; row < kPageRows; ++row) {
-        ExcelCell(CellAddress(QStringLiteral("B"), kFirstRow, 0, row),
-                  NumStr(page.base + row * kind.rowStep));
-    }
+    for (int row = 0; row < kPageRows; ++row)
+        ExcelCell(CellAddress(u"B"_s, kFirstRow, 0, row), NumStr(page.base + row * kind.rowStep));
 }
 
 }  // namespace
 
 const CapacityKind* StoredKind(const QString& pattern) {
-    return CapacityKindOf(integerOf(FirstValue(
-        QStringLiteral("SELECT TOP 1 Kubun FROM Tnk WHERE Ptn=") + pattern, QStringLiteral("Kubun"))));
+    return CapacityKindOf(
+        IntegerOf(FirstValue(u"SELECT TOP 1 Kubun FROM Tnk WHERE Ptn="_s + pattern, u"Kubun"_s)));
 }
 
 void PrintPriceList(const QString& pattern) {
     const CapacityKind* kind = StoredKind(pattern);
     if (kind == nullptr) return;
-    PrintRun run(QStringLiteral("価格表"));
-    const std::vector<Page>& pages = pagesOf(*kind);
+    PrintRun run(u"価格表"_s);
+    const std::vector<Page>& pages = PagesOf(*kind);
     for (size_t i = 0; i < pages.size(); ++i) {
         run.next(static_cast<int>(i), static_cast<int>(pages.size()));
-        ExcelOpen(QStringLiteral("価格表"));
-        fillPage(pattern, *kind, pages[i]);
+        ExcelOpen(u"価格表"_s);
+        FillPage(pattern, *kind, pages[i]);
         ExcelPrintPage();
         ExcelClose();
     }

@@ -1,17 +1,18 @@
 #include "masters/PriceTable.h"
 
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
 namespace {
 
 // A fraction of a yen is rounded here and dropped on the bill: a price of the table may be a yen higher.
-QString price(Currency charge) {
-    return Format(charge, QStringLiteral("#,###"));
+QString Price(Currency charge) {
+    return Format(charge, u"#,###"_s);
 }
 
-std::size_t cellOf(int place) {
+std::size_t CellOf(int place) {
     return static_cast<std::size_t>(place) + 1;
 }
 
@@ -19,9 +20,8 @@ std::size_t cellOf(int place) {
 
 PriceTable::Row PriceTable::Heads(bool whole) {
     Row heads;
-    for (int place = 0; place < kPrices; ++place) {
-        heads[cellOf(place)] = (whole ? QString() : QStringLiteral(".")) + QString::number(place);
-    }
+    for (int place = 0; place < kPrices; ++place)
+        heads[CellOf(place)] = (whole ? QString() : u"."_s) + QString::number(place);
     return heads;
 }
 
@@ -42,7 +42,7 @@ void PriceTable::AddTenths(const TariffBand& band) {
         Row& row = beginRow(n);
         for (int tenth = 0; tenth < kPrices; ++tenth) {
             const Currency above = Currency(n - band.st) + Currency(tenth) / Currency(10);
-            row[cellOf(tenth)] = price(band.kihon + above * band.tanka);
+            row[CellOf(tenth)] = Price(band.kihon + above * band.tanka);
         }
     }
 }
@@ -52,7 +52,7 @@ void PriceTable::AddWhole(const TariffBand& band) {
         Row& row = column_ == 0 ? beginRow(n) : rows_.back();
         // The whole usage, not what lies above the band's start: a band that does not start at 0 is priced
         // higher here than it is billed, and dealers know this table so.
-        row[cellOf(column_)] = price(band.kihon + Currency(n) * band.tanka);
+        row[CellOf(column_)] = Price(band.kihon + Currency(n) * band.tanka);
         column_ = (column_ + 1) % kPrices;
     }
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "platform/runtime/Literals.h"
 #include "store/Lookup.h"
 #include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"
@@ -21,34 +22,25 @@ constexpr std::array<std::pair<const char16_t*, const char16_t*>, 5> kCaptions{{
                                                                                 {u"Col", u"色"},
                                                                                 {u"Shk", u"出荷形態"}}};
 
-QString captionOf(const QString& table) {
-    for (const auto& [name, caption] : kCaptions) {
+QString CaptionOf(const QString& table) {
+    for (const auto& [name, caption] : kCaptions)
         if (table == QString::fromUtf16(name)) return QString::fromUtf16(caption);
-    }
     return table;
 }
 
-FieldTable fields() {
+FieldTable Fields() {
     return {
         {.index = 0,
-         .label = QStringLiteral("コード"),
-         .column = QStringLiteral("Code"),
+         .label = u"コード"_s,
+         .column = u"Code"_s,
          .kind = FieldKind::Long,
          .bytes = kLongKeyBytes,
          .lookup = FieldLookup{}},
-        {.index = 1,
-         .label = QStringLiteral("ﾌﾘｶﾞﾅ"),
-         .column = QStringLiteral("Kana"),
-         .bytes = 30,
-         .ime = ImeMode::KatakanaHalf},
-        {.index = kName,
-         .label = QStringLiteral("名前"),
-         .column = QStringLiteral("Namae"),
-         .bytes = 40,
-         .ime = ImeMode::Hiragana},
+        {.index = 1, .label = u"ﾌﾘｶﾞﾅ"_s, .column = u"Kana"_s, .bytes = 30, .ime = ImeMode::KatakanaHalf},
+        {.index = kName, .label = u"名前"_s, .column = u"Namae"_s, .bytes = 40, .ime = ImeMode::Hiragana},
         {.index = kShortName,
-         .label = QStringLiteral("略称"),
-         .column = QStringLiteral("Ryaku"),
+         .label = u"略称"_s,
+         .column = u"Ryaku"_s,
          .bytes = 20,
          .ime = ImeMode::Hiragana},
     };
@@ -56,20 +48,20 @@ FieldTable fields() {
 
 }  // namespace
 
-ms_frm::ms_frm() : MasterForm(QStringLiteral("ms_frm"), {}, {}) {
-    addFields(fields());
+ms_frm::ms_frm() : MasterForm(u"ms_frm"_s, {}, {}) {
+    addFields(Fields());
     addButtons();
 }
 
 void ms_frm::init(const QString& table) {
     table_ = table;
-    SetCaption(captionOf(table));
+    SetCaption(CaptionOf(table));
     setTexts({.table = table,
-              .load = QStringLiteral("SELECT * FROM ") + table + QStringLiteral(" WHERE Code=%1"),
+              .load = u"SELECT * FROM "_s + table + u" WHERE Code=%1"_s,
               .left = {},
               .right = {},
-              .remove = QStringLiteral("DELETE FROM ") + table + QStringLiteral(" WHERE Code=%1"),
-              .removeQuestion = QStringLiteral("このコードを削除します。")});
+              .remove = u"DELETE FROM "_s + table + u" WHERE Code=%1"_s,
+              .removeQuestion = u"このコードを削除します。"_s});
     clear();
 }
 
@@ -88,15 +80,14 @@ QString ms_frm::codeText() const {
 }
 
 QString ms_frm::proposedCode() {
-    return NumStr(HighestPlus(
-        QStringLiteral("SELECT TOP 1 Code FROM ") + table_ + QStringLiteral(" ORDER BY Code DESC"), 1));
+    return NumStr(HighestPlus(u"SELECT TOP 1 Code FROM "_s + table_ + u" ORDER BY Code DESC"_s, 1));
 }
 
 // A code without a row gives way to the next free one.
 void ms_frm::keepUnknownCode(const QString& /*typed*/) {}
 
 bool ms_frm::maySave() {
-    return NumVal(ebox(kCode).Text()) != 0.0 || refuse(QStringLiteral("コードが記述されていません。"), kCode);
+    return NumVal(ebox(kCode).Text()) != 0.0 || refuse(u"コードが記述されていません。"_s, kCode);
 }
 
 }  // namespace akarix

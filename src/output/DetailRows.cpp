@@ -8,6 +8,7 @@
 #include "platform/print/PrintSurface.h"
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/CInt.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/NumberOf.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"
@@ -37,7 +38,7 @@ Recordset& SetOf(PrintReport& report) {
 /// A number equals a number of any kind; text equals text alone.
 bool SameValue(const Variant& a, const Variant& b) {
     if (a.IsText() || b.IsText()) return a == b;
-    return numberOf(a).plainText() == numberOf(b).plainText();
+    return NumberOf(a).plainText() == NumberOf(b).plainText();
 }
 
 bool IsNumber(const PrintColumn& column) {
@@ -51,9 +52,8 @@ void DetailRows::MeasureColumns() {
         PrintColumn& column = report_.Column(i);
         if (!column.FontName.isEmpty()) surface_.SetFontName(column.FontName);
         if (column.FontSize != 0) surface_.SetFontSize(column.FontSize.value());
-        const double width = column.Kind == u"S"
-                                 ? surface_.TextWidth(QStringLiteral(" ")) * NumVal(column.Mask)
-                                 : surface_.TextWidth(column.Mask);
+        const double width = column.Kind == u"S" ? surface_.TextWidth(u" "_s) * NumVal(column.Mask)
+                                                 : surface_.TextWidth(column.Mask);
         column.Width = Int16::Rounded(width);
     }
 }
@@ -64,7 +64,7 @@ bool DetailRows::PrintPage() {
     } catch (const RuntimeError& error) {
         if (failed_) throw;
         failed_ = true;
-        ShowAlert(QStringLiteral("エラー") + QString::number(error.number()));
+        ShowAlert(u"エラー"_s + QString::number(error.number()));
         return false;
     }
 }
@@ -76,13 +76,11 @@ bool DetailRows::printPage() {
     report_.pen.ToLeft();
     if (report_.RowsOnPage == 0) heading();
     const bool empty = set.Eof();
-    if (!empty) {
-        do {
+    if (!empty) do {
             groupChange();
             row();
             set.MoveNext();
         } while (!set.Eof() && report_.RowsOnPage < report_.RowsPerPage);
-    }
     const bool ended = set.Eof();
     if (ended && !empty) report_.DetailEnded = true;
     report_.RowsOnPage = 0;
@@ -98,9 +96,8 @@ void DetailRows::heading() {
     for (int i = 0; i < report_.ColCount.value(); ++i) {
         const PrintColumn& column = report_.Column(i);
         const Int16 left = pen.PenX;
-        if (IsNumber(column)) {
+        if (IsNumber(column))
             pen.PenX = Int16::Rounded((left + column.Width).value() - surface_.TextWidth(column.Title));
-        }
         pen.Print(surface_, column.Title);
         pen.PenX = left + column.Width + column.Gap;
     }
@@ -112,9 +109,8 @@ void DetailRows::groupChange() {
     if (report_.GroupField.isEmpty()) return;
     PastMissingField([&] {
         const Variant value = NullToZero(SetOf(report_)[report_.GroupField]);
-        if (!report_.GroupValue.IsNull() && !SameValue(report_.GroupValue, value)) {
+        if (!report_.GroupValue.IsNull() && !SameValue(report_.GroupValue, value))
             PrintGroupTotals(report_, surface_, false);
-        }
         report_.GroupValue = value;
     });
 }
@@ -122,9 +118,8 @@ void DetailRows::groupChange() {
 void DetailRows::row() {
     Pen& pen = report_.pen;
     pen.PenX = report_.DetailLeft;
-    for (int i = 0; i < report_.ColCount.value(); ++i) {
+    for (int i = 0; i < report_.ColCount.value(); ++i)
         cell(report_.Column(i), i);
-    }
     pen.PenY += pen.LineStep;
     report_.RowsOnPage += 1;
     failed_ = false;
@@ -156,7 +151,7 @@ void DetailRows::fetch(const PrintColumn& column, int index) {
     } else if (column.Kind == u"S") {
         text_ = NullToEmpty(SetOf(report_)[column.Source]);
     } else if (IsNumber(column)) {
-        const Currency value = moneyOf(SetOf(report_)[column.Source]);
+        const Currency value = MoneyOf(SetOf(report_)[column.Source]);
         text_ = PadFormat(value, column.Mask);
         if (column.WithTotal) addToTotals(index, value);
     }

@@ -4,6 +4,7 @@
 
 #include "output/PrintReport.h"
 #include "output/ReportOwner.h"
+#include "platform/runtime/Literals.h"
 #include "values/NumStr.h"
 
 namespace akarix {
@@ -41,9 +42,9 @@ void PrintPageTotals(PrintReport& report, PrintSurface& surface) {
     Pen& pen = report.pen;
     pen.Rule(surface);
     pen.ToLeft();
-    PrintTotals(report, surface, QStringLiteral("頁計："), report.PageTotal);
+    PrintTotals(report, surface, u"頁計："_s, report.PageTotal);
     pen.NewLine();
-    PrintTotals(report, surface, QStringLiteral("累計："), report.RunTotal);
+    PrintTotals(report, surface, u"累計："_s, report.RunTotal);
     Clear(report.PageTotal);
     pen.NewLine();
     pen.Rule(surface);
@@ -55,7 +56,7 @@ void PrintGroupTotals(PrintReport& report, PrintSurface& surface, bool last) {
     pen.Rule(surface);
     pen.ToLeft();
     // The page and the group share one sum: a page that ends within a group takes its part away.
-    PrintTotals(report, surface, QStringLiteral("小計："), report.PageTotal);
+    PrintTotals(report, surface, u"小計："_s, report.PageTotal);
     Clear(report.PageTotal);
     report.RowsOnPage += 2;
     pen.PenY += pen.LineStep * 2;
@@ -64,7 +65,7 @@ void PrintGroupTotals(PrintReport& report, PrintSurface& surface, bool last) {
     pen.NewLine();
     pen.Rule(surface);
     pen.ToLeft();
-    PrintTotals(report, surface, QStringLiteral("総計："), report.RunTotal);
+    PrintTotals(report, surface, u"総計："_s, report.RunTotal);
     Clear(report.SpareTotal);
     pen.NewLine();
     pen.Rule(surface);

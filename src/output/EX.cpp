@@ -12,6 +12,7 @@
 #include "platform/forms/Guard.h"
 #include "platform/forms/MsgBox.h"
 #include "platform/print/PrintJob.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "platform/sheet/SheetPainter.h"
 
@@ -55,10 +56,12 @@ void FinishWhenAbandoned(const std::weak_ptr<PrintSink>& document) {
 /// When the event loop turns with nothing under way. A long run lets it turn in its midst, so the loop alone
 /// is no sign of a run's end.
 void FinishLater(const std::weak_ptr<PrintSink>& document) {
-    QTimer::singleShot(0, qApp, [document] {
-        AfterAction(
-            [document] { PrintRun::UnderWay() ? FinishLater(document) : FinishWhenAbandoned(document); });
-    });
+    QTimer::singleShot(
+        0, qApp,
+        [document] {
+            AfterAction(
+                [document] { PrintRun::UnderWay() ? FinishLater(document) : FinishWhenAbandoned(document); });
+        });
 }
 
 /// The pages of the sheet as it stands now; they keep a copy, since the template is filled again. Their
@@ -82,10 +85,9 @@ std::vector<PrintPage> NextPages(Workbook& open) {
 void ExcelOpen(const QString& name) {
     if (book && book->document) FinishWhenAbandoned(book->document);
     book.reset();
-    const QString path = QStringLiteral("Prt/%1.xlsx").arg(name);
-    if (!QFileInfo::exists(path)) {
-        throw RuntimeError(1004, QStringLiteral("テンプレート '%1' が見つかりません。").arg(path));
-    }
+    const QString path = u"Prt/%1.xlsx"_s.arg(name);
+    if (!QFileInfo::exists(path))
+        throw RuntimeError(1004, u"テンプレート '%1' が見つかりません。"_s.arg(path));
     book = Workbook{name, CachedTemplate(path), nullptr, 0};
 }
 
@@ -104,16 +106,15 @@ bool ExcelPrints(const QString& address) {
 }
 
 void ExcelMerge(const QString& address, const QString& flag) {
-    OpenBook().sheet.setMerged(address, flag != QStringLiteral("0"));
+    OpenBook().sheet.setMerged(address, flag != u"0"_s);
 }
 
 void ExcelPrintPage(bool pagesFollow) {
     Workbook& open = OpenBook();
     std::vector<PrintPage> pages = NextPages(open);
     if (gPrintPreview) {
-        if (!ShowPreview(open.name, pages, PrintRun::NextPage(pagesFollow))) {
+        if (!ShowPreview(open.name, pages, PrintRun::NextPage(pagesFollow)))
             throw RuntimeError(CancelledByOperator);
-        }
         return;
     }
     if (!open.document) {

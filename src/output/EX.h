@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "platform/jet/Recordset.h"
+#include "platform/dao/Recordset.h"
 #include "store/Settings.h"
 
 namespace akarix {

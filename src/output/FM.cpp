@@ -7,13 +7,14 @@
 
 #include "platform/forms/CommandButton.h"
 #include "platform/print/PreviewPages.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
 FM::FM(PrintPage page, const PreviewPlace& where)
-    : PreviewForm(QStringLiteral("FM"), QStringLiteral("印刷プレビュー - ") + where.page, where) {
+    : PreviewForm(u"FM"_s, u"印刷プレビュー - "_s + where.page, where) {
     auto* shown = new PreviewPages({std::move(page)}, this);
-    shown->setObjectName(QStringLiteral("Pages"));
+    shown->setObjectName(u"Pages"_s);
     shown->setFrameShape(QFrame::NoFrame);
     shown->setZoom(100);
     auto* layout = new QVBoxLayout(this);

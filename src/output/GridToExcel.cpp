@@ -6,6 +6,7 @@
 #include "platform/print/AskSavePath.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "platform/sheet/GridExport.h"
 
@@ -13,8 +14,7 @@ namespace akarix {
 
 void GridToExcel(const QString& title, const QString& line1, const QString& line2, const FlexGrid& grid) {
     const Date today = Today();
-    const QString path = AskSavePath(
-        title, QStringLiteral("%1_%2.xlsx").arg(title, Format(today, QStringLiteral("yyyymmdd"))));
+    const QString path = AskSavePath(title, u"%1_%2.xlsx"_s.arg(title, Format(today, u"yyyymmdd"_s)));
     if (path.isEmpty()) return;
 
     GridSource source;
@@ -25,18 +25,16 @@ void GridToExcel(const QString& title, const QString& line1, const QString& line
     }
     source.text = [&grid](int row, int column) { return grid.TextMatrix(row, column); };
 
-    const QString subtitle = line1 + QStringLiteral("     ") + line2;
-    const QString created = QStringLiteral("作成日 : ") + Format(today, QStringLiteral("yyyy/mm/dd"));
+    const QString subtitle = line1 + u"     "_s + line2;
+    const QString created = u"作成日 : "_s + Format(today, u"yyyy/mm/dd"_s);
     LongRun run(title);
     try {
         if (WriteGridWorkbook(path, title, subtitle, created, source, run)) return NoticeWritten(path);
     } catch (const RuntimeError& error) {
         if (error.number() != CancelledByOperator) throw;
-        return ShowNotice(QStringLiteral("中止しました。ファイルは書いていません。"));
+        return ShowNotice(u"中止しました。ファイルは書いていません。"_s);
     }
-    MsgBox(QStringLiteral("ファイル '%1' に書き込めません。\n保存先を確かめて、もう一度行って下さい。")
-               .arg(path),
-           title);
+    MsgBox(u"ファイル '%1' に書き込めません。\n保存先を確かめて、もう一度行って下さい。"_s.arg(path), title);
 }
 
 }  // namespace akarix

@@ -10,6 +10,7 @@
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/Trim.h"
 #include "values/Dates.h"
 #include "values/NumStr.h"
@@ -26,7 +27,7 @@ struct Tag {
 
 QString TodayText(Int16 form) {
     const Date today = Today();
-    const QString day = QStringLiteral("%1.%2").arg(Month(today)).arg(Day(today));
+    const QString day = u"%1.%2"_s.arg(Month(today)).arg(Day(today));
     if (form == 2) return QString::number(DisplayYear(today)) + u'.' + day;
     return form == 3 ? day : QString();
 }
@@ -98,7 +99,7 @@ constexpr Tag kTags[] = {
      }},
     {u"PAGE",
      [](PrintReport& report, PrintSurface& surface, const QString&) {
-         report.pen.Print(surface, QStringLiteral("ページ ") + NumStr(report.PageNo.value()));
+         report.pen.Print(surface, u"ページ "_s + NumStr(report.PageNo.value()));
      }},
     {u"DATE", [](PrintReport& report, PrintSurface& surface,
                  const QString& argument) { report.pen.Print(surface, TodayText(ScriptNumber(argument))); }},

@@ -3,6 +3,7 @@
 #include "output/FM.h"
 #include "output/PrintReport.h"
 #include "output/PrintRun.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -10,7 +11,7 @@ namespace akarix {
 void PreviewSurface::EndPage() {
     ++pages_;
     PreviewPlace place = PrintRun::NextPage(report_.PagesFollow);
-    if (place.page.isEmpty()) place.page = QStringLiteral("%1 頁").arg(pages_);
+    if (place.page.isEmpty()) place.page = u"%1 頁"_s.arg(pages_);
     if (!PreviewForm::Run(new FM(takePage(), place))) throw RuntimeError(CancelledByOperator);
 }
 

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "platform/runtime/Int16.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -14,9 +15,9 @@ struct PrintColumn {
     QString Mask;    ///< "N": the number's format, "S": the width in characters, as digits
     Int16 Gap;       ///< twips behind the column
     bool WithTotal = false;
-    Int16 Width;                                         ///< twips; measured when the page is printed
-    QString FontName = QStringLiteral("ＭＳ ゴシック");  ///< empty: the font that is set
-    Int16 FontSize = 10;                                 ///< points; 0: the size that is set
+    Int16 Width;                            ///< twips; measured when the page is printed
+    QString FontName = u"ＭＳ ゴシック"_s;  ///< empty: the font that is set
+    Int16 FontSize = 10;                    ///< points; 0: the size that is set
     // When one of the two is not 0 the cell stands there, from the offsets and the detail rows' top.
     Int16 FixedX;
     Int16 FixedY;

@@ -6,7 +6,7 @@
 
 #include "output/Pen.h"
 #include "output/PrintColumn.h"
-#include "platform/jet/Recordset.h"
+#include "platform/dao/Recordset.h"
 #include "platform/runtime/Currency.h"
 #include "platform/runtime/Variant.h"
 

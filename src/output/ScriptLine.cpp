@@ -1,5 +1,6 @@
 #include "output/ScriptLine.h"
 
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "values/NumVal.h"
 
@@ -8,7 +9,7 @@ namespace akarix {
 ScriptLine::ScriptLine(const QString& line) {
     const qsizetype end = line.indexOf(u'>');
     if (end < 0) {
-        tag = QStringLiteral("*");
+        tag = u"*"_s;
         argument = line;
         return;
     }

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <map>
 
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/SheetReader.h"
 
 namespace akarix {
@@ -23,10 +24,9 @@ const Sheet& CachedTemplate(const QString& path) {
     const QString key = file.absoluteFilePath();
     const auto known = read.find(key);
     if (known != read.end() && known->second.modified == file.lastModified() &&
-        known->second.size == file.size()) {
+        known->second.size == file.size())
         return known->second.sheet;
-    }
-    ReadTemplate fresh{file.lastModified(), file.size(), ReadSheet(path, QStringLiteral("Sheet1"))};
+    ReadTemplate fresh{file.lastModified(), file.size(), ReadSheet(path, u"Sheet1"_s)};
     return (read[key] = std::move(fresh)).sheet;
 }
 

@@ -5,6 +5,7 @@
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/GridHead.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "reports/CustomerAccount.h"
 #include "store/FieldValue.h"
 #include "values/NumStr.h"
@@ -42,44 +43,43 @@ constexpr std::array<GridHead, kColumns> kHeads{{
     {u"", 0},
 }};
 
-const QString kYen = QStringLiteral("###,##0");
+const QString kYen = u"###,##0"_s;
 
 /// Writes the lines of a set one under the other and keeps the balance. The columns are found once.
 class LineWriter {
  public:
     LineWriter(Recordset& set, FlexGrid& list, Currency opening)
         : list_(list),
-          dno_(set.Fields(QStringLiteral("Dno"))),
-          nendo_(set.Fields(QStringLiteral("Nendo"))),
-          getudo_(set.Fields(QStringLiteral("Getudo"))),
-          kubun_(set.Fields(QStringLiteral("Kubun"))),
-          hizuke_(set.Fields(QStringLiteral("Hizuke"))),
-          meter_(set.Fields(QStringLiteral("KonkaiMeter"))),
-          name_(set.Fields(QStringLiteral("HinNamae"))),
-          suu_(set.Fields(QStringLiteral("Suu"))),
-          tanka_(set.Fields(QStringLiteral("Tanka"))),
-          gaku_(set.Fields(QStringLiteral("Gaku"))),
-          payment_(set.Fields(QStringLiteral("NFLG"))),
+          dno_(set.Fields(u"Dno"_s)),
+          nendo_(set.Fields(u"Nendo"_s)),
+          getudo_(set.Fields(u"Getudo"_s)),
+          kubun_(set.Fields(u"Kubun"_s)),
+          hizuke_(set.Fields(u"Hizuke"_s)),
+          meter_(set.Fields(u"KonkaiMeter"_s)),
+          name_(set.Fields(u"HinNamae"_s)),
+          suu_(set.Fields(u"Suu"_s)),
+          tanka_(set.Fields(u"Tanka"_s)),
+          gaku_(set.Fields(u"Gaku"_s)),
+          payment_(set.Fields(u"NFLG"_s)),
           balance_(opening) {}
 
     void write(int row) {
         row_ = row;
         put(kColHinNamae, NullToEmpty(name_.Value()));
-        if (integerOf(payment_.Value()) == 1) {
+        if (IntegerOf(payment_.Value()) == 1)
             writePayment();
-        } else if (integerOf(kubun_.Value()) == CustomerAccount::kGas) {
+        else if (IntegerOf(kubun_.Value()) == CustomerAccount::kGas)
             writeGas();
-        } else {
+        else
             writeSlip();
-        }
-        put(kColBalance, Format(balance_, QStringLiteral("##,###,##0")));
+        put(kColBalance, Format(balance_, u"##,###,##0"_s));
     }
 
  private:
     void writePayment() {
-        const QString paid = Format(moneyOf(gaku_.Value()), kYen);
+        const QString paid = Format(MoneyOf(gaku_.Value()), kYen);
         putNumber();
-        put(kColDate, year() + Format(getudo_.Value(), QStringLiteral("00")));
+        put(kColDate, year() + Format(getudo_.Value(), u"00"_s));
         put(kColPaid, paid);
         putKind(CustomerAccount::kPayment);
         // The balance goes down by what the line shows.
@@ -87,26 +87,26 @@ class LineWriter {
     }
     void writeGas() {
         put(kColDate, year() + NumStr(getudo_.Value()));
-        put(kColMeter, Format(moneyOf(meter_.Value()), QStringLiteral("##,##0.0")));
+        put(kColMeter, Format(MoneyOf(meter_.Value()), u"##,##0.0"_s));
         putKind(CustomerAccount::kGas);
         charge();
     }
     void writeSlip() {
         putNumber();
         put(kColDate, NullToEmpty(hizuke_.Value()));
-        put(kColSuu, Format(moneyOf(suu_.Value()), QStringLiteral("#,###")));
-        put(kColTanka, Format(moneyOf(tanka_.Value()), QStringLiteral("###,###")));
+        put(kColSuu, Format(MoneyOf(suu_.Value()), u"#,###"_s));
+        put(kColTanka, Format(MoneyOf(tanka_.Value()), u"###,###"_s));
         putKind(CustomerAccount::kSlip);
         charge();
     }
     void charge() {
-        const Currency amount = moneyOf(gaku_.Value());
+        const Currency amount = MoneyOf(gaku_.Value());
         put(kColGaku, Format(amount, kYen));
         balance_ += amount;
     }
 
     QString year() const { return NumStr(nendo_.Value()) + u'/'; }
-    void putNumber() { put(kColDno, NumStr(longOf(dno_.Value()))); }
+    void putNumber() { put(kColDno, NumStr(LongOf(dno_.Value()))); }
     void putKind(CustomerAccount::Kind kind) { put(kColKind, NumStr(std::int32_t{kind})); }
     void put(int column, const QString& text) { list_.SetTextMatrix(row_, column, text); }
 
@@ -135,11 +135,10 @@ void ShowAccount(const CustomerAccount& account, FlexGrid& list) {
     }
     list.SetRows(1);
     list.SetRows(kFirstLine + count);
-    list.SetTextMatrix(1, kColBalance, Format(opening, QStringLiteral("#,##0")));
+    list.SetTextMatrix(1, kColBalance, Format(opening, u"#,##0"_s));
     LineWriter writer(set, list, opening);
-    for (int row = kFirstLine; !set.Eof(); ++row, set.MoveNext()) {
+    for (int row = kFirstLine; !set.Eof(); ++row, set.MoveNext())
         writer.write(row);
-    }
     set.Close();
 }
 

@@ -2,6 +2,7 @@
 
 #include "billing/Tto.h"
 #include "platform/runtime/CLng.h"
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
@@ -18,34 +19,37 @@ std::int32_t CustomerAccount::customer() const {
 
 void CustomerAccount::gather() const {
     const QString ym = NumStr(year_ * 100 + month_);
-    const QString ofCustomer = ym + QStringLiteral(" AND    Deal = ") + customer_;
-    gDb->Execute(QStringLiteral("DELETE FROM TempD"));
-    gDb->Execute(QStringLiteral("INSERT INTO TempD ( Nendo, Getudo, Kubun, KonkaiMeter, HinNamae, Gaku ) "
-                                " SELECT Nendo, Getudo, 1, KonkaiMeter, 'LPガス', Gaku "
-                                " FROM   Dgd "
-                                " WHERE  Nendo*100+Getudo>=") +
-                 ofCustomer);
-    gDb->Execute(QStringLiteral("INSERT INTO TempD ( Dno,Nendo, Getudo, Kubun, Hizuke, HinNamae, Suu, Tanka, "
-                                "Gaku ) "
-                                " SELECT Dno,Nendo, Getudo, 2, Hizuke, HinNamae, Suu, Tanka, Gaku "
-                                " FROM   Dud "
-                                " WHERE  Nendo*100+Getudo>=") +
-                 ofCustomer);
-    gDb->Execute(QStringLiteral("INSERT INTO TempD ( Dno,Nendo, Getudo, Kubun,HinNamae, Gaku,NFLG )"
-                                " SELECT Dny.Dno,Dny.Nendo, Dny.Getudo, 3,'入金', Sum(Dny.Gaku) AS tGaku,1"
-                                " From Dny"
-                                " Where [Nendo] * 100 + [Getudo] >=") +
-                 ofCustomer + QStringLiteral(" GROUP BY Dny.Dno,Dny.Nendo, Dny.Getudo"));
+    const QString ofCustomer = ym + u" AND    Deal = "_s + customer_;
+    gDb->Execute(u"DELETE FROM TempD"_s);
+    gDb->Execute(
+        u"INSERT INTO TempD ( Nendo, Getudo, Kubun, KonkaiMeter, HinNamae, Gaku ) "
+        " SELECT Nendo, Getudo, 1, KonkaiMeter, 'LPガス', Gaku "
+        " FROM   Dgd "
+        " WHERE  Nendo*100+Getudo>="_s +
+        ofCustomer);
+    gDb->Execute(
+        u"INSERT INTO TempD ( Dno,Nendo, Getudo, Kubun, Hizuke, HinNamae, Suu, Tanka, "
+        "Gaku ) "
+        " SELECT Dno,Nendo, Getudo, 2, Hizuke, HinNamae, Suu, Tanka, Gaku "
+        " FROM   Dud "
+        " WHERE  Nendo*100+Getudo>="_s +
+        ofCustomer);
+    gDb->Execute(
+        u"INSERT INTO TempD ( Dno,Nendo, Getudo, Kubun,HinNamae, Gaku,NFLG )"
+        " SELECT Dny.Dno,Dny.Nendo, Dny.Getudo, 3,'入金', Sum(Dny.Gaku) AS tGaku,1"
+        " From Dny"
+        " Where [Nendo] * 100 + [Getudo] >="_s +
+        ofCustomer + u" GROUP BY Dny.Dno,Dny.Nendo, Dny.Getudo"_s);
 }
 
 Currency CustomerAccount::opening() const {
-    return moneyOf(PriorBalance(customer(), year_, month_));
+    return MoneyOf(PriorBalance(customer(), year_, month_));
 }
 
 Recordset CustomerAccount::lines() const {
     return gDb->OpenRecordset(
-        QStringLiteral("SELECT * FROM TempD "
-                       " ORDER BY Nendo*100+Getudo,Kubun,Hizuke "));
+        u"SELECT * FROM TempD "
+        " ORDER BY Nendo*100+Getudo,Kubun,Hizuke "_s);
 }
 
 }  // namespace akarix

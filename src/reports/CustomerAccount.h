@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "platform/jet/Recordset.h"
+#include "platform/dao/Recordset.h"
 #include "platform/runtime/Currency.h"
 
 namespace akarix {

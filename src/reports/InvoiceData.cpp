@@ -1,5 +1,6 @@
 #include "reports/InvoiceData.h"
 
+#include "platform/runtime/Literals.h"
 #include "store/CustomerMonth.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
@@ -11,7 +12,7 @@ namespace akarix {
 
 namespace {
 
-Recordset openMonth(const QString& select, const InvoiceMonth& invoice, const QString& order = {}) {
+Recordset OpenMonth(const QString& select, const InvoiceMonth& invoice, const QString& order = {}) {
     return gDb->OpenRecordset(select + OfCustomerMonth(invoice.deal, invoice.year, invoice.month) + order);
 }
 
@@ -19,15 +20,15 @@ Recordset openMonth(const QString& select, const InvoiceMonth& invoice, const QS
 
 InvoiceReading ReadInvoiceReading(const InvoiceMonth& invoice) {
     InvoiceReading reading;
-    Recordset set = openMonth(QStringLiteral("SELECT * FROM Dgd "), invoice);
+    Recordset set = OpenMonth(u"SELECT * FROM Dgd "_s, invoice);
     if (!set.Eof()) {
         reading.found = true;
-        reading.zenkaiMeter = moneyOf(set[QStringLiteral("ZenkaiMeter")]);
-        reading.koukanMeter = moneyOf(set[QStringLiteral("KoukanMeter")]);
-        reading.koukanGoMeter = moneyOf(set[QStringLiteral("KoukanGoMeter")]);
-        reading.konkaiMeter = moneyOf(set[QStringLiteral("KonkaiMeter")]);
-        reading.suu = moneyOf(set[QStringLiteral("Suu")]);
-        reading.gaku = moneyOf(set[QStringLiteral("Gaku")]);
+        reading.zenkaiMeter = MoneyOf(set[u"ZenkaiMeter"_s]);
+        reading.koukanMeter = MoneyOf(set[u"KoukanMeter"_s]);
+        reading.koukanGoMeter = MoneyOf(set[u"KoukanGoMeter"_s]);
+        reading.konkaiMeter = MoneyOf(set[u"KonkaiMeter"_s]);
+        reading.suu = MoneyOf(set[u"Suu"_s]);
+        reading.gaku = MoneyOf(set[u"Gaku"_s]);
         reading.day = ReadingDay(set);
     }
     set.Close();
@@ -36,12 +37,10 @@ InvoiceReading ReadInvoiceReading(const InvoiceMonth& invoice) {
 
 std::vector<InvoiceLine> ReadInvoiceLines(const InvoiceMonth& invoice) {
     std::vector<InvoiceLine> lines;
-    Recordset set =
-        openMonth(QStringLiteral("SELECT * FROM Dud "), invoice, QStringLiteral(" ORDER BY Dno,Eda"));
+    Recordset set = OpenMonth(u"SELECT * FROM Dud "_s, invoice, u" ORDER BY Dno,Eda"_s);
     for (; !set.Eof(); set.MoveNext()) {
-        lines.push_back({set[QStringLiteral("Hizuke")], NullToEmpty(set[QStringLiteral("HinNamae")]),
-                         moneyOf(set[QStringLiteral("Suu")]), moneyOf(set[QStringLiteral("Tanka")]),
-                         moneyOf(set[QStringLiteral("Gaku")])});
+        lines.push_back({set[u"Hizuke"_s], NullToEmpty(set[u"HinNamae"_s]), MoneyOf(set[u"Suu"_s]),
+                         MoneyOf(set[u"Tanka"_s]), MoneyOf(set[u"Gaku"_s])});
     }
     set.Close();
     return lines;
@@ -49,21 +48,19 @@ std::vector<InvoiceLine> ReadInvoiceLines(const InvoiceMonth& invoice) {
 
 std::optional<InvoiceLedger> ReadInvoiceLedger(const InvoiceMonth& invoice) {
     std::optional<InvoiceLedger> ledger;
-    Recordset set = openMonth(QStringLiteral("SELECT * FROM TtoD "), invoice);
-    if (!set.Eof()) {
-        ledger = {moneyOf(set[QStringLiteral("ZenkaiGaku")]), moneyOf(set[QStringLiteral("Gaku")]),
-                  moneyOf(set[QStringLiteral("NGaku")])};
-    }
+    Recordset set = OpenMonth(u"SELECT * FROM TtoD "_s, invoice);
+    if (!set.Eof())
+        ledger = {MoneyOf(set[u"ZenkaiGaku"_s]), MoneyOf(set[u"Gaku"_s]), MoneyOf(set[u"NGaku"_s])};
     set.Close();
     return ledger;
 }
 
 Recordset OpenSalesSum(const InvoiceMonth& invoice) {
-    return openMonth(QStringLiteral("SELECT SUM(Gaku) AS tGaku  FROM  Dud "), invoice);
+    return OpenMonth(u"SELECT SUM(Gaku) AS tGaku  FROM  Dud "_s, invoice);
 }
 
 Recordset OpenInvoiceCustomer(std::int32_t deal) {
-    return gDb->OpenRecordset(QStringLiteral("SELECT * FROM Deal WHERE Code=") + NumStr(deal));
+    return gDb->OpenRecordset(u"SELECT * FROM Deal WHERE Code="_s + NumStr(deal));
 }
 
 }  // namespace akarix

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/jet/Recordset.h"
+#include "platform/dao/Recordset.h"
 #include "platform/runtime/Variant.h"
 
 namespace akarix {

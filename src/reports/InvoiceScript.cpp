@@ -5,6 +5,7 @@
 #include "platform/print/PrinterSurface.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/StrConv.h"
 #include "store/FieldValue.h"
 #include "values/NumStr.h"
@@ -25,71 +26,67 @@ constexpr int kListAmountX = 7860;
 
 constexpr int kEraBase = 1988;  // the paper has the era's name printed on it
 
-void addFree(int x, int y, const QString& text) {
-    PBAddLine(QStringLiteral("<FREE>%1,%2,").arg(x).arg(y) + text);
+void AddFree(int x, int y, const QString& text) {
+    PBAddLine(u"<FREE>%1,%2,"_s.arg(x).arg(y) + text);
 }
 
-QString sixPlaces(const Variant& value) {
-    return PadFormat(value, QStringLiteral("######"));
+QString SixPlaces(const Variant& value) {
+    return PadFormat(value, u"######"_s);
 }
 
-QString sixBoxes(const Variant& value) {
-    return StrConv(sixPlaces(value), WideChars);
+QString SixBoxes(const Variant& value) {
+    return StrConv(SixPlaces(value), WideChars);
 }
 
-QString twoDigits(int number) {
-    return Format(number, QStringLiteral("00"));
+QString TwoDigits(int number) {
+    return Format(number, u"00"_s);
 }
 
-void addDate(Date issued) {
-    addFree(1000, 0, twoDigits(Year(issued) - kEraBase));
-    addFree(1700, 0, twoDigits(Month(issued)));
-    addFree(2400, 0, twoDigits(Day(issued)));
+void AddDate(Date issued) {
+    AddFree(1000, 0, TwoDigits(Year(issued) - kEraBase));
+    AddFree(1700, 0, TwoDigits(Month(issued)));
+    AddFree(2400, 0, TwoDigits(Day(issued)));
 }
 
-void addReading(const InvoiceReading& reading) {
-    addFree(kMeterX, 1460, sixBoxes(reading.konkaiMeter));
-    addFree(kMeterX, 1960, sixBoxes(reading.exchanged() ? reading.koukanGoMeter : reading.zenkaiMeter));
-    addFree(kMeterX, 2460, sixBoxes(reading.suu));
-    addFree(kAmountX, 2960, sixBoxes(reading.gaku));
+void AddReading(const InvoiceReading& reading) {
+    AddFree(kMeterX, 1460, SixBoxes(reading.konkaiMeter));
+    AddFree(kMeterX, 1960, SixBoxes(reading.exchanged() ? reading.koukanGoMeter : reading.zenkaiMeter));
+    AddFree(kMeterX, 2460, SixBoxes(reading.suu));
+    AddFree(kAmountX, 2960, SixBoxes(reading.gaku));
 }
 
-void addList(const InvoiceMonth& invoice, const InvoiceReading& reading, Currency zenkaiGaku) {
+void AddList(const InvoiceMonth& invoice, const InvoiceReading& reading, Currency zenkaiGaku) {
     int y = kListTop;
     const auto add = [&y](const QString& name, const QString& amount) {
-        addFree(kListNameX, y, name);
-        addFree(kListAmountX, y, amount);
+        AddFree(kListNameX, y, name);
+        AddFree(kListAmountX, y, amount);
         y += kListPitch;
     };
-    if (zenkaiGaku > Currency(0)) add(QStringLiteral("前月繰越"), sixPlaces(zenkaiGaku));
-    if (reading.exchanged()) {
-        add(QStringLiteral("メータ交換までの使用量"), NumStr(reading.koukanMeter - reading.zenkaiMeter));
-    }
+    if (zenkaiGaku > Currency(0)) add(u"前月繰越"_s, SixPlaces(zenkaiGaku));
+    if (reading.exchanged())
+        add(u"メータ交換までの使用量"_s, NumStr(reading.koukanMeter - reading.zenkaiMeter));
     for (const InvoiceLine& line : ReadInvoiceLines(invoice)) {
-        addFree(kListDateX, y, Format(line.hizuke, QStringLiteral("MM DD")));
-        add(line.name, sixPlaces(line.gaku));
+        AddFree(kListDateX, y, Format(line.hizuke, u"MM DD"_s));
+        add(line.name, SixPlaces(line.gaku));
     }
 }
 
-void addMarks() {
-    PBAddLine(QStringLiteral("<SIZE>9"));
-    for (const int x : {1690, 3260, 4800, 6430}) {
-        for (const int y : {4360, 4840}) {
-            addFree(x, y, QStringLiteral("○"));
-        }
-    }
+void AddMarks() {
+    PBAddLine(u"<SIZE>9"_s);
+    for (const int x : {1690, 3260, 4800, 6430})
+        for (const int y : {4360, 4840})
+            AddFree(x, y, u"○"_s);
 }
 
 }  // namespace
 
 void AddInvoiceAccount(const InvoiceMonth& invoice, const InvoiceReading& reading, Currency zenkaiGaku) {
-    addList(invoice, reading, zenkaiGaku);
+    AddList(invoice, reading, zenkaiGaku);
     if (reading.konkaiMeter > Currency(0)) {
-        if (const auto ledger = ReadInvoiceLedger(invoice)) {
-            addFree(kAmountX, 3860, sixBoxes(ledger->gaku + zenkaiGaku));
-        }
+        if (const auto ledger = ReadInvoiceLedger(invoice))
+            AddFree(kAmountX, 3860, SixBoxes(ledger->gaku + zenkaiGaku));
     }
-    addMarks();
+    AddMarks();
 }
 
 void DrawInvoice(const InvoiceMonth& invoice, Date issued) {
@@ -97,28 +94,27 @@ void DrawInvoice(const InvoiceMonth& invoice, Date issued) {
     PBInit();
     PB().NoTopRule = true;
     PB().NoPageTotals = true;
-    PBAddLine(QStringLiteral("<FONT>ＭＳ 明朝"));
-    PBAddLine(QStringLiteral("<SIZE>12"));
-    addDate(issued);
+    PBAddLine(u"<FONT>ＭＳ 明朝"_s);
+    PBAddLine(u"<SIZE>12"_s);
+    AddDate(issued);
 
     Recordset customer = OpenInvoiceCustomer(invoice.deal);
     if (customer.Eof()) return;
-    addFree(500, 460, NumStr(invoice.deal));
-    addFree(1600, 460, NullToEmpty(customer[QStringLiteral("Namae")]));
-    addFree(360, 920,
-            NullToEmpty(customer[QStringLiteral("Addr1")]) + NullToEmpty(customer[QStringLiteral("Addr2")]));
+    AddFree(500, 460, NumStr(invoice.deal));
+    AddFree(1600, 460, NullToEmpty(customer[u"Namae"_s]));
+    AddFree(360, 920, NullToEmpty(customer[u"Addr1"_s]) + NullToEmpty(customer[u"Addr2"_s]));
     customer.Close();
 
     const InvoiceReading reading = ReadInvoiceReading(invoice);
-    if (reading.found) addReading(reading);
+    if (reading.found) AddReading(reading);
 
     Recordset sales = OpenSalesSum(invoice);
-    addFree(kAmountX, 3460, sixBoxes(sales[QStringLiteral("tGaku")]));
+    AddFree(kAmountX, 3460, SixBoxes(sales[u"tGaku"_s]));
     sales.Close();
     // The balance is asked of the set that has just been closed, which the store refuses with 3420: the run
     // ends here, in the screen's trap, before anything goes to the printer. The order is kept as dealers know
     // it; invoices are issued through the template.
-    const Currency zenkaiGaku = moneyOf(sales[QStringLiteral("ZenkaiGaku")]);
+    const Currency zenkaiGaku = MoneyOf(sales[u"ZenkaiGaku"_s]);
 
     AddInvoiceAccount(invoice, reading, zenkaiGaku);
     PBRun();

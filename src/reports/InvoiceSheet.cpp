@@ -6,6 +6,7 @@
 #include "platform/runtime/CDate.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/IsDate.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
@@ -33,22 +34,22 @@ constexpr char16_t kColCount = u'M';
 constexpr char16_t kColPrice = u'P';
 constexpr char16_t kColAmount = u'V';
 
-const QString kTemplate = QStringLiteral("請求書");
-const QString kCount = QStringLiteral("##,###.0");
-const QString kYen = QStringLiteral("##,###,###");
-const QString kMonthDay = QStringLiteral("mm/dd");
+const QString kTemplate = u"請求書"_s;
+const QString kCount = u"##,###.0"_s;
+const QString kYen = u"##,###,###"_s;
+const QString kMonthDay = u"mm/dd"_s;
 
-QString rightOf(char16_t column, int row) {
+QString RightOf(char16_t column, int row) {
     return CellAddress(QString(column), row, kRightHalf, 0);
 }
 
 /// Writes into both halves.
-void put(char16_t column, int row, const QString& text) {
+void Put(char16_t column, int row, const QString& text) {
     ExcelCell(QString(column) + NumStr(row), text);
-    ExcelCell(rightOf(column, row), text);
+    ExcelCell(RightOf(column, row), text);
 }
 
-QString monthDayOrEmpty(const QString& day) {
+QString MonthDayOrEmpty(const QString& day) {
     return IsDate(day) ? Format(CDate(day), kMonthDay) : QString();
 }
 
@@ -71,16 +72,15 @@ class InvoicePages {
     void startPage() {
         line_ = 0;
         dropPrices();
-        put(kColDate, kNameRow, name_ + QStringLiteral(" 様"));
-        put(kColText, kAmountRow, page_ == 1 ? Format(due_, QStringLiteral(R"(\\##,###,##0)")) : QString());
-        for (const char16_t* block : {u"A18:M20", u"A23:M30", u"AC18:AO20", u"AC23:AX30"}) {
+        Put(kColDate, kNameRow, name_ + u" 様"_s);
+        Put(kColText, kAmountRow, page_ == 1 ? Format(due_, uR"(\\##,###,##0)"_s) : QString());
+        for (const char16_t* block : {u"A18:M20", u"A23:M30", u"AC18:AO20", u"AC23:AX30"})
             ExcelCell(QString::fromUtf16(block), {});
-        }
     }
 
     /// The blocks of the head end before the left half's prices and amounts; what the page before wrote there
     /// must not go to the next customer.
-    static void dropPrices() { ExcelCell(QStringLiteral("P23:V30"), {}); }
+    static void dropPrices() { ExcelCell(u"P23:V30"_s, {}); }
 
     QString name_;
     Currency due_;
@@ -88,47 +88,47 @@ class InvoicePages {
     int line_ = 0;
 };
 
-Currency usageOf(const InvoiceReading& reading) {
+Currency UsageOf(const InvoiceReading& reading) {
     const Currency before =
         reading.exchanged() ? reading.koukanMeter - reading.zenkaiMeter : Currency() - reading.zenkaiMeter;
     const Currency usage = reading.konkaiMeter + before;
     return usage > Currency(0) ? usage : Currency();
 }
 
-void putMeters(const InvoiceReading& reading, const QString& previousDay) {
-    put(kColDate, kNowRow, monthDayOrEmpty(reading.day));
+void PutMeters(const InvoiceReading& reading, const QString& previousDay) {
+    Put(kColDate, kNowRow, MonthDayOrEmpty(reading.day));
     if (IsDate(previousDay)) {
-        put(kColDate, kBeforeRow, monthDayOrEmpty(previousDay));
+        Put(kColDate, kBeforeRow, MonthDayOrEmpty(previousDay));
     } else {
         // After an exchange it is the reading's own date that goes, not the missing one.
-        put(kColDate, reading.exchanged() ? kNowRow : kBeforeRow, {});
+        Put(kColDate, reading.exchanged() ? kNowRow : kBeforeRow, {});
     }
-    put(kColText, kNowRow, QStringLiteral("当月メーター指示数"));
-    put(kColCount, kNowRow, NumStr(reading.konkaiMeter));
-    put(kColText, kBeforeRow, QStringLiteral("前月メーター指示数"));
-    put(kColCount, kBeforeRow, NumStr(reading.zenkaiMeter));
-    put(kColText, kUsageRow, QStringLiteral("当月御使用量"));
-    const Currency usage = usageOf(reading);
-    put(kColCount, kUsageRow, usage.IsZero() ? QString() : NumStr(usage));
+    Put(kColText, kNowRow, u"当月メーター指示数"_s);
+    Put(kColCount, kNowRow, NumStr(reading.konkaiMeter));
+    Put(kColText, kBeforeRow, u"前月メーター指示数"_s);
+    Put(kColCount, kBeforeRow, NumStr(reading.zenkaiMeter));
+    Put(kColText, kUsageRow, u"当月御使用量"_s);
+    const Currency usage = UsageOf(reading);
+    Put(kColCount, kUsageRow, usage.IsZero() ? QString() : NumStr(usage));
 }
 
-void putLine(int row, const InvoiceLine& line) {
-    put(kColDate, row, Format(line.hizuke, QStringLiteral("MM/DD")));
-    put(kColText, row, line.name);
-    put(kColCount, row, Format(line.suu, kCount));
-    put(kColPrice, row, Format(line.tanka, kYen));
-    put(kColAmount, row, Format(line.gaku, kYen));
+void PutLine(int row, const InvoiceLine& line) {
+    Put(kColDate, row, Format(line.hizuke, u"MM/DD"_s));
+    Put(kColText, row, line.name);
+    Put(kColCount, row, Format(line.suu, kCount));
+    Put(kColPrice, row, Format(line.tanka, kYen));
+    Put(kColAmount, row, Format(line.gaku, kYen));
 }
 
-void putGas(int row, const InvoiceReading& reading) {
-    put(kColDate, row, Format(CDate(reading.day), kMonthDay));
-    put(kColText, row, QStringLiteral("当月ガス料金 指針 : ") + NumStr(reading.konkaiMeter));
-    put(kColCount, row, Format(usageOf(reading), kCount));
-    put(kColAmount, row, Format(reading.gaku, kYen));
+void PutGas(int row, const InvoiceReading& reading) {
+    Put(kColDate, row, Format(CDate(reading.day), kMonthDay));
+    Put(kColText, row, u"当月ガス料金 指針 : "_s + NumStr(reading.konkaiMeter));
+    Put(kColCount, row, Format(UsageOf(reading), kCount));
+    Put(kColAmount, row, Format(reading.gaku, kYen));
 }
 
 /// The name, the amount due, the first and the last line.
-QStringList indispensable(bool right) {
+QStringList Indispensable(bool right) {
     constexpr int lastLine = kFirstLine + kLines - 1;
     constexpr std::array<std::pair<char16_t, int>, 6> cells{{{kColDate, kNameRow},
                                                              {kColText, kAmountRow},
@@ -137,44 +137,40 @@ QStringList indispensable(bool right) {
                                                              {kColText, lastLine},
                                                              {kColAmount, lastLine}}};
     QStringList addresses;
-    for (const auto& [column, row] : cells) {
-        addresses += right ? rightOf(column, row) : QString(column) + NumStr(row);
-    }
+    for (const auto& [column, row] : cells)
+        addresses += right ? RightOf(column, row) : QString(column) + NumStr(row);
     return addresses;
 }
 
 /// A dealer may leave one half off the paper, but a half that is printed has to be whole.
-void checkTemplate() {
+void CheckTemplate() {
     bool printed = false;
     for (const bool right : {false, true}) {
-        const QStringList addresses = indispensable(right);
+        const QStringList addresses = Indispensable(right);
         QStringList missing;
-        for (const QString& address : addresses) {
+        for (const QString& address : addresses)
             if (!ExcelPrints(address)) missing += address;
-        }
         if (missing.size() == addresses.size()) continue;
         if (!missing.isEmpty()) {
-            throw RuntimeError(1004, QStringLiteral("テンプレート '%1' のセル %2 が印刷されません。")
-                                         .arg(kTemplate, missing.first()));
+            throw RuntimeError(
+                1004, u"テンプレート '%1' のセル %2 が印刷されません。"_s.arg(kTemplate, missing.first()));
         }
         printed = true;
     }
-    if (!printed) {
-        throw RuntimeError(1004, QStringLiteral("テンプレート '%1' は請求書ではありません。").arg(kTemplate));
-    }
+    if (!printed) throw RuntimeError(1004, u"テンプレート '%1' は請求書ではありません。"_s.arg(kTemplate));
 }
 
 }  // namespace
 
 void OpenInvoiceSheet() {
     ExcelOpen(kTemplate);
-    checkTemplate();
+    CheckTemplate();
 }
 
 void PrintInvoice(const InvoiceMonth& invoice) {
     Recordset customer = OpenInvoiceCustomer(invoice.deal);
     if (customer.Eof()) return;
-    const QString name = NullToEmpty(customer[QStringLiteral("Namae")]);
+    const QString name = NullToEmpty(customer[u"Namae"_s]);
     customer.Close();
     const auto ledger = ReadInvoiceLedger(invoice);
     if (!ledger) return;
@@ -183,17 +179,16 @@ void PrintInvoice(const InvoiceMonth& invoice) {
     QString previousDay;
     if (!reading.day.isEmpty()) PrevReadingDate(invoice.year, invoice.month, invoice.deal, previousDay);
     Recordset sum = OpenSalesSum(invoice);
-    const Currency sales = moneyOf(sum[QStringLiteral("tGaku")]);
+    const Currency sales = MoneyOf(sum[u"tGaku"_s]);
     sum.Close();
 
     // The sales count twice, since the ledger's amount holds them already: what is asked for on the sheet,
     // unlike on the screen.
     InvoicePages pages(name, ledger->zenkaiGaku - ledger->nGaku + sales + ledger->gaku);
-    putMeters(reading, previousDay);
-    for (const InvoiceLine& line : ReadInvoiceLines(invoice)) {
-        putLine(pages.nextRow(), line);
-    }
-    putGas(pages.nextRow(), reading);
+    PutMeters(reading, previousDay);
+    for (const InvoiceLine& line : ReadInvoiceLines(invoice))
+        PutLine(pages.nextRow(), line);
+    PutGas(pages.nextRow(), reading);
     ExcelPrintPage();
 }
 

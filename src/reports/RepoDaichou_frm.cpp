@@ -15,6 +15,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/IsDate.h"
+#include "platform/runtime/Literals.h"
 #include "reports/AccountGrid.h"
 #include "reports/MonthPurge.h"
 #include "store/Lookup.h"
@@ -29,8 +30,8 @@ namespace {
 
 enum Box { kYear, kMonth, kCustomer, kPurgeYear, kPurgeMonth };
 
-void openReadings(const QString& month, std::int32_t customer) {
-    const QString day = month + QStringLiteral("/01");
+void OpenReadings(const QString& month, std::int32_t customer) {
+    const QString day = month + u"/01"_s;
     if (!IsDate(day)) return;
     const Date date = CDate(day);
     auto nendo = static_cast<std::int16_t>(Year(date));
@@ -41,7 +42,7 @@ void openReadings(const QString& month, std::int32_t customer) {
 }
 
 template <class Screen>
-void openDocument(const QString& number) {
+void OpenDocument(const QString& number) {
     std::int32_t dno = ToLong(number);
     if (dno < 1) return;
     auto& screen = Form::Instance<Screen>();
@@ -51,19 +52,21 @@ void openDocument(const QString& number) {
 
 }  // namespace
 
-RepoDaichou_frm::RepoDaichou_frm()
-    : EntryForm(QStringLiteral("RepoDaichou_frm"), QStringLiteral("消費先台帳")) {
+RepoDaichou_frm::RepoDaichou_frm() : EntryForm(u"RepoDaichou_frm"_s, u"消費先台帳"_s) {
     layOut();
     const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
-    wireLookup(F6(0), QStringLiteral("Deal"), {}, ebox(kCustomer), press, kCustomer);
-    on(List_, &FlexGrid::Click, [this] { openLine(); });
-    on(excelCmd_, &CommandButton::Click, [this] { exportGrid(); });
-    on(siteiCmd_, &CommandButton::Click, [this] { purgeCustomer(); });
+    wireLookup(F6(0), u"Deal"_s, {}, ebox(kCustomer), press, kCustomer);
+    on(
+        List_, &FlexGrid::Click, [this] { openLine(); });
+    on(
+        excelCmd_, &CommandButton::Click, [this] { exportGrid(); });
+    on(
+        siteiCmd_, &CommandButton::Click, [this] { purgeCustomer(); });
     on(Command_, &CommandButton::Click, [this] { purgeAll(); });
 }
 
 void RepoDaichou_frm::layOut() {
-    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    List_ = &Named(new FlexGrid(this), u"List"_s);
     DefineAccountColumns(*List_);
     constexpr int kGridHeight = 440;
     ReserveRoom(*List_, kGridHeight);
@@ -71,8 +74,8 @@ void RepoDaichou_frm::layOut() {
     auto* body = new QVBoxLayout(this);
     body->addLayout(layOutHead());
     auto* aboveList = new QHBoxLayout;
-    aboveList->addWidget(new Label(QStringLiteral("伝票Noの項目はクリックすると明細が表示されます")), 1);
-    excelCmd_ = &Named(new CommandButton(QStringLiteral("Excel")), QStringLiteral("excelCmd"));
+    aboveList->addWidget(new Label(u"伝票Noの項目はクリックすると明細が表示されます"_s), 1);
+    excelCmd_ = &Named(new CommandButton(u"Excel"_s), u"excelCmd"_s);
     JoinWalk(*this, *excelCmd_);
     aboveList->addWidget(excelCmd_);
     body->addLayout(aboveList);
@@ -86,35 +89,35 @@ QLayout* RepoDaichou_frm::layOutHead() {
     constexpr int kNameBytes = 40;
     constexpr int kMoneyBytes = 14;
     FieldLayout fields(*this);
-    fields.row(QStringLiteral("年月"))
+    fields.row(u"年月"_s)
         .text(addBox(ebox, kYear, ImeMode::Off), 4)
-        .note(QStringLiteral("年"))
+        .note(u"年"_s)
         .text(addBox(ebox, kMonth, ImeMode::Off), 2)
-        .note(QStringLiteral("月以降"));
-    sNamae_ = &Named(new Label({}, this), QStringLiteral("sNamae"));
-    fields.row(QStringLiteral("得意先"))
+        .note(u"月以降"_s);
+    sNamae_ = &Named(new Label({}, this), u"sNamae"_s);
+    fields.row(u"得意先"_s)
         .text(addBox(ebox, kCustomer, ImeMode::Off), kLongKeyBytes)
         .lookup(F6.add(0, new Image))
         .name(*sNamae_, kNameBytes);
     fields.nextColumn();
-    sNGaku_ = &Named(new Label({}, this), QStringLiteral("sNGaku"));
-    fields.row(QStringLiteral("未入金")).name(*sNGaku_, kMoneyBytes);
+    sNGaku_ = &Named(new Label({}, this), u"sNGaku"_s);
+    fields.row(u"未入金"_s).name(*sNGaku_, kMoneyBytes);
     return fields.layout();
 }
 
 /// What deletes stands in a frame of its own at the foot of the screen, behind everything else in the walk.
 QWidget* RepoDaichou_frm::layOutPurge() {
-    siteiCmd_ = &Named(new CommandButton(QStringLiteral("指定得意先削除")), QStringLiteral("siteiCmd"));
-    Command_ = &Named(new CommandButton(QStringLiteral("全削除")), QStringLiteral("Command"));
+    siteiCmd_ = &Named(new CommandButton(u"指定得意先削除"_s), u"siteiCmd"_s);
+    Command_ = &Named(new CommandButton(u"全削除"_s), u"Command"_s);
     FieldLayout fields(*this);
     fields.row({})
         .text(addBox(ebox, kPurgeYear, ImeMode::Off), 4)
-        .note(QStringLiteral("年"))
+        .note(u"年"_s)
         .text(addBox(ebox, kPurgeMonth, ImeMode::Off), 2)
-        .widget(new Label(QStringLiteral("月度の全得意先の情報を全て削除します。")))
+        .widget(new Label(u"月度の全得意先の情報を全て削除します。"_s))
         .button(*Command_)
         .button(*siteiCmd_);
-    auto* frame = new Frame(QStringLiteral("削除"), this);
+    auto* frame = new Frame(u"削除"_s, this);
     frame->setLayout(fields.layout());
     return frame;
 }
@@ -155,13 +158,13 @@ void RepoDaichou_frm::openLine() {
     const AccountRow row = ReadAccountRow(*List_, List_->MouseRow());
     switch (row.kind) {
         case CustomerAccount::kGas:
-            openReadings(row.date, shownCustomer_);
+            OpenReadings(row.date, shownCustomer_);
             break;
         case CustomerAccount::kSlip:
-            openDocument<Slip_frm>(row.number);
+            OpenDocument<Slip_frm>(row.number);
             break;
         case CustomerAccount::kPayment:
-            openDocument<SlipN2_frm>(row.number);
+            OpenDocument<SlipN2_frm>(row.number);
             break;
         default:
             break;
@@ -169,27 +172,25 @@ void RepoDaichou_frm::openLine() {
 }
 
 void RepoDaichou_frm::exportGrid() {
-    GridToExcel(QStringLiteral("消費先台帳"),
-                ebox(kCustomer).Text() + QStringLiteral(" : ") + sNamae_->Caption(),
-                ebox(kYear).Text() + u'/' + ebox(kMonth).Text() + QStringLiteral("以降"), *List_);
+    GridToExcel(u"消費先台帳"_s, ebox(kCustomer).Text() + u" : "_s + sNamae_->Caption(),
+                ebox(kYear).Text() + u'/' + ebox(kMonth).Text() + u"以降"_s, *List_);
 }
 
 // ---- a month's end
 
 void RepoDaichou_frm::purgeAll() {
-    purge(QStringLiteral("この対象年月のデータを削除しますか？"), {});
+    purge(u"この対象年月のデータを削除しますか？"_s, {});
 }
 
 void RepoDaichou_frm::purgeCustomer() {
-    for (const int field : {kPurgeYear, kPurgeMonth, kCustomer}) {
+    for (const int field : {kPurgeYear, kPurgeMonth, kCustomer})
         if (NumVal(ebox(field).Text()) == 0) return;
-    }
     const QString customer = number(kCustomer);
-    purge(QStringLiteral("この対象年月 ") + customer + QStringLiteral(" のデータを削除しますか？"), customer);
+    purge(u"この対象年月 "_s + customer + u" のデータを削除しますか？"_s, customer);
 }
 
 void RepoDaichou_frm::purge(const QString& question, const QString& customer) {
-    if (AskConfirmRev(question, QStringLiteral("いいえ"), QStringLiteral("削除"))) return;
+    if (AskConfirmRev(question, u"いいえ"_s, u"削除"_s)) return;
     PurgeMonth(number(kPurgeYear), number(kPurgeMonth), customer);
     ebox(kPurgeYear).SetText({});
     ebox(kPurgeMonth).SetText({});

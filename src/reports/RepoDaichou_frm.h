@@ -3,6 +3,7 @@
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/Label.h"
+#include "platform/runtime/Literals.h"
 #include "reports/CustomerAccount.h"
 #include "toolkit/EntryForm.h"
 
@@ -31,8 +32,8 @@ class RepoDaichou_frm : public EntryForm {
     void purge(const QString& question, const QString& customer);
     QString number(int field) const;
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<Image> F6{QStringLiteral("F6")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<Image> F6{u"F6"_s};
     Label* sNamae_ = nullptr;
     Label* sNGaku_ = nullptr;
     CommandButton* excelCmd_ = nullptr;

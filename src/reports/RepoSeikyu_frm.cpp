@@ -13,6 +13,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -63,15 +64,15 @@ constexpr std::array<GridHead, kColumns> kHeads{{
     {u"請求額", 1200},
 }};
 
-const QString kYen = QStringLiteral("#,##0");
-const QString kYenOrNothing = QStringLiteral("#,###");
-const QString kMeter = QStringLiteral("#,##0.0");
+const QString kYen = u"#,##0"_s;
+const QString kYenOrNothing = u"#,###"_s;
+const QString kMeter = u"#,##0.0"_s;
 
 constexpr int kSheetRows = 58;
 constexpr int kSheetFirstRow = 4;
 constexpr int kEraBase = 1988;  // the sheet counts its years by one era, whatever the screens do
 
-bool isLast(Recordset& set) {
+bool IsLast(Recordset& set) {
     set.MoveNext();
     const bool last = set.Eof();
     set.MovePrevious();
@@ -80,14 +81,16 @@ bool isLast(Recordset& set) {
 
 }  // namespace
 
-RepoSeikyu_frm::RepoSeikyu_frm() : EntryForm(QStringLiteral("RepoSeikyu_frm"), QStringLiteral("請求一覧表")) {
+RepoSeikyu_frm::RepoSeikyu_frm() : EntryForm(u"RepoSeikyu_frm"_s, u"請求一覧表"_s) {
     layOut();
     const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
-    wireLookup(F6(0), QStringLiteral("Deal"), {}, ebox(kFrom), press, kFrom);
-    wireLookup(F6(1), QStringLiteral("Deal"), {}, ebox(kTo), press, kTo);
-    wireLookup(F6(2), QStringLiteral("Rte"), QStringLiteral("ALL"), ebox(kRoute), press, kRoute);
-    on(&Btn(kPrint), &CommandButton::Click, [this] { TrapPrinting([this] { print(); }); });
-    on(&Btn(kShow), &CommandButton::Click, [this] { show(); });
+    wireLookup(F6(0), u"Deal"_s, {}, ebox(kFrom), press, kFrom);
+    wireLookup(F6(1), u"Deal"_s, {}, ebox(kTo), press, kTo);
+    wireLookup(F6(2), u"Rte"_s, u"ALL"_s, ebox(kRoute), press, kRoute);
+    on(
+        &Btn(kPrint), &CommandButton::Click, [this] { TrapPrinting([this] { print(); }); });
+    on(
+        &Btn(kShow), &CommandButton::Click, [this] { show(); });
     on(&Btn(kExport), &CommandButton::Click, [this] { exportGrid(); });
 }
 
@@ -95,11 +98,11 @@ void RepoSeikyu_frm::layOut() {
     constexpr int kNameBytes = 30;
     auto* body = new QVBoxLayout(this);
     FieldLayout fields(*this);
-    fields.row(QStringLiteral("年月"))
+    fields.row(u"年月"_s)
         .text(addBox(ebox, kYear, ImeMode::Off), 4)
-        .note(QStringLiteral("年"))
+        .note(u"年"_s)
         .text(addBox(ebox, kMonth, ImeMode::Off), 2)
-        .note(QStringLiteral("月分"));
+        .note(u"月分"_s);
     const auto coded = [&](const char16_t* caption, int field, int picture, const char16_t* name) {
         auto* label = &Named(new Label({}, this), QString::fromUtf16(name));
         fields.row(QString::fromUtf16(caption))
@@ -122,11 +125,11 @@ void RepoSeikyu_frm::layOut() {
         buttons->addWidget(&button);
     }
     buttons->addSpacing(16);
-    ChkGaku_ = &Named(new CheckBox(QStringLiteral("金額を印刷しない"), this), QStringLiteral("ChkGaku"));
+    ChkGaku_ = &Named(new CheckBox(u"金額を印刷しない"_s, this), u"ChkGaku"_s);
     buttons->addWidget(ChkGaku_);
     buttons->addStretch();
 
-    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    List_ = &Named(new FlexGrid(this), u"List"_s);
     constexpr int kGridHeight = 420;
     SetHeads(*List_, kHeads);
     ReserveRoom(*List_, kGridHeight);
@@ -138,9 +141,8 @@ void RepoSeikyu_frm::layOut() {
 
 void RepoSeikyu_frm::init() {
     ClearControls(*this);
-    for (Label* name : {sNamaeS_, sNamaeE_, sRte_}) {
+    for (Label* name : {sNamaeS_, sNamaeE_, sRte_})
         name->SetCaption({});
-    }
     ChkGaku_->SetValue(0);
     ebox(kYear).SetText(NumStr(Year(Today())));
     ebox(kMonth).SetText(NumStr(Month(Today())));
@@ -157,7 +159,7 @@ bool RepoSeikyu_frm::enter(int index) {
             sNamaeE_->SetCaption(GetDealName(NumVal(ebox(kTo).Text())));
             return true;
         case kRoute:
-            sRte_->SetCaption(GetName(QStringLiteral("Rte"), NumVal(ebox(kRoute).Text())));
+            sRte_->SetCaption(GetName(u"Rte"_s, NumVal(ebox(kRoute).Text())));
             SetFocus(&Btn(kShow));
             return false;
         default:
@@ -176,11 +178,11 @@ void RepoSeikyu_frm::show() {
     const QString year = KeepNumeric(ebox(kYear).Text());
     const QString month = KeepNumeric(ebox(kMonth).Text());
     List_->SetRows(1);
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT TtoD.*, Deal.Rte,Deal.Haisou FROM TtoD "
-                                                      " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
-                                                      " WHERE Nendo =") +
-                                       year + QStringLiteral(" AND   Getudo=") + month + filter() +
-                                       QStringLiteral(" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"));
+    Recordset set = gDb->OpenRecordset(
+        u"SELECT TtoD.*, Deal.Rte,Deal.Haisou FROM TtoD "
+        " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
+        " WHERE Nendo ="_s +
+        year + u" AND   Getudo="_s + month + filter() + u" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"_s);
     if (set.Eof()) return;
     set.MoveLast();
     const int count = CInt(set.RecordCount());
@@ -192,20 +194,20 @@ void RepoSeikyu_frm::show() {
         List_->SetTextMatrix(row, column, text);
     };
     for (int row = 1; row <= count; ++row, set.MoveNext()) {
-        const std::int32_t deal = longOf(set[QStringLiteral("Deal")]);
-        const Currency zenkaiGaku = moneyOf(set[QStringLiteral("ZenkaiGaku")]);
-        const Currency gGaku = moneyOf(set[QStringLiteral("GGaku")]);
-        const Currency uGaku = moneyOf(set[QStringLiteral("UGaku")]);
-        const Currency gaku = moneyOf(set[QStringLiteral("Gaku")]);
-        const Currency nGaku = moneyOf(set[QStringLiteral("NGaku")]);
+        const std::int32_t deal = LongOf(set[u"Deal"_s]);
+        const Currency zenkaiGaku = MoneyOf(set[u"ZenkaiGaku"_s]);
+        const Currency gGaku = MoneyOf(set[u"GGaku"_s]);
+        const Currency uGaku = MoneyOf(set[u"UGaku"_s]);
+        const Currency gaku = MoneyOf(set[u"Gaku"_s]);
+        const Currency nGaku = MoneyOf(set[u"NGaku"_s]);
         Currency zenkaiMeter;
         Currency konkaiMeter;
         Currency suu;
         ReadMonthMeter(deal, CInt(year), CInt(month), zenkaiMeter, konkaiMeter, suu);
-        put(row, kColRte, NumStr(NullToZero(set[QStringLiteral("Rte")])));
-        put(row, kColHaisou, NumStr(NullToZero(set[QStringLiteral("Haisou")])));
+        put(row, kColRte, NumStr(NullToZero(set[u"Rte"_s])));
+        put(row, kColHaisou, NumStr(NullToZero(set[u"Haisou"_s])));
         put(row, kColDeal, NumStr(deal));
-        put(row, kColNamae, GetName(QStringLiteral("Deal"), deal));
+        put(row, kColNamae, GetName(u"Deal"_s, deal));
         put(row, kColZenkaiGaku, Format(zenkaiGaku, kYen));
         put(row, kColZenkaiMeter, Format(zenkaiMeter, kMeter));
         put(row, kColKonkaiMeter, Format(konkaiMeter, kMeter));
@@ -223,7 +225,7 @@ void RepoSeikyu_frm::show() {
         sums.nGaku += nGaku;
     }
     const int last = count + 1;
-    put(last, kColNamae, QStringLiteral("合計"));
+    put(last, kColNamae, u"合計"_s);
     put(last, kColZenkaiGaku, Format(sums.zenkaiGaku, kYen));
     put(last, kColSuu, Format(sums.suu, kMeter));
     put(last, kColGGaku, Format(sums.gGaku, kYen));
@@ -235,46 +237,46 @@ void RepoSeikyu_frm::show() {
 }
 
 void RepoSeikyu_frm::exportGrid() {
-    const QString colon = QStringLiteral(" : ");
-    GridToExcel(QStringLiteral("請求一覧"),
-                ebox(kYear).Text() + QStringLiteral("/") + ebox(kMonth).Text() + QStringLiteral("分 ") +
-                    QStringLiteral(" ルート : ") + ebox(kRoute).Text() + colon + sRte_->Caption(),
-                ebox(kFrom).Text() + colon + sNamaeS_->Caption() + QStringLiteral(" ～ ") + ebox(kTo).Text() +
-                    colon + sNamaeE_->Caption(),
+    const QString colon = u" : "_s;
+    GridToExcel(u"請求一覧"_s,
+                ebox(kYear).Text() + u"/"_s + ebox(kMonth).Text() + u"分 "_s + u" ルート : "_s +
+                    ebox(kRoute).Text() + colon + sRte_->Caption(),
+                ebox(kFrom).Text() + colon + sNamaeS_->Caption() + u" ～ "_s + ebox(kTo).Text() + colon +
+                    sNamaeE_->Caption(),
                 *List_);
 }
 
 // ---- on paper
 
 void RepoSeikyu_frm::print() {
-    const PrintRun run(QStringLiteral("請求一覧表"));
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT TtoD.* FROM TtoD "
-                                                      " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
-                                                      " WHERE Nendo= ") +
-                                       KeepNumeric(ebox(kYear).Text()) + QStringLiteral(" AND   Getudo=") +
-                                       KeepNumeric(ebox(kMonth).Text()) + filter() +
-                                       QStringLiteral(" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"));
+    const PrintRun run(u"請求一覧表"_s);
+    Recordset set = gDb->OpenRecordset(
+        u"SELECT TtoD.* FROM TtoD "
+        " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
+        " WHERE Nendo= "_s +
+        KeepNumeric(ebox(kYear).Text()) + u" AND   Getudo="_s + KeepNumeric(ebox(kMonth).Text()) + filter() +
+        u" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"_s);
     if (set.Eof()) return;
     printed_ = {};
-    ExcelOpenPaged(QStringLiteral("請求一覧表"), kSheetRows, kSheetFirstRow);
+    ExcelOpenPaged(u"請求一覧表"_s, kSheetRows, kSheetFirstRow);
     SetReport(this, std::move(set));
     ExcelRunPaged();
 }
 
 void RepoSeikyu_frm::ClrDetail() {
-    ExcelCell(QStringLiteral("B5:K61"), {});
+    ExcelCell(u"B5:K61"_s, {});
 }
 
 void RepoSeikyu_frm::PrintOutHead(int /*page*/) {
     const int year = CInt(KeepNumeric(ebox(kYear).Text()));
-    ExcelCell(QStringLiteral("F2"), QStringLiteral("平成") + NumStr(year - kEraBase) + QStringLiteral("年") +
-                                        KeepNumeric(ebox(kMonth).Text()) + QStringLiteral("月"));
+    ExcelCell(u"F2"_s,
+              u"平成"_s + NumStr(year - kEraBase) + u"年"_s + KeepNumeric(ebox(kMonth).Text()) + u"月"_s);
 }
 
 void RepoSeikyu_frm::PrintOutDetail(int row, Recordset& set) {
     printRow(row, set);
     // A page that the last customer fills goes out before the total is asked for; the total belongs on it.
-    if (row == kSheetFirstRow + kSheetRows - 1 && isLast(set)) printTotal();
+    if (row == kSheetFirstRow + kSheetRows - 1 && IsLast(set)) printTotal();
 }
 
 void RepoSeikyu_frm::PrintOutDetailGokei(int /*line*/, int /*firstRow*/, int /*page*/) {
@@ -282,7 +284,7 @@ void RepoSeikyu_frm::PrintOutDetailGokei(int /*line*/, int /*firstRow*/, int /*p
 }
 
 void RepoSeikyu_frm::printRow(int row, const Recordset& set) {
-    const std::int32_t deal = longOf(set[QStringLiteral("Deal")]);
+    const std::int32_t deal = LongOf(set[u"Deal"_s]);
     Currency zenkaiMeter;
     Currency konkaiMeter;
     Currency suu;
@@ -292,17 +294,17 @@ void RepoSeikyu_frm::printRow(int row, const Recordset& set) {
         ExcelCell(QChar(column) + NumStr(row), text);
     };
     put(u'B', NumStr(deal));
-    put(u'C', GetName(QStringLiteral("Deal"), deal));
+    put(u'C', GetName(u"Deal"_s, deal));
     put(u'D', NumStr(zenkaiMeter));
     put(u'E', NumStr(konkaiMeter));
     put(u'F', NumStr(suu));
     printed_.suu += suu;
     if (!withAmounts()) return;
 
-    const Currency gGaku = moneyOf(set[QStringLiteral("GGaku")]);
-    const Currency uGaku = moneyOf(set[QStringLiteral("UGaku")]);
-    const Currency gaku = moneyOf(set[QStringLiteral("Gaku")]);
-    const Currency zenkaiGaku = moneyOf(set[QStringLiteral("ZenkaiGaku")]);
+    const Currency gGaku = MoneyOf(set[u"GGaku"_s]);
+    const Currency uGaku = MoneyOf(set[u"UGaku"_s]);
+    const Currency gaku = MoneyOf(set[u"Gaku"_s]);
+    const Currency zenkaiGaku = MoneyOf(set[u"ZenkaiGaku"_s]);
     put(u'G', NumStr(gGaku));
     put(u'H', NumStr(uGaku));
     put(u'I', NumStr(gaku));
@@ -315,18 +317,18 @@ void RepoSeikyu_frm::printRow(int row, const Recordset& set) {
 }
 
 void RepoSeikyu_frm::printTotal() {
-    ExcelCell(QStringLiteral("F63"), NumStr(printed_.suu));
+    ExcelCell(u"F63"_s, NumStr(printed_.suu));
     if (withAmounts()) {
-        ExcelCell(QStringLiteral("G63"), NumStr(printed_.gGaku));
-        ExcelCell(QStringLiteral("H63"), NumStr(printed_.uGaku));
-        ExcelCell(QStringLiteral("I63"), NumStr(printed_.gaku));
-        ExcelCell(QStringLiteral("J63"), NumStr(printed_.zenkaiGaku));
-        ExcelCell(QStringLiteral("K63"), NumStr(printed_.gaku + printed_.zenkaiGaku));
+        ExcelCell(u"G63"_s, NumStr(printed_.gGaku));
+        ExcelCell(u"H63"_s, NumStr(printed_.uGaku));
+        ExcelCell(u"I63"_s, NumStr(printed_.gaku));
+        ExcelCell(u"J63"_s, NumStr(printed_.zenkaiGaku));
+        ExcelCell(u"K63"_s, NumStr(printed_.gaku + printed_.zenkaiGaku));
         return;
     }
     for (const char16_t column : {u'G', u'H', u'I', u'J', u'K'}) {
-        ExcelCell(QChar(column) + QStringLiteral("62"), {});
-        ExcelCell(QChar(column) + QStringLiteral("63"), {});
+        ExcelCell(QChar(column) + u"62"_s, {});
+        ExcelCell(QChar(column) + u"63"_s, {});
     }
 }
 

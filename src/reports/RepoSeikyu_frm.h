@@ -5,6 +5,7 @@
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/Label.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
@@ -37,9 +38,9 @@ class RepoSeikyu_frm : public EntryForm, public ReportForm {
     void exportGrid();
     bool withAmounts() const { return ChkGaku_->Value() == 0; }
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
-    ControlArray<Image> F6{QStringLiteral("F6")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<CommandButton> Btn{u"Btn"_s};
+    ControlArray<Image> F6{u"F6"_s};
     Label* sNamaeS_ = nullptr;
     Label* sNamaeE_ = nullptr;
     Label* sRte_ = nullptr;

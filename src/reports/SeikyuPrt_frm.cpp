@@ -16,6 +16,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "reports/InvoiceScript.h"
 #include "reports/InvoiceSheet.h"
 #include "store/FieldValue.h"
@@ -68,9 +69,9 @@ constexpr std::array<GridHead, kColumns> kHeads{{
     {u"請求額", 1200},
 }};
 
-const QString kMark = QStringLiteral("○");
-const QString kYen = QStringLiteral("#,##0");
-const QString kMeter = QStringLiteral("#,##0.0");
+const QString kMark = u"○"_s;
+const QString kYen = u"#,##0"_s;
+const QString kMeter = u"#,##0.0"_s;
 
 /// The amounts of the ledger and the columns that show them.
 constexpr std::array<std::pair<Column, const char16_t*>, 5> kAmounts{{{kColZenkaiGaku, u"ZenkaiGaku"},
@@ -82,21 +83,20 @@ constexpr std::array<std::pair<Column, const char16_t*>, 5> kAmounts{{{kColZenka
 /// A row's figures, or their sums, by column.
 using Figures = std::array<Currency, kColumns>;
 
-Figures readFigures(const InvoiceMonth& of, const Recordset& ledger) {
+Figures ReadFigures(const InvoiceMonth& of, const Recordset& ledger) {
     Figures figures{};
-    for (const auto& [column, source] : kAmounts) {
-        figures[column] = moneyOf(ledger[QString::fromUtf16(source)]);
-    }
+    for (const auto& [column, source] : kAmounts)
+        figures[column] = MoneyOf(ledger[QString::fromUtf16(source)]);
     ReadMonthMeter(of.deal, of.year, of.month, figures[kColZenkaiMeter], figures[kColKonkaiMeter],
                    figures[kColSuu]);
     figures[kColBill] = figures[kColGaku] + figures[kColZenkaiGaku] - figures[kColNGaku];
     return figures;
 }
 
-void writeRow(FlexGrid& list, int row, std::int32_t deal, const Figures& figures) {
+void WriteRow(FlexGrid& list, int row, std::int32_t deal, const Figures& figures) {
     QString name;
     int noSeikyu = 0;
-    GetNameAndNoSeikyu(QStringLiteral("Deal"), deal, name, noSeikyu);
+    GetNameAndNoSeikyu(u"Deal"_s, deal, name, noSeikyu);
     list.SetTextMatrix(row, kColDeal, NumStr(deal));
     list.SetTextMatrix(row, kColNamae, name);
     for (int column = kColZenkaiGaku; column < kColumns; ++column) {
@@ -109,8 +109,8 @@ void writeRow(FlexGrid& list, int row, std::int32_t deal, const Figures& figures
     list.SetTextMatrix(row, kColMark, noSeikyu != 1 && billed ? kMark : QString());
 }
 
-void writeTotals(FlexGrid& list, int row, const Figures& sums) {
-    list.SetTextMatrix(row, kColNamae, QStringLiteral("合計"));
+void WriteTotals(FlexGrid& list, int row, const Figures& sums) {
+    list.SetTextMatrix(row, kColNamae, u"合計"_s);
     for (int column = kColZenkaiGaku; column < kColumns; ++column) {
         if (column == kColZenkaiMeter || column == kColKonkaiMeter) continue;
         list.SetTextMatrix(row, column, Format(sums[static_cast<std::size_t>(column)], kYen));
@@ -119,21 +119,25 @@ void writeTotals(FlexGrid& list, int row, const Figures& sums) {
 
 }  // namespace
 
-SeikyuPrt_frm::SeikyuPrt_frm() : EntryForm(QStringLiteral("SeikyuPrt_frm"), QStringLiteral("請求書発行")) {
+SeikyuPrt_frm::SeikyuPrt_frm() : EntryForm(u"SeikyuPrt_frm"_s, u"請求書発行"_s) {
     layOut();
     const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
-    wireLookup(F6(kPickFrom), QStringLiteral("Deal"), {}, ebox(kFrom), press, kFrom);
-    wireLookup(F6(kPickTo), QStringLiteral("Deal"), {}, ebox(kTo), press, kTo);
-    wireLookup(F6(kPickRoute), QStringLiteral("Rte"), QStringLiteral("ALL"), ebox(kRoute), press, kRoute);
-    on(Btn_, &CommandButton::Click, [this] { TrapPrinting([this] { print(); }); });
-    on(Command1_, &CommandButton::Click, [this] { markAll(kMark); });
-    on(DelBtn_, &CommandButton::Click, [this] { markAll({}); });
-    on(ExcelBtn_, &CommandButton::Click, [this] { exportGrid(); });
+    wireLookup(F6(kPickFrom), u"Deal"_s, {}, ebox(kFrom), press, kFrom);
+    wireLookup(F6(kPickTo), u"Deal"_s, {}, ebox(kTo), press, kTo);
+    wireLookup(F6(kPickRoute), u"Rte"_s, u"ALL"_s, ebox(kRoute), press, kRoute);
+    on(
+        Btn_, &CommandButton::Click, [this] { TrapPrinting([this] { print(); }); });
+    on(
+        Command1_, &CommandButton::Click, [this] { markAll(kMark); });
+    on(
+        DelBtn_, &CommandButton::Click, [this] { markAll({}); });
+    on(
+        ExcelBtn_, &CommandButton::Click, [this] { exportGrid(); });
     on(List_, &FlexGrid::Click, [this] { clickMark(); });
 }
 
 void SeikyuPrt_frm::layOut() {
-    List_ = &Named(new FlexGrid(this), QStringLiteral("List"));
+    List_ = &Named(new FlexGrid(this), u"List"_s);
     constexpr int kGridHeight = 420;
     SetHeads(*List_, kHeads);
     ReserveRoom(*List_, kGridHeight);
@@ -148,12 +152,12 @@ QLayout* SeikyuPrt_frm::layOutFields() {
     constexpr int kDateBytes = 10;
     constexpr int kNameBytes = 30;
     FieldLayout fields(*this);
-    fields.row(QStringLiteral("年月"))
+    fields.row(u"年月"_s)
         .text(addBox(ebox, kYear, ImeMode::Off), 4)
-        .note(QStringLiteral("年"))
+        .note(u"年"_s)
         .text(addBox(ebox, kMonth, ImeMode::Off), 2)
-        .note(QStringLiteral("月分"));
-    fields.row(QStringLiteral("作成日")).text(addBox(ebox, kIssued, ImeMode::Off), kDateBytes);
+        .note(u"月分"_s);
+    fields.row(u"作成日"_s).text(addBox(ebox, kIssued, ImeMode::Off), kDateBytes);
     const auto coded = [&](const char16_t* caption, int field, int picture, const char16_t* name) {
         auto* label = &Named(new Label({}, this), QString::fromUtf16(name));
         fields.row(QString::fromUtf16(caption))
@@ -186,9 +190,8 @@ QLayout* SeikyuPrt_frm::layOutButtons() {
 
 void SeikyuPrt_frm::init() {
     ClearControls(*this);
-    for (Label* name : {sNamaeS_, sNamaeE_, sRte_}) {
+    for (Label* name : {sNamaeS_, sNamaeE_, sRte_})
         name->SetCaption({});
-    }
     ebox(kYear).SetText(NumStr(Year(Today())));
     ebox(kMonth).SetText(NumStr(Month(Today())));
     ShowDate(Today(), ebox(kIssued));
@@ -210,7 +213,7 @@ bool SeikyuPrt_frm::enter(int index) {
             build();
             break;
         case kRoute:
-            sRte_->SetCaption(GetName(QStringLiteral("Rte"), code));
+            sRte_->SetCaption(GetName(u"Rte"_s, code));
             break;
         default:
             break;
@@ -231,13 +234,13 @@ InvoiceMonth SeikyuPrt_frm::invoiceOf(std::int32_t deal) const {
 void SeikyuPrt_frm::build() {
     SetHeads(*List_, kHeads);
     Recordset set = gDb->OpenRecordset(
-        QStringLiteral("SELECT TtoD.* FROM TtoD "
-                       " INNER JOIN Deal ON Deal.Code=TtoD.Deal "
-                       " WHERE Nendo =") +
-        typed(kYear) + QStringLiteral(" AND   Getudo=") + typed(kMonth) +
+        u"SELECT TtoD.* FROM TtoD "
+        " INNER JOIN Deal ON Deal.Code=TtoD.Deal "
+        " WHERE Nendo ="_s +
+        typed(kYear) + u" AND   Getudo="_s + typed(kMonth) +
         FilterTermsAsTyped(
             {{ebox(kRoute), u" AND Deal.Rte="}, {ebox(kFrom), u" AND Deal>="}, {ebox(kTo), u" AND Deal<="}}) +
-        QStringLiteral(" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"));
+        u" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"_s);
     if (set.Eof()) return;
     set.MoveLast();
     const int count = set.RecordCount();
@@ -246,13 +249,13 @@ void SeikyuPrt_frm::build() {
     List_->SetRows(count + 2);
     Figures sums{};
     for (int row = 1; row <= count; ++row, set.MoveNext()) {
-        const InvoiceMonth invoice = invoiceOf(longOf(set[QStringLiteral("Deal")]));
-        const Figures figures = readFigures(invoice, set);
-        writeRow(*List_, row, invoice.deal, figures);
+        const InvoiceMonth invoice = invoiceOf(LongOf(set[u"Deal"_s]));
+        const Figures figures = ReadFigures(invoice, set);
+        WriteRow(*List_, row, invoice.deal, figures);
         std::transform(sums.begin(), sums.end(), figures.begin(), sums.begin(), std::plus());
     }
     set.Close();
-    writeTotals(*List_, count + 1, sums);
+    WriteTotals(*List_, count + 1, sums);
     List_->Refresh();
 }
 
@@ -265,9 +268,8 @@ void SeikyuPrt_frm::clickMark() {
 }
 
 void SeikyuPrt_frm::markAll(const QString& mark) {
-    for (int row = 1; row < List_->Rows(); ++row) {
+    for (int row = 1; row < List_->Rows(); ++row)
         List_->SetTextMatrix(row, kColMark, mark);
-    }
 }
 
 bool SeikyuPrt_frm::isCustomer(int row) const {
@@ -281,19 +283,17 @@ bool SeikyuPrt_frm::isMarked(int row) const {
 // ---- the issue
 
 void SeikyuPrt_frm::print() {
-    PrintRun run(QStringLiteral("請求書"));
-    if (gInvoiceMode == kDrawn) {
+    PrintRun run(u"請求書"_s);
+    if (gInvoiceMode == kDrawn)
         issueDrawn(run);
-    } else if (gInvoiceMode == kTemplate) {
+    else if (gInvoiceMode == kTemplate)
         issueSheets(run);
-    }
 }
 
 /// By the range of codes alone, whatever the list shows.
 void SeikyuPrt_frm::issueDrawn(PrintRun& run) {
-    Recordset customers =
-        gDb->OpenRecordset(QStringLiteral("SELECT * FROM Deal  WHERE Code>=") + typed(kFrom) +
-                           QStringLiteral(" AND   Code<=") + typed(kTo) + QStringLiteral(" ORDER BY Code"));
+    Recordset customers = gDb->OpenRecordset(u"SELECT * FROM Deal  WHERE Code>="_s + typed(kFrom) +
+                                             u" AND   Code<="_s + typed(kTo) + u" ORDER BY Code"_s);
     const Date issued = ReadStrictDate(ebox(kIssued));
     if (customers.Eof()) return;
     customers.MoveLast();
@@ -301,16 +301,15 @@ void SeikyuPrt_frm::issueDrawn(PrintRun& run) {
     customers.MoveFirst();
     for (int i = 0; i < count; ++i, customers.MoveNext()) {
         run.next(i, count);
-        DrawInvoice(invoiceOf(longOf(customers[QStringLiteral("Code")])), issued);
+        DrawInvoice(invoiceOf(LongOf(customers[u"Code"_s])), issued);
     }
 }
 
 /// By the marks alone: a customer marked by hand gets an invoice even if the master says none.
 void SeikyuPrt_frm::issueSheets(PrintRun& run) {
     std::vector<int> marked;
-    for (int row = 1; row < List_->Rows(); ++row) {
+    for (int row = 1; row < List_->Rows(); ++row)
         if (isMarked(row) && isCustomer(row)) marked.push_back(row);
-    }
     if (marked.empty()) return;
     OpenInvoiceSheet();
     for (size_t i = 0; i < marked.size(); ++i) {
@@ -323,12 +322,12 @@ void SeikyuPrt_frm::issueSheets(PrintRun& run) {
 
 void SeikyuPrt_frm::exportGrid() {
     if (List_->Rows() <= 1) return;
-    const QString colon = QStringLiteral(" : ");
-    GridToExcel(QStringLiteral("請求書一覧"),
-                ebox(kYear).Text() + u'/' + ebox(kMonth).Text() + QStringLiteral("分 ルート : ") +
-                    ebox(kRoute).Text() + colon + sRte_->Caption(),
-                ebox(kFrom).Text() + colon + sNamaeS_->Caption() + QStringLiteral(" ～") + ebox(kTo).Text() +
-                    colon + sNamaeE_->Caption(),
+    const QString colon = u" : "_s;
+    GridToExcel(u"請求書一覧"_s,
+                ebox(kYear).Text() + u'/' + ebox(kMonth).Text() + u"分 ルート : "_s + ebox(kRoute).Text() +
+                    colon + sRte_->Caption(),
+                ebox(kFrom).Text() + colon + sNamaeS_->Caption() + u" ～"_s + ebox(kTo).Text() + colon +
+                    sNamaeE_->Caption(),
                 *List_);
 }
 

@@ -3,6 +3,7 @@
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/Label.h"
+#include "platform/runtime/Literals.h"
 #include "reports/InvoiceData.h"
 #include "toolkit/EntryForm.h"
 
@@ -37,8 +38,8 @@ class SeikyuPrt_frm : public EntryForm {
     QString typed(int field) const;
     InvoiceMonth invoiceOf(std::int32_t deal) const;
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<Image> F6{QStringLiteral("F6")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<Image> F6{u"F6"_s};
     CommandButton* Btn_ = nullptr;
     CommandButton* Command1_ = nullptr;
     CommandButton* DelBtn_ = nullptr;

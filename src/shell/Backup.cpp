@@ -3,11 +3,12 @@
 #include "dialogs/AskConfirm.h"
 #include "dialogs/AskText.h"
 #include "dialogs/ShowAlert.h"
+#include "platform/dao/DBEngine.h"
 #include "platform/forms/LongRun.h"
-#include "platform/jet/DBEngine.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Dir.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/MkDir.h"
 #include "platform/runtime/Path.h"
 #include "platform/runtime/RuntimeError.h"
@@ -22,7 +23,7 @@ namespace {
 constexpr int kDamaged = 3343;
 
 /// The number of the error that stopped the step; 0 when it was done.
-int attempt(void (*step)(const QString& place), const QString& place) {
+int Attempt(void (*step)(const QString& place), const QString& place) {
     try {
         step(place);
         return 0;
@@ -31,32 +32,28 @@ int attempt(void (*step)(const QString& place), const QString& place) {
     }
 }
 
-void copyTo(const QString& place) {
-    LongRun run(QStringLiteral("バックアップコピー"), LongRun::AtSessionEnd::GoesOn);
+void CopyTo(const QString& place) {
+    LongRun run(u"バックアップコピー"_s, LongRun::AtSessionEnd::GoesOn);
     DBEngine::CopyDatabase(DatabaseName(), BackupCopy(place, Weekday(Today())), run);
 }
 
 }  // namespace
 
 void ChangeBackupPlace() {
-    QString place = BaseFolder() + QStringLiteral("Backup");
+    QString place = BaseFolder() + u"Backup"_s;
     if (Dir(BackupPlaceFile()).toUpper() == BackupPlaceFile().toUpper()) place = ReadBackupPlace();
-    QString answer = AskText(QStringLiteral("バックアップの場所。"), place);
+    QString answer = AskText(u"バックアップの場所。"_s, place);
     if (answer.isEmpty()) answer = Trim(place);
-    if (AskConfirm(answer + QStringLiteral("で更新します。"), QStringLiteral("はい"),
-                   QStringLiteral("いいえ"))) {
-        WriteBackupPlace(answer);
-    }
+    if (AskConfirm(answer + u"で更新します。"_s, u"はい"_s, u"いいえ"_s)) WriteBackupPlace(answer);
 }
 
 void BackUp() {
     const QString folder = BackupFolder(ReadBackupPlace());
-    attempt(&MkDir, folder);  // it mostly exists
-    const int failure = attempt(&copyTo, folder);
-    if (failure == 0) ShowAlert(folder + QStringLiteral("へバックアップコピーしました。"));
-    if (failure == kDamaged) {
-        ShowAlert(DatabaseName() + QStringLiteral(" が壊れているので、バックアップコピーしませんでした。"));
-    }
+    Attempt(&MkDir, folder);  // it mostly exists
+    const int failure = Attempt(&CopyTo, folder);
+    if (failure == 0) ShowAlert(folder + u"へバックアップコピーしました。"_s);
+    if (failure == kDamaged)
+        ShowAlert(DatabaseName() + u" が壊れているので、バックアップコピーしませんでした。"_s);
 }
 
 }  // namespace akarix

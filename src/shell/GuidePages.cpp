@@ -8,6 +8,7 @@
 #include <QTextTable>
 
 #include "platform/forms/Colours.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -19,16 +20,16 @@ constexpr int kAboveHeading = 20;
 constexpr int kWholeWidth = 100;  // per cent
 
 /// Installed, the guide lies in the share folder beside the program's; in a build tree beside the sources.
-QString guideFolder() {
+QString GuideFolder() {
     for (const auto* place : {u"../share/doc/akarix", u"../../docs", u"../../../docs"}) {
         const QDir folder(QCoreApplication::applicationDirPath() + u'/' + QString::fromUtf16(place));
-        if (folder.exists(QStringLiteral("user-guide/screens.md"))) return folder.canonicalPath();
+        if (folder.exists(u"user-guide/screens.md"_s)) return folder.canonicalPath();
     }
     return {};
 }
 
 /// The name a link calls a heading by: marks are left out, blanks become hyphens.
-QString placeOf(const QString& heading) {
+QString PlaceOf(const QString& heading) {
     QString place;
     for (const QChar letter : heading.trimmed().toLower()) {
         if (letter.isLetterOrNumber() || letter == u'-' || letter == u'_') place += letter;
@@ -37,10 +38,10 @@ QString placeOf(const QString& heading) {
     return place;
 }
 
-void nameHeading(const QTextBlock& heading) {
+void NameHeading(const QTextBlock& heading) {
     QTextCharFormat name;
     name.setAnchor(true);
-    name.setAnchorNames({placeOf(heading.text())});
+    name.setAnchorNames({PlaceOf(heading.text())});
     QTextCursor cursor(heading);
     cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
     cursor.mergeCharFormat(name);
@@ -49,14 +50,14 @@ void nameHeading(const QTextBlock& heading) {
     cursor.mergeBlockFormat(apart);
 }
 
-void rule(QTextFrame& frame) {
+void Rule(QTextFrame& frame) {
     for (QTextFrame* child : frame.childFrames()) {
         auto* table = qobject_cast<QTextTable*>(child);
         if (table == nullptr) continue;
         QTextTableFormat format = table->format();
         format.setBorder(1);
         format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
-        format.setBorderBrush(QColor(colours::line));
+        format.setBorderBrush(QColor(colours::kLine));
         format.setBorderCollapse(false);
         format.setCellSpacing(0);
         format.setWidth(QTextLength(QTextLength::PercentageLength, kWholeWidth));
@@ -74,14 +75,13 @@ GuidePages::GuidePages(QWidget* parent) : QTextBrowser(parent) {
 }
 
 void GuidePages::showScreen(const QString& heading) {
-    const QString folder = guideFolder();
+    const QString folder = GuideFolder();
     if (folder.isEmpty()) {
-        setPlainText(
-            QStringLiteral("操作のてびきが入っていません。パッケージの akarix を入れ直すと入ります。"));
+        setPlainText(u"操作のてびきが入っていません。パッケージの akarix を入れ直すと入ります。"_s);
         return;
     }
-    QUrl place = QUrl::fromLocalFile(folder + QStringLiteral("/user-guide/screens.md"));
-    place.setFragment(placeOf(heading));
+    QUrl place = QUrl::fromLocalFile(folder + u"/user-guide/screens.md"_s);
+    place.setFragment(PlaceOf(heading));
     setSource(place);
 }
 
@@ -114,10 +114,9 @@ void GuidePages::dress() {
     const QSignalBlocker unheard(document());  // a document that has changed is read again at every link
     QTextCursor once(document());              // laid out once, not for each change
     once.beginEditBlock();
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-        if (block.blockFormat().headingLevel() > 0) nameHeading(block);
-    }
-    rule(*document()->rootFrame());
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        if (block.blockFormat().headingLevel() > 0) NameHeading(block);
+    Rule(*document()->rootFrame());
     once.endEditBlock();
 }
 

@@ -6,62 +6,61 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix {
 
 namespace {
 
 /// The chapters are named as the menu's buttons are, and some of the screens are not.
-const QHash<QString, QString>& headings() {
+const QHash<QString, QString>& Headings() {
     static const QHash<QString, QString> all{
-        {QStringLiteral("Slip_frm"), QStringLiteral("売上入力")},
-        {QStringLiteral("SlipG_frm"), QStringLiteral("検針入力")},
-        {QStringLiteral("SlipN2_frm"), QStringLiteral("入金入力")},
-        {QStringLiteral("Seikyu_frm"), QStringLiteral("請求処理")},
-        {QStringLiteral("SeikyuPrt_frm"), QStringLiteral("請求書印刷")},
-        {QStringLiteral("RepoSeikyu_frm"), QStringLiteral("請求一覧表")},
-        {QStringLiteral("RepoDaichou_frm"), QStringLiteral("消費先台帳")},
-        {QStringLiteral("MstDeal_frm"), QStringLiteral("得意先")},
-        {QStringLiteral("TorZan_frm"), QStringLiteral("得意先初期残")},
-        {QStringLiteral("GTanka_frm"), QStringLiteral("料金表")},
-        {QStringLiteral("電卓"), QStringLiteral("メモ型電卓")},
-        {QStringLiteral("MstHin_frm"), QStringLiteral("商品")},
-        {QStringLiteral("Keihoki_frm"), QStringLiteral("リース料金")},
-        {QStringLiteral("MstRte_frm"), QStringLiteral("地区")},
-        {QStringLiteral("MstBnk_frm"), QStringLiteral("銀行委託者設定")},
-        {QStringLiteral("MstYubin_frm"), QStringLiteral("郵便委託者設定")},
-        {QStringLiteral("etc_frm"), QStringLiteral("その他情報")},
-        {QStringLiteral("Help_frm"), QStringLiteral("さがす")},
-        {QStringLiteral("HelpDeal_frm"), QStringLiteral("さがす")},
-        {QStringLiteral("HelpN_frm"), QStringLiteral("さがす")},
-        {QStringLiteral("HelpSlip_frm"), QStringLiteral("さがす")},
-        {QStringLiteral("Printer_frm"), QStringLiteral("印刷")},
-        {QStringLiteral("SaveAs_frm"), QStringLiteral("ファイルに保存")},
-        {QStringLiteral("Preview_frm"), QStringLiteral("プレビュー")},
-        {QStringLiteral("FM"), QStringLiteral("プレビュー")},
+        {u"Slip_frm"_s, u"売上入力"_s},
+        {u"SlipG_frm"_s, u"検針入力"_s},
+        {u"SlipN2_frm"_s, u"入金入力"_s},
+        {u"Seikyu_frm"_s, u"請求処理"_s},
+        {u"SeikyuPrt_frm"_s, u"請求書印刷"_s},
+        {u"RepoSeikyu_frm"_s, u"請求一覧表"_s},
+        {u"RepoDaichou_frm"_s, u"消費先台帳"_s},
+        {u"MstDeal_frm"_s, u"得意先"_s},
+        {u"TorZan_frm"_s, u"得意先初期残"_s},
+        {u"GTanka_frm"_s, u"料金表"_s},
+        {u"電卓"_s, u"メモ型電卓"_s},
+        {u"MstHin_frm"_s, u"商品"_s},
+        {u"Keihoki_frm"_s, u"リース料金"_s},
+        {u"MstRte_frm"_s, u"地区"_s},
+        {u"MstBnk_frm"_s, u"銀行委託者設定"_s},
+        {u"MstYubin_frm"_s, u"郵便委託者設定"_s},
+        {u"etc_frm"_s, u"その他情報"_s},
+        {u"Help_frm"_s, u"さがす"_s},
+        {u"HelpDeal_frm"_s, u"さがす"_s},
+        {u"HelpN_frm"_s, u"さがす"_s},
+        {u"HelpSlip_frm"_s, u"さがす"_s},
+        {u"Printer_frm"_s, u"印刷"_s},
+        {u"SaveAs_frm"_s, u"ファイルに保存"_s},
+        {u"Preview_frm"_s, u"プレビュー"_s},
+        {u"FM"_s, u"プレビュー"_s},
     };
     return all;
 }
 
-const Form* formBelow(const Form& form) {
+const Form* FormBelow(const Form& form) {
     const QWindow* below = form.windowHandle() != nullptr ? form.windowHandle()->transientParent() : nullptr;
-    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+    for (const QWidget* widget : QApplication::topLevelWidgets())
         if (below != nullptr && widget->windowHandle() == below) return qobject_cast<const Form*>(widget);
-    }
     return nullptr;
 }
 
 }  // namespace
 
 QString GuideHeading(const Form& form) {
-    if (const auto found = headings().find(form.objectName()); found != headings().end()) return *found;
-    const Form* below = formBelow(form);
+    if (const auto found = Headings().find(form.objectName()); found != Headings().end()) return *found;
+    const Form* below = FormBelow(form);
     return below != nullptr ? GuideHeading(*below) : QString();
 }
 
-Guide_frm::Guide_frm()
-    : EscapableForm(QStringLiteral("Guide_frm"), QStringLiteral("操作のてびき")),
-      Pages_(new GuidePages(this)) {
-    Pages_->setObjectName(QStringLiteral("Pages"));
+Guide_frm::Guide_frm() : EscapableForm(u"Guide_frm"_s, u"操作のてびき"_s), Pages_(new GuidePages(this)) {
+    Pages_->setObjectName(u"Pages"_s);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(Pages_);

@@ -5,6 +5,7 @@
 #include "platform/forms/FieldLayout.h"
 #include "platform/runtime/CStr.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/PutContents.h"
 #include "store/dbAccess.h"
@@ -22,32 +23,30 @@ constexpr std::int32_t kFirstCode = 2;  // of the field 0; the other fee's row f
 }  // namespace
 
 Keihoki_frm::Keihoki_frm()
-    : EntryForm(QStringLiteral("Keihoki_frm"), QStringLiteral("リース料")),
-      Btn_(&Named(new CommandButton(QStringLiteral("保存")), QStringLiteral("Btn"))) {
+    : EntryForm(u"Keihoki_frm"_s, u"リース料"_s), Btn_(&Named(new CommandButton(u"保存"_s), u"Btn"_s)) {
     constexpr int kFeeBytes = 5;
     auto* body = new QVBoxLayout(this);
     body->setSpacing(16);
     FieldLayout fields(*this);
     int index = 0;
-    for (const auto* caption : {u"警報機リース料", u"ACUリース料"}) {
+    for (const auto* caption : {u"警報機リース料", u"ACUリース料"})
         fields.row(QString::fromUtf16(caption)).text(addBox(ebox, index++, ImeMode::Off), kFeeBytes);
-    }
     JoinWalk(*this, *Btn_);
     body->addLayout(fields.layout());
     body->addWidget(Btn_, 0, Qt::AlignRight);
-    wireKeys(ebox, [](int) { return true; });
+    wireKeys(
+        ebox, [](int) { return true; });
     on(Btn_, &CommandButton::Click, [this] { save(); });
 }
 
 void Keihoki_frm::init() {
-    Recordset rows =
-        gDb->OpenRecordset(QStringLiteral("SELECT * FROM UserOP WHERE Code=2 or Code=3 ORDER BY Code"));
+    Recordset rows = gDb->OpenRecordset(u"SELECT * FROM UserOP WHERE Code=2 or Code=3 ORDER BY Code"_s);
     // A single missing row leaves its field as it stands.
     if (rows.Eof()) ClearControls(*this);
     for (; !rows.Eof(); rows.MoveNext()) {
-        const int field = longOf(rows[QStringLiteral("Code")]) - kFirstCode;
-        const double fee = NumVal(NullToEmpty(rows[QStringLiteral("contents")]));
-        ebox(field).SetText(Format(fee, QStringLiteral("##,###")));
+        const int field = LongOf(rows[u"Code"_s]) - kFirstCode;
+        const double fee = NumVal(NullToEmpty(rows[u"contents"_s]));
+        ebox(field).SetText(Format(fee, u"##,###"_s));
     }
     FocusSelect(ebox(0));
 }
@@ -55,8 +54,7 @@ void Keihoki_frm::init() {
 void Keihoki_frm::save() {
     for (const auto& [index, box] : ebox) {
         const QString code = NumStr(kFirstCode + index);
-        PutContents(QStringLiteral("SELECT * FROM UserOP WHERE Code=") + code, code,
-                    CStr(NumVal(box->Text())));
+        PutContents(u"SELECT * FROM UserOP WHERE Code="_s + code, code, CStr(NumVal(box->Text())));
     }
 }
 

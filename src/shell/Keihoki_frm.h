@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/CommandButton.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
@@ -14,7 +15,7 @@ class Keihoki_frm : public EntryForm {
  private:
     void save();
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
     CommandButton* Btn_;
 };
 

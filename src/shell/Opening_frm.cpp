@@ -6,6 +6,7 @@
 
 #include "platform/forms/Icons.h"
 #include "platform/forms/Style.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -15,7 +16,7 @@ constexpr QSize kPictureSize(420, 220);
 constexpr int kStandsMs = 1000;
 
 /// Drawn at the screen's own resolution, so that it is as crisp at 150 % as at 100 %.
-QPixmap splashPicture(qreal ratio) {
+QPixmap SplashPicture(qreal ratio) {
     QPixmap picture(kPictureSize * ratio);
     picture.setDevicePixelRatio(ratio);
     QPainter painter(&picture);
@@ -32,26 +33,25 @@ QPixmap splashPicture(qreal ratio) {
     painter.setPen(Qt::white);
     font.setPixelSize(44);
     painter.setFont(font);
-    painter.drawText(QRectF(160, 62, 240, 60), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Akarix"));
+    painter.drawText(QRectF(160, 62, 240, 60), Qt::AlignLeft | Qt::AlignVCenter, u"Akarix"_s);
     font.setPixelSize(15);
     painter.setFont(font);
     painter.setPen(QColor(0xc9, 0xdd, 0xee));
-    painter.drawText(QRectF(162, 120, 240, 30), Qt::AlignLeft | Qt::AlignVCenter,
-                     QStringLiteral("LPガス販売管理"));
+    painter.drawText(QRectF(162, 120, 240, 30), Qt::AlignLeft | Qt::AlignVCenter, u"LPガス販売管理"_s);
     return picture;
 }
 
 }  // namespace
 
-Opening_frm::Opening_frm() : Form(QStringLiteral("Opening_frm"), QStringLiteral("Akarix")) {
+Opening_frm::Opening_frm() : Form(u"Opening_frm"_s, u"Akarix"_s) {
     setWindowFlag(Qt::FramelessWindowHint);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     Image1_ = new Image(this);
-    Image1_->setObjectName(QStringLiteral("Image1"));
+    Image1_->setObjectName(u"Image1"_s);
     Image1_->setFrameShape(QFrame::NoFrame);
     Image1_->setMargin(0);
-    Image1_->setPixmap(splashPicture(devicePixelRatioF()));
+    Image1_->setPixmap(SplashPicture(devicePixelRatioF()));
     layout->addWidget(Image1_);
 
     auto* timer = new QTimer(this);

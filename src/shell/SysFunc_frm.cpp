@@ -4,6 +4,7 @@
 
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/Notice.h"
+#include "platform/runtime/Literals.h"
 #include "store/PutContents.h"
 #include "store/dbAccess.h"
 #include "toolkit/FieldWalk.h"
@@ -19,20 +20,20 @@ enum Field { kCode, kContents };
 }  // namespace
 
 SysFunc_frm::SysFunc_frm()
-    : EntryForm(QStringLiteral("SysFunc_frm"), QStringLiteral("System Function")),
-      Btn_(&Named(new CommandButton(QStringLiteral("OK")), QStringLiteral("Btn"))) {
+    : EntryForm(u"SysFunc_frm"_s, u"System Function"_s), Btn_(&Named(new CommandButton(u"OK"_s), u"Btn"_s)) {
     constexpr int kCodeBytes = 10;
     constexpr int kContentsBytes = 255;
     constexpr int kShownBytes = 40;
     auto* body = new QVBoxLayout(this);
     body->setSpacing(16);
     FieldLayout fields(*this);
-    fields.row(QStringLiteral("コード")).text(addBox(ebox, kCode, ImeMode::Off), kCodeBytes);
+    fields.row(u"コード"_s).text(addBox(ebox, kCode, ImeMode::Off), kCodeBytes);
     fields.row({}).text(addBox(ebox, kContents, ImeMode::NoControl), kContentsBytes, kShownBytes);
     JoinWalk(*this, *Btn_);
     body->addLayout(fields.layout());
     body->addWidget(Btn_, 0, Qt::AlignRight);
-    wireKeys(ebox, [this](int index) { return enter(index); });
+    wireKeys(
+        ebox, [this](int index) { return enter(index); });
     on(Btn_, &CommandButton::Click, [this] { save(); });
 }
 
@@ -51,12 +52,12 @@ bool SysFunc_frm::enter(int index) {
 }
 
 QString SysFunc_frm::question() const {
-    return QStringLiteral("SELECT * FROM zSysFunc  WHERE Code=") + KeepNumeric(ebox(kCode).Text());
+    return u"SELECT * FROM zSysFunc  WHERE Code="_s + KeepNumeric(ebox(kCode).Text());
 }
 
 void SysFunc_frm::load() {
     Recordset row = gDb->OpenRecordset(question());
-    ebox(kContents).SetText(row.Eof() ? QString() : NullToEmpty(row[QStringLiteral("contents")]));
+    ebox(kContents).SetText(row.Eof() ? QString() : NullToEmpty(row[u"contents"_s]));
 }
 
 void SysFunc_frm::save() {

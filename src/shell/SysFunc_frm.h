@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/CommandButton.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
@@ -18,7 +19,7 @@ class SysFunc_frm : public EntryForm {
     void save();
     QString question() const;
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
     CommandButton* Btn_;
 };
 

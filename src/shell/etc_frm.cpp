@@ -4,6 +4,7 @@
 #include <array>
 
 #include "platform/forms/FieldLayout.h"
+#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/PutContents.h"
 #include "store/Settings.h"
@@ -28,7 +29,7 @@ constexpr std::array<Setting, 3> kSettings{{{1, kClosingDay}, {2, kPrinting}, {3
 
 }  // namespace
 
-etc_frm::etc_frm() : EntryForm(QStringLiteral("etc_frm"), QStringLiteral("その他")) {
+etc_frm::etc_frm() : EntryForm(u"etc_frm"_s, u"その他"_s) {
     constexpr int kAnyBytes = 0;  // whatever is typed is stored; only the shown text is short
     constexpr int kShownBytes = 6;
     auto* body = new QVBoxLayout(this);
@@ -39,25 +40,27 @@ etc_frm::etc_frm() : EntryForm(QStringLiteral("etc_frm"), QStringLiteral("その
         line.text(addBox(ebox, field, ImeMode::Off), kAnyBytes, kShownBytes);
         return line;
     };
-    row(QStringLiteral("得意先　締日"), kClosingDay).note(QStringLiteral("得意先登録時にデフォルトで表示"));
-    row(QStringLiteral("検針日"), kReadingDay);
-    row(QStringLiteral("印刷設定"), kPrinting).note(QStringLiteral("0 = 直接印刷　1 = 表示後印刷"));
+    row(u"得意先　締日"_s, kClosingDay).note(u"得意先登録時にデフォルトで表示"_s);
+    row(u"検針日"_s, kReadingDay);
+    row(u"印刷設定"_s, kPrinting).note(u"0 = 直接印刷　1 = 表示後印刷"_s);
     body->addLayout(fields.layout());
-    body->addLayout(ButtonBar(*this, Btn, {QStringLiteral("キャンセル"), QStringLiteral("保存")}));
-    wireKeys(ebox, [this](int index) { return enter(index); });
-    on(&Btn(kCancel), &CommandButton::Click, [this] { Unload(); });
+    body->addLayout(ButtonBar(*this, Btn, {u"キャンセル"_s, u"保存"_s}));
+    wireKeys(
+        ebox, [this](int index) { return enter(index); });
+    on(
+        &Btn(kCancel), &CommandButton::Click, [this] { Unload(); });
     on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
 }
 
 void etc_frm::init() {
-    Recordset rows = gDb->OpenRecordset(QStringLiteral("SELECT * FROM zSysFunc WHERE Code>=1 and Code<=3"));
+    Recordset rows = gDb->OpenRecordset(u"SELECT * FROM zSysFunc WHERE Code>=1 and Code<=3"_s);
     // A single missing row leaves its field as it stands.
     if (rows.Eof()) ClearControls(*this);
     for (; !rows.Eof(); rows.MoveNext()) {
-        const std::int32_t code = longOf(rows[QStringLiteral("Code")]);
+        const std::int32_t code = LongOf(rows[u"Code"_s]);
         for (const Setting& setting : kSettings) {
             if (setting.code != code) continue;
-            ebox(setting.field).SetText(NullToEmpty(rows[QStringLiteral("contents")]));
+            ebox(setting.field).SetText(NullToEmpty(rows[u"contents"_s]));
         }
     }
     FocusSelect(ebox(kClosingDay));
@@ -73,7 +76,7 @@ void etc_frm::save() {
     for (const Setting& setting : kSettings) {
         const QString code = NumStr(setting.code);
         const QString text = ebox(setting.field).Text();
-        PutContents(QStringLiteral("SELECT * FROM zSysFunc WHERE Code=") + code, code, text);
+        PutContents(u"SELECT * FROM zSysFunc WHERE Code="_s + code, code, text);
         // The days are read by their screens as these open; how to print is known from here on.
         if (setting.field == kPrinting) gPrintPreview = NumVal(text) == 1;
     }

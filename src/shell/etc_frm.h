@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/CommandButton.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
@@ -15,8 +16,8 @@ class etc_frm : public EntryForm {
     bool enter(int index);
     void save();
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<CommandButton> Btn{u"Btn"_s};
 };
 
 }  // namespace akarix

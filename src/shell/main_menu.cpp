@@ -22,8 +22,9 @@
 #include "platform/forms/MsgBox.h"
 #include "platform/forms/SessionEnd.h"
 #include "platform/forms/SingleInstance.h"
-#include "platform/jet/Action.h"
+#include "platform/runtime/Action.h"
 #include "platform/runtime/CInt.h"
+#include "platform/runtime/Literals.h"
 #include "reports/RepoDaichou_frm.h"
 #include "reports/RepoSeikyu_frm.h"
 #include "reports/SeikyuPrt_frm.h"
@@ -85,39 +86,37 @@ struct StartSettings {
     QString password;
 };
 
-std::int16_t numberOf(const Recordset& set) {
-    return CInt(NumVal(NullToEmpty(set[QStringLiteral("contents")])));
+std::int16_t NumberOf(const Recordset& set) {
+    return CInt(NumVal(NullToEmpty(set[u"contents"_s])));
 }
 
-StartSettings readSettings() {
+StartSettings ReadSettings() {
     StartSettings settings;
-    Recordset functions = gDb->OpenRecordset(QStringLiteral("SELECT * FROM zSysFunc ORDER BY Code"));
+    Recordset functions = gDb->OpenRecordset(u"SELECT * FROM zSysFunc ORDER BY Code"_s);
     gPrintPreview = false;
     gInvoiceMode = 0;
     if (!functions.Eof()) {
-        functions.FindFirst(QStringLiteral("Code=123"));
-        settings.password = NullToEmpty(functions[QStringLiteral("contents")]);
-        functions.FindFirst(QStringLiteral("Code=2"));
-        if (!functions.NoMatch()) {
-            gPrintPreview = NumVal(NullToEmpty(functions[QStringLiteral("contents")])) == 1;
-        }
-        functions.FindFirst(QStringLiteral("Code=100"));
-        if (!functions.NoMatch()) gInvoiceMode = numberOf(functions);
+        functions.FindFirst(u"Code=123"_s);
+        settings.password = NullToEmpty(functions[u"contents"_s]);
+        functions.FindFirst(u"Code=2"_s);
+        if (!functions.NoMatch()) gPrintPreview = NumVal(NullToEmpty(functions[u"contents"_s])) == 1;
+        functions.FindFirst(u"Code=100"_s);
+        if (!functions.NoMatch()) gInvoiceMode = NumberOf(functions);
     }
     functions.Close();
 
-    Recordset options = gDb->OpenRecordset(QStringLiteral("SELECT * FROM UserOP ORDER BY Code"));
+    Recordset options = gDb->OpenRecordset(u"SELECT * FROM UserOP ORDER BY Code"_s);
     if (!options.Eof()) {
-        options.FindFirst(QStringLiteral("Code=1"));
-        gDateMode = options.NoMatch() ? std::int16_t{2} : numberOf(options);
+        options.FindFirst(u"Code=1"_s);
+        gDateMode = options.NoMatch() ? std::int16_t{2} : NumberOf(options);
     }
     options.Close();
     return settings;
 }
 
-bool logIn(const QString& password) {
-    if (AskText(QStringLiteral("パスワードを入力してください。"), QString()) == password) return true;
-    ShowAlert(QStringLiteral("パスワードが異なります。"));
+bool LogIn(const QString& password) {
+    if (AskText(u"パスワードを入力してください。"_s, QString()) == password) return true;
+    ShowAlert(u"パスワードが異なります。"_s);
     CloseDb();
     QApplication::processEvents();
     return false;
@@ -138,14 +137,14 @@ bool main_menu::Start() {
         if (!OpenDb(&MsgBox)) return;
         MigrateDb();
         gTaxRate = 5;
-        if (!logIn(readSettings().password)) return;
+        if (!LogIn(ReadSettings().password)) return;
         Form::Instance<main_menu>().Show();
         running = true;
     });
     return running;
 }
 
-main_menu::main_menu() : Form(QStringLiteral("main_menu"), QStringLiteral("Akarix")) {
+main_menu::main_menu() : Form(u"main_menu"_s, u"Akarix"_s) {
     buildBoard();
     previousSize_ = size();
     on(Command_, &CommandButton::Click, [this](int index) { Command_Click(index); });
@@ -168,7 +167,7 @@ void main_menu::buildBoard() {
     const auto left = [&](int column) { return kMargin + column * (kColumnWidth + kGap); };
     for (int column = 0; column < static_cast<int>(kColumns.size()); ++column) {
         auto* head = new Label(QString::fromUtf16(kColumns[static_cast<size_t>(column)]), this);
-        head->setObjectName(QStringLiteral("Label(%1)").arg(column));
+        head->setObjectName(u"Label(%1)"_s.arg(column));
         head->setAlignment(Qt::AlignCenter);
         head->setAutoFillBackground(true);
         head->setBackgroundRole(QPalette::Highlight);
@@ -191,20 +190,18 @@ void main_menu::buildBoard() {
 void main_menu::Command_Click(int index) {
     if (index == kChangePassword) return ChangePassword();
     if (index == kBackupPlace) return ChangeBackupPlace();
-    for (const BoardButton& entry : kBoard) {
+    for (const BoardButton& entry : kBoard)
         if (entry.index == index && entry.open != nullptr) entry.open();
-    }
 }
 
 void main_menu::ChangePassword() {
-    const QString contents = QStringLiteral("contents");
-    Recordset row = gDb->OpenRecordset(QStringLiteral("SELECT * FROM zSysFunc WHERE Code=123"));
+    const QString contents = u"contents"_s;
+    Recordset row = gDb->OpenRecordset(u"SELECT * FROM zSysFunc WHERE Code=123"_s);
     const QString current = NullToEmpty(row[contents]);
     row.Edit();
-    QString answer = AskText(QStringLiteral("パスワードを入力します。"), current);
+    QString answer = AskText(u"パスワードを入力します。"_s, current);
     if (answer.isEmpty()) answer = current;
-    if (AskConfirm(answer + QStringLiteral("で更新します。"), QStringLiteral("はい"),
-                   QStringLiteral("いいえ"))) {
+    if (AskConfirm(answer + u"で更新します。"_s, u"はい"_s, u"いいえ"_s)) {
         row.Fields(contents) = EmptyToBlank(answer);
         row.Update();
     }

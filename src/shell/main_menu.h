@@ -4,6 +4,7 @@
 #include "platform/forms/ControlArray.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/Label.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -27,7 +28,7 @@ class main_menu : public Form {
     void Command_Click(int index);
     void ChangePassword();
 
-    ControlArray<CommandButton> Command_{QStringLiteral("Command")};
+    ControlArray<CommandButton> Command_{u"Command"_s};
     QSizeF previousSize_;
     bool activated_ = false;
 };

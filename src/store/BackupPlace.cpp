@@ -6,6 +6,7 @@
 
 #include "platform/runtime/Dir.h"
 #include "platform/runtime/Input.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/Open.h"
 #include "platform/runtime/Path.h"
 #include "platform/runtime/Print.h"
@@ -14,7 +15,7 @@
 namespace akarix {
 
 QString BackupPlaceFile() {
-    const QString name = QStringLiteral("BKPath");
+    const QString name = u"BKPath"_s;
     if (QFile::exists(name)) return name;
     const QString found = Dir(name);
     return found.isEmpty() ? name : found;
@@ -44,7 +45,7 @@ QString BackupFolder(const QString& place) {
 }
 
 QString BackupCopy(const QString& place, int weekday) {
-    return BackupFolder(place) + QStringLiteral("Akarix") + NumStr(weekday) + QStringLiteral(".MDB");
+    return BackupFolder(place) + u"Akarix"_s + NumStr(weekday) + u".MDB"_s;
 }
 
 }  // namespace akarix

@@ -1,6 +1,7 @@
 #include "store/Consignor.h"
 
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
 #include "values/Text.h"
@@ -10,38 +11,38 @@ namespace akarix {
 namespace {
 
 /// Null stays empty: a branch that nobody has entered must not pass for the branch 000.
-QString digits(const Variant& number, const QString& mask) {
+QString Digits(const Variant& number, const QString& mask) {
     return number.IsNull() ? QString() : Format(number, mask);
 }
 
-void readBankPart(const Recordset& set, Consignor& consignor) {
+void ReadBankPart(const Recordset& set, Consignor& consignor) {
     const auto text = [&set](const QString& column) { return NullToEmpty(set[column]); };
-    consignor.ItakuCode = text(QStringLiteral("ItakuCode"));
-    consignor.Itakusya = text(QStringLiteral("Itakusya"));
-    consignor.fName = text(QStringLiteral("fName"));
-    consignor.Bnk = digits(set[QStringLiteral("Code")], QStringLiteral("0000"));
-    consignor.BkName = text(QStringLiteral("BkName"));
-    consignor.Stn = digits(set[QStringLiteral("Stn")], QStringLiteral("000"));
-    consignor.StnName = text(QStringLiteral("StnName"));
-    consignor.Syurui = text(QStringLiteral("Syurui"));
-    consignor.KozaNo = text(QStringLiteral("KozaNo"));
+    consignor.ItakuCode = text(u"ItakuCode"_s);
+    consignor.Itakusya = text(u"Itakusya"_s);
+    consignor.fName = text(u"fName"_s);
+    consignor.Bnk = Digits(set[u"Code"_s], u"0000"_s);
+    consignor.BkName = text(u"BkName"_s);
+    consignor.Stn = Digits(set[u"Stn"_s], u"000"_s);
+    consignor.StnName = text(u"StnName"_s);
+    consignor.Syurui = text(u"Syurui"_s);
+    consignor.KozaNo = text(u"KozaNo"_s);
 }
 
 }  // namespace
 
 void LoadBankConsignor(int code, Consignor& consignor) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Bnk WHERE Code=") + NumStr(code));
-    if (!set.Eof()) readBankPart(set, consignor);
+    Recordset set = gDb->OpenRecordset(u"SELECT * FROM Bnk WHERE Code="_s + NumStr(code));
+    if (!set.Eof()) ReadBankPart(set, consignor);
     set.Close();
 }
 
 void LoadPostConsignor(Consignor& consignor) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT * FROM Bnk WHERE Code=9900"));
+    Recordset set = gDb->OpenRecordset(u"SELECT * FROM Bnk WHERE Code=9900"_s);
     if (!set.Eof()) {
-        readBankPart(set, consignor);
-        consignor.Saifurikae = NullToEmpty(set[QStringLiteral("Saifurikae")]);
-        consignor.Keiyaku = NullToEmpty(set[QStringLiteral("Keiyaku")]);
-        consignor.Jimusyo = NullToEmpty(set[QStringLiteral("Jimusyo")]);
+        ReadBankPart(set, consignor);
+        consignor.Saifurikae = NullToEmpty(set[u"Saifurikae"_s]);
+        consignor.Keiyaku = NullToEmpty(set[u"Keiyaku"_s]);
+        consignor.Jimusyo = NullToEmpty(set[u"Jimusyo"_s]);
     }
     set.Close();
 }

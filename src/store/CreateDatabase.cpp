@@ -1,8 +1,9 @@
 #include "store/CreateDatabase.h"
 
-#include "platform/jet/Action.h"
-#include "platform/jet/DBEngine.h"
-#include "platform/jet/Engine.h"
+#include "platform/dao/DBEngine.h"
+#include "platform/dialect/Engine.h"
+#include "platform/runtime/Action.h"
+#include "platform/runtime/Literals.h"
 #include "store/Tables.h"
 #include "store/dbAccess.h"
 
@@ -16,7 +17,7 @@ struct Setting {
 };
 
 // A blank stands for "empty": no text column holds a text without length.
-const Setting systemSettings[] = {
+const Setting kSystemSettings[] = {
     {1, u"31"},   // closing day of a new customer: the month's end
     {2, u"1"},    // pages are shown before they are printed
     {3, u"25"},   // reading day
@@ -24,13 +25,13 @@ const Setting systemSettings[] = {
     {123, u" "},  // no password
 };
 
-const Setting userOptions[] = {
+const Setting kUserOptions[] = {
     {1, u"2"},    // western years
     {2, u"300"},  // alarm lease, yen a month
     {3, u"500"},  // ACU lease, yen a month
 };
-constexpr int firstConsignorOption = 4;
-constexpr int lastConsignorOption = 22;
+constexpr int kFirstConsignorOption = 4;
+constexpr int kLastConsignorOption = 22;
 
 struct Named {
     int code;
@@ -38,7 +39,7 @@ struct Named {
 };
 
 // 2 is the class that the reading of a debit result posts.
-const Named paymentClasses[] = {{1, u"集金"}, {2, u"口座振替"}, {3, u"振込"}, {4, u"相殺"}, {5, u"値引"}};
+const Named kPaymentClasses[] = {{1, u"集金"}, {2, u"口座振替"}, {3, u"振込"}, {4, u"相殺"}, {5, u"値引"}};
 
 struct CodeListEntry {
     const char16_t* table;
@@ -47,14 +48,14 @@ struct CodeListEntry {
     const char16_t* name;
 };
 
-const CodeListEntry codeListEntries[] = {
+const CodeListEntry kCodeListEntries[] = {
     {u"Dbn", 1, u"ｲﾂﾊﾟﾝ", u"一般"},     {u"Dbn", 2, u"ｷﾞﾖｳﾑ", u"業務用"}, {u"Kko", 1, u"ﾅｼ", u"なし"},
     {u"DyJkn", 1, u"ﾋﾖｳｼﾞﾕﾝ", u"標準"}, {u"Col", 1, u"ｼﾛ", u"白"},        {u"Col", 2, u"ﾊｲ", u"灰"},
     {u"Shk", 1, u"ﾊｲﾀﾂ", u"配達"},      {u"Shk", 2, u"ｼﾞｻﾝ", u"持参"},
 };
 
 /// Defaults have no place in the dialect, so a table's definition goes to the engine as it is.
-void define(Database& db, const TableDef& table) {
+void Define(Database& db, const TableDef& table) {
     auto plan = std::make_shared<Plan>();
     plan->kind = Plan::Kind::Definition;
     plan->definition = Plan::Definition::CreateTable;
@@ -62,32 +63,28 @@ void define(Database& db, const TableDef& table) {
     db.engine().define({std::move(plan), {}});
 }
 
-void addSetting(Database& db, const QString& table, int code, const QString& contents) {
-    db.Execute(QStringLiteral("INSERT INTO %1(Code,contents) VALUES(%2,'%3')")
-                   .arg(table, QString::number(code), contents));
+void AddSetting(Database& db, const QString& table, int code, const QString& contents) {
+    db.Execute(
+        u"INSERT INTO %1(Code,contents) VALUES(%2,'%3')"_s.arg(table, QString::number(code), contents));
 }
 
-void fillSettings(Database& db) {
-    for (const Setting& row : systemSettings) {
-        addSetting(db, QStringLiteral("zSysFunc"), row.code, QString::fromUtf16(row.contents));
-    }
-    for (const Setting& row : userOptions) {
-        addSetting(db, QStringLiteral("UserOP"), row.code, QString::fromUtf16(row.contents));
-    }
-    for (int code = firstConsignorOption; code <= lastConsignorOption; ++code) {
-        addSetting(db, QStringLiteral("UserOP"), code, QStringLiteral(" "));
-    }
+void FillSettings(Database& db) {
+    for (const Setting& row : kSystemSettings)
+        AddSetting(db, u"zSysFunc"_s, row.code, QString::fromUtf16(row.contents));
+    for (const Setting& row : kUserOptions)
+        AddSetting(db, u"UserOP"_s, row.code, QString::fromUtf16(row.contents));
+    for (int code = kFirstConsignorOption; code <= kLastConsignorOption; ++code)
+        AddSetting(db, u"UserOP"_s, code, u" "_s);
 }
 
-void fillCodes(Database& db) {
-    for (const Named& row : paymentClasses) {
-        db.Execute(QStringLiteral("INSERT INTO NyukinKubun(Code,Namae) VALUES(%1,'%2')")
-                       .arg(row.code)
-                       .arg(QString::fromUtf16(row.name)));
+void FillCodes(Database& db) {
+    for (const Named& row : kPaymentClasses) {
+        db.Execute(u"INSERT INTO NyukinKubun(Code,Namae) VALUES(%1,'%2')"_s.arg(row.code).arg(
+            QString::fromUtf16(row.name)));
     }
-    for (const CodeListEntry& row : codeListEntries) {
+    for (const CodeListEntry& row : kCodeListEntries) {
         const QString name = QString::fromUtf16(row.name);
-        db.Execute(QStringLiteral("INSERT INTO %1(Code,Kana,Namae,Ryaku) VALUES(%2,'%3','%4','%4')")
+        db.Execute(u"INSERT INTO %1(Code,Kana,Namae,Ryaku) VALUES(%2,'%3','%4','%4')"_s
                        .arg(QString::fromUtf16(row.table))
                        .arg(row.code)
                        .arg(QString::fromUtf16(row.kana), name));
@@ -100,14 +97,12 @@ void CreateDelivered(const QString& path) {
     Database* db = DBEngine::Workspaces(0).CreateDatabase(path, ConnectText());
     {
         const Action all;
-        for (const TableDef& table : Tables()) {
-            define(*db, table);
-        }
-        for (const QString& statement : IndexStatements()) {
+        for (const TableDef& table : Tables())
+            Define(*db, table);
+        for (const QString& statement : IndexStatements())
             db->Execute(statement);
-        }
-        fillSettings(*db);
-        fillCodes(*db);
+        FillSettings(*db);
+        FillCodes(*db);
     }
     db->Close();
 }

@@ -2,6 +2,7 @@
 
 #include <QStringBuilder>
 
+#include "platform/runtime/Literals.h"
 #include "values/NumStr.h"
 
 namespace akarix {
@@ -12,8 +13,7 @@ QString OfCustomerMonth(std::int32_t deal, int nendo, int getudo) {
 
 QString OfCustomerMonth(const QString& deal, const QString& nendo, const QString& getudo) {
     // Asked for each customer of a run: joined in one go.
-    return QStringLiteral(" WHERE Deal  =") % deal % QStringLiteral(" AND   Nendo =") % nendo %
-           QStringLiteral(" AND   Getudo=") % getudo;
+    return u" WHERE Deal  ="_s % deal % u" AND   Nendo ="_s % nendo % u" AND   Getudo="_s % getudo;
 }
 
 }  // namespace akarix

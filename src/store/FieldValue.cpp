@@ -8,22 +8,22 @@
 
 namespace akarix {
 
-Currency moneyOf(const Variant& value) {
+Currency MoneyOf(const Variant& value) {
     if (const Currency* money = value.If<Currency>()) return *money;
     return value.IsNull() ? Currency() : CCur(value);
 }
 
-std::int32_t longOf(const Variant& value) {
+std::int32_t LongOf(const Variant& value) {
     if (const std::int32_t* number = value.If<std::int32_t>()) return *number;
     return value.IsNull() ? 0 : CLng(value);
 }
 
-std::int16_t integerOf(const Variant& value) {
+std::int16_t IntegerOf(const Variant& value) {
     if (const std::int16_t* number = value.If<std::int16_t>()) return *number;
     return value.IsNull() ? std::int16_t{0} : CInt(value);
 }
 
-Date dateOf(const Variant& value) {
+Date DateOf(const Variant& value) {
     return IsDateSet(value) ? CDate(value) : Date();
 }
 

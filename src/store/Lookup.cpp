@@ -2,6 +2,7 @@
 
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/IsDate.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
@@ -13,12 +14,12 @@ namespace akarix {
 
 namespace {
 
-const QString blank = QStringLiteral(" ");
-constexpr std::int16_t monthEnd = 31;
+const QString kBlank = u" "_s;
+constexpr std::int16_t kMonthEnd = 31;
 
-QString nameOrBlank(const QString& sql) {
-    const Variant name = FirstValue(sql, QStringLiteral("Namae"));
-    return name.IsEmpty() ? blank : NullToEmpty(name);
+QString NameOrBlank(const QString& sql) {
+    const Variant name = FirstValue(sql, u"Namae"_s);
+    return name.IsEmpty() ? kBlank : NullToEmpty(name);
 }
 
 }  // namespace
@@ -31,64 +32,58 @@ Variant FirstValue(const QString& sql, const QString& column) {
 }
 
 QString GetName(const QString& table, const Variant& code) {
-    return nameOrBlank(QStringLiteral("SELECT Code,Namae FROM ") + table + QStringLiteral(" WHERE Code=") +
-                       NumStr(code));
+    return NameOrBlank(u"SELECT Code,Namae FROM "_s + table + u" WHERE Code="_s + NumStr(code));
 }
 
 void GetNameAndNoSeikyu(const QString& table, const Variant& code, QString& name, int& noSeikyu) {
-    Recordset set = gDb->OpenRecordset(QStringLiteral("SELECT Code,Namae,NoSeikyu FROM ") + table +
-                                       QStringLiteral(" WHERE Code=") + NumStr(code));
-    name = blank;
+    Recordset set =
+        gDb->OpenRecordset(u"SELECT Code,Namae,NoSeikyu FROM "_s + table + u" WHERE Code="_s + NumStr(code));
+    name = kBlank;
     noSeikyu = 0;
     if (!set.Eof()) {
-        name = NullToEmpty(set[QStringLiteral("Namae")]);
-        noSeikyu = integerOf(set[QStringLiteral("NoSeikyu")]);
+        name = NullToEmpty(set[u"Namae"_s]);
+        noSeikyu = IntegerOf(set[u"NoSeikyu"_s]);
     }
     set.Close();
 }
 
 QString GetDealName(const Variant& code) {
-    return nameOrBlank(QStringLiteral("SELECT Namae FROM Deal ") + QStringLiteral(" WHERE Code=") +
-                       NumStr(code));
+    return NameOrBlank(u"SELECT Namae FROM Deal "_s + u" WHERE Code="_s + NumStr(code));
 }
 
 Currency GetHinTanka(const Variant& code) {
-    return moneyOf(FirstValue(QStringLiteral("SELECT Tanka FROM Hin WHERE Code=") + NumStr(code),
-                              QStringLiteral("Tanka")));
+    return MoneyOf(FirstValue(u"SELECT Tanka FROM Hin WHERE Code="_s + NumStr(code), u"Tanka"_s));
 }
 
 Variant GetKensinDay(const Variant& code) {
-    const Variant day = FirstValue(QStringLiteral("SELECT Kensin FROM Rte WHERE Code=") + NumStr(code),
-                                   QStringLiteral("Kensin"));
+    const Variant day = FirstValue(u"SELECT Kensin FROM Rte WHERE Code="_s + NumStr(code), u"Kensin"_s);
     return NullToZero(day.IsEmpty() ? Variant::Null() : day);
 }
 
 std::int32_t HighestPlus(const QString& sql, std::int32_t step) {
     Recordset set = gDb->OpenRecordset(sql);
-    const std::int64_t highest = set.Eof() ? 0 : longOf(set.Fields(0).Value());
+    const std::int64_t highest = set.Eof() ? 0 : LongOf(set.Fields(0).Value());
     set.Close();
     if (highest + step > INT32_MAX) throw RuntimeError(6);
     return static_cast<std::int32_t>(highest + step);
 }
 
 std::int32_t NextCode(const QString& table) {
-    return HighestPlus(QStringLiteral("SELECT MAX(Code) AS tCode FROM ") + table, 1);
+    return HighestPlus(u"SELECT MAX(Code) AS tCode FROM "_s + table, 1);
 }
 
 std::int32_t NextHaisou() {
-    return HighestPlus(QStringLiteral("SELECT MAX(Haisou) AS tCode FROM Deal"), 10);
+    return HighestPlus(u"SELECT MAX(Haisou) AS tCode FROM Deal"_s, 10);
 }
 
 QString ReadingDay(const Recordset& reading) {
-    return NumStr(NullToZero(reading[QStringLiteral("Nendo")])) + u'/' +
-           NumStr(NullToZero(reading[QStringLiteral("Getudo")])) + u'/' +
-           NumStr(NullToZero(reading[QStringLiteral("Hi")]));
+    return NumStr(NullToZero(reading[u"Nendo"_s])) + u'/' + NumStr(NullToZero(reading[u"Getudo"_s])) + u'/' +
+           NumStr(NullToZero(reading[u"Hi"_s]));
 }
 
 void PrevReadingDate(int year, int month, std::int32_t deal, QString& text) {
-    Recordset set = gDb->OpenRecordset(
-        QStringLiteral("SELECT * FROM Dgd ") + QStringLiteral(" WHERE Deal  =") + NumStr(deal) +
-        QStringLiteral(" AND   Nendo*100+Getudo<") + NumStr(year * 100 + month));
+    Recordset set = gDb->OpenRecordset(u"SELECT * FROM Dgd "_s + u" WHERE Deal  ="_s + NumStr(deal) +
+                                       u" AND   Nendo*100+Getudo<"_s + NumStr(year * 100 + month));
     text.clear();
     if (!set.Eof()) {
         const QString day = ReadingDay(set);
@@ -98,18 +93,16 @@ void PrevReadingDate(int year, int month, std::int32_t deal, QString& text) {
 }
 
 QString GetContents(const QString& sql) {
-    return NullToEmpty(FirstValue(sql, QStringLiteral("contents")));
+    return NullToEmpty(FirstValue(sql, u"contents"_s));
 }
 
 QString AddressOfZip(const QString& zip) {
-    return NullToEmpty(FirstValue(QStringLiteral("SELECT Addr FROM Zip7 WHERE Code=") + KeepDigits(zip),
-                                  QStringLiteral("Addr")));
+    return NullToEmpty(FirstValue(u"SELECT Addr FROM Zip7 WHERE Code="_s + KeepDigits(zip), u"Addr"_s));
 }
 
 void DateToGetudo(std::int32_t deal, Date hizuke, int& nendo, int& getudo) {
-    const Variant sime = FirstValue(QStringLiteral("SELECT Sime FROM Deal WHERE Code=") + NumStr(deal),
-                                    QStringLiteral("Sime"));
-    const std::int16_t closingDay = sime.IsEmpty() ? monthEnd : integerOf(sime);
+    const Variant sime = FirstValue(u"SELECT Sime FROM Deal WHERE Code="_s + NumStr(deal), u"Sime"_s);
+    const std::int16_t closingDay = sime.IsEmpty() ? kMonthEnd : IntegerOf(sime);
     nendo = Year(hizuke);
     getudo = Month(hizuke);
     // A closing day of 0 moves every date into the next month.

@@ -1,5 +1,6 @@
 #include "store/PutContents.h"
 
+#include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 #include "values/NumVal.h"
 #include "values/Text.h"
@@ -10,11 +11,11 @@ void PutContents(const QString& sql, const QString& code, const QString& content
     Recordset row = gDb->OpenRecordset(sql);
     if (row.Eof()) {
         row.AddNew();
-        row.Fields(QStringLiteral("Code")) = ToLong(code);
+        row.Fields(u"Code"_s) = ToLong(code);
     } else {
         row.Edit();
     }
-    row.Fields(QStringLiteral("contents")) = EmptyToBlank(contents);
+    row.Fields(u"contents"_s) = EmptyToBlank(contents);
     row.Update();
     row.Close();
 }

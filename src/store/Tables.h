@@ -3,7 +3,7 @@
 #include <QStringList>
 #include <vector>
 
-#include "platform/jet/Schema.h"
+#include "platform/dialect/Schema.h"
 
 namespace akarix {
 

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "platform/jet/Field.h"
+#include "platform/dao/Field.h"
 
 namespace akarix {
 

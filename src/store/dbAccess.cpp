@@ -1,6 +1,7 @@
 #include "store/dbAccess.h"
 
-#include "platform/jet/DBEngine.h"
+#include "platform/dao/DBEngine.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "platform/runtime/Str.h"
 #include "store/StoreClaim.h"
@@ -12,10 +13,10 @@ Database* gDb = nullptr;
 
 namespace {
 
-constexpr int unrecognisedFormat = 3343;
+constexpr int kUnrecognisedFormat = 3343;
 
 /// Runs one statement of the migration. On a file that is up to date it fails, and that is all right.
-void tryStatement(const QString& sql) {
+void TryStatement(const QString& sql) {
     try {
         gDb->Execute(sql);
     } catch (const RuntimeError&) {
@@ -26,24 +27,24 @@ void tryStatement(const QString& sql) {
 }  // namespace
 
 QString DatabaseName() {
-    return QStringLiteral("Akarix.MDB");
+    return u"Akarix.MDB"_s;
 }
 
 QString StorePassword() {
-    return QStringLiteral("kvz#7164");
+    return u"kvz#7164"_s;
 }
 
 QString ConnectText() {
-    return QStringLiteral("MS Access;PWD=") + StorePassword();
+    return u"MS Access;PWD="_s + StorePassword();
 }
 
 bool OpenDb(void (*fail)(const QString& text, const QString& title)) {
     // Another desk that opens the file is soon done.
     const StoreClaim claim(DatabaseName(), std::chrono::seconds(1));
     if (!claim.holder().isEmpty()) {
-        fail(QStringLiteral("%1 は %2 が使っています。\r終わってから、もう一度起動してください。")
-                 .arg(DatabaseName(), claim.holder()),
-             QStringLiteral("エラー"));
+        fail(u"%1 は %2 が使っています。\r終わってから、もう一度起動してください。"_s.arg(DatabaseName(),
+                                                                                          claim.holder()),
+             u"エラー"_s);
         return false;
     }
     for (;;) {
@@ -52,10 +53,10 @@ bool OpenDb(void (*fail)(const QString& text, const QString& title)) {
             gDb = gWs->OpenDatabase(DatabaseName(), false, false, ConnectText());
             return true;
         } catch (const RuntimeError& error) {
-            if (error.number() != unrecognisedFormat) {
-                fail(QStringLiteral("エラー番号 ") + Str(error.number()) + error.source() +
-                         QStringLiteral(" でエラーが発生しました。 ") + u'\r' + error.description(),
-                     QStringLiteral("エラー"));
+            if (error.number() != kUnrecognisedFormat) {
+                fail(u"エラー番号 "_s + Str(error.number()) + error.source() +
+                         u" でエラーが発生しました。 "_s + u'\r' + error.description(),
+                     u"エラー"_s);
                 return false;
             }
         }
@@ -64,13 +65,13 @@ bool OpenDb(void (*fail)(const QString& text, const QString& title)) {
 }
 
 void MigrateDb() {
-    tryStatement(QStringLiteral("CREATE TABLE TempZan( Code Long , Zan Currency )"));
-    tryStatement(QStringLiteral("ALTER Table Gaskeisan ALTER COLUMN Kihon Currency"));
-    tryStatement(QStringLiteral("ALTER Table Gaskeisan ALTER COLUMN Tanka Currency"));
-    tryStatement(QStringLiteral("ALTER Table Rte ADD COLUMN Kensin Integer"));
-    tryStatement(QStringLiteral("ALTER Table Bnk ADD COLUMN Keiyaku Text(30)"));
-    tryStatement(QStringLiteral("ALTER Table Bnk ADD COLUMN Jimusyo Text(30)"));
-    tryStatement(QStringLiteral("ALTER Table Deal ALTER COLUMN Koza TEXT(10)"));
+    TryStatement(u"CREATE TABLE TempZan( Code Long , Zan Currency )"_s);
+    TryStatement(u"ALTER Table Gaskeisan ALTER COLUMN Kihon Currency"_s);
+    TryStatement(u"ALTER Table Gaskeisan ALTER COLUMN Tanka Currency"_s);
+    TryStatement(u"ALTER Table Rte ADD COLUMN Kensin Integer"_s);
+    TryStatement(u"ALTER Table Bnk ADD COLUMN Keiyaku Text(30)"_s);
+    TryStatement(u"ALTER Table Bnk ADD COLUMN Jimusyo Text(30)"_s);
+    TryStatement(u"ALTER Table Deal ALTER COLUMN Koza TEXT(10)"_s);
 }
 
 void CloseDb() {

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "platform/jet/Workspace.h"
+#include "platform/dao/Workspace.h"
 
 namespace akarix {
 

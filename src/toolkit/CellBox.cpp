@@ -30,13 +30,19 @@ void LeaveCell(FlexGrid& grid, TextBox& box) {
 
 void WireCellBox(Form& form, FlexGrid& grid, TextBox& box, const std::function<void()>& open,
                  const std::function<void(KeyEvent&)>& key) {
-    form.on(&grid, &FlexGrid::Click, [open] { open(); });
-    form.on(&grid, &FlexGrid::RowColChange, [open] { open(); });
-    form.on(&grid, &FlexGrid::KeyDown, [open](KeyEvent& event) {
-        if (event.KeyCode == key::Return) open();
-    });
-    form.on(&grid, &FlexGrid::Scroll, [&grid, &box] { LeaveCell(grid, box); });
-    form.on(&box, &TextBox::KeyDown, [key](KeyEvent& event) { key(event); });
+    form.on(
+        &grid, &FlexGrid::Click, [open] { open(); });
+    form.on(
+        &grid, &FlexGrid::RowColChange, [open] { open(); });
+    form.on(
+        &grid, &FlexGrid::KeyDown,
+        [open](KeyEvent& event) {
+            if (event.KeyCode == key::Return) open();
+        });
+    form.on(
+        &grid, &FlexGrid::Scroll, [&grid, &box] { LeaveCell(grid, box); });
+    form.on(
+        &box, &TextBox::KeyDown, [key](KeyEvent& event) { key(event); });
     form.on(&box, &TextBox::LostFocus, [&box] { box.hide(); });
 }
 

@@ -10,6 +10,7 @@
 #include "platform/forms/MemoBox.h"
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "platform/runtime/Trim.h"
 #include "toolkit/Evaluate.h"
@@ -21,56 +22,56 @@ namespace akarix {
 
 namespace {
 
-const std::array<QString, 4> kMasks = {
-    QStringLiteral("###,###,###,###,##0"), QStringLiteral("###,###,###,###,##0.0"),
-    QStringLiteral("###,###,###,###,##0.00"), QStringLiteral("###,###,###,###,##0.000")};
+const std::array<QString, 4> kMasks = {u"###,###,###,###,##0"_s, u"###,###,###,###,##0.0"_s,
+                                       u"###,###,###,###,##0.00"_s, u"###,###,###,###,##0.000"_s};
 
-bool holdsOperator(const QString& text) {
-    return std::any_of(text.begin(), text.end(),
-                       [](QChar c) { return c == u'*' || c == u'+' || c == u'-' || c == u'/'; });
+bool HoldsOperator(const QString& text) {
+    return std::any_of(
+        text.begin(), text.end(), [](QChar c) { return c == u'*' || c == u'+' || c == u'-' || c == u'/'; });
 }
 
 }  // namespace
 
-Dentaku_frm::Dentaku_frm() : Form(QStringLiteral("電卓"), QStringLiteral("メモ型電卓")) {
+Dentaku_frm::Dentaku_frm() : Form(u"電卓"_s, u"メモ型電卓"_s) {
     setFixedSize(Twips(3825), Twips(5715));
 
-    eSiki_ = &Named(new MemoBox, QStringLiteral("eSiki"));
-    eAns_ = &Named(new TextBox, QStringLiteral("eAns"));
+    eSiki_ = &Named(new MemoBox, u"eSiki"_s);
+    eAns_ = &Named(new TextBox, u"eAns"_s);
     eAns_->SetIMEMode(ImeMode::Off);
     eAns_->setAlignment(Qt::AlignRight);
-    Combo1_ = &Named(new ComboBox, QStringLiteral("Combo1"));
-    for (int decimals = 0; decimals < 4; ++decimals) {
+    Combo1_ = &Named(new ComboBox, u"Combo1"_s);
+    for (int decimals = 0; decimals < 4; ++decimals)
         Combo1_->AddItem(QString::number(decimals), decimals);
-    }
     Combo1_->SetListIndex(1);
-    CommandButton& clear = Named(new CommandButton(QStringLiteral("クリア")), QStringLiteral("Command1"));
-    for (QWidget* control : std::initializer_list<QWidget*>{eSiki_, eAns_, Combo1_, &clear}) {
+    CommandButton& clear = Named(new CommandButton(u"クリア"_s), u"Command1"_s);
+    for (QWidget* control : std::initializer_list<QWidget*>{eSiki_, eAns_, Combo1_, &clear})
         JoinWalk(*this, *control);
-    }
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
-    layout->addWidget(new Label(QStringLiteral("式を入れてEnterを押して下さい。")), 0, 0, 1, 2);
+    layout->addWidget(new Label(u"式を入れてEnterを押して下さい。"_s), 0, 0, 1, 2);
     layout->addWidget(eSiki_, 1, 0, 1, 2);
     auto* hints = new QHBoxLayout;
-    hints->addWidget(new Label(QStringLiteral("掛け算 = *")));
+    hints->addWidget(new Label(u"掛け算 = *"_s));
     hints->addStretch();
-    hints->addWidget(new Label(QStringLiteral("割り算 = /")));
+    hints->addWidget(new Label(u"割り算 = /"_s));
     layout->addLayout(hints, 2, 0, 1, 2);
     layout->addWidget(eAns_, 3, 0, 1, 2);
-    layout->addWidget(new Label(QStringLiteral("少数以下")), 4, 0);
+    layout->addWidget(new Label(u"少数以下"_s), 4, 0);
     layout->addWidget(Combo1_, 4, 1);
     layout->addWidget(&clear, 5, 1);
     layout->setRowStretch(1, 1);
     layout->setColumnStretch(1, 1);
 
-    on(eSiki_, &MemoBox::KeyDown, [this](KeyEvent& event) {
-        if (event.KeyCode != key::Return) return;
-        event.KeyCode = 0;
-        answerMemo();
-    });
-    on(Combo1_, &ComboBox::Click, [this] { reformatAnswer(); });
+    on(
+        eSiki_, &MemoBox::KeyDown,
+        [this](KeyEvent& event) {
+            if (event.KeyCode != key::Return) return;
+            event.KeyCode = 0;
+            answerMemo();
+        });
+    on(
+        Combo1_, &ComboBox::Click, [this] { reformatAnswer(); });
     on(Combo1_, &ComboBox::LostFocus, [this] { reformatAnswer(); });
     on(&clear, &CommandButton::Click, [this] {
         eSiki_->SetText({});
@@ -88,7 +89,7 @@ void Dentaku_frm::init() {
 void Dentaku_frm::answerMemo() {
     const QString memo = Trim(eSiki_->Text());
     // A bare number is a note, no question: it is not echoed as an answer.
-    ShowAnswer(holdsOperator(memo) ? Evaluate(memo) : Currency());
+    ShowAnswer(HoldsOperator(memo) ? Evaluate(memo) : Currency());
 }
 
 void Dentaku_frm::reformatAnswer() {

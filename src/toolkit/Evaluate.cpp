@@ -3,6 +3,7 @@
 #include <muParser.h>
 
 #include "platform/runtime/CCur.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "platform/runtime/Trim.h"
 
@@ -10,8 +11,8 @@ namespace akarix {
 
 namespace {
 
-QString lastLine(const QString& memo) {
-    static const QString kBreak = QStringLiteral("\r\n");
+QString LastLine(const QString& memo) {
+    static const QString kBreak = u"\r\n"_s;
     const QString text = Trim(memo);
     const qsizetype at = text.lastIndexOf(kBreak);
     return at < 0 ? text : Trim(text.mid(at + kBreak.size()));
@@ -20,7 +21,7 @@ QString lastLine(const QString& memo) {
 }  // namespace
 
 Currency Evaluate(const QString& expression) {
-    const QString line = lastLine(expression);
+    const QString line = LastLine(expression);
     if (line.isEmpty()) return {};
     try {
         mu::Parser parser;

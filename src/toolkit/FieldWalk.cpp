@@ -4,6 +4,7 @@
 
 #include "platform/forms/CommandButton.h"
 #include "platform/runtime/CLng.h"
+#include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 #include "values/Text.h"
 
@@ -11,50 +12,50 @@ namespace akarix {
 
 namespace {
 
-bool walks(const QWidget* control) {
+bool Walks(const QWidget* control) {
     return qobject_cast<const TextBox*>(control) || qobject_cast<const ComboBox*>(control) ||
            qobject_cast<const CommandButton*>(control);
 }
 
-QWidget* walkerAt(const Form& form, int tabIndex) {
-    for (QWidget* control : form.Controls()) {
-        if (walks(control) && TabIndex(control) == tabIndex) return control;
-    }
+QWidget* WalkerAt(const Form& form, int tabIndex) {
+    for (QWidget* control : form.Controls())
+        if (Walks(control) && TabIndex(control) == tabIndex) return control;
     return nullptr;
 }
 
-void focusWalker(QWidget* control) {
-    if (auto* box = qobject_cast<TextBox*>(control)) {
+void FocusWalker(QWidget* control) {
+    if (auto* box = qobject_cast<TextBox*>(control))
         FocusSelect(*box);
-    } else {
+    else
         SetFocus(control);
-    }
 }
 
 /// Takes the walk to the first visible control that `step` leads to. A number that no control holds, a
 /// label's included, sends it to 0. The bound only matters on a form whose control 0 is hidden.
 template <class Step>
-void walk(Form& form, int from, Step step) {
+void WalkFrom(Form& form, int from, Step step) {
     int target = from;
     for (qsizetype tries = 2 * form.Controls().size() + 2; tries > 0; --tries) {
         target = step(target);
-        QWidget* control = walkerAt(form, target);
+        QWidget* control = WalkerAt(form, target);
         if (!control) {
             target = 0;
-            control = walkerAt(form, target);
+            control = WalkerAt(form, target);
         }
-        if (control && control->isVisibleTo(&form)) return focusWalker(control);
+        if (control && control->isVisibleTo(&form)) return FocusWalker(control);
     }
 }
 
 }  // namespace
 
 void NextField(Form& form, int tabIndex) {
-    walk(form, tabIndex, [](int at) { return at + 1; });
+    WalkFrom(
+        form, tabIndex, [](int at) { return at + 1; });
 }
 
 void PrevField(Form& form, int tabIndex) {
-    walk(form, tabIndex, [](int at) { return std::max(at - 1, 0); });
+    WalkFrom(
+        form, tabIndex, [](int at) { return std::max(at - 1, 0); });
 }
 
 int MapEditKey(int keyCode, int shift) {
@@ -63,13 +64,11 @@ int MapEditKey(int keyCode, int shift) {
 }
 
 void ClearControls(Form& form) {
-    for (QWidget* control : form.Controls()) {
-        if (auto* box = qobject_cast<TextBox*>(control)) {
+    for (QWidget* control : form.Controls())
+        if (auto* box = qobject_cast<TextBox*>(control))
             box->SetText({});
-        } else if (auto* combo = qobject_cast<ComboBox*>(control)) {
+        else if (auto* combo = qobject_cast<ComboBox*>(control))
             combo->SetListIndex(-1);
-        }
-    }
     form.ForgetEdits();
 }
 
@@ -105,17 +104,14 @@ void ComboSelect(ComboBox& combo, int value) {
 void FillCombo(const QString& sql, ComboBox& combo, bool noSelection) {
     ClearCombo(combo);
     Recordset rows = gDb->OpenRecordset(sql);
-    for (; !rows.Eof(); rows.MoveNext()) {
-        combo.AddItem(NullToEmpty(rows[QStringLiteral("Namae")]),
-                      CLng(NullToZero(rows[QStringLiteral("Code")])));
-    }
+    for (; !rows.Eof(); rows.MoveNext())
+        combo.AddItem(NullToEmpty(rows[u"Namae"_s]), CLng(NullToZero(rows[u"Code"_s])));
     if (noSelection) combo.SetListIndex(-1);
 }
 
 void ClearCombo(ComboBox& combo) {
-    for (int rows = combo.ListCount(); rows > 0; --rows) {
+    for (int rows = combo.ListCount(); rows > 0; --rows)
         combo.RemoveItem(0);
-    }
 }
 
 QString BlankIfEmpty(const QString& text) {

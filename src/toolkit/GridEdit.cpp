@@ -18,36 +18,36 @@ GridColumn gCols[100];
 
 namespace {
 
-GridColumn& column(int index) {
+GridColumn& Column(int index) {
     if (index < 0 || index >= static_cast<int>(std::size(gCols))) throw RuntimeError(9);
     return gCols[index];
 }
 
-int alignment(const QString& align) {
+int Alignment(const QString& align) {
     if (align == u"L") return AlignLeftCenter;
     if (align == u"R") return AlignRightCenter;
     return AlignCenterCenter;
 }
 
 /// The overlay is a convenience of the screen: a step of it that cannot be done is left out.
-void tried(const std::function<void()>& step) {
+void Tried(const std::function<void()>& step) {
     try {
         step();
     } catch (const RuntimeError&) {
     }
 }
 
-void editInBox(TextBox& box, const GridColumn& kind) {
+void EditInBox(TextBox& box, const GridColumn& kind) {
     box.SetIMEMode(static_cast<ImeMode>(kind.Ime));
     EditCell(*gGrid, box);
 }
 
-void editInCombo(ComboBox& combo) {
+void EditInCombo(ComboBox& combo) {
     const QRect cell = CellUnder(*gGrid, combo);
     combo.setGeometry(QRect(cell.topLeft(), QSize(cell.width(), combo.height())));
     combo.show();
     combo.raise();
-    tried([] { gGridForm->SetCombo(gGridName); });
+    Tried([] { gGridForm->SetCombo(gGridName); });
     SetFocus(&combo);
 }
 
@@ -60,7 +60,7 @@ void GridInit(const QString& name) {
 }
 
 void GridAddCol(const GridColumn& added) {
-    column(gColCount) = added;
+    Column(gColCount) = added;
     ++gColCount;
 }
 
@@ -69,19 +69,18 @@ void GridApply() {
     for (int i = 0; i < gColCount; ++i) {
         gGrid->SetTextMatrix(0, i, gCols[i].Title);
         gGrid->SetColWidth(i, gCols[i].Width);
-        gGrid->SetColAlignment(i, alignment(gCols[i].Align));
+        gGrid->SetColAlignment(i, Alignment(gCols[i].Align));
     }
 }
 
 void GridEdit() {
-    tried([] {
-        const GridColumn& kind = column(gGrid->Col());
+    Tried([] {
+        const GridColumn& kind = Column(gGrid->Col());
         if (!kind.Editable) return;
-        if (kind.Kind == u"T") {
-            editInBox(gGridForm->tBox(), kind);
-        } else if (ComboBox* combo = gGridForm->cbBox()) {
-            editInCombo(*combo);
-        }
+        if (kind.Kind == u"T")
+            EditInBox(gGridForm->tBox(), kind);
+        else if (ComboBox* combo = gGridForm->cbBox())
+            EditInCombo(*combo);
     });
 }
 

@@ -1,5 +1,6 @@
 #include "toolkit/HelpDeal_frm.h"
 
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/Trim.h"
 #include "store/Lookup.h"
 #include "toolkit/FieldBytes.h"
@@ -11,27 +12,26 @@ namespace akarix {
 
 namespace {
 
-const std::vector<ListColumn> kColumns = {
-    {QStringLiteral("Haisou"), 800, {}, QStringLiteral("順路"), AlignRightCenter},
-    {QStringLiteral("Code"), 800, {}, QStringLiteral("ｺｰﾄﾞ"), AlignRightCenter},
-    {QStringLiteral("namae"), 3600, {}, QStringLiteral("得意先")},
-    {QStringLiteral("kana"), 2600, {}, QStringLiteral("ﾌﾘｶﾞﾅ")},
-    {QStringLiteral("Tel"), 1600, {}, QStringLiteral("TEL")}};
+const std::vector<ListColumn> kColumns = {{u"Haisou"_s, 800, {}, u"順路"_s, AlignRightCenter},
+                                          {u"Code"_s, 800, {}, u"ｺｰﾄﾞ"_s, AlignRightCenter},
+                                          {u"namae"_s, 3600, {}, u"得意先"_s},
+                                          {u"kana"_s, 2600, {}, u"ﾌﾘｶﾞﾅ"_s},
+                                          {u"Tel"_s, 1600, {}, u"TEL"_s}};
 constexpr int kCodeColumn = 1;
 
 }  // namespace
 
-HelpDeal_frm::HelpDeal_frm() : LookupForm(QStringLiteral("HelpDeal_frm")) {
+HelpDeal_frm::HelpDeal_frm() : LookupForm(u"HelpDeal_frm"_s) {
     FieldLayout search(*this);
-    search.row(QStringLiteral("ﾌﾘｶﾞﾅ")).text(addBox(ebox, 0, ImeMode::KatakanaHalf), 30);
-    search.row(QStringLiteral("名前")).text(addBox(ebox, 1, ImeMode::Hiragana), 40);
-    sRte = &Named(new Label, QStringLiteral("sRte"));
-    search.row(QStringLiteral("地区"))
+    search.row(u"ﾌﾘｶﾞﾅ"_s).text(addBox(ebox, 0, ImeMode::KatakanaHalf), 30);
+    search.row(u"名前"_s).text(addBox(ebox, 1, ImeMode::Hiragana), 40);
+    sRte = &Named(new Label, u"sRte"_s);
+    search.row(u"地区"_s)
         .text(addBox(ebox, 2, ImeMode::Off), kIntegerBytes)
         .lookup(F6.add(0, new Image))
         .name(*sRte, 30);
-    QHBoxLayout* buttons = ButtonBar(*this, Btn, {QStringLiteral("さがす")});
-    CommandButton& clear = Named(new CommandButton(QStringLiteral("クリア")), QStringLiteral("Command1"));
+    QHBoxLayout* buttons = ButtonBar(*this, Btn, {u"さがす"_s});
+    CommandButton& clear = Named(new CommandButton(u"クリア"_s), u"Command1"_s);
     JoinWalk(*this, clear);
     buttons->addWidget(&clear);
     layOut(&search, buttons);
@@ -40,13 +40,15 @@ HelpDeal_frm::HelpDeal_frm() : LookupForm(QStringLiteral("HelpDeal_frm")) {
     empty();
 
     const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
-    wireLookup(F6(0), QStringLiteral("Rte"), QStringLiteral("ALL"), ebox(2), press, 2);
+    wireLookup(F6(0), u"Rte"_s, u"ALL"_s, ebox(2), press, 2);
     on(&Btn(0), &CommandButton::Click, [this] { this->search(); });
-    on(&clear, &CommandButton::Click, [this] {
-        ClearControls(*this);
-        sRte->SetCaption({});
-        empty();
-    });
+    on(
+        &clear, &CommandButton::Click,
+        [this] {
+            ClearControls(*this);
+            sRte->SetCaption({});
+            empty();
+        });
     on(&List(), &FlexGrid::Click, [this] { pickPressedRow(); });
 }
 
@@ -63,7 +65,7 @@ void HelpDeal_frm::Start(const QString& table, const QString& mode) {
 bool HelpDeal_frm::enter(int index) {
     if (index != 2) return true;
     FitMaxLength(ebox(2));
-    sRte->SetCaption(GetName(QStringLiteral("Rte"), NumVal(ebox(2).Text())));
+    sRte->SetCaption(GetName(u"Rte"_s, NumVal(ebox(2).Text())));
     SetFocus(&Btn(0));
     return false;
 }
@@ -76,11 +78,10 @@ void HelpDeal_frm::search() {
 
 QString HelpDeal_frm::searchSql() const {
     const QString route = Trim(ebox(2).Text());
-    return QStringLiteral("SELECT Haisou,Code,namae,kana,Tel ") + QStringLiteral(" FROM  Deal ") +
-           QStringLiteral(" WHERE Code>0") + LikeCondition(QStringLiteral("Kana"), ebox(0).Text()) +
-           LikeCondition(QStringLiteral("Namae"), ebox(1).Text()) +
-           (route.isEmpty() ? QString() : QStringLiteral(" AND Rte=") + NumStr(NumVal(route))) +
-           QStringLiteral(" ORDER BY Rte,haisou,Code");
+    return u"SELECT Haisou,Code,namae,kana,Tel "_s + u" FROM  Deal "_s + u" WHERE Code>0"_s +
+           LikeCondition(u"Kana"_s, ebox(0).Text()) + LikeCondition(u"Namae"_s, ebox(1).Text()) +
+           (route.isEmpty() ? QString() : u" AND Rte="_s + NumStr(NumVal(route))) +
+           u" ORDER BY Rte,haisou,Code"_s;
 }
 
 void HelpDeal_frm::pickPressedRow() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/runtime/Literals.h"
 #include "toolkit/LookupForm.h"
 
 namespace akarix {
@@ -16,9 +17,9 @@ class HelpDeal_frm : public LookupForm {
     void pickPressedRow();
     bool enter(int index);
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
-    ControlArray<Image> F6{QStringLiteral("F6")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<CommandButton> Btn{u"Btn"_s};
+    ControlArray<Image> F6{u"F6"_s};
     Label* sRte;
     QString table_;
     QString mode_;

@@ -1,30 +1,32 @@
 #include "toolkit/HelpSlip_frm.h"
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix {
 
 namespace {
 
-const std::vector<ListColumn> kColumns = {
-    {QStringLiteral("Dno"), 1000, {}, QStringLiteral("No."), AlignRightCenter},
-    {QStringLiteral("fHizuke"), 1600, {}, QStringLiteral("日付")},
-    {QStringLiteral("fNamae"), 3200, {}, QStringLiteral("得意先")},
-    {QStringLiteral("fHinNamae"), 3600, {}, QStringLiteral("品名(1行目)")},
-    {QStringLiteral("Gaku"), 1600, QStringLiteral("###,###"), QStringLiteral("金額"), AlignRightCenter}};
+const std::vector<ListColumn> kColumns = {{u"Dno"_s, 1000, {}, u"No."_s, AlignRightCenter},
+                                          {u"fHizuke"_s, 1600, {}, u"日付"_s},
+                                          {u"fNamae"_s, 3200, {}, u"得意先"_s},
+                                          {u"fHinNamae"_s, 3600, {}, u"品名(1行目)"_s},
+                                          {u"Gaku"_s, 1600, u"###,###"_s, u"金額"_s, AlignRightCenter}};
 
 }  // namespace
 
-HelpSlip_frm::HelpSlip_frm() : LookupForm(QStringLiteral("HelpSlip_frm")) {
+HelpSlip_frm::HelpSlip_frm() : LookupForm(u"HelpSlip_frm"_s) {
     layOutSlips(kColumns);
 }
 
 void HelpSlip_frm::Start() {
     forgetChoice();
     empty();
-    fill(QStringLiteral("SELECT Dno, FIRST(Hizuke) as fHizuke, FIRST(Deal.Namae) as fNamae ,"
-                        "  FIRST(Dud.HinNamae) as fHinNamae, SUM(Dud.Gaku) as Gaku ") +
-             QStringLiteral(" FROM  Dud INNER JOIN Deal ON Dud.Deal = Deal.Code ") +
-             QStringLiteral(" GROUP BY Dud.Dno ") + QStringLiteral(" ORDER BY Dud.Dno DESC"),
-         kColumns);
+    fill(
+        u"SELECT Dno, FIRST(Hizuke) as fHizuke, FIRST(Deal.Namae) as fNamae ,"
+        "  FIRST(Dud.HinNamae) as fHinNamae, SUM(Dud.Gaku) as Gaku "_s +
+            u" FROM  Dud INNER JOIN Deal ON Dud.Deal = Deal.Code "_s + u" GROUP BY Dud.Dno "_s +
+            u" ORDER BY Dud.Dno DESC"_s,
+        kColumns);
 }
 
 }  // namespace akarix

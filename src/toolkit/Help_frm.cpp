@@ -1,36 +1,39 @@
 #include "toolkit/Help_frm.h"
 
+#include "platform/runtime/Literals.h"
 #include "toolkit/FieldWalk.h"
 
 namespace akarix {
 
 namespace {
 
-const std::vector<ListColumn> kGoods = {{QStringLiteral("Code"), 800, {}, {}, AlignRightCenter},
-                                        {QStringLiteral("Namae"), 4000, {}, {}}};
-const std::vector<ListColumn> kBanks = {
-    {QStringLiteral("Code"), 800, QStringLiteral("0000"), {}, AlignRightCenter},
-    {QStringLiteral("Stn"), 800, QStringLiteral("000"), {}, AlignRightCenter},
-    {QStringLiteral("BkName"), 2000, {}, {}}};
-const std::vector<ListColumn> kOthers = {{QStringLiteral("Code"), 800, {}, {}, AlignRightCenter},
-                                         {QStringLiteral("Namae"), 7000, {}, {}}};
+const std::vector<ListColumn> kGoods = {{u"Code"_s, 800, {}, {}, AlignRightCenter},
+                                        {u"Namae"_s, 4000, {}, {}}};
+const std::vector<ListColumn> kBanks = {{u"Code"_s, 800, u"0000"_s, {}, AlignRightCenter},
+                                        {u"Stn"_s, 800, u"000"_s, {}, AlignRightCenter},
+                                        {u"BkName"_s, 2000, {}, {}}};
+const std::vector<ListColumn> kOthers = {{u"Code"_s, 800, {}, {}, AlignRightCenter},
+                                         {u"Namae"_s, 7000, {}, {}}};
 
 }  // namespace
 
-Help_frm::Help_frm() : LookupForm(QStringLiteral("Help_frm")) {
+Help_frm::Help_frm() : LookupForm(u"Help_frm"_s) {
     FieldLayout search(*this);
-    search.row(QStringLiteral("ﾌﾘｶﾞﾅ")).text(addBox(ebox, 0, ImeMode::KatakanaHalf), 30);
-    search.row(QStringLiteral("名前")).text(addBox(ebox, 1, ImeMode::Hiragana), 40);
-    layOut(&search, ButtonBar(*this, Btn, {QStringLiteral("さがす"), QStringLiteral("クリア")}));
+    search.row(u"ﾌﾘｶﾞﾅ"_s).text(addBox(ebox, 0, ImeMode::KatakanaHalf), 30);
+    search.row(u"名前"_s).text(addBox(ebox, 1, ImeMode::Hiragana), 40);
+    layOut(&search, ButtonBar(*this, Btn, {u"さがす"_s, u"クリア"_s}));
     List().SetFixedRows(0);
     List().SetRows(0);
 
-    wireKeys(ebox, [this](int index) { return enter(index); });
+    wireKeys(
+        ebox, [this](int index) { return enter(index); });
     on(&Btn(0), &CommandButton::Click, [this] { this->search(); });
-    on(&Btn(1), &CommandButton::Click, [this] {
-        ClearControls(*this);
-        empty();
-    });
+    on(
+        &Btn(1), &CommandButton::Click,
+        [this] {
+            ClearControls(*this);
+            empty();
+        });
     on(&List(), &FlexGrid::Click, [this] {
         if (List().Rows() > 0) choose(List().TextMatrix(List().Row(), 0));
     });
@@ -65,26 +68,25 @@ const std::vector<ListColumn>& Help_frm::columns() const {
 }
 
 QString Help_frm::listSql() const {
-    if (table_ == u"Hin") return QStringLiteral("SELECT Code,Namae FROM Hin ORDER BY Kana");
-    if (table_ == u"Bnk") return QStringLiteral("SELECT Code,Stn,BkName From Bnk ORDER BY Code,Stn");
-    return QStringLiteral("SELECT Code,Namae FROM ") + table_ + QStringLiteral(" ORDER BY Kana");
+    if (table_ == u"Hin") return u"SELECT Code,Namae FROM Hin ORDER BY Kana"_s;
+    if (table_ == u"Bnk") return u"SELECT Code,Stn,BkName From Bnk ORDER BY Code,Stn"_s;
+    return u"SELECT Code,Namae FROM "_s + table_ + u" ORDER BY Kana"_s;
 }
 
 // A bank has neither reading nor name, so a search among banks fails in the store; only their list serves.
 QString Help_frm::searchSql() const {
-    const QString reading = LikeCondition(QStringLiteral("Kana"), ebox(0).Text());
-    const QString name = LikeCondition(QStringLiteral("Namae"), ebox(1).Text());
+    const QString reading = LikeCondition(u"Kana"_s, ebox(0).Text());
+    const QString name = LikeCondition(u"Namae"_s, ebox(1).Text());
     QString order;
-    if (reading.isEmpty() && name.isEmpty()) {
-        order = QStringLiteral(" ORDER BY Code");
-    } else if (name.isEmpty()) {
-        order = QStringLiteral(" ORDER BY Kana,Code");
-    } else if (reading.isEmpty()) {
-        order = QStringLiteral(" ORDER BY Namae,Code");
-    }
-    const QString select = table_ == u"Hin" ? QStringLiteral("SELECT Code,Namae FROM Hin ")
-                                            : QStringLiteral("SELECT Code,Namae FROM ") + table_;
-    return select + QStringLiteral(" WHERE Code>0") + reading + name + order;
+    if (reading.isEmpty() && name.isEmpty())
+        order = u" ORDER BY Code"_s;
+    else if (name.isEmpty())
+        order = u" ORDER BY Kana,Code"_s;
+    else if (reading.isEmpty())
+        order = u" ORDER BY Namae,Code"_s;
+    const QString select =
+        table_ == u"Hin" ? u"SELECT Code,Namae FROM Hin "_s : u"SELECT Code,Namae FROM "_s + table_;
+    return select + u" WHERE Code>0"_s + reading + name + order;
 }
 
 }  // namespace akarix

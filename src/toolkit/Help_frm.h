@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/runtime/Literals.h"
 #include "toolkit/LookupForm.h"
 
 namespace akarix {
@@ -18,8 +19,8 @@ class Help_frm : public LookupForm {
     void search();
     bool enter(int index);
 
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<CommandButton> Btn{u"Btn"_s};
     QString table_;
     QString mode_;
     QString sql_;

@@ -5,6 +5,7 @@
 
 #include "dialogs/ShowAlert.h"
 #include "platform/forms/FieldLayout.h"
+#include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
@@ -14,7 +15,7 @@ namespace akarix {
 
 namespace {
 
-CommandButton* walker(const QString& caption, const QString& name) {
+CommandButton* Walker(const QString& caption, const QString& name) {
     constexpr int kWidth = 48;
     auto* button = &Named(new CommandButton(caption), name);
     button->setFixedWidth(kWidth);
@@ -38,18 +39,17 @@ void KeyedForm::addBar(const std::vector<BarButton>& buttons, QVBoxLayout* place
         JoinWalk(*this, *button);
         buttonRow_->addWidget(button);
     };
-    for (const BarButton& button : buttons) {
+    for (const BarButton& button : buttons)
         add(&Btn.add(button.index, new CommandButton(button.caption)));
-    }
     buttonRow_->addStretch();
     const auto addWalker = [&](const QString& arrow, const QString& name, QString KeyedForm::*sql) {
         if ((this->*sql).isEmpty()) return;
-        CommandButton* button = walker(arrow, name);
+        CommandButton* button = Walker(arrow, name);
         add(button);
         on(button, &CommandButton::Click, [this, sql] { walk(this->*sql); });
     };
-    addWalker(QStringLiteral("←"), QStringLiteral("cmdLeft"), &KeyedForm::left_);
-    addWalker(QStringLiteral("→"), QStringLiteral("cmdRight"), &KeyedForm::right_);
+    addWalker(u"←"_s, u"cmdLeft"_s, &KeyedForm::left_);
+    addWalker(u"→"_s, u"cmdRight"_s, &KeyedForm::right_);
     QVBoxLayout* around = place ? place : body_;
     around->addStretch();
     around->addLayout(buttonRow_);
@@ -77,9 +77,8 @@ QString KeyedForm::codeText() const {
 
 void KeyedForm::clear() {
     ClearControls(*this);
-    for (const auto& [name, label] : names_) {
+    for (const auto& [name, label] : names_)
         label->SetCaption({});
-    }
     showDefaults();
     ebox(kCode).SetText(proposedCode());
     FocusSelect(ebox(kCode));

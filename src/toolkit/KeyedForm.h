@@ -3,8 +3,9 @@
 #include <map>
 #include <vector>
 
+#include "platform/dao/Recordset.h"
 #include "platform/forms/CommandButton.h"
-#include "platform/jet/Recordset.h"
+#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 class QHBoxLayout;
@@ -53,9 +54,9 @@ class KeyedForm : public EntryForm {
     virtual void showRow(Recordset& row) = 0;
 
     static constexpr int kCode = 0;
-    ControlArray<TextBox> ebox{QStringLiteral("ebox")};
-    ControlArray<CommandButton> Btn{QStringLiteral("Btn")};
-    ControlArray<Image> F6{QStringLiteral("F6")};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<CommandButton> Btn{u"Btn"_s};
+    ControlArray<Image> F6{u"F6"_s};
 
  private:
     void walk(const QString& sql);

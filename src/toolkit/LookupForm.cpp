@@ -5,6 +5,7 @@
 
 #include "platform/forms/Label.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/Trim.h"
 #include "store/dbAccess.h"
 #include "values/Text.h"
@@ -13,14 +14,14 @@ namespace akarix {
 
 namespace {
 
-QString cellText(const Variant& value, const QString& format) {
+QString CellText(const Variant& value, const QString& format) {
     return format.isEmpty() || value.IsNull() ? NullToEmpty(value) : Format(value, format);
 }
 
 }  // namespace
 
 LookupForm::LookupForm(const QString& name)
-    : EntryForm(name, QStringLiteral("さがす")), List_(&Named(new FlexGrid(this), QStringLiteral("List"))) {}
+    : EntryForm(name, u"さがす"_s), List_(&Named(new FlexGrid(this), u"List"_s)) {}
 
 void LookupForm::forgetChoice() {
     chosen_ = false;
@@ -57,9 +58,8 @@ void LookupForm::fill(const QString& sql, const std::vector<ListColumn>& columns
     rows.MoveFirst();
     for (int row = first; !rows.Eof(); ++row, rows.MoveNext()) {
         int col = 0;
-        for (const ListColumn& column : columns) {
-            List_->SetTextMatrix(row, col++, cellText(rows[column.field], column.format));
-        }
+        for (const ListColumn& column : columns)
+            List_->SetTextMatrix(row, col++, CellText(rows[column.field], column.format));
     }
 }
 
@@ -71,7 +71,7 @@ void LookupForm::empty() {
 void LookupForm::layOut(FieldLayout* search, QHBoxLayout* buttons) {
     auto* layout = new QVBoxLayout(this);
     auto* hint = new QHBoxLayout;
-    hint->addWidget(new Label(QStringLiteral("クリックで決定")));
+    hint->addWidget(new Label(u"クリックで決定"_s));
     hint->addStretch();
     if (search) {
         auto* fields = new QHBoxLayout;
@@ -97,7 +97,7 @@ void LookupForm::layOutSlips(const std::vector<ListColumn>& columns) {
 QString LikeCondition(const QString& column, const QString& text) {
     const QString wanted = Trim(text);
     if (wanted.isEmpty()) return {};
-    return QStringLiteral(" AND ") + column + QStringLiteral(" LIKE '*") + wanted + QStringLiteral("*'");
+    return u" AND "_s + column + u" LIKE '*"_s + wanted + u"*'"_s;
 }
 
 }  // namespace akarix

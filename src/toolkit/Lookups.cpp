@@ -23,7 +23,8 @@ QString PickSlip() {
 
 void WireLookup(Form& form, Image& picture, std::function<QString()> pick, TextBox& box,
                 std::function<void()> enter) {
-    form.on(&picture, &Image::MouseDown, [&picture] { picture.SetBorderStyle(1); });
+    form.on(
+        &picture, &Image::MouseDown, [&picture] { picture.SetBorderStyle(1); });
     form.on(&picture, &Image::MouseUp, [&picture] { picture.SetBorderStyle(0); });
     form.on(&picture, &Image::Click, [pick = std::move(pick), &box, enter = std::move(enter)] {
         const QString code = pick();

@@ -6,6 +6,7 @@
 #include "platform/forms/Notice.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
+#include "platform/runtime/Literals.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
 #include "toolkit/FieldWalk.h"
@@ -20,7 +21,7 @@ namespace {
 
 constexpr int kNameBytes = 30;
 
-Variant storedValue(const MasterField& field, const QString& text) {
+Variant StoredValue(const MasterField& field, const QString& text) {
     switch (field.kind) {
         case FieldKind::Long:
             return CLng(NumVal(text));
@@ -34,7 +35,7 @@ Variant storedValue(const MasterField& field, const QString& text) {
     return EmptyToBlank(field.bytes > 0 ? CutBytes(text, field.bytes) : text);
 }
 
-QString shownText(const MasterField& field, const Variant& value) {
+QString ShownText(const MasterField& field, const Variant& value) {
     const Variant known = field.kind == FieldKind::Text ? Variant(NullToEmpty(value)) : NullToZero(value);
     return field.display ? field.display(known) : NullToEmpty(known);
 }
@@ -56,9 +57,8 @@ void MasterForm::setTexts(MasterTexts texts) {
 
 void MasterForm::addFields(const FieldTable& fields) {
     fields_ = fields;
-    for (const MasterField& field : fields_) {
+    for (const MasterField& field : fields_)
         addField(field);
-    }
 }
 
 void MasterForm::addField(const MasterField& field) {
@@ -66,25 +66,24 @@ void MasterForm::addField(const MasterField& field) {
     FieldLine row = rows_.row(field.label);
     row.text(addBox(ebox, field.index, field.ime), field.bytes, field.shownBytes);
     if (field.lookup) row.lookup(F6.add(field.lookup->picture, new Image));
-    if (!field.nameLabel.isEmpty()) {
-        row.name(addName(field.nameLabel), kNameBytes);
-    }
+    if (!field.nameLabel.isEmpty()) row.name(addName(field.nameLabel), kNameBytes);
     if (!field.note.isEmpty()) row.note(field.note);
 }
 
 void MasterForm::addButtons() {
     // Save comes first in the walk: Enter in the last field and Enter again store the row.
-    addBar({{2, QStringLiteral("保存")}, {0, QStringLiteral("画面クリア")}, {1, QStringLiteral("削除")}});
+    addBar({{2, u"保存"_s}, {0, u"画面クリア"_s}, {1, u"削除"_s}});
     wire();
 }
 
 void MasterForm::wire() {
     press_ = wireKeys(ebox, [this](int index) { return enter(index); });
-    for (const MasterField& field : fields_) {
+    for (const MasterField& field : fields_)
         if (field.lookup) wireCode(field);
-    }
-    on(&Btn(0), &CommandButton::Click, [this] { clear(); });
-    on(&Btn(1), &CommandButton::Click, [this] { remove(); });
+    on(
+        &Btn(0), &CommandButton::Click, [this] { clear(); });
+    on(
+        &Btn(1), &CommandButton::Click, [this] { remove(); });
     on(&Btn(2), &CommandButton::Click, [this] { save(); });
 }
 
@@ -100,9 +99,8 @@ void MasterForm::wireCode(const MasterField& field) {
 
 bool MasterForm::enter(int index) {
     if (index == kCode) load();
-    for (const MasterField& field : fields_) {
+    for (const MasterField& field : fields_)
         if (field.index == index) showName(field);
-    }
     return true;
 }
 
@@ -125,7 +123,7 @@ void MasterForm::load() {
 void MasterForm::showRow(Recordset& row) {
     for (const MasterField& field : fields_) {
         if (field.column.isEmpty()) continue;
-        ebox(field.index).SetText(shownText(field, row[field.column]));
+        ebox(field.index).SetText(ShownText(field, row[field.column]));
         showName(field);
     }
     showExtras(row);
@@ -142,22 +140,21 @@ bool MasterForm::require(int index, const QString& message) {
 }
 
 bool MasterForm::maySave() {
-    return NumVal(ebox(kCode).Text()) != 0.0 || refuse(QStringLiteral("コード番号は不正です。"), kCode);
+    return NumVal(ebox(kCode).Text()) != 0.0 || refuse(u"コード番号は不正です。"_s, kCode);
 }
 
 void MasterForm::save() {
     if (!maySave()) return;
     Recordset row = gDb->OpenRecordset(texts_.load.arg(codeText()));
     const bool isNew = row.Eof();
-    if (isNew) {
+    if (isNew)
         row.AddNew();
-    } else {
+    else
         row.Edit();
-    }
     for (const MasterField& field : fields_) {
         const bool isKey = field.index == kCode;
         if (field.column.isEmpty() || (isKey && !isNew)) continue;
-        row.Fields(field.column) = storedValue(field, ebox(field.index).Text());
+        row.Fields(field.column) = StoredValue(field, ebox(field.index).Text());
     }
     storeExtras(row);
     row.Update();
@@ -171,7 +168,7 @@ QString MasterForm::removeSql() {
 
 void MasterForm::remove() {
     if (!mayAskToRemove()) return;
-    if (!AskConfirm(texts_.removeQuestion, QStringLiteral("はい"), QStringLiteral("いいえ"))) return;
+    if (!AskConfirm(texts_.removeQuestion, u"はい"_s, u"いいえ"_s)) return;
     if (!mayRemove()) return;
     gDb->Execute(removeSql());
     clear();

@@ -18,7 +18,7 @@ namespace {
 constexpr const char* kExactPlace = "exactPlace";
 constexpr const char* kExactFont = "exactFont";
 
-bool fontFollows(const QWidget* control) {
+bool FontFollows(const QWidget* control) {
     return qobject_cast<const QLineEdit*>(control) != nullptr ||
            qobject_cast<const QComboBox*>(control) != nullptr ||
            qobject_cast<const QPushButton*>(control) != nullptr ||
@@ -26,20 +26,20 @@ bool fontFollows(const QWidget* control) {
            qobject_cast<const QTableView*>(control) != nullptr;
 }
 
-QRectF exactPlace(const QWidget* control) {
+QRectF ExactPlace(const QWidget* control) {
     const QVariant kept = control->property(kExactPlace);
     // A control that something else has moved meanwhile starts from where it stands.
     if (kept.isValid() && kept.toRectF().toRect() == control->geometry()) return kept.toRectF();
     return control->geometry();
 }
 
-double exactFont(const QWidget* control) {
+double ExactFont(const QWidget* control) {
     const QVariant kept = control->property(kExactFont);
     return kept.isValid() ? kept.toDouble() : control->fontInfo().pixelSize();
 }
 
 /// A desk may tell the new size of a maximised window before it says that it is maximised.
-bool fills(const QWidget& form, const QRect& area) {
+bool Fills(const QWidget& form, const QRect& area) {
     if (form.isMaximized() || form.isFullScreen()) return true;
     const QMargins frame = form.windowHandle() != nullptr ? form.windowHandle()->frameMargins() : QMargins();
     const QSize left = area.marginsRemoved(frame).size();
@@ -53,12 +53,12 @@ void ResizeForm(Form& form, QSizeF previous) {
     const double across = form.width() / previous.width();
     const double down = form.height() / previous.height();
     for (QWidget* control : form.Controls()) {
-        const QRectF was = exactPlace(control);
+        const QRectF was = ExactPlace(control);
         const QRectF now(was.left() * across, was.top() * down, was.width() * across, was.height() * down);
         control->setProperty(kExactPlace, now);
         control->setGeometry(now.toRect());
-        if (fontFollows(control)) {
-            const double size = exactFont(control) * across;
+        if (FontFollows(control)) {
+            const double size = ExactFont(control) * across;
             control->setProperty(kExactFont, size);
             QFont font = control->font();
             font.setPixelSize(qMax(1, qRound(size)));
@@ -66,7 +66,7 @@ void ResizeForm(Form& form, QSizeF previous) {
         }
     }
     const QRect area = form.screen()->availableGeometry();
-    if (fills(form, area)) return;
+    if (Fills(form, area)) return;
     form.move(area.left() + (area.width() - form.frameGeometry().width()) / 2,
               area.top() + (area.height() - form.frameGeometry().height()) / 2);
 }

@@ -6,26 +6,26 @@ namespace {
 
 constexpr int kLetters = 26;
 
-int distance(QChar letter) {
+int Distance(QChar letter) {
     return letter.unicode() - u'A';
 }
 
-QChar letter(int number) {
+QChar Letter(int number) {
     return QChar(u'A' + number);
 }
 
-int columnNumber(const QString& column) {
-    const int last = distance(column.back());
-    return column.size() > 1 ? (distance(column.front()) + 1) * kLetters + last : last;
+int ColumnNumber(const QString& column) {
+    const int last = Distance(column.back());
+    return column.size() > 1 ? (Distance(column.front()) + 1) * kLetters + last : last;
 }
 
 }  // namespace
 
 QString CellAddress(const QString& column, int row, int columnOffset, int rowOffset) {
-    const int number = columnNumber(column) + columnOffset;
+    const int number = ColumnNumber(column) + columnOffset;
     QString address;
-    if (number / kLetters != 0) address += letter(number / kLetters - 1);
-    address += letter(number % kLetters);
+    if (number / kLetters != 0) address += Letter(number / kLetters - 1);
+    address += Letter(number % kLetters);
     return address + QString::number(row + rowOffset);
 }
 

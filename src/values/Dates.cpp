@@ -6,6 +6,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/IsDate.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/Trim.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
@@ -18,33 +19,33 @@ namespace {
 
 constexpr int kEraBase = 1988;
 
-bool isEraMode() {
+bool IsEraMode() {
     return gDateMode == 1;
 }
 
-QString padded(int number, int digits) {
-    return QStringLiteral("%1").arg(number, digits, 10, QChar(u'0'));
+QString Padded(int number, int digits) {
+    return u"%1"_s.arg(number, digits, 10, QChar(u'0'));
 }
 
 /// A year, month and day text as the run time reads it: western, whatever the screens show.
-QString westernText(const QString& text) {
+QString WesternText(const QString& text) {
     const qsizetype first = text.indexOf(u'/');
     const qsizetype second = first < 0 ? -1 : text.indexOf(u'/', first + 1);
     if (first <= 0 || second < 0) return {};
     QString year = text.left(first);
-    if (isEraMode()) year = NumStr(NumVal(year) + kEraBase);
+    if (IsEraMode()) year = NumStr(NumVal(year) + kEraBase);
     return year + text.mid(first);
 }
 
 }  // namespace
 
 int DisplayYear(Date date) {
-    return isEraMode() ? Year(date) - kEraBase : Year(date);
+    return IsEraMode() ? Year(date) - kEraBase : Year(date);
 }
 
 QString DateText(Date date) {
     if (date.IsZero()) return {};
-    return QString::number(DisplayYear(date)) + u'/' + padded(Month(date), 2) + u'/' + padded(Day(date), 2);
+    return QString::number(DisplayYear(date)) + u'/' + Padded(Month(date), 2) + u'/' + Padded(Day(date), 2);
 }
 
 QString CompleteDate(const QString& text) {
@@ -63,13 +64,13 @@ QString DotsToSlashes(const QString& text) {
 }
 
 bool IsFullDateText(const QString& text) {
-    return text.count(u'/') == 2 && IsDate(westernText(text));
+    return text.count(u'/') == 2 && IsDate(WesternText(text));
 }
 
 Date ParseDate(const QString& text) {
     const QString typed = Trim(text);
     if (typed.isEmpty()) return {};
-    const QString western = westernText(CompleteDate(DotsToSlashes(typed)));
+    const QString western = WesternText(CompleteDate(DotsToSlashes(typed)));
     return IsDate(western) ? CDate(western) : Date();
 }
 
@@ -82,9 +83,8 @@ bool IsDateSet(const Variant& value) {
 }
 
 QString YobiName(Date date) {
-    static const std::array<QString, 7> kNames = {
-        QStringLiteral("日曜"), QStringLiteral("月曜"), QStringLiteral("火曜"), QStringLiteral("水曜"),
-        QStringLiteral("木曜"), QStringLiteral("金曜"), QStringLiteral("土曜")};
+    static const std::array<QString, 7> kNames = {u"日曜"_s, u"月曜"_s, u"火曜"_s, u"水曜"_s,
+                                                  u"木曜"_s, u"金曜"_s, u"土曜"_s};
     return kNames[static_cast<std::size_t>(Weekday(date) - 1)];
 }
 

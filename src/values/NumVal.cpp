@@ -3,35 +3,35 @@
 #include "platform/runtime/CCur.h"
 #include "platform/runtime/CInt.h"
 #include "platform/runtime/CLng.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/Val.h"
 
 namespace akarix {
 
 namespace {
 
-bool isDigit(QChar c) {
+bool IsDigit(QChar c) {
     return c >= u'0' && c <= u'9';
 }
 
 template <class Keep>
-QString filtered(const QString& text, Keep keep) {
+QString Filtered(const QString& text, Keep keep) {
     QString kept;
-    for (const QChar c : text) {
+    for (const QChar c : text)
         if (keep(c)) kept += c;
-    }
     return kept;
 }
 
 }  // namespace
 
 QString KeepNumeric(const QString& text) {
-    const QString kept = filtered(text, [](QChar c) { return isDigit(c) || c == u'.' || c == u'-'; });
-    return kept.isEmpty() || kept == u"." ? QStringLiteral("0") : kept;
+    const QString kept = Filtered(text, [](QChar c) { return IsDigit(c) || c == u'.' || c == u'-'; });
+    return kept.isEmpty() || kept == u"." ? u"0"_s : kept;
 }
 
 QString KeepDigits(const QString& text) {
-    const QString kept = filtered(text, isDigit);
-    return kept.isEmpty() ? QStringLiteral("0") : kept;
+    const QString kept = Filtered(text, IsDigit);
+    return kept.isEmpty() ? u"0"_s : kept;
 }
 
 double NumVal(const QString& text) {

@@ -2,13 +2,14 @@
 
 #include "platform/runtime/CStr.h"
 #include "platform/runtime/CodePage932.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/Trim.h"
 
 namespace akarix {
 
 namespace {
 
-bool isLeadByte(char c) {
+bool IsLeadByte(char c) {
     const auto byte = static_cast<unsigned char>(c);
     return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
 }
@@ -24,7 +25,7 @@ Variant NullToZero(const Variant& value) {
 }
 
 QString EmptyToBlank(const QString& text) {
-    return text.isEmpty() ? QStringLiteral(" ") : text;
+    return text.isEmpty() ? u" "_s : text;
 }
 
 bool HasText(const Variant& value) {
@@ -35,7 +36,7 @@ QString CutBytes(const QString& text, int bytes) {
     const QByteArray all = ToCodePage932(text);
     qsizetype end = 0;
     while (end < all.size()) {
-        const int width = isLeadByte(all[end]) ? 2 : 1;
+        const int width = IsLeadByte(all[end]) ? 2 : 1;
         if (end + width > bytes) break;
         end += width;
     }

@@ -145,9 +145,8 @@ TEST_F(DebitButtonsTest, WhatTheScreenIsAsked) {
 TEST_F(DebitButtonsTest, TheStatementsTakeWhatStandsOnTheScreen) {
     gPrintPreview = false;
     QDir().mkdir("Prt");
-    for (const char* sheet : {"Prt/口座振替明細表.xlsx", "Prt/郵便局口座振替明細表.xlsx"}) {
+    for (const char* sheet : {"Prt/口座振替明細表.xlsx", "Prt/郵便局口座振替明細表.xlsx"})
         QFile::copy(QString(AKARIX_SOURCE_DIR "/") + sheet, sheet);
-    }
     const auto print = [this](const char* button) {
         AnswerPrinter(clerk, store.path("out.pdf"));
         clerk.click(button);
@@ -159,9 +158,8 @@ TEST_F(DebitButtonsTest, TheStatementsTakeWhatStandsOnTheScreen) {
     type("ebox(1)", "2");
     type("ebox(2)", "2006/2/10");
     QString page = print("Command(6)");
-    for (const char* text : {"2006年1月27日", "2006/02/10", "2,000"}) {
+    for (const char* text : {"2006年1月27日", "2006/02/10", "2,000"})
         EXPECT_TRUE(page.contains(text)) << text << " in " << page.toStdString();
-    }
     gDb->Execute("UPDATE Deal SET Bnk=123");
     type("ebox(5)", "0123");
     page = print("Command(5)");

@@ -43,9 +43,8 @@ class BillingScreen : public ScreenTest {
 
 TEST_F(BillingScreen, StandsOnToday) {
     QStringList shown;
-    for (const char* name : {"ebox(0)", "ebox(1)", "ebox(2)", "lYobi1", "ebox(5)", "sSyukeibi", "Progress"}) {
+    for (const char* name : {"ebox(0)", "ebox(1)", "ebox(2)", "lYobi1", "ebox(5)", "sSyukeibi", "Progress"})
         shown += clerk.text(name);
-    }
     EXPECT_EQ(shown.join(u'|'), "2023|4|2023/04/15|土曜|||");
     EXPECT_FALSE(clerk.control("eSaihi").isVisible());
     for (const char* next : {"ebox(1)", "ebox(2)", "ebox(5)", "Command(0)"}) {

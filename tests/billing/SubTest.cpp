@@ -1,5 +1,6 @@
 #include "billing/Sub.h"
 
+#include "platform/runtime/Literals.h"
 #include "support/ScratchStore.h"
 
 namespace akarix {
@@ -11,12 +12,12 @@ class SubTest : public testing::Test {
 };
 
 TEST_F(SubTest, GasCharge) {
-    ScratchStore::run(QStringLiteral(
-        "INSERT INTO Deal(Code,TankaPtn) VALUES(1,1),(2,2);\n"
+    ScratchStore::run(
+        u"INSERT INTO Deal(Code,TankaPtn) VALUES(1,1),(2,2);\n"
         "INSERT INTO Deal(Code) VALUES(3);\n"
         "INSERT INTO Deal(Code,TankaPtn) VALUES(4,4);\n"
         "INSERT INTO GasKeisan(Ptn,St,Ed,Kihon,Tanka) VALUES(1,6,20,1800,480.5),(1,0,5,1800,0),"
-        "(2,6,20,3000,100),(2,0,6,1700.5,33.3333),(4,5,9,1000,-10.05);\n"));
+        "(2,6,20,3000,100),(2,0,6,1700.5,33.3333),(4,5,9,1000,-10.05);\n"_s);
     struct Case {
         std::int32_t deal;
         const char16_t* usage;
@@ -44,11 +45,11 @@ TEST_F(SubTest, GasCharge) {
 }
 
 TEST_F(SubTest, EarlierMeter) {
-    ScratchStore::run(QStringLiteral(
-        "INSERT INTO Dgd(Nendo,Getudo,Deal,KonkaiMeter) VALUES(2010,12,1,900.5),(2010,3,1,700),"
-        "(2011,2,2,0),(2011,1,2,55);\n"));
-    EXPECT_EQ(PrevKonkaiMeter(2011, 4, 1).ToText(), QStringLiteral("900.5")) << "months are passed over";
-    EXPECT_EQ(PrevKonkaiMeter(2010, 12, 1).ToText(), QStringLiteral("700"));
+    ScratchStore::run(
+        u"INSERT INTO Dgd(Nendo,Getudo,Deal,KonkaiMeter) VALUES(2010,12,1,900.5),(2010,3,1,700),"
+        "(2011,2,2,0),(2011,1,2,55);\n"_s);
+    EXPECT_EQ(PrevKonkaiMeter(2011, 4, 1).ToText(), u"900.5"_s) << "months are passed over";
+    EXPECT_EQ(PrevKonkaiMeter(2010, 12, 1).ToText(), u"700"_s);
     EXPECT_EQ(PrevKonkaiMeter(2010, 3, 1), Currency(0));
     EXPECT_EQ(PrevKonkaiMeter(2011, 3, 2), Currency(0)) << "a month listed and not read is not";
 }

@@ -1,6 +1,7 @@
 #include "billing/Tto.h"
 
 #include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "support/ScratchStore.h"
 
@@ -8,17 +9,16 @@ namespace akarix {
 namespace {
 
 /// A ledger row as "Deal|ZenkaiGaku|GGaku|UGaku|Gaku|NGaku|SyokiFlg".
-QStringList ledger(int year, int month) {
+QStringList Ledger(int year, int month) {
     return ScratchStore::rows(
-        QStringLiteral("SELECT Deal,ZenkaiGaku,GGaku,UGaku,Gaku,NGaku,SyokiFlg FROM TtoD WHERE Nendo=%1 AND "
-                       "Getudo=%2 ORDER BY Deal")
-            .arg(year)
+        u"SELECT Deal,ZenkaiGaku,GGaku,UGaku,Gaku,NGaku,SyokiFlg FROM TtoD WHERE Nendo=%1 AND "
+        "Getudo=%2 ORDER BY Deal"_s.arg(year)
             .arg(month));
 }
 
-QStringList leaseLines() {
-    return ScratchStore::rows(QStringLiteral(
-        "SELECT Dno,Eda,Deal,HinNamae,Gaku,Hizuke FROM Dud WHERE CreateAuto=1 ORDER BY Dno,Eda"));
+QStringList LeaseLines() {
+    return ScratchStore::rows(
+        u"SELECT Dno,Eda,Deal,HinNamae,Gaku,Hizuke FROM Dud WHERE CreateAuto=1 ORDER BY Dno,Eda"_s);
 }
 
 class TtoTest : public testing::Test {
@@ -31,7 +31,7 @@ class TtoTest : public testing::Test {
         QString row;
         for (const int number : numbers)
             row += QString::number(number) + u',';
-        gDb->Execute(QStringLiteral("INSERT INTO %1 VALUES(%2%3)").arg(into, row, amount));
+        gDb->Execute(u"INSERT INTO %1 VALUES(%2%3)"_s.arg(into, row, amount));
     }
     void reading(int year, int month, int deal, const QString& charge) {
         insert("Dgd(Nendo,Getudo,Deal,Gaku)", {year, month, deal}, charge);
@@ -50,29 +50,29 @@ class TtoTest : public testing::Test {
 };
 
 TEST_F(TtoTest, AMonthIsRolledUp) {
-    customers(QStringLiteral("1,2,3"));
-    reading(2011, 3, 1, QStringLiteral("4827"));
-    reading(2011, 3, 2, QStringLiteral("1800.5"));
-    sale(1, 1, 1, 2011, 3, QStringLiteral("1990"));
-    sale(1, 2, 1, 2011, 3, QStringLiteral("99"));
-    sale(2, 1, 1, 2011, 4, QStringLiteral("5000"));  // another month
-    sale(3, 1, 9, 2011, 3, QStringLiteral("-300"));  // a customer who is not on the list
-    payment(1, 2, 2011, 3, QStringLiteral("1000"));
-    payment(2, 2, 2011, 3, QStringLiteral("800.5"));
+    customers(u"1,2,3"_s);
+    reading(2011, 3, 1, u"4827"_s);
+    reading(2011, 3, 2, u"1800.5"_s);
+    sale(1, 1, 1, 2011, 3, u"1990"_s);
+    sale(1, 2, 1, 2011, 3, u"99"_s);
+    sale(2, 1, 1, 2011, 4, u"5000"_s);  // another month
+    sale(3, 1, 9, 2011, 3, u"-300"_s);  // a customer who is not on the list
+    payment(1, 2, 2011, 3, u"1000"_s);
+    payment(2, 2, 2011, 3, u"800.5"_s);
     bill(2011, 3);
-    EXPECT_EQ(ledger(2011, 3), (QStringList{
-                                   QStringLiteral("1|0|4827|2089|6916|0|0"),
-                                   QStringLiteral("2|0|1800.5|0|1800.5|1800.5|0"),
-                                   QStringLiteral("3|0|0|0|0|0|0"),  // quiet, and still in the ledger
-                                   QStringLiteral("9|0|0|-300|-300|0|0"),
+    EXPECT_EQ(Ledger(2011, 3), (QStringList{
+                                   u"1|0|4827|2089|6916|0|0"_s,
+                                   u"2|0|1800.5|0|1800.5|1800.5|0"_s,
+                                   u"3|0|0|0|0|0|0"_s,  // quiet, and still in the ledger
+                                   u"9|0|0|-300|-300|0|0"_s,
                                }));
-    EXPECT_TRUE(ledger(2011, 4).isEmpty());
-    EXPECT_EQ(ReadClosingDate(2011, 3), QStringLiteral("2011/03/28"));
+    EXPECT_TRUE(Ledger(2011, 4).isEmpty());
+    EXPECT_EQ(ReadClosingDate(2011, 3), u"2011/03/28"_s);
     EXPECT_EQ(ReadClosingDate(2011, 4), QString());
 }
 
 TEST_F(TtoTest, TheBalanceIsCarriedFromTheLatestEarlierMonth) {
-    customers(QStringLiteral("1,2,3"));
+    customers(u"1,2,3"_s);
     ScratchStore::run(QStringLiteral(
         // Entered but never billed: Gaku is 0, gas and sales are carried all the same.
         "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku) "
@@ -82,31 +82,30 @@ TEST_F(TtoTest, TheBalanceIsCarriedFromTheLatestEarlierMonth) {
         "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku,SyokiFlg) VALUES(3,2011,3,2500,1);\n"
         "INSERT INTO TtoD(Deal,Nendo,Getudo,ZenkaiGaku) VALUES(3,2011,2,66666);\n"));
     bill(2011, 3);
-    EXPECT_EQ(ledger(2011, 3), (QStringList{
-                                   QStringLiteral("1|4000|0|0|0|0|0"),  // over a gap and a year's end
-                                   QStringLiteral("2|0|0|0|0|0|0"),     // a later row is no earlier row
-                                   QStringLiteral("3|2500|0|0|0|0|1"),  // set by hand
+    EXPECT_EQ(Ledger(2011, 3), (QStringList{
+                                   u"1|4000|0|0|0|0|0"_s,  // over a gap and a year's end
+                                   u"2|0|0|0|0|0|0"_s,     // a later row is no earlier row
+                                   u"3|2500|0|0|0|0|1"_s,  // set by hand
                                }));
     EXPECT_EQ(PriorBalance(3, 2011, 4), Variant(Currency(2500)));
     EXPECT_TRUE(PriorBalance(2, 2011, 3).IsEmpty());
 }
 
 TEST_F(TtoTest, ASecondRunClearsSalesAloneOfWhatLostItsSources) {
-    customers(QStringLiteral("1,2"));
+    customers(u"1,2"_s);
     for (int deal = 1; deal <= 2; ++deal) {
-        reading(2011, 3, deal, QStringLiteral("3000"));
-        sale(deal, 1, deal, 2011, 3, QStringLiteral("700"));
-        payment(deal, deal, 2011, 3, QStringLiteral("1200"));
+        reading(2011, 3, deal, u"3000"_s);
+        sale(deal, 1, deal, 2011, 3, u"700"_s);
+        payment(deal, deal, 2011, 3, u"1200"_s);
     }
     bill(2011, 3);
     ScratchStore::run(
-        QStringLiteral("DELETE FROM Dgd WHERE Deal=1;\nDELETE FROM Dud WHERE Deal=1;\n"
-                       "DELETE FROM Dny WHERE Deal=1;\nUPDATE Dgd SET Gaku=3100;\n"));
-    sale(3, 1, 2, 2011, 3, QStringLiteral("50"));
+        u"DELETE FROM Dgd WHERE Deal=1;\nDELETE FROM Dud WHERE Deal=1;\n"
+        "DELETE FROM Dny WHERE Deal=1;\nUPDATE Dgd SET Gaku=3100;\n"_s);
+    sale(3, 1, 2, 2011, 3, u"50"_s);
     bill(2011, 3, 30);
-    EXPECT_EQ(ledger(2011, 3), (QStringList{QStringLiteral("1|0|3000|0|3000|1200|0"),
-                                            QStringLiteral("2|0|3100|750|3850|1200|0")}));
-    EXPECT_EQ(ReadClosingDate(2011, 3), QStringLiteral("2011/03/30"));
+    EXPECT_EQ(Ledger(2011, 3), (QStringList{u"1|0|3000|0|3000|1200|0"_s, u"2|0|3100|750|3850|1200|0"_s}));
+    EXPECT_EQ(ReadClosingDate(2011, 3), u"2011/03/30"_s);
 }
 
 /// Writes down the stages, and wants no more at a step of one of them.
@@ -130,11 +129,11 @@ class Stopping : public Progress {
 };
 
 TEST_F(TtoTest, ARunStoppedBetweenTwoCustomersIsMendedByTheNext) {
-    customers(QStringLiteral("1,2"));
+    customers(u"1,2"_s);
     for (int deal = 1; deal <= 2; ++deal) {
-        reading(2011, 3, deal, QStringLiteral("3000"));
-        sale(deal, 1, deal, 2011, 3, QStringLiteral("700"));
-        payment(deal, deal, 2011, 3, QStringLiteral("1200"));
+        reading(2011, 3, deal, u"3000"_s);
+        sale(deal, 1, deal, 2011, 3, u"700"_s);
+        payment(deal, deal, 2011, 3, u"1200"_s);
     }
     struct Case {
         const char16_t* stage;
@@ -142,78 +141,75 @@ TEST_F(TtoTest, ARunStoppedBetweenTwoCustomersIsMendedByTheNext) {
     };
     for (const Case& c :
          {Case{u"検針", nullptr}, {u"売上", u"2|0|3000|0|0|0|0"}, {u"入金", u"2|0|3000|700|0|0|0"}}) {
-        gDb->Execute(QStringLiteral("DELETE FROM TtoD"));
+        gDb->Execute(u"DELETE FROM TtoD"_s);
         Stopping progress(QString::fromUtf16(c.stage), 1);
         EXPECT_THROW(BuildMonthLedger(2011, 3, DateSerial(2011, 3, 28), progress), RuntimeError);
-        EXPECT_EQ(ledger(2011, 3).value(1), QString::fromUtf16(c.second ? c.second : u""));
+        EXPECT_EQ(Ledger(2011, 3).value(1), QString::fromUtf16(c.second ? c.second : u""));
         EXPECT_EQ(ReadClosingDate(2011, 3), QString()) << "not closed";
     }
     Stopping never({}, 0);
     BuildMonthLedger(2011, 3, DateSerial(2011, 3, 28), never);
     CarryForwardMonth(2011, 3, never);
-    EXPECT_EQ(never.stages, QStringLiteral("検針 リース料 売上 入金 繰越!").split(u' '));
-    EXPECT_EQ(ledger(2011, 3), (QStringList{QStringLiteral("1|0|3000|700|3700|1200|0"),
-                                            QStringLiteral("2|0|3000|700|3700|1200|0")}));
+    EXPECT_EQ(never.stages, u"検針 リース料 売上 入金 繰越!"_s.split(u' '));
+    EXPECT_EQ(Ledger(2011, 3), (QStringList{u"1|0|3000|700|3700|1200|0"_s, u"2|0|3000|700|3700|1200|0"_s}));
 }
 
 TEST_F(TtoTest, LeaseSlips) {
     ScratchStore::run(
-        QStringLiteral("INSERT INTO Deal(Code,ACU,Keihou) VALUES(1,1,1),(2,0,1),(3,0,0),(4,1,0);\n"
-                       "UPDATE UserOP SET contents='300' WHERE Code=2;\n"
-                       "UPDATE UserOP SET contents='1,050円' WHERE Code=3;\n"));
-    sale(40, 1, 3, 2011, 3, QStringLiteral("10"));
+        u"INSERT INTO Deal(Code,ACU,Keihou) VALUES(1,1,1),(2,0,1),(3,0,0),(4,1,0);\n"
+        "UPDATE UserOP SET contents='300' WHERE Code=2;\n"
+        "UPDATE UserOP SET contents='1,050円' WHERE Code=3;\n"_s);
+    sale(40, 1, 3, 2011, 3, u"10"_s);
     bill(2011, 3);
-    EXPECT_EQ(leaseLines(), (QStringList{
-                                QStringLiteral("41|1|1|ACUリース代|1050|2011/03/28"),
-                                QStringLiteral("41|2|1|警報機リース代|300|2011/03/28"),
-                                QStringLiteral("42|1|2|警報機リース代|300|2011/03/28"),
-                                QStringLiteral("43|1|4|ACUリース代|1050|2011/03/28"),
+    EXPECT_EQ(LeaseLines(), (QStringList{
+                                u"41|1|1|ACUリース代|1050|2011/03/28"_s,
+                                u"41|2|1|警報機リース代|300|2011/03/28"_s,
+                                u"42|1|2|警報機リース代|300|2011/03/28"_s,
+                                u"43|1|4|ACUリース代|1050|2011/03/28"_s,
                             }));
-    EXPECT_EQ(ledger(2011, 3),
-              (QStringList{QStringLiteral("1|0|0|1350|1350|0|0"), QStringLiteral("2|0|0|300|300|0|0"),
-                           QStringLiteral("3|0|0|10|10|0|0"), QStringLiteral("4|0|0|1050|1050|0|0")}));
+    EXPECT_EQ(Ledger(2011, 3), (QStringList{u"1|0|0|1350|1350|0|0"_s, u"2|0|0|300|300|0|0"_s,
+                                            u"3|0|0|10|10|0|0"_s, u"4|0|0|1050|1050|0|0"_s}));
 
     // Fee and flags of today under the old number; who stopped leasing keeps the slip; a line typed under a
     // generated number goes with it.
     ScratchStore::run(
-        QStringLiteral("UPDATE UserOP SET contents='350' WHERE Code=2;\n"
-                       "UPDATE Deal SET ACU=0 WHERE Code=1;\nUPDATE Deal SET ACU=0 WHERE Code=4;\n"));
-    sale(42, 9, 2, 2011, 3, QStringLiteral("9999"));
+        u"UPDATE UserOP SET contents='350' WHERE Code=2;\n"
+        "UPDATE Deal SET ACU=0 WHERE Code=1;\nUPDATE Deal SET ACU=0 WHERE Code=4;\n"_s);
+    sale(42, 9, 2, 2011, 3, u"9999"_s);
     bill(2011, 3, 31);
-    EXPECT_EQ(leaseLines(), (QStringList{
-                                QStringLiteral("41|1|1|警報機リース代|350|2011/03/31"),
-                                QStringLiteral("42|1|2|警報機リース代|350|2011/03/31"),
-                                QStringLiteral("43|1|4|ACUリース代|1050|2011/03/28"),
+    EXPECT_EQ(LeaseLines(), (QStringList{
+                                u"41|1|1|警報機リース代|350|2011/03/31"_s,
+                                u"42|1|2|警報機リース代|350|2011/03/31"_s,
+                                u"43|1|4|ACUリース代|1050|2011/03/28"_s,
                             }));
-    EXPECT_EQ(ledger(2011, 3).value(1), QStringLiteral("2|0|0|350|350|0|0"));
+    EXPECT_EQ(Ledger(2011, 3).value(1), u"2|0|0|350|350|0|0"_s);
 }
 
 TEST_F(TtoTest, AFeePastSixteenBitsStopsTheRunAndWhatWasDoneStays) {
     ScratchStore::run(
-        QStringLiteral("INSERT INTO Deal(Code,Keihou) VALUES(1,1);\n"
-                       "UPDATE UserOP SET contents='32768' WHERE Code=2;\n"));
-    reading(2011, 3, 1, QStringLiteral("3000"));
+        u"INSERT INTO Deal(Code,Keihou) VALUES(1,1);\n"
+        "UPDATE UserOP SET contents='32768' WHERE Code=2;\n"_s);
+    reading(2011, 3, 1, u"3000"_s);
     try {
         bill(2011, 3);
         FAIL() << "no overflow";
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.number(), 6);
     }
-    EXPECT_EQ(ledger(2011, 3), QStringList{QStringLiteral("1|0|3000|0|0|0|0")});
+    EXPECT_EQ(Ledger(2011, 3), QStringList{u"1|0|3000|0|0|0|0"_s});
 }
 
 TEST_F(TtoTest, CustomersAreCountedInSixteenBits) {
-    customers(QStringLiteral("1"));
-    for (int count = 1; count <= 16384; count *= 2) {
-        gDb->Execute(QStringLiteral("INSERT INTO Deal(Code) SELECT Code+%1 FROM Deal").arg(count));
-    }
+    customers(u"1"_s);
+    for (int count = 1; count <= 16384; count *= 2)
+        gDb->Execute(u"INSERT INTO Deal(Code) SELECT Code+%1 FROM Deal"_s.arg(count));
     try {
         CarryForwardMonth(2011, 3);
         FAIL() << "32,768 customers";
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.number(), 6);
     }
-    EXPECT_TRUE(ledger(2011, 3).isEmpty());
+    EXPECT_TRUE(Ledger(2011, 3).isEmpty());
 }
 
 }  // namespace

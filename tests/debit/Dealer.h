@@ -54,9 +54,8 @@ class DebitTest : public ScreenTest {
         return said.startsWith("エラー") ? said.section('\n', 0, 0).mid(3) : said;
     }
     static void expectTexts(const QString& page, const QStringList& texts) {
-        for (const QString& text : texts) {
+        for (const QString& text : texts)
             EXPECT_TRUE(page.contains(text)) << text.toStdString() << " in " << page.toStdString();
-        }
     }
 
     ScratchStore store;

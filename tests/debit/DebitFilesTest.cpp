@@ -29,9 +29,8 @@ class DebitFiles : public DebitTest {
         lxw_worksheet* sheet = workbook_add_worksheet(book, "Sheet1");
         lxw_format* asText = workbook_add_format(book);  // keeps the zeros in front of the code
         format_set_num_format(asText, "@");
-        for (const char* address : {"A2", "I5", "I6", "I7", "I8", "C9", "H9", "I9"}) {
+        for (const char* address : {"A2", "I5", "I6", "I7", "I8", "C9", "H9", "I9"})
             worksheet_write_string(sheet, CELL(address), QByteArray("old").append(address), asText);
-        }
         ASSERT_EQ(workbook_close(book), LXW_NO_ERROR);
     }
 
@@ -51,11 +50,10 @@ class DebitFiles : public DebitTest {
     /// What is told of a file that is written to its end. \param pdf where the sheet goes; none: cancelled
     QStringList finishPost(const QString& pdf = {}) {
         clerk.answerConfirm(true);
-        if (pdf.isEmpty()) {
+        if (pdf.isEmpty())
             AnswerEscape(clerk, "Printer_frm");
-        } else {
+        else
             AnswerPrinter(clerk, pdf);
-        }
         clerk.answerAlert();
         clerk.answerAlert();
         WritePostDebit(kApril, again, {}, shown);
@@ -146,9 +144,8 @@ TEST_F(DebitFiles, DisksThatCannotBeWritten) {
 
 TEST_F(DebitFiles, ADiskThatFillsUpInTheMiddleStaysOpen) {
     // More than the machine keeps back before it writes.
-    for (int deal = 100; deal < 300; ++deal) {
+    for (int deal = 100; deal < 300; ++deal)
         customer(QString("%1,'ｱ',%1,9900,10010,1,'%1',0").arg(deal), "100");
-    }
     ASSERT_TRUE(QFile::link("/dev/full", "Drive/A/jiharai"));
     EXPECT_EQ(writePost(), kDiskFull);
     EXPECT_EQ(writePost(), "55");

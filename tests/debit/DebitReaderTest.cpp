@@ -5,7 +5,7 @@
 namespace akarix {
 namespace {
 
-QByteArray header(const QByteArray& monthAndDay = "0427") {
+QByteArray Header(const QByteArray& monthAndDay = "0427") {
     return ("1910" + QByteArray(50, '0') + monthAndDay).leftJustified(120) + "\r\n";
 }
 QByteArray data(int deal, int amount, char code = '0') {
@@ -13,7 +13,7 @@ QByteArray data(int deal, int amount, char code = '0') {
            QByteArray::number(deal).rightJustified(20, '0') + code + QByteArray(8, ' ') + "\r\n";
 }
 /// A record of customer 1 about 5 yen. \param place of the changed part, counted from 1
-QByteArray changed(int place, const QByteArray& part, int width) {
+QByteArray Changed(int place, const QByteArray& part, int width) {
     return QByteArray(data(1, 5)).replace(place - 1, width, part);
 }
 QByteArray end() {
@@ -41,11 +41,10 @@ class ReadBack : public DebitTest {
         clerk.answerConfirm(true);
         if (asked) clerk.answerConfirm(true);
         clerk.answerAlert();
-        if (post) {
+        if (post)
             ReadPostResult(shown);
-        } else {
+        else
             ReadBankResult("0123", shown);
-        }
         return errorIn(clerk.lastSaid());
     }
     void forget() {
@@ -59,7 +58,7 @@ class ReadBack : public DebitTest {
 };
 
 TEST_F(ReadBack, PostsWhatWasDebited) {
-    EXPECT_EQ(read(header() + data(1, 3000) + data(2, 4000) + data(2, 9, '1') + end()),
+    EXPECT_EQ(read(Header() + data(1, 3000) + data(2, 4000) + data(2, 9, '1') + end()),
               "2 / 3 件　完了しました。");
     EXPECT_EQ(clerk.said().at(1), "処理年=2023 月=4 は正しいですか？");
     EXPECT_EQ(posted("Dno,Eda,Hizuke,Deal,Kubun,Gaku,Naiyo,Nendo,Getudo"),
@@ -82,7 +81,7 @@ TEST_F(ReadBack, PostsWhatWasDebited) {
 }
 
 TEST_F(ReadBack, QuestionsThatAreDenied) {
-    writeFile("Drive/A/FURIKAE", header() + data(1, 3000) + end());
+    writeFile("Drive/A/FURIKAE", Header() + data(1, 3000) + end());
     clerk.answerConfirm(false);
     ReadBankResult("123", shown);
     EXPECT_EQ(progress, QStringList());
@@ -109,7 +108,7 @@ TEST_F(ReadBack, TheYearOfTheHeader) {
     for (const auto& [today, monthAndDay, day] : cases) {
         forget();
         SetClock(today);
-        writeFile("Drive/A/FURIKAE", header(monthAndDay) + data(1, 1) + end());
+        writeFile("Drive/A/FURIKAE", Header(monthAndDay) + data(1, 1) + end());
         const QString said = read(!day.isEmpty());
         EXPECT_EQ(said, day.isEmpty() ? "13" : "1 / 1 全件　完了しました。") << monthAndDay;
         EXPECT_EQ(posted("Hizuke").value(0), day);
@@ -136,30 +135,30 @@ TEST_F(ReadBack, FilesOfAllKinds) {
         {"an end mark in the middle", data(1, 5) + "\x1a" + end(), "62", {"1|5"}},
         {"cut before the result", data(1, 70).left(111) + "\r\n" + end(), "1 / 1" + all, {"1|70"}},
         {"an empty line counts", "\r\n" + end(), "1 / 1" + all, {"0|0"}},
-        {"blanks in the amount", changed(81, "  1 2 \xa5   ", 10) + end(), "1 / 1" + all, {"1|12"}},
-        {"ten digits of yen", changed(81, "9876543210", 10) + end(), "1 / 1" + all, {"1|9876543210"}},
-        {"a half-width name", changed(51, "\xb1\xb2\xb3", 3) + end(), "1 / 1" + all, {"1|5"}},
-        {"a full-width character counts as one", changed(51, "\x82\xa0", 1) + end(), "1 / 1" + all, {"1|5"}},
-        {"a comma parts the record", changed(61, ",", 1) + end(), "2 / 2" + all, {"0|0", "0|0"}},
+        {"blanks in the amount", Changed(81, "  1 2 \xa5   ", 10) + end(), "1 / 1" + all, {"1|12"}},
+        {"ten digits of yen", Changed(81, "9876543210", 10) + end(), "1 / 1" + all, {"1|9876543210"}},
+        {"a half-width name", Changed(51, "\xb1\xb2\xb3", 3) + end(), "1 / 1" + all, {"1|5"}},
+        {"a full-width character counts as one", Changed(51, "\x82\xa0", 1) + end(), "1 / 1" + all, {"1|5"}},
+        {"a comma parts the record", Changed(61, ",", 1) + end(), "2 / 2" + all, {"0|0", "0|0"}},
         {"a record in two lines",
-         changed(25, "\r\n" + QByteArray(20, ' '), 20) + end(),
+         Changed(25, "\r\n" + QByteArray(20, ' '), 20) + end(),
          "2 / 2" + all,
          {"0|0", "0|0"}},
-        {"a number past 32 bits", changed(92, QByteArray(20, '7'), 20) + end(), "6", {}},
-        {"an amount that is none", changed(81, "0000001-20", 10) + end(), "13", {}},
+        {"a number past 32 bits", Changed(92, QByteArray(20, '7'), 20) + end(), "6", {}},
+        {"an amount that is none", Changed(81, "0000001-20", 10) + end(), "13", {}},
         {"LF alone", QByteArray(data(1, 2) + end()).replace("\r\n", "\n"), "1 / 1" + all, {"1|2"}},
         {"no line ends at all", QByteArray(data(1, 5)).replace("\r\n", "") + "9", "62", {"1|5"}},
     };
     for (const auto& [what, records, said, payments] : cases) {
         forget();
-        EXPECT_EQ(read(header() + records), said) << what;
+        EXPECT_EQ(read(Header() + records), said) << what;
         EXPECT_EQ(posted("Deal,Gaku"), payments) << what;
         EXPECT_EQ(log().isEmpty(), !said.contains('/')) << what;
     }
 }
 
 TEST_F(ReadBack, ADiskBrokenOffInTheMiddleIsPostedTwice) {
-    const QByteArray whole = header() + data(1, 3000) + data(2, 4000) + end();
+    const QByteArray whole = Header() + data(1, 3000) + data(2, 4000) + end();
     EXPECT_EQ(read(whole.left(244)), "62");
     EXPECT_EQ(read(false), "55") << "the file is still open";
     Close(1);
@@ -174,7 +173,7 @@ TEST_F(ReadBack, WhereTheFileIsSought) {
     QDir().mkpath("Drive/C");
     EXPECT_EQ(read(false), "76") << "a folder is not made for reading";
     QDir().mkpath("Drive/C/out");
-    writeFile("Drive/C/out/F", header() + data(1, 5) + end());
+    writeFile("Drive/C/out/F", Header() + data(1, 5) + end());
     EXPECT_EQ(read(), "1 / 1 全件　完了しました。");
     gDb->Execute("DELETE FROM Bnk");
     EXPECT_EQ(read(false), "75") << "no consignor, no name";

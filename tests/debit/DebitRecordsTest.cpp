@@ -11,7 +11,7 @@ namespace {
 
 const Date kCreation = DateSerial(2023, 4, 5);
 
-QByteArray golden(const char* name) {
+QByteArray Golden(const char* name) {
     QFile file(QString(AKARIX_TEST_DATA "/") + name);
     EXPECT_TRUE(file.open(QFile::ReadOnly));
     return file.readAll();
@@ -40,7 +40,7 @@ TEST_F(DebitFile, OfABank) {
     LoadBankConsignor(123, bank);
     const DebitTotals totals = WriteRequest("A:\\FURIKAE", gDb->OpenRecordset(sql),
                                             BankRequest(FitBankConsignor(bank), kCreation), shown);
-    EXPECT_EQ(readFile("Drive/A/FURIKAE"), golden("bank.request"));
+    EXPECT_EQ(readFile("Drive/A/FURIKAE"), Golden("bank.request"));
     EXPECT_EQ(totals.count, 8);
     EXPECT_EQ(progress.first(), "1 / 8");
     EXPECT_EQ(progress.last(), "8 / 8");
@@ -58,7 +58,7 @@ TEST_F(DebitFile, OfThePostOffice) {
     LoadPostConsignor(post);
     WriteRequest("A:\\x", gDb->OpenRecordset(DebitQuery(kPostOffice, 2023, 4)),
                  PostRequest(FitPostConsignor(post), kCreation, {"05", "20"}), shown);
-    EXPECT_EQ(readFile("Drive/A/x"), golden("post.request"));
+    EXPECT_EQ(readFile("Drive/A/x"), Golden("post.request"));
 }
 
 /// What does not fit: names lose their far end, numbers their high digits.

@@ -11,9 +11,8 @@ class Statements : public DebitTest {
     void SetUp() override {
         DebitTest::SetUp();
         QDir().mkdir("Prt");
-        for (const char* path : {"Prt/口座振替明細表.xlsx", "Prt/郵便局口座振替明細表.xlsx"}) {
+        for (const char* path : {"Prt/口座振替明細表.xlsx", "Prt/郵便局口座振替明細表.xlsx"})
             QFile::copy(QString(AKARIX_SOURCE_DIR "/") + path, path);
-        }
     }
 
     /// Customers from a code on, each with an account of his own and 1,000 yen to pay.
@@ -47,9 +46,8 @@ class Statements : public DebitTest {
         QStringList all;
         for (const QString& page : pages) {
             QString marks;
-            for (const QString& text : texts) {
+            for (const QString& text : texts)
                 marks += page.contains(text) ? '1' : '0';
-            }
             all += marks;
         }
         return all;

@@ -11,6 +11,7 @@
 #include "platform/forms/TextBox.h"
 #include "platform/runtime/CDate.h"
 #include "platform/runtime/Clock.h"
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/SheetReader.h"
 #include "support/GridText.h"
 #include "support/ScratchStore.h"
@@ -39,14 +40,14 @@ struct Case {
     throw std::runtime_error(what.toStdString());
 }
 
-QString firstWord(const QString& text) {
+QString FirstWord(const QString& text) {
     return text.section(u' ', 0, 0);
 }
-QString afterFirst(const QString& text) {
+QString AfterFirst(const QString& text) {
     return text.section(u' ', 1);
 }
 
-std::vector<Case> readCases(const QString& path) {
+std::vector<Case> ReadCases(const QString& path) {
     QFile file(path);
     if (!file.open(QFile::ReadOnly)) return {};
     std::vector<Case> cases{{}};
@@ -60,11 +61,11 @@ std::vector<Case> readCases(const QString& path) {
         } else if (line.startsWith(u": ")) {
             steps.back().rows += line.mid(2);
         } else {
-            QStringList rows = line.split(QStringLiteral(" : "));
-            QStringList focus = rows.takeFirst().split(QStringLiteral(" @ "));
-            QStringList dialogs = focus.takeFirst().split(QStringLiteral(" > "));
+            QStringList rows = line.split(u" : "_s);
+            QStringList focus = rows.takeFirst().split(u" @ "_s);
+            QStringList dialogs = focus.takeFirst().split(u" > "_s);
             const QString step = dialogs.takeFirst();
-            steps.push_back({number, firstWord(step), afterFirst(step), rows, dialogs, focus.value(0)});
+            steps.push_back({number, FirstWord(step), AfterFirst(step), rows, dialogs, focus.value(0)});
         }
     }
     cases.erase(cases.begin());
@@ -72,8 +73,8 @@ std::vector<Case> readCases(const QString& path) {
 }
 
 /// "a(0-2)+b" as its names.
-QStringList namesIn(const QString& text) {
-    static const QRegularExpression range(QStringLiteral("^(.+)\\((\\d+)-(\\d+)\\)$"));
+QStringList NamesIn(const QString& text) {
+    static const QRegularExpression range(u"^(.+)\\((\\d+)-(\\d+)\\)$"_s);
     QStringList names;
     for (const QString& name : text.split(u'+')) {
         const QRegularExpressionMatch found = range.match(name);
@@ -81,14 +82,13 @@ QStringList namesIn(const QString& text) {
             names += name;
             continue;
         }
-        for (int i = found.captured(2).toInt(); i <= found.captured(3).toInt(); ++i) {
-            names += QStringLiteral("%1(%2)").arg(found.captured(1)).arg(i);
-        }
+        for (int i = found.captured(2).toInt(); i <= found.captured(3).toInt(); ++i)
+            names += u"%1(%2)"_s.arg(found.captured(1)).arg(i);
     }
     return names;
 }
 
-std::pair<int, int> placeIn(const QString& text) {
+std::pair<int, int> PlaceIn(const QString& text) {
     return {text.section(u',', 0, 0).toInt(), text.section(u',', 1).toInt()};
 }
 
@@ -126,8 +126,8 @@ class DeskTest : public ScreenTest {
 
     void prepareDialogs() {
         for (const QString& dialog : step_->dialogs) {
-            const QString kind = firstWord(dialog);
-            const QString rest = afterFirst(dialog);
+            const QString kind = FirstWord(dialog);
+            const QString rest = AfterFirst(dialog);
             if (kind == u"alert") {
                 clerk.answerAlert();
             } else if (kind == u"error") {
@@ -137,34 +137,37 @@ class DeskTest : public ScreenTest {
             } else if (kind == u"first" || kind == u"second") {
                 clerk.answerConfirmRev(kind == u"first");
             } else if (kind == u"pick") {
-                clerk.expect(firstWord(rest), [this, rest](QWidget&) { pick(rest); });
+                clerk.expect(
+                    FirstWord(rest), [this, rest](QWidget&) { pick(rest); });
             } else if (kind == u"save") {
-                clerk.expect(QStringLiteral("SaveAs_frm"), [this, path = store_.path(rest)](QWidget&) {
-                    clerk.find<TextBox>(QStringLiteral("Path")).SetText(path);
-                    clerk.click(QStringLiteral("Save"));
-                });
+                clerk.expect(
+                    u"SaveAs_frm"_s,
+                    [this, path = store_.path(rest)](QWidget&) {
+                        clerk.find<TextBox>(u"Path"_s).SetText(path);
+                        clerk.click(u"Save"_s);
+                    });
             } else if (kind == u"close") {
-                clerk.expect(rest, [this](QWidget& shown) { clerk.closeBox(shown); });
+                clerk.expect(
+                    rest, [this](QWidget& shown) { clerk.closeBox(shown); });
             } else {
-                wrong(QStringLiteral("no such dialog: ") + dialog);
+                wrong(u"no such dialog: "_s + dialog);
             }
         }
     }
     void pick(const QString& dialogAndCell) {
-        if (dialogAndCell.startsWith(u"HelpDeal_frm")) clerk.click(QStringLiteral("Btn(0)"));
-        const auto [row, col] = placeIn(afterFirst(dialogAndCell));
-        clerk.clickCell(clerk.find<FlexGrid>(QStringLiteral("List")), row, col);
+        if (dialogAndCell.startsWith(u"HelpDeal_frm")) clerk.click(u"Btn(0)"_s);
+        const auto [row, col] = PlaceIn(AfterFirst(dialogAndCell));
+        clerk.clickCell(clerk.find<FlexGrid>(u"List"_s), row, col);
     }
     void checkDialogs(qsizetype heard) const {
         QStringList found;
         QStringList wanted;
         for (const QString& dialog : step_->dialogs) {
-            const QString kind = firstWord(dialog);
-            QString said = clerk.said().value(heard++, QStringLiteral("(no dialog)"));
+            const QString kind = FirstWord(dialog);
+            QString said = clerk.said().value(heard++, u"(no dialog)"_s);
             if (kind == u"pick" || kind == u"save" || kind == u"close") continue;
             const bool error = kind == u"error";
-            wanted +=
-                error ? QStringLiteral("実行時エラー '%1'").arg(afterFirst(dialog)) : afterFirst(dialog);
+            wanted += error ? u"実行時エラー '%1'"_s.arg(AfterFirst(dialog)) : AfterFirst(dialog);
             found += error ? said.left(wanted.last().size()) : said;
         }
         expect(found.join(u'\n'), wanted.join(u'\n'));
@@ -175,34 +178,34 @@ class DeskTest : public ScreenTest {
     void perform() {
         using Doing = void (DeskTest::*)(const QString&);
         static const std::map<QString, Doing> doings{
-            {u"today"_qs, &DeskTest::setToday},   {u"sql"_qs, &DeskTest::runSql},
-            {u"view"_qs, &DeskTest::define},      {u"fields"_qs, &DeskTest::define},
-            {u"open"_qs, &DeskTest::open},        {u"type"_qs, &DeskTest::type},
-            {u"in"_qs, &DeskTest::typeIn},        {u"put"_qs, &DeskTest::put},
-            {u"keys"_qs, &DeskTest::keys},        {u"press"_qs, &DeskTest::press},
-            {u"click"_qs, &DeskTest::click},      {u"cell"_qs, &DeskTest::clickCell},
-            {u"focus"_qs, &DeskTest::focus},      {u"shows"_qs, &DeskTest::shows},
-            {u"rows"_qs, &DeskTest::rows},        {u"grid"_qs, &DeskTest::wholeGrid},
-            {u"row"_qs, &DeskTest::gridRow},      {u"at"_qs, &DeskTest::cursor},
-            {u"count"_qs, &DeskTest::countRows},  {u"hidden"_qs, &DeskTest::hidden},
-            {u"visible"_qs, &DeskTest::visible},  {u"closed"_qs, &DeskTest::closed},
-            {u"sheet"_qs, &DeskTest::sheetShows}, {u"double"_qs, &DeskTest::doubleClick},
-            {u"close"_qs, &DeskTest::closeBox},
+            {u"today"_s, &DeskTest::setToday},   {u"sql"_s, &DeskTest::runSql},
+            {u"view"_s, &DeskTest::define},      {u"fields"_s, &DeskTest::define},
+            {u"open"_s, &DeskTest::open},        {u"type"_s, &DeskTest::type},
+            {u"in"_s, &DeskTest::typeIn},        {u"put"_s, &DeskTest::put},
+            {u"keys"_s, &DeskTest::keys},        {u"press"_s, &DeskTest::press},
+            {u"click"_s, &DeskTest::click},      {u"cell"_s, &DeskTest::clickCell},
+            {u"focus"_s, &DeskTest::focus},      {u"shows"_s, &DeskTest::shows},
+            {u"rows"_s, &DeskTest::rows},        {u"grid"_s, &DeskTest::wholeGrid},
+            {u"row"_s, &DeskTest::gridRow},      {u"at"_s, &DeskTest::cursor},
+            {u"count"_s, &DeskTest::countRows},  {u"hidden"_s, &DeskTest::hidden},
+            {u"visible"_s, &DeskTest::visible},  {u"closed"_s, &DeskTest::closed},
+            {u"sheet"_s, &DeskTest::sheetShows}, {u"double"_s, &DeskTest::doubleClick},
+            {u"close"_s, &DeskTest::closeBox},
         };
         const auto doing = doings.find(step_->verb);
-        if (doing == doings.end()) wrong(QStringLiteral("nobody knows how to ") + step_->verb);
+        if (doing == doings.end()) wrong(u"nobody knows how to "_s + step_->verb);
         (this->*doing->second)(step_->rest);
     }
 
     void setToday(const QString& date) { SetClock(CDate(date)); }
     void runSql(const QString& statement) { ScratchStore::run(statement); }
     void define(const QString& nameAndMeaning) {
-        names_[firstWord(nameAndMeaning)] = afterFirst(nameAndMeaning);
+        names_[FirstWord(nameAndMeaning)] = AfterFirst(nameAndMeaning);
     }
     void open(const QString& nameAndArgument) {
-        const auto opener = openers_.find(firstWord(nameAndArgument));
-        if (opener == openers_.end()) wrong(QStringLiteral("nobody knows how to open ") + nameAndArgument);
-        opener->second(afterFirst(nameAndArgument));
+        const auto opener = openers_.find(FirstWord(nameAndArgument));
+        if (opener == openers_.end()) wrong(u"nobody knows how to open "_s + nameAndArgument);
+        opener->second(AfterFirst(nameAndArgument));
         clerk.settle();
     }
 
@@ -213,16 +216,15 @@ class DeskTest : public ScreenTest {
         }
     }
     void typeIn(const QString& nameAndTexts) {
-        QWidget& control = clerk.control(firstWord(nameAndTexts));
-        if (auto* box = qobject_cast<TextBox*>(&control)) {
+        QWidget& control = clerk.control(FirstWord(nameAndTexts));
+        if (auto* box = qobject_cast<TextBox*>(&control))
             FocusSelect(*box);
-        } else {
+        else
             control.setFocus();
-        }
-        if (nameAndTexts.contains(u' ')) type(afterFirst(nameAndTexts));
+        if (nameAndTexts.contains(u' ')) type(AfterFirst(nameAndTexts));
     }
     void put(const QString& nameAndText) {
-        clerk.find<TextBox>(firstWord(nameAndText)).SetText(afterFirst(nameAndText));
+        clerk.find<TextBox>(FirstWord(nameAndText)).SetText(AfterFirst(nameAndText));
     }
     void keys(const QString& text) { clerk.type(text); }
     void press(const QString& keys) {
@@ -235,7 +237,7 @@ class DeskTest : public ScreenTest {
     void closeBox(const QString& form) { clerk.closeBox(clerk.form(form)); }
     void doubleClick(const QString& name) { clerk.doubleClick(name); }
     void clickCell(const QString& gridAndCell) {
-        const auto [row, col] = placeIn(afterFirst(gridAndCell));
+        const auto [row, col] = PlaceIn(AfterFirst(gridAndCell));
         clerk.clickCell(grid(gridAndCell), row, col);
     }
 
@@ -243,39 +245,37 @@ class DeskTest : public ScreenTest {
 
     void focus(const QString& name) { expect(clerk.focusedName(), name); }
     void shows(const QString& namesAndTexts) {
-        const QString names = firstWord(namesAndTexts);
+        const QString names = FirstWord(namesAndTexts);
         const auto known = names_.find(names);
         QStringList texts;
-        for (const QString& name : namesIn(known == names_.end() ? names : known->second)) {
+        for (const QString& name : NamesIn(known == names_.end() ? names : known->second))
             texts += shown(name);
-        }
-        expect(texts.join(u'|'), afterFirst(namesAndTexts));
+        expect(texts.join(u'|'), AfterFirst(namesAndTexts));
     }
     QString shown(const QString& name) const {
         // It waits until a window has the keyboard.
-        if (name == u"Notice"_qs) (void)QTest::qWaitFor([this] { return clerk.isOpen("Notice"); }, 1000);
+        if (name == u"Notice"_s) (void)QTest::qWaitFor([this] { return clerk.isOpen("Notice"); }, 1000);
         const QWidget& control = clerk.control(name);
         if (const auto* tick = qobject_cast<const CheckBox*>(&control)) return QString::number(tick->Value());
-        if (const auto* choice = qobject_cast<const OptionButton*>(&control)) {
-            return choice->Value() ? u"1"_qs : u"0"_qs;
-        }
+        if (const auto* choice = qobject_cast<const OptionButton*>(&control))
+            return choice->Value() ? u"1"_s : u"0"_s;
         return clerk.text(name);
     }
     void rows(const QString& question) {
-        const auto view = names_.find(firstWord(question));
+        const auto view = names_.find(FirstWord(question));
         if (view == names_.end()) return expectRows(ScratchStore::rows(question));
-        const bool asksFor = view->second.contains(u"%1"_qs);
-        expectRows(ScratchStore::rows(asksFor ? view->second.arg(afterFirst(question)) : view->second));
+        const bool asksFor = view->second.contains(u"%1"_s);
+        expectRows(ScratchStore::rows(asksFor ? view->second.arg(AfterFirst(question)) : view->second));
     }
 
-    FlexGrid& grid(const QString& text) const { return clerk.find<FlexGrid>(firstWord(text)); }
+    FlexGrid& grid(const QString& text) const { return clerk.find<FlexGrid>(FirstWord(text)); }
     /// First and last of the columns "2-4" or "3"; nothing are all.
     static std::pair<int, int> columnsIn(const QString& text) {
         if (text.isEmpty()) return {0, -1};
         return {text.section(u'-', 0, 0).toInt(), text.section(u'-', -1).toInt()};
     }
     void wholeGrid(const QString& gridAndColumns) {
-        const auto [first, last] = columnsIn(afterFirst(gridAndColumns));
+        const auto [first, last] = columnsIn(AfterFirst(gridAndColumns));
         expectRows(GridRows(grid(gridAndColumns), first, last));
     }
     void gridRow(const QString& text) {
@@ -284,19 +284,19 @@ class DeskTest : public ScreenTest {
     }
     void cursor(const QString& gridAndCell) {
         const FlexGrid& list = grid(gridAndCell);
-        expect(QStringLiteral("%1,%2").arg(list.Row()).arg(list.Col()), afterFirst(gridAndCell));
+        expect(u"%1,%2"_s.arg(list.Row()).arg(list.Col()), AfterFirst(gridAndCell));
     }
     void countRows(const QString& gridAndCount) {
-        expect(QString::number(grid(gridAndCount).Rows() - 1), afterFirst(gridAndCount));
+        expect(QString::number(grid(gridAndCount).Rows() - 1), AfterFirst(gridAndCount));
     }
     void hidden(const QString& name) { EXPECT_FALSE(clerk.control(name).isVisible()) << name.toStdString(); }
     void visible(const QString& name) { EXPECT_TRUE(clerk.control(name).isVisible()) << name.toStdString(); }
     void closed(const QString& form) { EXPECT_FALSE(clerk.isOpen(form)) << form.toStdString(); }
     void sheetShows(const QString& fileAndCells) {
-        const Sheet sheet = ReadSheet(store_.path(firstWord(fileAndCells)), u"Sheet1"_qs);
+        const Sheet sheet = ReadSheet(store_.path(FirstWord(fileAndCells)), u"Sheet1"_s);
         QStringList found;
-        for (const QString& cell : afterFirst(fileAndCells).split(u' ')) {
-            const auto [row, col] = placeIn(cell);
+        for (const QString& cell : AfterFirst(fileAndCells).split(u' ')) {
+            const auto [row, col] = PlaceIn(cell);
             found += sheet.shownText({row, col}).trimmed();
         }
         expectRows(found);
@@ -314,13 +314,13 @@ class DeskTest : public ScreenTest {
 
 bool RegisterDeskScripts(const QString& folder, DeskOpeners openers) {
     static const DeskOpeners known = std::move(openers);
-    const QDir scripts(folder, u"*.desk"_qs);
+    const QDir scripts(folder, u"*.desk"_s);
     for (const QFileInfo& script : scripts.entryInfoList()) {
         const QByteArray path = script.filePath().toUtf8();
-        for (const Case& test : readCases(script.filePath())) {
-            testing::RegisterTest(script.baseName().toUtf8(), test.name.toUtf8(), nullptr, nullptr, path,
-                                  test.line,
-                                  [path, test]() -> ScreenTest* { return new DeskTest(path, test, known); });
+        for (const Case& test : ReadCases(script.filePath())) {
+            testing::RegisterTest(
+                script.baseName().toUtf8(), test.name.toUtf8(), nullptr, nullptr, path, test.line,
+                [path, test]() -> ScreenTest* { return new DeskTest(path, test, known); });
         }
     }
     return !scripts.isEmpty();

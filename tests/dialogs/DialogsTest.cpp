@@ -2,6 +2,7 @@
 #include "dialogs/AskText.h"
 #include "dialogs/ShowAlert.h"
 #include "platform/forms/TextBox.h"
+#include "platform/runtime/Literals.h"
 #include "support/ScreenTest.h"
 
 namespace akarix {
@@ -15,7 +16,7 @@ TEST_F(Dialogs, AlertShowsItsLinesAndGoesAtEnter) {
         EXPECT_EQ(clerk.focusedName(), u"Btn");
         clerk.enter();
     });
-    ShowAlert(QStringLiteral("一行目\n二行目 <b>"));
+    ShowAlert(u"一行目\n二行目 <b>"_s);
     EXPECT_EQ(clerk.lastSaid(), u"一行目\n二行目 <b>");
     EXPECT_FALSE(clerk.isOpen("Alert_frm"));
 }
@@ -31,15 +32,14 @@ class Choices : public ScreenTest, public testing::WithParamInterface<ChoiceCase
     void play(const char* keys, QWidget& dialog) {
         for (; *keys != '\0'; ++keys) {
             EXPECT_TRUE(dialog.isVisible()) << "gone before " << keys;
-            if (*keys == 'v') {
+            if (*keys == 'v')
                 clerk.down();
-            } else if (*keys == '^') {
+            else if (*keys == '^')
                 clerk.up();
-            } else if (*keys == 'e') {
+            else if (*keys == 'e')
                 clerk.enter();
-            } else {
+            else
                 clerk.closeBox(dialog);
-            }
         }
         EXPECT_FALSE(dialog.isVisible());
     }
@@ -48,13 +48,10 @@ class Choices : public ScreenTest, public testing::WithParamInterface<ChoiceCase
 TEST_P(Choices, AnswerByKeysAndCloseBox) {
     const auto answer = [this](QWidget& dialog) { play(GetParam().keys, dialog); };
     clerk.expect("Confirm_frm", answer);
-    EXPECT_EQ(
-        AskConfirm(QStringLiteral("a&bで更新します。"), QStringLiteral("はい"), QStringLiteral("いいえ")),
-        GetParam().confirm);
+    EXPECT_EQ(AskConfirm(u"a&bで更新します。"_s, u"はい"_s, u"いいえ"_s), GetParam().confirm);
     EXPECT_EQ(clerk.lastSaid(), u"a&bで更新します。");
     clerk.expect("gyakuConfirm_frm", answer);
-    EXPECT_EQ(AskConfirmRev(QStringLiteral("この対象年月のデータを削除しますか？"), QStringLiteral("いいえ"),
-                            QStringLiteral("削除")),
+    EXPECT_EQ(AskConfirmRev(u"この対象年月のデータを削除しますか？"_s, u"いいえ"_s, u"削除"_s),
               GetParam().confirmRev);
 }
 
@@ -83,7 +80,7 @@ TEST_F(Dialogs, AskTextTakesWhatStandsInTheBox) {
             clerk.type(QString::fromUtf8(c.typed));
             clerk.enter();
         });
-        EXPECT_EQ(AskText(QStringLiteral("パスワードを入力してください。"), QString::fromUtf8(c.preset)),
+        EXPECT_EQ(AskText(u"パスワードを入力してください。"_s, QString::fromUtf8(c.preset)),
                   QString::fromUtf8(c.answer));
         EXPECT_EQ(clerk.lastSaid(), u"パスワードを入力してください。");
     }

@@ -9,7 +9,7 @@ namespace akarix {
 namespace {
 
 template <class F>
-void openOnSlip(const QString& number) {
+void OpenOnSlip(const QString& number) {
     std::int32_t dno = number.toInt();
     Form::Instance<F>().fromexe(dno);
 }
@@ -20,8 +20,8 @@ const bool kFound = RegisterDeskScripts(
      {"SlipG_frm", &Opens<SlipG_frm>},
      {"SlipN2_frm", &Opens<SlipN2_frm>},
      {"TorZan_frm", &Opens<TorZan_frm>},
-     {"saleOf", &openOnSlip<Slip_frm>},
-     {"paymentOf", &openOnSlip<SlipN2_frm>},
+     {"saleOf", &OpenOnSlip<Slip_frm>},
+     {"paymentOf", &OpenOnSlip<SlipN2_frm>},
      {"readingsOf",
       [](const QString& customer) {
           std::int16_t nendo = 2023;

@@ -23,9 +23,8 @@ class PaymentLedger : public testing::Test {
     static void pay(std::int32_t dno, std::int32_t deal, Date hizuke, std::initializer_list<int> amounts) {
         PaymentSlip slip{dno, deal, hizuke, {}};
         std::size_t line = 0;
-        for (const int amount : amounts) {
+        for (const int amount : amounts)
             slip.lines[line++].Gaku = amount;
-        }
         SavePayment(slip);
     }
     static QStringList lines() {

@@ -20,9 +20,8 @@ class ReadingSheet : public ScreenTest {
     /// Customers 1, 2, 3, ..., a power of two of them.
     static void addCustomers(int count) {
         gDb->Execute("INSERT INTO Deal(Code,Rte) VALUES(1,1)");
-        for (int rows = 1; rows < count; rows *= 2) {
+        for (int rows = 1; rows < count; rows *= 2)
             gDb->Execute(QString("INSERT INTO Deal(Code,Rte) SELECT Code+%1,1 FROM Deal").arg(rows));
-        }
     }
     FlexGrid& list() const { return clerk.find<FlexGrid>("SlipG_frm/List"); }
 
@@ -32,9 +31,8 @@ class ReadingSheet : public ScreenTest {
 TEST_F(ReadingSheet, TheEditorFollowsTheRowsOutOfTheWindow) {
     addCustomers(64);
     clerk.click("Command1");
-    for (int code = 1; code < 50; ++code) {
+    for (int code = 1; code < 50; ++code)
         clerk.fill(QString::number(code));
-    }
     EXPECT_EQ(list().Row(), 50);
     const QRect cell = list().CellRect();
     EXPECT_GT(list().rowAt(0), 20);

@@ -12,7 +12,7 @@
 namespace akarix {
 namespace {
 
-void openCodeList(const QString& table) {
+void OpenCodeList(const QString& table) {
     auto& form = Form::Instance<ms_frm>();
     form.Show();
     form.init(table);
@@ -27,7 +27,7 @@ const bool kFound =
                                                            {"MstRte_frm", &Opens<MstRte_frm>},
                                                            {"MstTanka_frm", &Opens<MstTanka_frm>},
                                                            {"MstYubin_frm", &Opens<MstYubin_frm>},
-                                                           {"ms_frm", &openCodeList}});
+                                                           {"ms_frm", &OpenCodeList}});
 
 }  // namespace
 }  // namespace akarix

@@ -9,11 +9,11 @@
 #include "output/EX.h"
 #include "output/PrintRun.h"
 #include "output/PrintTrap.h"
+#include "platform/dao/DBEngine.h"
+#include "platform/dao/Database.h"
+#include "platform/dao/Workspace.h"
 #include "platform/forms/Guard.h"
 #include "platform/forms/SessionEnd.h"
-#include "platform/jet/DBEngine.h"
-#include "platform/jet/Database.h"
-#include "platform/jet/Workspace.h"
 #include "platform/print/PdfText.h"
 #include "platform/print/PreviewPages.h"
 #include "platform/print/Printer.h"
@@ -158,10 +158,12 @@ TEST_F(ExcelTest, PagesPrintedBeforeAnErrorStayPrinted) {
 TEST_F(ExcelTest, PreviewShowsEachPageAndNeverPrints) {
     gPrintPreview = true;
     for (int page = 0; page < 2; ++page) {
-        clerk.expect("Preview_frm", [&](QWidget&) {
-            EXPECT_EQ(clerk.find<PreviewPages>("Pages").pageCount(), 1);
-            clerk.press(Qt::Key_Escape);
-        });
+        clerk.expect(
+            "Preview_frm",
+            [&](QWidget&) {
+                EXPECT_EQ(clerk.find<PreviewPages>("Pages").pageCount(), 1);
+                clerk.press(Qt::Key_Escape);
+            });
     }
     ExcelOpen("台帳");
     printPage("一");
@@ -184,9 +186,8 @@ class PagedTest : public ExcelTest {
     }
     void run(Report& report, int records) {
         database_->Execute("DELETE FROM Test");
-        for (int n = 1; n <= records; ++n) {
+        for (int n = 1; n <= records; ++n)
             database_->Execute(QString("INSERT INTO Test (N) VALUES (%1)").arg(n));
-        }
         ExcelOpenPaged("台帳", Rows, FirstRow);
         SetReport(&report, database_->OpenRecordset("SELECT * FROM Test ORDER BY N"));
         ExcelRunPaged();
@@ -262,10 +263,12 @@ TEST_F(PagedTest, PreviewTellsWhetherMoreFollows) {
     AnswerPrinter(clerk, folder.filePath("list.pdf"));
     QStringList shown;
     for (int page = 0; page < 3; ++page) {
-        clerk.expect("Preview_frm", [&](QWidget& window) {
-            shown += clerk.text("Place") + (window.findChild<QWidget*>("Stop") ? "+" : "");
-            clerk.click("Close");
-        });
+        clerk.expect(
+            "Preview_frm",
+            [&](QWidget& window) {
+                shown += clerk.text("Place") + (window.findChild<QWidget*>("Stop") ? "+" : "");
+                clerk.click("Close");
+            });
     }
     Report report;
     const PrintRun printing("台帳");

@@ -22,9 +22,8 @@ class GridToExcelTest : public ScreenTest {
         const char* texts[2][4] = {{"ｺｰﾄﾞ", "得意先", "隠し", "請求額"}, {"000012", "=山田", "9", "-1,234"}};
         for (int column = 0; column < 4; ++column) {
             grid_.SetColWidth(column, widths[column]);
-            for (int row = 0; row < 2; ++row) {
+            for (int row = 0; row < 2; ++row)
                 grid_.SetTextMatrix(row, column, texts[row][column]);
-            }
         }
         grid_.SetColAlignment(3, AlignRightCenter);
     }
@@ -48,11 +47,9 @@ TEST_F(GridToExcelTest, WhatTheGridShowsGoesToTheFileAskedFor) {
     EXPECT_TRUE(clerk.text("Notice").endsWith(path + " に書きました。"));
     const Sheet sheet = ReadSheet(path, "Sheet1");
     QStringList found;
-    for (const auto& [at, cell] : sheet.cells) {
-        if (!sheet.shownText(at).isEmpty()) {
+    for (const auto& [at, cell] : sheet.cells)
+        if (!sheet.shownText(at).isEmpty())
             found += QString("%1,%2 %3").arg(at.row).arg(at.column).arg(sheet.shownText(at));
-        }
-    }
     EXPECT_EQ(found,
               (QStringList{"1,4 作成日 : 2023/04/15", "2,1 請求一覧", "4,1 2023/4分     1 ～ 9", "6,1 ｺｰﾄﾞ",
                            "6,2 得意先", "6,3 請求額", "7,1 000012", "7,2 =山田", "7,3 -1,234"}));

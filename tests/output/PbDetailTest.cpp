@@ -5,9 +5,9 @@
 #include "output/PrintReport.h"
 #include "output/ReportOwner.h"
 #include "output/RunReport.h"
-#include "platform/jet/DBEngine.h"
-#include "platform/jet/Database.h"
-#include "platform/jet/Workspace.h"
+#include "platform/dao/DBEngine.h"
+#include "platform/dao/Database.h"
+#include "platform/dao/Workspace.h"
 #include "support/CaseFile.h"
 #include "support/ScreenTest.h"
 
@@ -126,14 +126,11 @@ TEST_F(PbDetailTest, Reports) {
     for (const auto& [place, fresh, given, expected] : ReadScripts(AKARIX_TEST_DATA "/details.pbtest")) {
         SCOPED_TRACE(place);
         begin();
-        for (const QString& line : given) {
+        for (const QString& line : given)
             follow(line);
-        }
-        if (report->ScriptLines.empty()) {
-            for (const char* line : {"<LOCATE>50,1000", "<DTPOS>", "<DTCNT>2", "<ZOUBUN>200"}) {
+        if (report->ScriptLines.empty())
+            for (const char* line : {"<LOCATE>50,1000", "<DTPOS>", "<DTCNT>2", "<ZOUBUN>200"})
                 report->AddLine(line);
-            }
-        }
         if (owner.failures > 0 || expected.value(expected.size() - 1).startsWith("error"))
             clerk.answerAlert();
         const int error = run();
@@ -154,9 +151,8 @@ TEST_F(PbDetailTest, Reports) {
 
 TEST_F(PbDetailTest, FontsAndFixedPlacesOfCells) {
     for (const char* line : {"<DTCNT>2", "<ZOUBUN>200", "<LOCATE>0,1000", "<DTPOS>", "row 1,'a',1",
-                             "row 1,'b',2", "column 後 Namae S 5"}) {
+                             "row 1,'b',2", "column 後 Namae S 5"})
         follow(line);
-    }
     report->Column(0).FontName = "CODE39";
     report->Column(0).FontSize = 20;
     report->Column(1).FontName.clear();
@@ -179,9 +175,8 @@ TEST_F(PbDetailTest, HowManyColumnsThereCanBe) {
 
     begin();
     report->ColCount = 0;
-    for (int i = 0; i < 21; ++i) {
+    for (int i = 0; i < 21; ++i)
         column({"_", "Gaku", "N", "0", "total"});
-    }
     follow("row 1,'a',3");
     EXPECT_EQ(run(), 0);
     const QString totals = pages().value(0).section("頁計：", 1, 1).section("累計：", 0, 0);

@@ -34,9 +34,8 @@ class PbPaperTest : public ScreenTest {
     QStringList files() const { return QDir(folder_.path()).entryList(QDir::Files, QDir::Name); }
     static int print(const QStringList& script, QString* text = nullptr) {
         PBInit();
-        for (const QString& line : script) {
+        for (const QString& line : script)
             PBAddLine(line);
-        }
         try {
             PBRun();
         } catch (const RuntimeError& error) {
@@ -129,10 +128,12 @@ TEST_F(PbPaperTest, ARunIsShownPageByPageUntilItIsStopped) {
     AnswerPrinter(clerk, path("out.pdf"));
     QStringList titles;
     for (const int key : {Qt::Key_Return, Qt::Key_Escape}) {
-        clerk.expect("FM", [&, key](QWidget& window) {
-            titles += window.windowTitle();
-            clerk.press(key);
-        });
+        clerk.expect(
+            "FM",
+            [&, key](QWidget& window) {
+                titles += window.windowTitle();
+                clerk.press(key);
+            });
     }
     clerk.answerConfirm(true);
     TrapPrinting([&] {

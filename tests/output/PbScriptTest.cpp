@@ -14,9 +14,8 @@ namespace {
 
 QStringList Print(PrintReport& report, RecordingSurface& surface, const QStringList& script) {
     report.Init();
-    for (const QString& line : script) {
+    for (const QString& line : script)
         report.AddLine(line);
-    }
     surface.calls.clear();
     try {
         RunReport(report, surface);
@@ -68,9 +67,8 @@ TEST_F(PbScriptTest, TheYearGoesByTheDateMode) {
 TEST_F(PbScriptTest, AScriptHolds3001Lines) {
     PrintReport report;
     report.Init();
-    for (int i = 0; i < 3001; ++i) {
+    for (int i = 0; i < 3001; ++i)
         report.AddLine("<CL>");
-    }
     EXPECT_THROW(report.AddLine("<CL>"), RuntimeError);
     EXPECT_EQ(report.ScriptLines.size(), 3001U);
     report.Init();

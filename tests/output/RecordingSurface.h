@@ -20,9 +20,8 @@ class RecordingSurface : public PrintSurface {
     }
     double TextWidth(const QString& text) override {
         double width = 0;
-        for (const QChar letter : text) {
+        for (const QChar letter : text)
             width += letter.unicode() < 0x100 ? size_ * 10 : size_ * 20;
-        }
         return width + excess;
     }
     double TextHeight(const QString&) override { return size_ * 20; }
@@ -41,9 +40,8 @@ class RecordingSurface : public PrintSurface {
     /// The calls that begin with a word, without it.
     QStringList only(const QString& word) const {
         QStringList found;
-        for (const QString& call : calls) {
+        for (const QString& call : calls)
             if (call.startsWith(word + ' ')) found += call.mid(word.size() + 1);
-        }
         return found;
     }
 

@@ -47,9 +47,8 @@ class BilledMonth : public ScreenTest {
     /// What stands beside the boxes, "a/b/c".
     QString beside(const QStringList& labels) const {
         QStringList texts;
-        for (const QString& label : labels) {
+        for (const QString& label : labels)
             texts += clerk.text(label);
-        }
         return texts.join(u'/').remove(u' ');
     }
     /// The pages that a print button leaves. \param complaint what it begins to say; empty for nothing

@@ -58,9 +58,8 @@ class InvoiceSheet : public testing::Test {
         OpenInvoiceSheet();
         int raised = 0;
         try {
-            for (const int code : codes) {
+            for (const int code : codes)
                 PrintInvoice({code, 2024, 3});
-            }
         } catch (const RuntimeError& broken) {
             raised = broken.number();
         }
@@ -75,7 +74,7 @@ class InvoiceSheet : public testing::Test {
 
 const char* const kCases = AKARIX_TEST_DATA "/sheets.txt";
 
-QString twice(const QString& row) {
+QString Twice(const QString& row) {
     return row + row;
 }
 
@@ -91,9 +90,8 @@ TEST_F(InvoiceSheet, BothHalvesHoldTheWholeInvoice) {
     ASSERT_EQ(pages.size(), 1);
     for (const char* row :
          {"山田様", "03/20当月メーター指示数112.8", "02/21前月メーター指示数100.5", "当月御使用量12.3",
-          "03/01品12.01,0012,002", "値引-1,500", "03/20当月ガス料金指針:112.812.34,827"}) {
-        EXPECT_TRUE(pages[0].contains(twice(row))) << row << " in " << pages[0].toStdString();
-    }
+          "03/01品12.01,0012,002", "値引-1,500", "03/20当月ガス料金指針:112.812.34,827"})
+        EXPECT_TRUE(pages[0].contains(Twice(row))) << row << " in " << pages[0].toStdString();
     // 12,000 - 5,000 + 502 + 6,827: the slips count beside the ledger's amount, which holds them.
     EXPECT_EQ(pages[0].count("¥14,329"), 2) << pages[0].toStdString();
 }
@@ -107,7 +105,7 @@ TEST_F(InvoiceSheet, AmountsOfEverySize) {
             QString("INSERT INTO Dud(Dno,Eda,Deal,Nendo,Getudo) VALUES(%1,1,%1,2024,3)").arg(code));
         const QString page = print({code}).value(0);
         EXPECT_TRUE(page.contains(cells[1] + "※")) << line << page.toStdString();
-        EXPECT_TRUE(page.contains(twice("03/20当月ガス料金指針:0"))) << page.toStdString();
+        EXPECT_TRUE(page.contains(Twice("03/20当月ガス料金指針:0"))) << page.toStdString();
     }
 }
 
@@ -118,7 +116,7 @@ TEST_F(InvoiceSheet, MetersAndTheirDates) {
         reading(code, cells[0]);
         reading(code, cells[1], 2);
         const QString block = print({code}).value(0).section("領収印", 2).section("月日", 0, 0);
-        EXPECT_EQ(block, twice(cells[2]) + twice(cells[3]) + twice(cells[4])) << line;
+        EXPECT_EQ(block, Twice(cells[2]) + Twice(cells[3]) + Twice(cells[4])) << line;
     }
 }
 
@@ -133,7 +131,7 @@ TEST_F(InvoiceSheet, EightLinesToAPage) {
         slips(count, count);
         const QStringList pages = print({count});
         ASSERT_EQ(pages.size(), expected) << count;
-        EXPECT_TRUE(pages.last().contains(twice("03/20当月ガス料金指針:11212.0345"))) << count;
+        EXPECT_TRUE(pages.last().contains(Twice("03/20当月ガス料金指針:11212.0345"))) << count;
         for (int page = 1; page < pages.size(); ++page) {
             EXPECT_TRUE(pages[page].contains("山田様"));
             EXPECT_FALSE(pages[page].contains("メーター指示数") || pages[page].contains("¥"))
@@ -158,7 +156,7 @@ TEST_F(InvoiceSheet, OneDocumentWithoutLeavingsOfTheCustomerBefore) {
     ASSERT_EQ(pages.size(), 3) << "in the order asked for; who is not known gets none";
     EXPECT_TRUE(pages[0].contains("田中") && pages[1].contains("鈴木") && pages[2].contains("佐藤"));
     const QString lines = pages[2].section("単価金額", 2).section("振込先", 0, 0);
-    EXPECT_EQ(lines, twice("03/21当月ガス料金指針:0"));
+    EXPECT_EQ(lines, Twice("03/21当月ガス料金指針:0"));
 }
 
 TEST_F(InvoiceSheet, WithoutAReadingTheLastPageIsNotPrinted) {
@@ -173,7 +171,7 @@ TEST_F(InvoiceSheet, WithoutAReadingTheLastPageIsNotPrinted) {
 }
 
 /// What the opening of the invoice's template raises; empty when it is taken.
-QString refusal() {
+QString Refusal() {
     QString said;
     try {
         OpenInvoiceSheet();
@@ -197,12 +195,12 @@ TEST_F(InvoiceSheet, ATemplateThatWouldLoseSomethingIsRefused) {
     for (const auto& [cells, line] : ReadTable(kCases, "templates")) {
         make("Sheet1", cells[0], cells.value(1));
         const QString gap = cells.value(2);
-        EXPECT_EQ(refusal(),
+        EXPECT_EQ(Refusal(),
                   gap.isEmpty() ? QString() : "テンプレート '請求書' のセル " + gap + " が印刷されません。")
             << line;
     }
     make("請求書", "A1:AX35");
-    EXPECT_EQ(refusal(), "'請求書.xlsx': シート 'Sheet1' がありません。");
+    EXPECT_EQ(Refusal(), "'請求書.xlsx': シート 'Sheet1' がありません。");
 }
 
 }  // namespace

@@ -64,7 +64,7 @@ class CustomerLedger : public ScreenTest {
     ScratchStore store;
 };
 
-const char* const everything =
+const char* const kEverything =
     "1.2.1 1.3.1 1.4.1 2.3.1 / 1.3.3 1.4.1 2.3.1 / 1.3.2 1.4.2 2.4.1 / 1.4.1 2.3.1";
 
 TEST_F(CustomerLedger, TheAccountRunsMonthByMonthGasThenSlipsThenPayments) {
@@ -188,7 +188,7 @@ TEST_F(CustomerLedger, DeletingIsAskedForWithTheSafeAnswerFirst) {
     for (const char* button : {"Command", "siteiCmd"}) {
         clerk.answerConfirmRev(true);
         clerk.click(button);
-        EXPECT_EQ(stored(), everything) << button;
+        EXPECT_EQ(stored(), kEverything) << button;
         EXPECT_EQ(shown(), before);
         EXPECT_EQ(clerk.text("ebox(3)") + clerk.text("ebox(4)"), "20233");
     }

@@ -14,9 +14,8 @@ class BillingList : public BilledMonth {
     /// Walks through the fields from code "from" on; the walk ends on the button that shows the list.
     void showList(const QStringList& typed = {}) {
         clerk.find<TextBox>("ebox(2)").setFocus();
-        for (int i = 0; i < 3; ++i) {
+        for (int i = 0; i < 3; ++i)
             clerk.fill(typed.value(i));
-        }
         ASSERT_EQ(clerk.focusedName(), "Btn(1)");
         clerk.enter();
     }
@@ -59,22 +58,19 @@ TEST_F(BillingList, OnPaperPaymentsAreNotDeducted) {
     ASSERT_EQ(pages.size(), 1);
     for (const char* line :
          {"平成35年4月", "3佐藤0.00.00.0000-500-500", "2鈴木1,900.01,905.55.51,8002,0893,88912,00015,889",
-          "1山田100.5112.812.34,82704,82704,827", "17.86,6272,0898,71611,50020,216"}) {
+          "1山田100.5112.812.34,82704,82704,827", "17.86,6272,0898,71611,50020,216"})
         EXPECT_TRUE(pages.at(0).contains(line)) << line << " in " << pages.at(0).toStdString();
-    }
     clerk.click("ChkGaku");
     const QString quantities = print().join("");
     EXPECT_TRUE(quantities.contains("1山田100.5112.812.3")) << quantities.toStdString();
     EXPECT_TRUE(quantities.contains("使用量計") && quantities.contains("17.8"));
-    for (const char* amount : {"4,827", "使用料計", "請求額計", "20,216"}) {
+    for (const char* amount : {"4,827", "使用料計", "請求額計", "20,216"})
         EXPECT_FALSE(quantities.contains(amount)) << amount;
-    }
 }
 
 TEST_F(BillingList, ThePageThatTheLastCustomerFillsCarriesTheTotal) {
-    for (int code = 4; code <= 57; ++code) {
+    for (int code = 4; code <= 57; ++code)
         customer(QString("%1,'様',3,%1,0").arg(code), QString("%1,0,0,0,100,0").arg(code));
-    }
     QStringList pages = print();
     ASSERT_EQ(pages.size(), 1);
     EXPECT_TRUE(pages.at(0).contains("14,11611,50025,616")) << pages.at(0).toStdString();

@@ -35,17 +35,15 @@ class InvoiceIssue : public BilledMonth {
     FlexGrid& list() const { return clerk.find<FlexGrid>("List"); }
     QString marks() const {
         QString all;
-        for (const QString& mark : shown(0, 0)) {
+        for (const QString& mark : shown(0, 0))
             all += mark.isEmpty() ? "-" : mark;
-        }
         return all;
     }
     /// The names on the pages that the print button leaves.
     QStringList print(const QString& complaint = {}) {
         QStringList names;
-        for (const QString& page : BilledMonth::print("Btn", complaint)) {
+        for (const QString& page : BilledMonth::print("Btn", complaint))
             names += page.section("様", 0, 0).section("）", -1);
-        }
         return names;
     }
 };
@@ -80,9 +78,8 @@ TEST_F(InvoiceIssue, OnlyTheLastCodeBuildsTheList) {
     showList();
     const QStringList before = shown();
     clerk.find<TextBox>("ebox(1)").setFocus();
-    for (const char* typed : {"5", "2023.4.1", "1"}) {
+    for (const char* typed : {"5", "2023.4.1", "1"})
         clerk.fill(typed);
-    }
     EXPECT_EQ(clerk.text("ebox(2)"), "") << "a date of issue has two strokes";
     EXPECT_EQ(clerk.focusedName(), "ebox(4)");
     EXPECT_EQ(shown(), before) << "month, date and the first code wait for the last";
@@ -93,9 +90,8 @@ TEST_F(InvoiceIssue, OnlyTheLastCodeBuildsTheList) {
 TEST_F(InvoiceIssue, Marks) {
     showList();
     EXPECT_EQ(marks(), "○○-○--");
-    for (const auto& [row, column] : {std::pair{1, 0}, {3, 0}, {6, 0}, {2, 2}}) {
+    for (const auto& [row, column] : {std::pair{1, 0}, {3, 0}, {6, 0}, {2, 2}})
         clerk.clickCell(list(), row, column);
-    }
     EXPECT_EQ(marks(), "-○○○--") << "a click turns a customer's mark, not the totals' row";
     clerk.clickCell(list(), 0, 0);
     EXPECT_EQ(marks(), "-○○○--");
@@ -105,9 +101,8 @@ TEST_F(InvoiceIssue, Marks) {
     EXPECT_EQ(marks(), "------");
 
     Form::Instance<SeikyuPrt_frm>().init();
-    for (const char* button : {"Command1", "DelBtn", "ExcelBtn"}) {
+    for (const char* button : {"Command1", "DelBtn", "ExcelBtn"})
         clerk.click(button);
-    }
     EXPECT_EQ(print(), QStringList()) << "an empty list";
 }
 
@@ -128,10 +123,12 @@ TEST_F(InvoiceIssue, AShownRunIsStoppedAtAnyPage) {
     for (int run = 0; run < 2; ++run) {
         AnswerPrinter(clerk, store.path("out.pdf"));
         for (const char* place : {"1 頁（1 / 3 件目）", "2 頁（2 / 3 件目）"}) {
-            clerk.expect("Preview_frm", [this, place](QWidget&) {
-                EXPECT_EQ(clerk.text("Place"), place);
-                clerk.click(*place == '1' ? "Close" : "Stop");
-            });
+            clerk.expect(
+                "Preview_frm",
+                [this, place](QWidget&) {
+                    EXPECT_EQ(clerk.text("Place"), place);
+                    clerk.click(*place == '1' ? "Close" : "Stop");
+                });
         }
         clerk.click("Btn");
         EXPECT_EQ(clerk.expectedDialogs(), 0);

@@ -67,10 +67,9 @@ class DebitRound : public ScreenTest {
         QFile disk("Drive/A/jiharai");
         EXPECT_TRUE(disk.open(QFile::ReadOnly));
         QStringList lines;
-        for (const QByteArray& record : disk.readAll().split('\n')) {
+        for (const QByteArray& record : disk.readAll().split('\n'))
             if (record.startsWith('2'))
                 lines += QString("%1 %2").arg(record.mid(91, 20).toInt()).arg(record.mid(80, 10).toInt());
-        }
         return lines;
     }
     QString readDisk() {

@@ -53,9 +53,8 @@ class Quarter : public ScreenTest {
     // ---- the hands
 
     void fillAll(const QStringList& texts) {
-        for (const QString& text : texts) {
+        for (const QString& text : texts)
             clerk.fill(text);
-        }
     }
     void typeCell(int row, int col, const QString& text) {
         clerk.clickCell(clerk.find<FlexGrid>("List"), row, col);
@@ -70,17 +69,15 @@ class Quarter : public ScreenTest {
     void enterSlip(const QString& date, int customer, std::initializer_list<SlipLine> lines) {
         OpenScreen<Slip_frm>();
         fillAll({"", date, QString::number(customer)});
-        for (const SlipLine& line : lines) {
+        for (const SlipLine& line : lines)
             fillAll({line.code, line.name, line.suu, line.tanka, line.gaku});
-        }
         clerk.click("Btn(2)");
     }
     void enterPayment(const QString& date, int customer, const QStringList& amounts) {
         OpenScreen<SlipN2_frm>();
         fillAll({"", QString::number(customer), date});
-        for (const QString& amount : amounts) {
+        for (const QString& amount : amounts)
             fillAll({"", amount, ""});
-        }
         clerk.click("Btn(2)");
     }
     void enterOpening(int customer, int month, const QString& amount) {
@@ -115,9 +112,8 @@ class Quarter : public ScreenTest {
         QStringList lines;
         for (int row = 1; row < list.Rows(); ++row) {
             QStringList cells;
-            for (const int col : {0, 1, 2, 3, 6, 7, 8}) {
+            for (const int col : {0, 1, 2, 3, 6, 7, 8})
                 cells += list.TextMatrix(row, col);
-            }
             lines += cells.join(u'|');
         }
         return lines;

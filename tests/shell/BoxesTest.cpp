@@ -13,6 +13,7 @@
 #include "masters/ms_frm.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/TextBox.h"
+#include "platform/runtime/Literals.h"
 #include "reports/RepoDaichou_frm.h"
 #include "reports/RepoSeikyu_frm.h"
 #include "reports/SeikyuPrt_frm.h"
@@ -31,39 +32,38 @@ namespace {
 class Boxes : public ScreenTest {
  protected:
     Boxes() {
-        for (const TableDef& table : Tables()) {
+        for (const TableDef& table : Tables())
             if (QStringList{"Deal", "Hin", "Rte", "Bnk", "GasKeisan", "Dud", "Dny", "Dbn"}.contains(
                     table.name))
                 addWidestRow(table);
-        }
     }
     static void addWidestRow(const TableDef& table) {
         QStringList columns;
         QStringList values;
         for (const ColumnDef& column : table.columns) {
-            const bool signedLong = column.name == u"Haisou"_qs;
-            const bool key = column.name == u"Code"_qs || column.name == u"Ptn"_qs;
+            const bool signedLong = column.name == u"Haisou"_s;
+            const bool key = column.name == u"Code"_s || column.name == u"Ptn"_s;
             columns += column.name;
             switch (column.type) {
                 case FieldType::Long:  // one below the highest, so that the next number is the highest
-                    values += signedLong ? u"-2147483648"_qs : u"2147483646"_qs;
+                    values += signedLong ? u"-2147483648"_s : u"2147483646"_s;
                     break;
                 case FieldType::Integer:
-                    values += key ? u"32766"_qs : u"-32768"_qs;
+                    values += key ? u"32766"_s : u"-32768"_s;
                     break;
                 case FieldType::Currency:
-                    values += u"-922337203685476.5807"_qs;
+                    values += u"-922337203685476.5807"_s;
                     break;
                 case FieldType::Date:
-                    values += u"#2023/12/31#"_qs;
+                    values += u"#2023/12/31#"_s;
                     break;
                 default:
-                    values += u"Null"_qs;
+                    values += u"Null"_s;
                     break;
             }
         }
         ScratchStore::run(
-            u"INSERT INTO %1(%2) VALUES(%3)"_qs.arg(table.name, columns.join(u','), values.join(u',')));
+            u"INSERT INTO %1(%2) VALUES(%3)"_s.arg(table.name, columns.join(u','), values.join(u',')));
     }
     /// How many boxes of the present window hold something; none may hold more than its bytes.
     int filledBoxes(const QString& screen) {
@@ -81,8 +81,8 @@ class Boxes : public ScreenTest {
 };
 
 TEST_F(Boxes, HoldTheWidestNumberOfTheirColumn) {
-    const QString highLong = u"2147483646"_qs;
-    const QString highInteger = u"32766"_qs;
+    const QString highLong = u"2147483646"_s;
+    const QString highInteger = u"32766"_s;
     const struct {
         const char* screen;
         std::function<void()> open;
@@ -97,7 +97,7 @@ TEST_F(Boxes, HoldTheWidestNumberOfTheirColumn) {
         {"ms_frm",
          [] {
              Form::Instance<ms_frm>().Show();
-             Form::Instance<ms_frm>().init(u"Dbn"_qs);
+             Form::Instance<ms_frm>().init(u"Dbn"_s);
          },
          highLong, 1},
         {"Slip_frm", &OpenScreen<Slip_frm>, highLong, 7},

@@ -8,6 +8,7 @@
 #include "output/EX.h"
 #include "platform/forms/SingleInstance.h"
 #include "platform/forms/TextBox.h"
+#include "platform/runtime/Literals.h"
 #include "store/Settings.h"
 #include "store/StoreClaim.h"
 #include "support/ScratchStore.h"
@@ -31,28 +32,29 @@ class MainMenu : public ScreenTest {
         CloseDb();
     }
     static void setPassword(const QString& password) {
-        prepare(u"UPDATE zSysFunc SET contents='%1' WHERE Code=123"_qs.arg(password));
+        prepare(u"UPDATE zSysFunc SET contents='%1' WHERE Code=123"_s.arg(password));
     }
     void clickSplash() {
-        clerk.expect(u"Opening_frm"_qs, [this](QWidget&) {
-            EXPECT_EQ(gDb, nullptr) << "the store is opened behind the splash";
-            clerk.click("Image1");
-        });
+        clerk.expect(
+            u"Opening_frm"_s,
+            [this](QWidget&) {
+                EXPECT_EQ(gDb, nullptr) << "the store is opened behind the splash";
+                clerk.click("Image1");
+            });
     }
     bool start(const QString& password = {}) {
         clickSplash();
         clerk.answerText(password);
         return main_menu::Start();
     }
-    void press(int button) { clerk.click(u"main_menu/Command(%1)"_qs.arg(button)); }
+    void press(int button) { clerk.click(u"main_menu/Command(%1)"_s.arg(button)); }
     static QStringList storedPassword() {
-        return ScratchStore::rows(u"SELECT contents FROM zSysFunc WHERE Code=123"_qs);
+        return ScratchStore::rows(u"SELECT contents FROM zSysFunc WHERE Code=123"_s);
     }
     static QList<QWidget*> shownForms() {
         QList<QWidget*> shown;
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
+        for (QWidget* widget : QApplication::topLevelWidgets())
             if (widget->isVisible() && qobject_cast<Form*>(widget)) shown += widget;
-        }
         return shown;
     }
 
@@ -63,14 +65,14 @@ class MainMenu : public ScreenTest {
 
 TEST_F(MainMenu, StartsBySplashStoreAndLogin) {
     ASSERT_TRUE(start());
-    EXPECT_EQ(clerk.said(), (QStringList{u"Akarix"_qs, u"パスワードを入力してください。"_qs}));
-    EXPECT_TRUE(clerk.isOpen(u"main_menu"_qs));
-    EXPECT_EQ(clerk.focusedName(), u"Command(0)"_qs);
+    EXPECT_EQ(clerk.said(), (QStringList{u"Akarix"_s, u"パスワードを入力してください。"_s}));
+    EXPECT_TRUE(clerk.isOpen(u"main_menu"_s));
+    EXPECT_EQ(clerk.focusedName(), u"Command(0)"_s);
     EXPECT_EQ(gTaxRate, Currency(5));
 }
 
 TEST_F(MainMenu, TheSplashGoesByItself) {
-    clerk.expect(u"Opening_frm"_qs);
+    clerk.expect(u"Opening_frm"_s);
     clerk.answerText({});
     EXPECT_TRUE(main_menu::Start());
 }
@@ -124,17 +126,17 @@ TEST_F(MainMenu, PrintingFollowsItsSettingAtOnce) {
 }
 
 TEST_F(MainMenu, TakesTheExactPasswordOnce) {
-    setPassword(u"Gas1"_qs);
+    setPassword(u"Gas1"_s);
     for (const char* wrong : {"gas1", "Gas1 ", " Gas1", ""}) {
         clickSplash();
         clerk.answerText(QString(wrong));
         clerk.answerAlert();
         EXPECT_FALSE(main_menu::Start()) << wrong;
-        EXPECT_EQ(clerk.lastSaid(), u"パスワードが異なります。"_qs);
+        EXPECT_EQ(clerk.lastSaid(), u"パスワードが異なります。"_s);
         EXPECT_EQ(gDb, nullptr);
         EXPECT_EQ(shownForms(), QList<QWidget*>());
     }
-    EXPECT_TRUE(start(u"Gas1"_qs));
+    EXPECT_TRUE(start(u"Gas1"_s));
 }
 
 TEST_F(MainMenu, EndsWithoutAStore) {
@@ -149,18 +151,18 @@ TEST_F(MainMenu, EndsWithoutAStore) {
         const StoreClaim byTheCompanion(store.path());
         EXPECT_EQ(
             refused(),
-            u"Akarix.MDB は test_shell (%1) が使っています。\n終わってから、もう一度起動してください。"_qs
-                .arg(QApplication::applicationPid()));
+            u"Akarix.MDB は test_shell (%1) が使っています。\n終わってから、もう一度起動してください。"_s.arg(
+                QApplication::applicationPid()));
     }
     ASSERT_TRUE(QFile::remove(store.path()));
-    EXPECT_TRUE(refused().startsWith(u"エラー番号  3024"_qs));
+    EXPECT_TRUE(refused().startsWith(u"エラー番号  3024"_s));
 }
 
 // ---- the password
 
 TEST_F(MainMenu, ChangesThePassword) {
-    setPassword(u"old"_qs);
-    ASSERT_TRUE(start(u"old"_qs));
+    setPassword(u"old"_s);
+    ASSERT_TRUE(start(u"old"_s));
     struct Case {
         const char* what;
         const char* typed;
@@ -184,8 +186,8 @@ TEST_F(MainMenu, AnEmptyPasswordMayStayOne) {
     clerk.answerText({});
     clerk.answerConfirm(true);
     press(6);
-    EXPECT_EQ(clerk.lastSaid(), u"で更新します。"_qs);
-    EXPECT_EQ(storedPassword(), QStringList{u" "_qs});
+    EXPECT_EQ(clerk.lastSaid(), u"で更新します。"_s);
+    EXPECT_EQ(storedPassword(), QStringList{u" "_s});
 }
 
 // ---- the board
@@ -193,17 +195,16 @@ TEST_F(MainMenu, AnEmptyPasswordMayStayOne) {
 TEST_F(MainMenu, EachButtonOpensItsScreenOnce) {
     ASSERT_TRUE(start());
     const std::map<int, QString> screens{
-        {0, u"Slip_frm"_qs},        {2, u"SlipN2_frm"_qs},    {3, u"GTanka_frm"_qs},
-        {4, u"MstHin_frm"_qs},      {5, u"SeikyuPrt_frm"_qs}, {7, u"RepoSeikyu_frm"_qs},
-        {8, u"RepoDaichou_frm"_qs}, {12, u"MstRte_frm"_qs},   {13, u"MstDeal_frm"_qs},
-        {14, u"MstBnk_frm"_qs},     {15, u"MstYubin_frm"_qs}, {16, u"Seikyu_frm"_qs},
-        {17, u"TorZan_frm"_qs},     {9, u"Keihoki_frm"_qs},   {18, u"etc_frm"_qs}};
+        {0, u"Slip_frm"_s},      {2, u"SlipN2_frm"_s},     {3, u"GTanka_frm"_s},      {4, u"MstHin_frm"_s},
+        {5, u"SeikyuPrt_frm"_s}, {7, u"RepoSeikyu_frm"_s}, {8, u"RepoDaichou_frm"_s}, {12, u"MstRte_frm"_s},
+        {13, u"MstDeal_frm"_s},  {14, u"MstBnk_frm"_s},    {15, u"MstYubin_frm"_s},   {16, u"Seikyu_frm"_s},
+        {17, u"TorZan_frm"_s},   {9, u"Keihoki_frm"_s},    {18, u"etc_frm"_s}};
     for (const auto& [button, screen] : screens) {
         press(button);
         ASSERT_TRUE(clerk.isOpen(screen)) << screen.toStdString();
         const QList<QWidget*> shown = shownForms();
         EXPECT_EQ(clerk.window(), &clerk.form(screen));
-        clerk.type(u"77"_qs);
+        clerk.type(u"77"_s);
         const QString cleared = clerk.text("ebox(0)");
         press(button);
         EXPECT_EQ(shownForms(), shown) << screen.toStdString();
@@ -216,22 +217,22 @@ TEST_F(MainMenu, EachButtonOpensItsScreenOnce) {
 
 TEST_F(MainMenu, AllShiftKeysOnTheBareBoardOpenTheSettingsRows) {
     ASSERT_TRUE(start());
-    QWidget& menu = clerk.form(u"main_menu"_qs);
+    QWidget& menu = clerk.form(u"main_menu"_s);
     const QPoint bare(3, 3);
     const Qt::KeyboardModifiers all = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
     QTest::mouseClick(&menu, Qt::LeftButton, Qt::ControlModifier | Qt::AltModifier, bare);
     EXPECT_EQ(shownForms().size(), 1);
     clerk.click(clerk.control("Command(12)"), all);
-    EXPECT_EQ(clerk.window(), &clerk.form(u"MstRte_frm"_qs)) << "a press on the button";
+    EXPECT_EQ(clerk.window(), &clerk.form(u"MstRte_frm"_s)) << "a press on the button";
     QTest::mouseClick(&menu, Qt::RightButton, all, bare);
-    EXPECT_TRUE(clerk.isOpen(u"SysFunc_frm"_qs));
-    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_qs);
+    EXPECT_TRUE(clerk.isOpen(u"SysFunc_frm"_s));
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_s);
 }
 
 TEST_F(MainMenu, TheBoardIsScaledWithItsWindow) {
     ASSERT_TRUE(start());
     clerk.settle();
-    Form& menu = clerk.form(u"main_menu"_qs);
+    Form& menu = clerk.form(u"main_menu"_s);
     const QWidget& button = clerk.control("Command(18)");
     const QRect before = button.geometry();
     const int letters = button.fontInfo().pixelSize();
@@ -248,7 +249,7 @@ TEST_F(MainMenu, TheBoardIsScaledWithItsWindow) {
 TEST_F(MainMenu, MaximisedTheBoardStaysWhereTheDeskHasPutIt) {
     ASSERT_TRUE(start());
     clerk.settle();
-    Form& menu = clerk.form(u"main_menu"_qs);
+    Form& menu = clerk.form(u"main_menu"_s);
     menu.setAttribute(Qt::WA_Moved, false);
     menu.showMaximized();
     clerk.settle();
@@ -262,27 +263,27 @@ TEST_F(MainMenu, MaximisedTheBoardStaysWhereTheDeskHasPutIt) {
 
 TEST_F(MainMenu, ClosingTheMenuCopiesTheStoreAndEndsTheProgram) {
     ASSERT_TRUE(start());
-    clerk.answerText(u".\\bk"_qs);
+    clerk.answerText(u".\\bk"_s);
     clerk.answerConfirm(true);
     press(11);
     press(13);
-    QTimer::singleShot(0, &clerk, [this] { clerk.form(u"main_menu"_qs).close(); });
-    clerk.expect(u"Alert_frm"_qs, [this](QWidget&) {
+    QTimer::singleShot(0, &clerk, [this] { clerk.form(u"main_menu"_s).close(); });
+    clerk.expect(u"Alert_frm"_s, [this](QWidget&) {
         EXPECT_EQ(gDb, nullptr) << "the file is let go of before it is copied";
         clerk.enter();
     });
     EXPECT_EQ(QApplication::exec(), 0) << "nobody is asked";
-    EXPECT_EQ(clerk.lastSaid(), u".\\bk\\へバックアップコピーしました。"_qs);
-    EXPECT_EQ(QDir(u"bk"_qs).entryList(QDir::Files).size(), 1);
+    EXPECT_EQ(clerk.lastSaid(), u".\\bk\\へバックアップコピーしました。"_s);
+    EXPECT_EQ(QDir(u"bk"_s).entryList(QDir::Files).size(), 1);
     EXPECT_EQ(gWs, nullptr);
 }
 
 TEST_F(MainMenu, WithoutABackupPlaceTheEndIsAnError) {
     ASSERT_TRUE(start());
-    QTimer::singleShot(0, &clerk, [this] { clerk.form(u"main_menu"_qs).close(); });
+    QTimer::singleShot(0, &clerk, [this] { clerk.form(u"main_menu"_s).close(); });
     clerk.answerMsgBox();
     EXPECT_EQ(QApplication::exec(), 0);
-    EXPECT_TRUE(clerk.lastSaid().startsWith(u"実行時エラー '53'"_qs));
+    EXPECT_TRUE(clerk.lastSaid().startsWith(u"実行時エラー '53'"_s));
     EXPECT_EQ(gDb, nullptr);
 }
 

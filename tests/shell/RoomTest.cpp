@@ -16,6 +16,7 @@
 #include "masters/MstTanka_frm.h"
 #include "masters/MstYubin_frm.h"
 #include "masters/ms_frm.h"
+#include "platform/runtime/Literals.h"
 #include "reports/RepoDaichou_frm.h"
 #include "reports/RepoSeikyu_frm.h"
 #include "reports/SeikyuPrt_frm.h"
@@ -49,7 +50,7 @@ class Room : public ScreenTest {
     /// is within the screen.
     void expectReachable(Form& form) {
         const std::string where =
-            (form.objectName() + u" on "_qs + form.screen()->name() + u": "_qs).toStdString();
+            (form.objectName() + u" on "_s + form.screen()->name() + u": "_s).toStdString();
         EXPECT_TRUE(form.screen()->availableGeometry().contains(form.frameGeometry())) << where;
         const bool scrolls = form.findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
         if (scrolls) scrolling += form.objectName();
@@ -70,7 +71,7 @@ class Room : public ScreenTest {
 };
 
 TEST_F(Room, EveryScreenFitsTheSmallestDesksAndHasAChapter) {
-    gDb->Execute(u"INSERT INTO TtoD(Deal,Nendo,Getudo) VALUES(1,2026,10)"_qs);
+    gDb->Execute(u"INSERT INTO TtoD(Deal,Nendo,Getudo) VALUES(1,2026,10)"_s);
     QFile chapters(QStringLiteral(AKARIX_SOURCE_DIR "/docs/user-guide/screens.md"));
     ASSERT_TRUE(chapters.open(QFile::ReadOnly));
     const QString guide = QString::fromUtf8(chapters.readAll());
@@ -89,12 +90,12 @@ TEST_F(Room, EveryScreenFitsTheSmallestDesksAndHasAChapter) {
             ASSERT_EQ(form.screen(), small);
             expectReachable(form);
             const QString heading = GuideHeading(form);
-            EXPECT_TRUE(heading.isEmpty() || guide.contains(u"\n## "_qs + heading + u'\n'))
+            EXPECT_TRUE(heading.isEmpty() || guide.contains(u"\n## "_s + heading + u'\n'))
                 << heading.toStdString();
             clerk.clearDesk();
         }
     }
-    EXPECT_EQ(scrolling, QStringList{u"BKItaku_frm"_qs}) << "the others fit";
+    EXPECT_EQ(scrolling, QStringList{u"BKItaku_frm"_s}) << "the others fit";
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace {
 
 QStringList failures;
 
-void noteFailure(const QString& text, const QString& title) {
+void NoteFailure(const QString& text, const QString& title) {
     failures.append(title + u'|' + text);
 }
 
@@ -26,9 +26,8 @@ TEST_F(DatabaseTest, TheDeliveredFileHasEveryTableAndItsSettings) {
         for (const ColumnDef& column : table.columns) {
             Field& field = set.Fields(column.name);
             EXPECT_EQ(field.Type(), column.type) << column.name.toStdString();
-            if (column.type == FieldType::Text) {
-                EXPECT_EQ(field.Size(), column.size) << column.name.toStdString();
-            }
+            const int size = column.type == FieldType::Text ? column.size : field.Size();
+            EXPECT_EQ(field.Size(), size) << column.name.toStdString();
         }
     }
     EXPECT_EQ(ScratchStore::rows("SELECT Code,contents FROM zSysFunc ORDER BY Code"),
@@ -77,7 +76,7 @@ TEST_F(DatabaseTest, MigrationBringsAnOlderFileUpToDateAndCanBeRunAgain) {
     const ScratchStore store(false);
     QFile::remove(store.path());
     DBEngine::Workspaces(0).CreateDatabase(DatabaseName(), ConnectText())->Close();
-    ASSERT_TRUE(OpenDb(noteFailure));
+    ASSERT_TRUE(OpenDb(NoteFailure));
     ScratchStore::run(
         "CREATE TABLE Rte(Code Integer, Kana Text(20), Namae Text(30));\n"
         "CREATE TABLE Bnk(Code Integer, BkName Text(15));\n"
@@ -97,7 +96,7 @@ TEST_F(DatabaseTest, MigrationBringsAnOlderFileUpToDateAndCanBeRunAgain) {
 TEST_F(DatabaseTest, AMissingFileIsToldAndNothingIsMade) {
     const ScratchStore store(false);
     QFile::remove(store.path());
-    EXPECT_FALSE(OpenDb(noteFailure));
+    EXPECT_FALSE(OpenDb(NoteFailure));
     ASSERT_EQ(failures.size(), 1);
     EXPECT_TRUE(failures[0].startsWith("エラー|エラー番号  3024")) << failures[0].toStdString();
     EXPECT_TRUE(failures[0].contains(" でエラーが発生しました。 \r"));
@@ -108,7 +107,7 @@ TEST_F(DatabaseTest, AWrongPasswordIsToldAndNotRepaired) {
     const ScratchStore store(false);
     QFile::remove(store.path());
     DBEngine::Workspaces(0).CreateDatabase(DatabaseName(), "MS Access;PWD=other")->Close();
-    EXPECT_FALSE(OpenDb(noteFailure));
+    EXPECT_FALSE(OpenDb(NoteFailure));
     ASSERT_EQ(failures.size(), 1);
     EXPECT_TRUE(failures[0].startsWith("エラー|エラー番号  3031")) << failures[0].toStdString();
 }
@@ -122,7 +121,7 @@ TEST_F(DatabaseTest, ADamagedFileIsRepairedWithoutAWord) {
     ASSERT_TRUE(file.seek(file.size() - 100));
     file.write(QByteArray(60, 'x'));
     file.close();
-    EXPECT_TRUE(OpenDb(noteFailure));
+    EXPECT_TRUE(OpenDb(NoteFailure));
     EXPECT_TRUE(failures.isEmpty());
     EXPECT_EQ(ScratchStore::rows("SELECT contents FROM zSysFunc WHERE Code=1").size(), 1);
 }

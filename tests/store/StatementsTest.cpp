@@ -1,5 +1,5 @@
-#include "platform/jet/Engine.h"
-#include "platform/jet/Translator.h"
+#include "platform/dialect/Engine.h"
+#include "platform/dialect/Translator.h"
 #include "platform/runtime/RuntimeError.h"
 #include "support/CaseFile.h"
 #include "support/ScratchStore.h"
@@ -7,13 +7,12 @@
 namespace akarix {
 namespace {
 
-int errorOf(Translator& translator, const QString& sql) {
+int ErrorOf(Translator& translator, const QString& sql) {
     try {
-        if (translator.translate(sql).plan->kind == Plan::Kind::Rows) {
+        if (translator.translate(sql).plan->kind == Plan::Kind::Rows)
             gDb->OpenRecordset(sql).Eof();
-        } else {
+        else
             gDb->Execute(sql);
-        }
         return 0;
     } catch (const RuntimeError& error) {
         return error.number();
@@ -24,7 +23,7 @@ TEST(Statements, AllThatAreSentAreUnderstood) {
     const ScratchStore store;
     Translator translator(gDb->engine().catalogue());
     for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/statements.txt"))
-        EXPECT_EQ(errorOf(translator, cells[0]), cells.value(1).toInt()) << line;
+        EXPECT_EQ(ErrorOf(translator, cells[0]), cells.value(1).toInt()) << line;
 }
 
 }  // namespace

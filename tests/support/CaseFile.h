@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/runtime/Literals.h"
 #include "support/PrintQString.h"
 
 namespace akarix {
@@ -58,14 +59,13 @@ inline std::vector<CaseScript> ReadScripts(const QString& path) {
         if (line.isEmpty()) fresh = true;
         given = line.startsWith(u"> ");
         if (begins) {
-            const QString place = QStringLiteral("%1:%2").arg(path.section(u'/', -1)).arg(number);
+            const QString place = u"%1:%2"_s.arg(path.section(u'/', -1)).arg(number);
             scripts.push_back({place.toStdString(), std::exchange(fresh, false), {}, {}});
         }
-        if (given) {
+        if (given)
             scripts.back().given += line.mid(2);
-        } else if (!line.isEmpty() && !line.startsWith(u"# ")) {
+        else if (!line.isEmpty() && !line.startsWith(u"# "))
             scripts.back().expected += line;
-        }
     }
     EXPECT_FALSE(scripts.empty()) << path.toStdString();
     return scripts;

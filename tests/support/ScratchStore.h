@@ -7,9 +7,10 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-#include "platform/jet/DBEngine.h"
+#include "platform/dao/DBEngine.h"
 #include "platform/runtime/CStr.h"
 #include "platform/runtime/Clock.h"
+#include "platform/runtime/Literals.h"
 #include "store/CreateDatabase.h"
 #include "store/Settings.h"
 #include "store/dbAccess.h"
@@ -48,8 +49,8 @@ class ScratchStore {
 
     /// Runs statements parted by ";" and line ends; an INSERT may have several rows.
     static void run(const QString& statements) {
-        static const QString values = QStringLiteral(" VALUES(");
-        for (const QString& line : statements.split(QStringLiteral(";\n"), Qt::SkipEmptyParts)) {
+        static const QString values = u" VALUES("_s;
+        for (const QString& line : statements.split(u";\n"_s, Qt::SkipEmptyParts)) {
             const QString statement = line.trimmed();
             const qsizetype at = statement.indexOf(values);
             if (at < 0) {
@@ -57,9 +58,8 @@ class ScratchStore {
                 continue;
             }
             const QString head = statement.left(at + values.size());
-            for (const QString& row : statement.mid(head.size()).chopped(1).split(QStringLiteral("),("))) {
+            for (const QString& row : statement.mid(head.size()).chopped(1).split(u"),("_s))
                 gDb->Execute(head + row + u')');
-            }
         }
     }
 
@@ -71,7 +71,7 @@ class ScratchStore {
             QStringList cells;
             for (int i = 0; i < set.FieldCount(); ++i) {
                 const Variant value = set.Fields(i).Value();
-                cells.append(value.IsNull() ? QStringLiteral("-") : CStr(value));
+                cells.append(value.IsNull() ? u"-"_s : CStr(value));
             }
             lines.append(cells.join(u'|'));
         }
@@ -82,7 +82,7 @@ class ScratchStore {
  private:
     static QByteArray makeDelivered() {
         const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("delivered.mdb"));
+        const QString path = folder.filePath(u"delivered.mdb"_s);
         CreateDelivered(path);
         QFile file(path);
         EXPECT_TRUE(file.open(QFile::ReadOnly));

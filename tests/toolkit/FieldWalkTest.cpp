@@ -4,6 +4,7 @@
 
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Label.h"
+#include "platform/runtime/Literals.h"
 #include "support/ScreenTest.h"
 #include "toolkit/EntryForm.h"
 
@@ -13,16 +14,16 @@ namespace {
 /// Four fields, a combo and a button, numbered by hand so that a test can break the numbering.
 class Desk : public EntryForm {
  public:
-    Desk() : EntryForm(u"Desk"_qs, u"机"_qs) {
+    Desk() : EntryForm(u"Desk"_s, u"机"_s) {
         auto* layout = new QVBoxLayout(this);
         for (int i = 0; i < 4; ++i) {
             layout->addWidget(&addBox(ebox, i, ImeMode::NoControl));
             SetTabIndex(&ebox(i), i);
         }
         layout->addWidget(&combo);
-        combo.setObjectName(u"Combo1"_qs);
+        combo.setObjectName(u"Combo1"_s);
         SetTabIndex(&combo, 4);
-        layout->addWidget(&Btn.add(0, new CommandButton(u"保存"_qs)));
+        layout->addWidget(&Btn.add(0, new CommandButton(u"保存"_s)));
         SetTabIndex(&Btn(0), 5);
         layout->addWidget(&label);
         SetTabIndex(&label, 6);
@@ -32,8 +33,8 @@ class Desk : public EntryForm {
         });
     }
 
-    ControlArray<TextBox> ebox{u"ebox"_qs};
-    ControlArray<CommandButton> Btn{u"Btn"_qs};
+    ControlArray<TextBox> ebox{u"ebox"_s};
+    ControlArray<CommandButton> Btn{u"Btn"_s};
     ComboBox& combo = *new ComboBox;
     Label& label = *new Label;
     QList<int> entered;
@@ -52,75 +53,75 @@ class FieldWalk : public ScreenTest {
 };
 
 TEST_F(FieldWalk, GoesRoundInTabOrder) {
-    const QStringList forward = {u"ebox(1)"_qs, u"ebox(2)"_qs, u"ebox(3)"_qs,
-                                 u"Combo1"_qs,  u"Btn(0)"_qs,  u"ebox(0)"_qs};
-    const QStringList back = {u"ebox(0)"_qs, u"ebox(0)"_qs, u"ebox(1)"_qs,
-                              u"ebox(2)"_qs, u"ebox(3)"_qs, u"Combo1"_qs};
+    const QStringList forward = {u"ebox(1)"_s, u"ebox(2)"_s, u"ebox(3)"_s,
+                                 u"Combo1"_s,  u"Btn(0)"_s,  u"ebox(0)"_s};
+    const QStringList back = {u"ebox(0)"_s, u"ebox(0)"_s, u"ebox(1)"_s,
+                              u"ebox(2)"_s, u"ebox(3)"_s, u"Combo1"_s};
     for (int from = 0; from < 6; ++from) {
         EXPECT_EQ(after(NextField, from), forward[from]) << from;
         EXPECT_EQ(after(PrevField, from), back[from]) << from;
     }
-    EXPECT_EQ(after(NextField, 40), u"ebox(0)"_qs);
+    EXPECT_EQ(after(NextField, 40), u"ebox(0)"_s);
 }
 
 TEST_F(FieldWalk, PassesOverInvisibleControls) {
     desk.ebox(1).hide();
     desk.ebox(2).hide();
-    EXPECT_EQ(after(NextField, 0), u"ebox(3)"_qs);
-    EXPECT_EQ(after(PrevField, 3), u"ebox(0)"_qs);
+    EXPECT_EQ(after(NextField, 0), u"ebox(3)"_s);
+    EXPECT_EQ(after(PrevField, 3), u"ebox(0)"_s);
     desk.Btn(0).hide();
-    EXPECT_EQ(after(NextField, 4), u"ebox(0)"_qs);
+    EXPECT_EQ(after(NextField, 4), u"ebox(0)"_s);
 }
 
 TEST_F(FieldWalk, AGapLeadsToTheFirstField) {
     SetTabIndex(&desk.ebox(3), 30);  // nobody holds 3 now, and the label holds 6
-    EXPECT_EQ(after(NextField, 2), u"ebox(0)"_qs);
-    EXPECT_EQ(after(PrevField, 4), u"ebox(0)"_qs);
-    EXPECT_EQ(after(NextField, 5), u"ebox(0)"_qs);
+    EXPECT_EQ(after(NextField, 2), u"ebox(0)"_s);
+    EXPECT_EQ(after(PrevField, 4), u"ebox(0)"_s);
+    EXPECT_EQ(after(NextField, 5), u"ebox(0)"_s);
 }
 
 TEST_F(FieldWalk, AFormWithoutAVisibleFirstFieldDoesNotHang) {
     desk.ebox(0).hide();
     SetFocus(&desk.ebox(1));
-    EXPECT_EQ(after(PrevField, 1), u"ebox(1)"_qs);
+    EXPECT_EQ(after(PrevField, 1), u"ebox(1)"_s);
 }
 
 TEST_F(FieldWalk, KeysWalkAndTypingReplaces) {
-    desk.ebox(1).SetText(u"old"_qs);
+    desk.ebox(1).SetText(u"old"_s);
     FocusSelect(desk.ebox(0));
-    clerk.fill(u"a"_qs);
-    clerk.type(u"new"_qs);
-    EXPECT_EQ(desk.ebox(1).Text(), u"new"_qs);
+    clerk.fill(u"a"_s);
+    clerk.type(u"new"_s);
+    EXPECT_EQ(desk.ebox(1).Text(), u"new"_s);
     clerk.tab();
-    EXPECT_EQ(clerk.focusedName(), u"ebox(2)"_qs);
+    EXPECT_EQ(clerk.focusedName(), u"ebox(2)"_s);
     clerk.shiftTab();
     clerk.up();
-    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_qs);
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_s);
     clerk.shiftTab();
-    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_qs);
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_s);
     clerk.down();
-    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_qs);
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_s);
     EXPECT_EQ(desk.entered, (QList<int>{0, 1})) << "only Enter and Tab ask the field";
 
     desk.mayGoOn = false;
     clerk.enter();
-    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_qs);
+    EXPECT_EQ(clerk.focusedName(), u"ebox(0)"_s);
 }
 
 TEST_F(FieldWalk, LeavingAFieldCutsItsText) {
     for (int i = 0; i < 4; ++i) {
         desk.ebox(i).SetMaxLength(4);
-        desk.ebox(i).SetText(u"あいう"_qs);
+        desk.ebox(i).SetText(u"あいう"_s);
     }
     FocusSelect(desk.ebox(0));
     clerk.enter();
     clerk.up();
-    EXPECT_EQ(desk.ebox(0).Text(), u"あい"_qs);
-    EXPECT_EQ(desk.ebox(1).Text(), u"あい"_qs);
+    EXPECT_EQ(desk.ebox(0).Text(), u"あい"_s);
+    EXPECT_EQ(desk.ebox(1).Text(), u"あい"_s);
     clerk.click(desk.ebox(2));
     clerk.click(desk.ebox(3));
-    EXPECT_EQ(desk.ebox(2).Text(), u"あい"_qs);
-    EXPECT_EQ(desk.ebox(3).Text(), u"あいう"_qs) << "still being typed in";
+    EXPECT_EQ(desk.ebox(2).Text(), u"あい"_s);
+    EXPECT_EQ(desk.ebox(3).Text(), u"あいう"_s) << "still being typed in";
 }
 
 }  // namespace

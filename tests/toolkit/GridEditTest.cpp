@@ -1,6 +1,7 @@
 #include "toolkit/GridEdit.h"
 
 #include "platform/forms/Form.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "support/ScreenTest.h"
 
@@ -9,7 +10,7 @@ namespace {
 
 class Sheet : public Form, public GridForm {
  public:
-    Sheet() : Form(u"Sheet"_qs, u"検針"_qs) {
+    Sheet() : Form(u"Sheet"_s, u"検針"_s) {
         resize(600, 300);
         list.setGeometry(20, 30, 500, 200);
         box.hide();
@@ -33,13 +34,13 @@ class GridEditing : public ScreenTest {
     GridEditing() {
         gGrid = &sheet.list;
         gGridForm = &sheet;
-        GridInit(u"List"_qs);
-        GridAddCol({u"ｺｰﾄﾞ"_qs, u"####"_qs, 1000, u"R"_qs, false, u"T"_qs, 2});
-        GridAddCol({u"得意先"_qs, u"S"_qs, 2000, u"L"_qs, true, u"T"_qs, 4});
-        GridAddCol({u"区分"_qs, u"S"_qs, 1500, u"C"_qs, true, u"C"_qs, 2});
+        GridInit(u"List"_s);
+        GridAddCol({u"ｺｰﾄﾞ"_s, u"####"_s, 1000, u"R"_s, false, u"T"_s, 2});
+        GridAddCol({u"得意先"_s, u"S"_s, 2000, u"L"_s, true, u"T"_s, 4});
+        GridAddCol({u"区分"_s, u"S"_s, 1500, u"C"_s, true, u"C"_s, 2});
         sheet.list.SetRows(3);
         GridApply();
-        sheet.list.SetTextMatrix(1, 1, u"山田"_qs);
+        sheet.list.SetTextMatrix(1, 1, u"山田"_s);
         sheet.Show();
         clerk.settle();
     }
@@ -62,8 +63,8 @@ TEST_F(GridEditing, LaysTheBoxOverTheCell) {
     goTo(1, 1);
     GridEdit();
     EXPECT_EQ(clerk.focused(), &sheet.box);
-    EXPECT_EQ(sheet.box.Text(), u"山田"_qs);
-    EXPECT_EQ(sheet.box.selectedText(), u"山田"_qs);
+    EXPECT_EQ(sheet.box.Text(), u"山田"_s);
+    EXPECT_EQ(sheet.box.selectedText(), u"山田"_s);
     EXPECT_EQ(sheet.box.IMEMode(), ImeMode::Hiragana);
     EXPECT_EQ(sheet.box.font().pixelSize(), 20);
     const QRect cell = sheet.list.CellRect();
@@ -73,7 +74,7 @@ TEST_F(GridEditing, LaysTheBoxOverTheCell) {
 TEST_F(GridEditing, LaysTheComboOverOtherKindsWhateverFillingItRaises) {
     goTo(2, 2);
     GridEdit();
-    EXPECT_EQ(sheet.asked, u"List"_qs);
+    EXPECT_EQ(sheet.asked, u"List"_s);
     EXPECT_EQ(clerk.focused(), &sheet.combo);
     EXPECT_EQ(sheet.combo.width(), sheet.list.CellRect().width());
 }

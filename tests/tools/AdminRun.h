@@ -6,6 +6,7 @@
 #include <QProcess>
 
 #include "admin/Command.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::admin {
 
@@ -15,7 +16,7 @@ struct Outcome {
 };
 
 /// Runs akarix-admin with arguments parted by blanks.
-inline Outcome run(const QString& arguments) {
+inline Outcome RunAdmin(const QString& arguments) {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
     const int code = Run(arguments.split(u' ', Qt::SkipEmptyParts));
@@ -23,22 +24,22 @@ inline Outcome run(const QString& arguments) {
     return {code, out + testing::internal::GetCapturedStderr()};
 }
 
-inline QByteArray contentsOf(const QString& path) {
+inline QByteArray ContentsOf(const QString& path) {
     QFile file(path);
     return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-inline void writeFile(const QString& path, const QByteArray& bytes) {
+inline void WriteFile(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     ASSERT_TRUE(file.open(QFile::WriteOnly));
     ASSERT_EQ(file.write(bytes), bytes.size());
 }
 
 /// Changes one byte of a page of a store file, counted from 1.
-inline void breakPage(const QString& path, int page) {
-    QByteArray bytes = contentsOf(path);
+inline void BreakPage(const QString& path, int page) {
+    QByteArray bytes = ContentsOf(path);
     bytes[(page - 1) * 4096 + 1000] = static_cast<char>(~bytes[(page - 1) * 4096 + 1000]);
-    writeFile(path, bytes);
+    WriteFile(path, bytes);
 }
 
 /// Another process that has a file open while it lives.
@@ -46,7 +47,7 @@ class Holder {
  public:
     explicit Holder(const QString& path) {
         process_.setStandardInputFile(path);
-        process_.start(QStringLiteral("sleep"), {QStringLiteral("60")});
+        process_.start(u"sleep"_s, {u"60"_s});
         EXPECT_TRUE(process_.waitForStarted());
     }
     ~Holder() {

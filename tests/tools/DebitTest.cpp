@@ -14,24 +14,24 @@
 namespace akarix::admin {
 namespace {
 
-QByteArray digits(qint64 number, int width) {
+QByteArray Digits(qint64 number, int width) {
     return QByteArray::number(number).rightJustified(width, '0');
 }
-QByteArray header() {
-    return ("1910" + digits(123, 10) + QByteArray("\xb1\xb6\xd8").leftJustified(40) + "0427" + "0005" +
-            QByteArray(15, ' ') + "001" + QByteArray(15, ' ') + "1" + digits(7, 7))
+QByteArray Header() {
+    return ("1910" + Digits(123, 10) + QByteArray("\xb1\xb6\xd8").leftJustified(40) + "0427" + "0005" +
+            QByteArray(15, ' ') + "001" + QByteArray(15, ' ') + "1" + Digits(7, 7))
         .leftJustified(120);
 }
 QByteArray data(int amount, char result) {
-    return ("20005" + QByteArray(15, ' ') + "001" + QByteArray(15, ' ') + "    1" + digits(7, 7) +
-            QByteArray("\xb1\xb5\xb7").leftJustified(30) + digits(amount, 10) + "0" + digits(77, 20) + result)
+    return ("20005" + QByteArray(15, ' ') + "001" + QByteArray(15, ' ') + "    1" + Digits(7, 7) +
+            QByteArray("\xb1\xb5\xb7").leftJustified(30) + Digits(amount, 10) + "0" + Digits(77, 20) + result)
         .leftJustified(120);
 }
-QByteArray trailer(std::initializer_list<int> totals) {
+QByteArray Trailer(std::initializer_list<int> totals) {
     QByteArray record = "8";
     int width = 6;
     for (const int total : totals) {
-        record += digits(total, width);
+        record += Digits(total, width);
         width = 18 - width;
     }
     return record.leftJustified(120);
@@ -39,15 +39,14 @@ QByteArray trailer(std::initializer_list<int> totals) {
 const QByteArray kEnd = QByteArray("9").leftJustified(120);
 
 /// The departures as "record: text", and the kind of file in front.
-QStringList check(const QList<QByteArray>& records) {
+QStringList Check(const QList<QByteArray>& records) {
     const DebitReport report = CheckDebitFile({records.begin(), records.end()});
     QStringList lines{report.isResult ? "result" : "request"};
-    for (const DebitDeparture& departure : report.departures) {
+    for (const DebitDeparture& departure : report.departures)
         lines += QString::number(departure.record) + ": " + departure.text;
-    }
     return lines;
 }
-std::string joined(const QStringList& lines) {
+std::string Joined(const QStringList& lines) {
     return lines.join("\n").toStdString();
 }
 
@@ -56,41 +55,40 @@ TEST(DebitCheck, Departures) {
         return record.replace(place - 1, bytes.size(), bytes);
     };
     const QByteArray one = data(5, '0');
-    const QByteArray totals = trailer({1, 5, 0, 0, 0, 0});
+    const QByteArray totals = Trailer({1, 5, 0, 0, 0, 0});
     const struct {
         QList<QByteArray> records;
         const char* departure;
     } cases[] = {
         {{one, totals, kEnd}, "1: データレコードの順番ではない"},
-        {{header(), one, kEnd}, "3: エンドレコードの順番ではない"},
-        {{header(), one, totals}, "0: エンドレコードで終わっていない"},
-        {{header(), one.left(100), totals, kEnd}, "2: 長さが 100 バイト（120 バイトのはず）"},
-        {{with(header(), 2, "11"), one, totals, kEnd},
+        {{Header(), one, kEnd}, "3: エンドレコードの順番ではない"},
+        {{Header(), one, totals}, "0: エンドレコードで終わっていない"},
+        {{Header(), one.left(100), totals, kEnd}, "2: 長さが 100 バイト（120 バイトのはず）"},
+        {{with(Header(), 2, "11"), one, totals, kEnd},
          "1: 種別（2-3桁目） 「11」 は定められた値（91、21）にない"},
-        {{with(header(), 55, "0431"), one, totals, kEnd}, "1: 引落日（55-58桁目） 月日ではない: 「0431」"},
-        {{with(header(), 104, "x"), one, totals, kEnd},
+        {{with(Header(), 55, "0431"), one, totals, kEnd}, "1: 引落日（55-58桁目） 月日ではない: 「0431」"},
+        {{with(Header(), 104, "x"), one, totals, kEnd},
          "1: ダミー（104-120桁目） 空白ではない: 「x                」"},
-        {{header(), with(one, 44, "12345 6"), totals, kEnd},
+        {{Header(), with(one, 44, "12345 6"), totals, kEnd},
          "2: 口座番号（44-50桁目） 数字ではない: 「12345 6」"},
-        {{header(), with(one, 39, "12 4"), totals, kEnd},
+        {{Header(), with(one, 39, "12 4"), totals, kEnd},
          "2: 手形交換所（39-42桁目） 数字でも空白でもない: 「12 4」"},
-        {{header(), with(one, 51, "\xa7\xb0\xb1z,\xa6\xde\xdf().-9Z"), totals, kEnd},
+        {{Header(), with(one, 51, "\xa7\xb0\xb1z,\xa6\xde\xdf().-9Z"), totals, kEnd},
          "2: 預金者名（51-80桁目） 使えない文字「ｧｰz,」"},
-        {{header(), with(one, 51, "\x83\x49"), totals, kEnd}, "2: 預金者名（51-80桁目） 使えない文字「オ」"},
-        {{header(), with(one, 51, " \xb1"), totals, kEnd}, "2: 預金者名（51-80桁目） 左詰めではない"},
-        {{header(), with(one, 112, " "), totals, kEnd},
+        {{Header(), with(one, 51, "\x83\x49"), totals, kEnd}, "2: 預金者名（51-80桁目） 使えない文字「オ」"},
+        {{Header(), with(one, 51, " \xb1"), totals, kEnd}, "2: 預金者名（51-80桁目） 左詰めではない"},
+        {{Header(), with(one, 112, " "), totals, kEnd},
          "2: 結果（112桁目） 空白 は定められた値（0、1、2、3、4、8、9）にない"},
-        {{header(), one, trailer({2, 5, 0, 0, 0, 0}), kEnd},
+        {{Header(), one, Trailer({2, 5, 0, 0, 0, 0}), kEnd},
          "3: 合計が 2件 5円、データレコードの合計は 1件 5円"},
-        {{header(), one, trailer({1, 5, 1, 4, 0, 0}), kEnd},
+        {{Header(), one, Trailer({1, 5, 1, 4, 0, 0}), kEnd},
          "3: 振替済が 1件 4円、データレコードの合計は 1件 5円"},
-        {{header(), data(5, '1'), trailer({1, 5, 0, 0, 0, 0}), kEnd},
+        {{Header(), data(5, '1'), Trailer({1, 5, 0, 0, 0, 0}), kEnd},
          "3: 振替不能が 0件 0円、データレコードの合計は 1件 5円"},
     };
-    for (const auto& [records, departure] : cases) {
-        EXPECT_TRUE(check(records).contains(departure)) << departure << " not in\n" << joined(check(records));
-    }
-    EXPECT_EQ(check({"x"}).size(), 4) << "length, kind and end";
+    for (const auto& [records, departure] : cases)
+        EXPECT_TRUE(Check(records).contains(departure)) << departure << " not in\n" << Joined(Check(records));
+    EXPECT_EQ(Check({"x"}).size(), 4) << "length, kind and end";
 }
 
 /// What the program has just written for the bank and for the post office.
@@ -125,12 +123,12 @@ class WrittenRequest : public DebitTest {
 };
 
 TEST_F(WrittenRequest, IsFoundSound) {
-    EXPECT_EQ(joined(check(bank())), "request");
-    EXPECT_EQ(joined(check(post({"  ", "  "}))), "request");
-    EXPECT_EQ(joined(check(post({"05", "20"}))), "request");
+    EXPECT_EQ(Joined(Check(bank())), "request");
+    EXPECT_EQ(Joined(Check(post({"  ", "  "}))), "request");
+    EXPECT_EQ(Joined(Check(post({"05", "20"}))), "request");
     customer("4,'ｴｸﾞﾁ',5,9900,123,1,'99',0", "700");
     EXPECT_EQ(
-        joined(check(post({"05", "20"}))),
+        Joined(Check(post({"05", "20"}))),
         "request\n2: 支店番号が 3 けた以下（123）なので、レコードが 2 行に割れている。得意先 4 の支店を 5 "
         "けたにして作り直す");
     EXPECT_EQ(admin::Run({"debit", "Drive/A/x"}), 1);
@@ -168,7 +166,7 @@ TEST_F(WrittenRequest, ChangedAndComeBack) {
         QList<QByteArray> records = sound;
         for (const auto& [record, place, bytes] : changes)
             records[record - 1].replace(place - 1, bytes.size(), bytes);
-        EXPECT_EQ(joined(check(records)), told) << what;
+        EXPECT_EQ(Joined(Check(records)), told) << what;
     }
 }
 
@@ -197,8 +195,8 @@ TEST(AdminDebit, ShowsAndLeavesTheFileAlone) {
         const int code = admin::Run(QStringList("debit") + arguments);
         return std::pair(code, QString::fromStdString(testing::internal::GetCapturedStdout()));
     };
-    const QByteArray clean = header() + "\r\n" + data(1234, '1') + "\r\n" + data(5, '0') + "\r\n" +
-                             trailer({2, 1239, 1, 5, 1, 1234}) + "\r\n" + kEnd + "\r\n";
+    const QByteArray clean = Header() + "\r\n" + data(1234, '1') + "\r\n" + data(5, '0') + "\r\n" +
+                             Trailer({2, 1239, 1, 5, 1, 1234}) + "\r\n" + kEnd + "\r\n";
     write(clean);
     const auto [code, text] = run({path});
     EXPECT_EQ(code, 0);
@@ -206,9 +204,8 @@ TEST(AdminDebit, ShowsAndLeavesTheFileAlone) {
          {"     55 引落日          0427\n",
           "番号  銀行  支店  種目  口座番号  預金者名  引落金額  新規  顧客番号  結果\n",
           "   2  0005  001   1     0000007   ｱｵｷ           1234  0           77  1 資金不足\n",
-          "結果ファイル: 2件 1239円\n  0 振替済: 1件 5円\n  1 資金不足: 1件 1234円\n様式どおりです。\n"}) {
+          "結果ファイル: 2件 1239円\n  0 振替済: 1件 5円\n  1 資金不足: 1件 1234円\n様式どおりです。\n"})
         EXPECT_TRUE(text.contains(part)) << part << " not in\n" << text.toStdString();
-    }
     QFile file(path);
     ASSERT_TRUE(file.open(QFile::ReadOnly));
     EXPECT_EQ(file.readAll(), clean);

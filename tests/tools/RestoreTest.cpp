@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "platform/forms/SingleInstance.h"
+#include "platform/runtime/Literals.h"
 #include "store/StoreClaim.h"
 #include "support/ScratchStore.h"
 #include "tools/AdminRun.h"
@@ -16,58 +17,56 @@ using testing::Not;
 class Restoring : public testing::Test {
  protected:
     void SetUp() override {
-        QDir().mkpath(QStringLiteral("Drive/D/bk"));
-        writeFile(QStringLiteral("BKPath"), "d:\\bk\r\n");
-        const QByteArray delivered = contentsOf(DatabaseName());
+        QDir().mkpath(u"Drive/D/bk"_s);
+        WriteFile(u"BKPath"_s, "d:\\bk\r\n");
+        const QByteArray delivered = ContentsOf(DatabaseName());
         withRoute(2);
         QFile::copy(DatabaseName(), tuesday_);
         QFile::copy(DatabaseName(), thursday_);
-        breakPage(thursday_, 3);
-        writeFile(DatabaseName(), delivered);
+        BreakPage(thursday_, 3);
+        WriteFile(DatabaseName(), delivered);
         withRoute(1);
-        today_ = contentsOf(DatabaseName());
+        today_ = ContentsOf(DatabaseName());
     }
 
     static void withRoute(int code) {
         OpenDb([](const QString&, const QString&) {});
-        ScratchStore::run(QStringLiteral("INSERT INTO Rte(Code,Namae) VALUES(%1,'本町')").arg(code));
-        ScratchStore::run(QStringLiteral("INSERT INTO Syukei(Nen,Tuki) VALUES(2011,%1)").arg(code));
+        ScratchStore::run(u"INSERT INTO Rte(Code,Namae) VALUES(%1,'本町')"_s.arg(code));
+        ScratchStore::run(u"INSERT INTO Syukei(Nen,Tuki) VALUES(2011,%1)"_s.arg(code));
         CloseDb();
     }
-    static QStringList setAside() {
-        return QDir().entryList({QStringLiteral("Akarix-*")}, QDir::Files, QDir::Name);
-    }
+    static QStringList setAside() { return QDir().entryList({u"Akarix-*"_s}, QDir::Files, QDir::Name); }
 
     const ScratchStore store_{false};
-    const QString tuesday_ = QStringLiteral("Drive/D/bk/Akarix3.MDB");
-    const QString thursday_ = QStringLiteral("Drive/D/bk/Akarix5.MDB");
+    const QString tuesday_ = u"Drive/D/bk/Akarix3.MDB"_s;
+    const QString thursday_ = u"Drive/D/bk/Akarix5.MDB"_s;
     QByteArray today_;
 };
 
 TEST_F(Restoring, TheCopiesAreListedWithTheirState) {
-    const Outcome list = run(QStringLiteral("restore"));
+    const Outcome list = RunAdmin(u"restore"_s);
     EXPECT_EQ(list.code, Done);
     EXPECT_THAT(list.said, AllOf(HasSubstr("3  火"), HasSubstr("2011/02   正常"), HasSubstr("5  木"),
                                  HasSubstr("1 ページが壊れています（3）"), Not(HasSubstr("1  日"))));
-    EXPECT_EQ(run(QStringLiteral("restore --from Drive")).code, Failed);
-    QFile::remove(QStringLiteral("BKPath"));
-    EXPECT_THAT(run(QStringLiteral("restore")).said, HasSubstr("BKPath がありません"));
-    EXPECT_EQ(run(QStringLiteral("restore --from Drive/D/bk")).said, list.said);
+    EXPECT_EQ(RunAdmin(u"restore --from Drive"_s).code, Failed);
+    QFile::remove(u"BKPath"_s);
+    EXPECT_THAT(RunAdmin(u"restore"_s).said, HasSubstr("BKPath がありません"));
+    EXPECT_EQ(RunAdmin(u"restore --from Drive/D/bk"_s).said, list.said);
 }
 
 TEST_F(Restoring, ACopyTakesThePlaceAndThePresentFileStaysBeside) {
-    writeFile(QStringLiteral("Akarix.MDB-journal"), "left by a dead program");
-    const Outcome restored = run(QStringLiteral("restore 3"));
+    WriteFile(u"Akarix.MDB-journal"_s, "left by a dead program");
+    const Outcome restored = RunAdmin(u"restore 3"_s);
     EXPECT_EQ(restored.code, Done) << restored.said;
-    EXPECT_EQ(contentsOf(DatabaseName()), contentsOf(tuesday_));
+    EXPECT_EQ(ContentsOf(DatabaseName()), ContentsOf(tuesday_));
     const QStringList aside = setAside();
     ASSERT_EQ(aside.size(), 2);
-    EXPECT_EQ(contentsOf(aside[0]), today_);
-    EXPECT_EQ(aside[1], aside[0] + QStringLiteral("-journal"));
-    EXPECT_FALSE(QFile::exists(QStringLiteral("Akarix.MDB-journal"))) << "it would be played into the copy";
+    EXPECT_EQ(ContentsOf(aside[0]), today_);
+    EXPECT_EQ(aside[1], aside[0] + u"-journal"_s);
+    EXPECT_FALSE(QFile::exists(u"Akarix.MDB-journal"_s)) << "it would be played into the copy";
     EXPECT_THAT(restored.said, HasSubstr(aside[0].toStdString()));
 
-    EXPECT_EQ(run(QStringLiteral("restore 3")).code, Done);
+    EXPECT_EQ(RunAdmin(u"restore 3"_s).code, Done);
     EXPECT_EQ(setAside().size(), 3) << "a second one within the second has a name of its own";
 }
 
@@ -82,25 +81,25 @@ TEST_F(Restoring, WhatMustNotBeDoneIsRefused) {
         {"restore tuesday", WrongUse, "--help"},
     };
     for (const auto& [arguments, code, says] : cases) {
-        const Outcome outcome = run(QString::fromLatin1(arguments));
+        const Outcome outcome = RunAdmin(QString::fromLatin1(arguments));
         EXPECT_EQ(outcome.code, code) << arguments;
         EXPECT_THAT(outcome.said, HasSubstr(says));
     }
     {
         const Holder program(DatabaseName());
-        const Outcome outcome = run(QStringLiteral("restore 3 --force"));
+        const Outcome outcome = RunAdmin(u"restore 3 --force"_s);
         EXPECT_EQ(outcome.code, Failed);
         EXPECT_THAT(outcome.said, HasSubstr("使用中です: sleep"));
     }
-    EXPECT_EQ(contentsOf(DatabaseName()), today_);
+    EXPECT_EQ(ContentsOf(DatabaseName()), today_);
     EXPECT_TRUE(setAside().isEmpty());
 
-    EXPECT_EQ(run(QStringLiteral("restore 5 --force")).code, Done);
-    EXPECT_EQ(contentsOf(DatabaseName()), contentsOf(thursday_));
+    EXPECT_EQ(RunAdmin(u"restore 5 --force"_s).code, Done);
+    EXPECT_EQ(ContentsOf(DatabaseName()), ContentsOf(thursday_));
 }
 
 TEST_F(Restoring, AFileInUseIsNotMadeAnew) {
-    const auto refused = [] { return run(QStringLiteral("create --force")).said; };
+    const auto refused = [] { return RunAdmin(u"create --force"_s).said; };
     {
         const Holder program(DatabaseName());
         EXPECT_THAT(refused(), HasSubstr("使用中です"));
@@ -115,18 +114,17 @@ TEST_F(Restoring, AFileInUseIsNotMadeAnew) {
         SingleInstance::KeepIn(guards.path());
         const SingleInstance here;
         EXPECT_THAT(refused(), HasSubstr("Akarix が動いています"));
-        EXPECT_EQ(run(QStringLiteral("create other.mdb")).code, Done)
-            << "the file is guarded, not the machine";
+        EXPECT_EQ(RunAdmin(u"create other.mdb"_s).code, Done) << "the file is guarded, not the machine";
     }
     SingleInstance::KeepIn({});
-    EXPECT_EQ(contentsOf(DatabaseName()), today_);
+    EXPECT_EQ(ContentsOf(DatabaseName()), today_);
 }
 
 TEST_F(Restoring, WhatADeadOneLeftDoesNotStandInTheWay) {
-    const QString name = QStringLiteral("9999999\nakarix-admin\n%1\n").arg(QSysInfo::machineHostName());
-    writeFile(QStringLiteral("Akarix.MDB.lock"), name.toUtf8());
-    EXPECT_EQ(run(QStringLiteral("restore 3")).code, Done);
-    EXPECT_FALSE(QFile::exists(QStringLiteral("Akarix.MDB.lock")));
+    const QString name = u"9999999\nakarix-admin\n%1\n"_s.arg(QSysInfo::machineHostName());
+    WriteFile(u"Akarix.MDB.lock"_s, name.toUtf8());
+    EXPECT_EQ(RunAdmin(u"restore 3"_s).code, Done);
+    EXPECT_FALSE(QFile::exists(u"Akarix.MDB.lock"_s));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "ledger/ChargeCheck.h"
 #include "ledger/LedgerCheck.h"
 #include "ledger/LedgerProof.h"
+#include "platform/runtime/Literals.h"
 #include "store/Lookup.h"
 #include "store/Tables.h"
 #include "support/ScratchStore.h"
@@ -12,14 +13,15 @@
 namespace akarix {
 namespace {
 
-void fill(int customers, int months) {
-    sample::FillSampleDealer({customers, months, 2011, 3}, [](const QString&) {});
+void Fill(int customers, int months) {
+    sample::FillSampleDealer(
+        {customers, months, 2011, 3}, [](const QString&) {});
 }
 
-QByteArray contentsOfEveryTable() {
+QByteArray ContentsOfEveryTable() {
     QCryptographicHash hash(QCryptographicHash::Sha256);
     for (const TableDef& table : Tables()) {
-        QStringList rows = ScratchStore::rows(QStringLiteral("SELECT * FROM ") + table.name);
+        QStringList rows = ScratchStore::rows(u"SELECT * FROM "_s + table.name);
         rows.sort();
         hash.addData((table.name + rows.join(u'\n')).toUtf8());
     }
@@ -30,33 +32,30 @@ TEST(SampleDealer, TheSameWishGivesTheSameRows) {
     QByteArray first;
     {
         const ScratchStore store;
-        fill(60, 3);
-        first = contentsOfEveryTable();
+        Fill(60, 3);
+        first = ContentsOfEveryTable();
     }
     const ScratchStore store;
-    fill(60, 3);
-    EXPECT_EQ(contentsOfEveryTable(), first);
+    Fill(60, 3);
+    EXPECT_EQ(ContentsOfEveryTable(), first);
 }
 
 TEST(SampleDealer, TheSecondOpinionAgreesAndSeesOneYen) {
     const ScratchStore store;
-    fill(120, 4);
-    EXPECT_EQ(ScratchStore::rows(QStringLiteral("SELECT COUNT(*) AS n FROM TtoD")).value(0),
-              QStringLiteral("480"));
+    Fill(120, 4);
+    EXPECT_EQ(ScratchStore::rows(u"SELECT COUNT(*) AS n FROM TtoD"_s).value(0), u"480"_s);
     for (int month : {12, 1, 2, 3}) {
         const int year = month == 12 ? 2010 : 2011;
-        for (const auto& differences :
-             {CheckLedgerMonth(*gDb, year, month), CheckCharges(*gDb, year, month)}) {
-            EXPECT_TRUE(differences.empty()) << describe(differences.front()).toStdString();
-        }
+        for (const auto& differences : {CheckLedgerMonth(*gDb, year, month), CheckCharges(*gDb, year, month)})
+            EXPECT_TRUE(differences.empty()) << Describe(differences.front()).toStdString();
     }
     EXPECT_TRUE(ProveLedger(*gDb, [](int, int) {}).findings.empty());
 
-    gDb->Execute(QStringLiteral("DELETE FROM TtoD WHERE Deal=11 AND Nendo=2011 AND Getudo=3"));
+    gDb->Execute(u"DELETE FROM TtoD WHERE Deal=11 AND Nendo=2011 AND Getudo=3"_s);
     const auto differences = CheckLedgerMonth(*gDb, 2011, 3);
     ASSERT_EQ(differences.size(), 1u);
-    EXPECT_EQ(differences[0].column, QStringLiteral("行"));
-    gDb->Execute(QStringLiteral("UPDATE Dgd SET Gaku=Gaku+1 WHERE Deal=7 AND Nendo=2011 AND Getudo=3"));
+    EXPECT_EQ(differences[0].column, u"行"_s);
+    gDb->Execute(u"UPDATE Dgd SET Gaku=Gaku+1 WHERE Deal=7 AND Nendo=2011 AND Getudo=3"_s);
     ASSERT_EQ(CheckCharges(*gDb, 2011, 3).size(), 1u);
     EXPECT_EQ(CheckCharges(*gDb, 2011, 3).front().found - CheckCharges(*gDb, 2011, 3).front().expected,
               10000);
@@ -64,7 +63,7 @@ TEST(SampleDealer, TheSecondOpinionAgreesAndSeesOneYen) {
 
 TEST(SampleDealer, HasWhatADealerHas) {
     const ScratchStore store;
-    fill(300, 3);
+    Fill(300, 3);
     // Each question must find something, or the screens would have nothing to show.
     for (const char16_t* question :
          {u"SELECT * FROM Deal WHERE Bnk=9900 AND Stn>10000", u"SELECT * FROM Deal WHERE NoSeikyu=1",
@@ -79,8 +78,8 @@ TEST(SampleDealer, HasWhatADealerHas) {
         EXPECT_FALSE(ScratchStore::rows(QString::fromUtf16(question)).isEmpty())
             << QString::fromUtf16(question).toStdString();
     }
-    EXPECT_TRUE(ScratchStore::rows(QStringLiteral("SELECT * FROM Dgd WHERE Suu>0 AND Gaku=0")).isEmpty());
-    for (const QString& customer : ScratchStore::rows(QStringLiteral("SELECT Yubin,Addr1 FROM Deal"))) {
+    EXPECT_TRUE(ScratchStore::rows(u"SELECT * FROM Dgd WHERE Suu>0 AND Gaku=0"_s).isEmpty());
+    for (const QString& customer : ScratchStore::rows(u"SELECT Yubin,Addr1 FROM Deal"_s)) {
         const QString town = AddressOfZip(customer.section(u'|', 0, 0));
         EXPECT_TRUE(!town.isEmpty() && customer.section(u'|', 1).startsWith(town)) << customer.toStdString();
     }

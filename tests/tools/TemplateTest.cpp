@@ -3,13 +3,14 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "platform/runtime/Literals.h"
 #include "tools/AdminRun.h"
 
 namespace akarix::admin {
 namespace {
 
 /// Changes words in a part of a workbook.
-void change(const QString& path, const char* part, const QByteArray& from, const QByteArray& to) {
+void Change(const QString& path, const char* part, const QByteArray& from, const QByteArray& to) {
     zip_t* archive = zip_open(path.toUtf8().constData(), 0, nullptr);
     ASSERT_NE(archive, nullptr);
     const auto index = static_cast<zip_uint64_t>(zip_name_locate(archive, part, 0));
@@ -27,12 +28,12 @@ void change(const QString& path, const char* part, const QByteArray& from, const
     ASSERT_EQ(zip_close(archive), 0);
 }
 
-const QString prt = QStringLiteral(AKARIX_SOURCE_DIR "/Prt/");
+const QString kPrt = QStringLiteral(AKARIX_SOURCE_DIR "/Prt/");
 
 TEST(Template, DeliveredOnesAreSound) {
-    const QStringList names = QDir(prt).entryList({QStringLiteral("*.xlsx")});
+    const QStringList names = QDir(kPrt).entryList({u"*.xlsx"_s});
     ASSERT_EQ(names.size(), 7);
-    const Outcome outcome = run(QStringLiteral("template ") + prt + names.join(u' ' + prt));
+    const Outcome outcome = RunAdmin(u"template "_s + kPrt + names.join(u' ' + kPrt));
     EXPECT_EQ(outcome.code, 0) << outcome.said;
 }
 
@@ -65,15 +66,15 @@ TEST(Template, EachWayToSpoilOneIsTold) {
     for (const auto& c : cases) {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QString(c.report) + ".xlsx");
-        ASSERT_TRUE(QFile::copy(prt + c.report + ".xlsx", path));
-        change(path, c.part, c.from, c.to);
-        const Outcome outcome = run("template " + path);
+        ASSERT_TRUE(QFile::copy(kPrt + c.report + ".xlsx", path));
+        Change(path, c.part, c.from, c.to);
+        const Outcome outcome = RunAdmin("template " + path);
         EXPECT_EQ(outcome.code, c.code) << c.said;
         EXPECT_NE(outcome.said.find(c.said), std::string::npos) << c.said << " in " << outcome.said;
     }
-    EXPECT_EQ(run("template 知らない.xlsx").code, 2);
-    EXPECT_EQ(run("template 無い/請求書.xlsx").code, 2);
-    EXPECT_EQ(run("template").code, 2);
+    EXPECT_EQ(RunAdmin("template 知らない.xlsx").code, 2);
+    EXPECT_EQ(RunAdmin("template 無い/請求書.xlsx").code, 2);
+    EXPECT_EQ(RunAdmin("template").code, 2);
 }
 
 }  // namespace

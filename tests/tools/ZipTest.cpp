@@ -3,6 +3,7 @@
 
 #include "admin/PostalPlace.h"
 #include "platform/runtime/CodePage932.h"
+#include "platform/runtime/Literals.h"
 #include "store/Lookup.h"
 #include "support/ScratchStore.h"
 #include "tools/AdminRun.h"
@@ -12,9 +13,8 @@ namespace {
 
 using testing::HasSubstr;
 
-QString line(const char* code, const char* city, const char* town) {
-    return QStringLiteral(
-               "13101,\"100  \",\"%1\",\"ﾄｳｷﾖｳﾄ\",\"ﾁﾖﾀﾞｸ\",\"ﾁﾖﾀﾞ\",\"緑県\",\"%2\",\"%3\",0,0,0,0,0,0\r\n")
+QString Line(const char* code, const char* city, const char* town) {
+    return u"13101,\"100  \",\"%1\",\"ﾄｳｷﾖｳﾄ\",\"ﾁﾖﾀﾞｸ\",\"ﾁﾖﾀﾞ\",\"緑県\",\"%2\",\"%3\",0,0,0,0,0,0\r\n"_s
         .arg(QString::fromUtf8(code), QString::fromUtf8(city), QString::fromUtf8(town));
 }
 
@@ -43,37 +43,37 @@ TEST(PostalPlaces, LoseWhatIsNoAddress) {
     for (const auto& [city, town, address] : cases) {
         const bool isParted = city[0] != '-';
         const PostalPlace place =
-            asAddress({{}, isParted ? QString::fromUtf8(city) : QString(), QString::fromUtf8(town)});
+            AsAddress({{}, isParted ? QString::fromUtf8(city) : QString(), QString::fromUtf8(town)});
         EXPECT_EQ(place.address().toStdString(), address) << town;
     }
 }
 
 TEST(Zip, TheOperatorsTableReachesTheScreens) {
     const ScratchStore store(false);
-    writeFile(
-        QStringLiteral("ken.csv"),
-        ToCodePage932(line("0010000", "緑川市", "以下に掲載がない場合") + line("0010001", "緑川市", "下町") +
-                      line("0010001", "緑川市", "下町屋") + line("0010002", "緑川市", "山手（１～３丁目、") +
-                      line("0010002", "緑川市", "５丁目）") + line("0010003", "緑川市", "髙木町①") +
-                      line("0010003", "赤川村", "大口")));
-    const Outcome imported = run(QStringLiteral("zip ken.csv"));
+    WriteFile(
+        u"ken.csv"_s,
+        ToCodePage932(Line("0010000", "緑川市", "以下に掲載がない場合") + Line("0010001", "緑川市", "下町") +
+                      Line("0010001", "緑川市", "下町屋") + Line("0010002", "緑川市", "山手（１～３丁目、") +
+                      Line("0010002", "緑川市", "５丁目）") + Line("0010003", "緑川市", "髙木町①") +
+                      Line("0010003", "赤川村", "大口")));
+    const Outcome imported = RunAdmin(u"zip ken.csv"_s);
     EXPECT_EQ(imported.code, Done) << imported.said;
     OpenDb([](const QString&, const QString&) {});
-    EXPECT_EQ(AddressOfZip(QStringLiteral("001-0000")), QStringLiteral("緑県緑川市"));
-    EXPECT_EQ(AddressOfZip(QStringLiteral("0010001")), QStringLiteral("緑県緑川市"));
-    EXPECT_EQ(AddressOfZip(QStringLiteral("0010002")), QStringLiteral("緑県緑川市山手"));
-    EXPECT_EQ(AddressOfZip(QStringLiteral("0010003")), QStringLiteral("緑県"));
+    EXPECT_EQ(AddressOfZip(u"001-0000"_s), u"緑県緑川市"_s);
+    EXPECT_EQ(AddressOfZip(u"0010001"_s), u"緑県緑川市"_s);
+    EXPECT_EQ(AddressOfZip(u"0010002"_s), u"緑県緑川市山手"_s);
+    EXPECT_EQ(AddressOfZip(u"0010003"_s), u"緑県"_s);
 }
 
-QByteArray zipped(const QByteArray& bytes) {
-    const QString path = QStringLiteral("made.zip");
+QByteArray Zipped(const QByteArray& bytes) {
+    const QString path = u"made.zip"_s;
     int error = 0;
     zip_t* archive = zip_open(path.toUtf8().constData(), ZIP_CREATE | ZIP_TRUNCATE, &error);
     zip_source_t* source =
         zip_source_buffer(archive, bytes.constData(), static_cast<zip_uint64_t>(bytes.size()), 0);
     EXPECT_GE(zip_file_add(archive, "KEN_ALL.CSV", source, 0), 0);
     EXPECT_EQ(zip_close(archive), 0);
-    return contentsOf(path);
+    return ContentsOf(path);
 }
 
 TEST(Zip, EveryFormIsReadAndALaterOneReplacesTheEarlier) {
@@ -82,32 +82,31 @@ TEST(Zip, EveryFormIsReadAndALaterOneReplacesTheEarlier) {
         QByteArray bytes;
         const char* rows;  // of Zip7; nothing: refused, what was there stays
     } const cases[] = {
-        {line("1000001", "緑川市", "本町").toUtf8(), "1000001|緑県緑川市本町"},
-        {zipped(ToCodePage932(line("0000002", "緑川市", "髙木"))), "2|緑県緑川市髙木"},
+        {Line("1000001", "緑川市", "本町").toUtf8(), "1000001|緑県緑川市本町"},
+        {Zipped(ToCodePage932(Line("0000002", "緑川市", "髙木"))), "2|緑県緑川市髙木"},
         {QByteArray(R"({"1000003":{"緑県":["緑川市海岸（１丁目）","緑川市海岸（２丁目）"]},)"
                     R"("1000004":{"緑県":["緑川市東"],"赤県":["赤川村西"]}})"),
          "1000003|緑県緑川市海岸"},
-        {line("1000001", "緑川市", "本町").toUtf8() + "1,2,3\r\n", nullptr},
-        {line("10000", "緑川市", "本町").toUtf8(), nullptr},
+        {Line("1000001", "緑川市", "本町").toUtf8() + "1,2,3\r\n", nullptr},
+        {Line("10000", "緑川市", "本町").toUtf8(), nullptr},
         {R"({"1000003":"緑川市"})", nullptr},
         {R"({"1000003":{)", nullptr},
-        {zipped("PK"), nullptr},
+        {Zipped("PK"), nullptr},
         {"", nullptr},
     };
     std::string before;
     for (const auto& [bytes, rows] : cases) {
-        writeFile(QStringLiteral("list"), bytes);
-        EXPECT_EQ(run(QStringLiteral("zip list")).code, rows != nullptr ? Done : Failed) << bytes.constData();
+        WriteFile(u"list"_s, bytes);
+        EXPECT_EQ(RunAdmin(u"zip list"_s).code, rows != nullptr ? Done : Failed) << bytes.constData();
         OpenDb([](const QString&, const QString&) {});
-        const std::string now =
-            ScratchStore::rows(QStringLiteral("SELECT Code,Addr FROM Zip7")).join(u'\n').toStdString();
+        const std::string now = ScratchStore::rows(u"SELECT Code,Addr FROM Zip7"_s).join(u'\n').toStdString();
         EXPECT_EQ(now, rows != nullptr ? rows : before);
         before = now;
         CloseDb();
     }
-    writeFile(QStringLiteral("list"), line("1000001", "緑川市", "本町").toUtf8());
+    WriteFile(u"list"_s, Line("1000001", "緑川市", "本町").toUtf8());
     const Holder program(DatabaseName());
-    EXPECT_THAT(run(QStringLiteral("zip list")).said, HasSubstr("使用中です"));
+    EXPECT_THAT(RunAdmin(u"zip list"_s).said, HasSubstr("使用中です"));
 }
 
 }  // namespace

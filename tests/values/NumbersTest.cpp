@@ -21,7 +21,7 @@ TEST(NumVal, FiltersBeforeReading) {
 
 /// The number a conversion raises, 0 when it gives a value.
 template <class Convert>
-int errorOf(Convert convert) {
+int ErrorOf(Convert convert) {
     try {
         convert();
     } catch (const RuntimeError& error) {
@@ -32,9 +32,9 @@ int errorOf(Convert convert) {
 
 TEST(NumVal, ConversionsRaiseOnTextAsItStands) {
     for (const auto& [cells, line] : ReadTable(kTyped, "errors")) {
-        EXPECT_EQ(errorOf([&] { ToInteger(cells[0]); }), cells[1].toInt()) << line;
-        EXPECT_EQ(errorOf([&] { ToLong(cells[0]); }), cells[2].toInt()) << line;
-        EXPECT_EQ(errorOf([&] { ToCurrency(cells[0]); }), cells[3].toInt()) << line;
+        EXPECT_EQ(ErrorOf([&] { ToInteger(cells[0]); }), cells[1].toInt()) << line;
+        EXPECT_EQ(ErrorOf([&] { ToLong(cells[0]); }), cells[2].toInt()) << line;
+        EXPECT_EQ(ErrorOf([&] { ToCurrency(cells[0]); }), cells[3].toInt()) << line;
     }
     EXPECT_EQ(ToInteger("1,200"), 1200);
     EXPECT_EQ(ToLong("70000"), 70000);

@@ -6,9 +6,8 @@ namespace akarix {
 namespace {
 
 TEST(Text, CutsByBytesAndLosesASplitCharacter) {
-    for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/cut.txt")) {
+    for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/cut.txt"))
         EXPECT_EQ(CutBytes(cells[0], cells[1].toInt()), cells.value(2)) << line;
-    }
 }
 
 TEST(Text, NullAndBlank) {

@@ -10,7 +10,8 @@
 #include "admin/MonthArgument.h"
 #include "admin/ReadStore.h"
 #include "admin/Terminal.h"
-#include "platform/jet/Database.h"
+#include "platform/dao/Database.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
@@ -22,7 +23,7 @@ namespace {
 
 enum Finding { Clean = 0, Found = 1, Unreadable = 2 };
 
-const char* const helpText =
+const char* const kHelpText =
     "使い方: akarix-admin check [ファイル] [--since 年/月]\n\n"
     "データベース（既定 Akarix.MDB）を調べます。中身は変えません。\n"
     "  1. ファイルをページごとに確かめます。\n"
@@ -39,88 +40,82 @@ const char* const helpText =
     "得意先だけを示します。\n"
     "終了コード: 0 異常なし、1 見つかったものがある、2 読めない（または使い方の誤り）\n";
 
-CustomerNames readNames(Database& db) {
+CustomerNames ReadNames(Database& db) {
     CustomerNames names;
-    Recordset customers = db.OpenRecordset(QStringLiteral("SELECT Code,Namae FROM Deal"));
-    for (; !customers.Eof(); customers.MoveNext()) {
-        names[longOf(customers[QStringLiteral("Code")])] = NullToEmpty(customers[QStringLiteral("Namae")]);
-    }
+    Recordset customers = db.OpenRecordset(u"SELECT Code,Namae FROM Deal"_s);
+    for (; !customers.Eof(); customers.MoveNext())
+        names[LongOf(customers[u"Code"_s])] = NullToEmpty(customers[u"Namae"_s]);
     return names;
 }
 
-int checkFigures(const QString& path, int since) {
+int CheckFigures(const QString& path, int since) {
     const ReadStore store(path);
-    const CustomerNames names = readNames(store.db());
+    const CustomerNames names = ReadNames(store.db());
     LedgerProof proof;
     {
         ProgressLine line;
-        proof = ProveLedger(store.db(), [&line](int nendo, int getudo) {
-            line.show(QStringLiteral("%1年%2月").arg(nendo).arg(getudo));
-        });
+        proof = ProveLedger(
+            store.db(), [&line](int nendo, int getudo) { line.show(u"%1年%2月"_s.arg(nendo).arg(getudo)); });
     }
     std::erase_if(proof.findings, [since](const LedgerFinding& finding) {
         return finding.difference.nendo * 100 + finding.difference.getudo < since;
     });
-    tell(ledgerReport(proof, names));
+    Tell(LedgerReport(proof, names));
 
     const std::vector<LeaseFinding> leases = CheckLeases(store.db(), since);
-    tell(leaseReport(leases, names));
+    Tell(LeaseReport(leases, names));
 
     const int from = since != 0 ? since : LastYearOfReadings(store.db());
     const auto doubtful = from != 0 ? CheckReadings(store.db(), from) : std::vector<DoubtfulReading>();
-    tell(readingReport(doubtful, from, names));
+    Tell(ReadingReport(doubtful, from, names));
 
     const bool isRight = std::all_of(proof.findings.begin(), proof.findings.end(),
                                      [](const LedgerFinding& f) { return f.cause == Cause::HandSet; });
     return isRight && leases.empty() && doubtful.empty() ? Clean : Found;
 }
 
-int checkFile(const QString& path, int since) {
-    const QString holder = holderOf(path);
-    if (!holder.isEmpty()) {
-        tell(holder + QStringLiteral("\n  仕事の途中なら、台帳が合わないように見えることがあります。\n"));
-    }
-    const FileState state = stateOf(path);
-    tell(path + QStringLiteral(": ") +
-         (state.sound() ? QStringLiteral("%1 ページ、すべて正常").arg(state.check.pages) : state.faults) +
+int CheckFile(const QString& path, int since) {
+    const QString holder = HolderOf(path);
+    if (!holder.isEmpty())
+        Tell(holder + u"\n  仕事の途中なら、台帳が合わないように見えることがあります。\n"_s);
+    const FileState state = StateOf(path);
+    Tell(path + u": "_s + (state.sound() ? u"%1 ページ、すべて正常"_s.arg(state.check.pages) : state.faults) +
          u'\n');
     if (!state.check.opens) {
-        tell(QStringLiteral(
-            "  台帳は調べられません。控えから戻すには akarix-admin restore。Akarix を起動すると、\n"
-            "  読めるページだけで作り直します。\n"));
+        Tell(
+            u"  台帳は調べられません。控えから戻すには akarix-admin restore。Akarix を起動すると、\n"
+            "  読めるページだけで作り直します。\n"_s);
         return Unreadable;
     }
-    return std::max<int>(checkFigures(path, since), state.sound() ? Clean : Found);
+    return std::max<int>(CheckFigures(path, since), state.sound() ? Clean : Found);
 }
 
-int check(const QStringList& arguments) {
+int Check(const QStringList& arguments) {
     QCommandLineParser parser;
-    parser.addOption(QCommandLineOption(QStringLiteral("since"), QString(), QStringLiteral("month")));
+    parser.addOption(QCommandLineOption(u"since"_s, QString(), u"month"_s));
     const bool understood = parser.parse(QStringList(QString()) + arguments);
-    const auto since = readMonth(parser.value(QStringLiteral("since")));
-    if (!understood || parser.positionalArguments().size() > 1 ||
-        (parser.isSet(QStringLiteral("since")) && !since)) {
-        tellWrongUse(QStringLiteral("check"));
+    const auto since = ReadMonth(parser.value(u"since"_s));
+    if (!understood || parser.positionalArguments().size() > 1 || (parser.isSet(u"since"_s) && !since)) {
+        TellWrongUse(u"check"_s);
         return WrongUse;
     }
     const QString path = parser.positionalArguments().value(0, DatabaseName());
     if (!QFileInfo(path).isFile()) {
-        tellError(QStringLiteral("ファイルがありません: %1\n").arg(path));
+        TellError(u"ファイルがありません: %1\n"_s.arg(path));
         return Unreadable;
     }
     try {
-        return checkFile(path, since ? since->number() : 0);
+        return CheckFile(path, since ? since->number() : 0);
     } catch (const RuntimeError& error) {
-        tellError(QStringLiteral("エラー %1: %2\n").arg(error.number()).arg(error.description()));
+        TellError(u"エラー %1: %2\n"_s.arg(error.number()).arg(error.description()));
         return Unreadable;
     }
 }
 
 }  // namespace
 
-Command checkCommand() {
-    return {QStringLiteral("check"), QStringLiteral("ファイルと台帳を調べる"), QString::fromUtf8(helpText),
-            check};
+Command CheckCommand() {
+    return {u"check"_s, u"ファイルと台帳を調べる"_s, QString::fromUtf8(kHelpText), Check};
 }
 
 }  // namespace akarix::admin

@@ -4,6 +4,6 @@
 
 namespace akarix::admin {
 
-Command checkCommand();
+Command CheckCommand();
 
 }  // namespace akarix::admin

@@ -13,9 +13,9 @@ namespace akarix::admin {
 using CustomerNames = std::map<std::int32_t, QString>;
 
 /// What a dealer reads of the checks: a line of sums, and a table of what was found.
-QString ledgerReport(const LedgerProof& proof, const CustomerNames& names);
-QString leaseReport(const std::vector<LeaseFinding>& findings, const CustomerNames& names);
-QString readingReport(const std::vector<DoubtfulReading>& doubtful, int fromMonth,
+QString LedgerReport(const LedgerProof& proof, const CustomerNames& names);
+QString LeaseReport(const std::vector<LeaseFinding>& findings, const CustomerNames& names);
+QString ReadingReport(const std::vector<DoubtfulReading>& doubtful, int fromMonth,
                       const CustomerNames& names);
 
 }  // namespace akarix::admin

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/runtime/CodePage932.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::admin {
 
@@ -32,7 +33,7 @@ QString Columns::text() const {
         QString text;
         for (qsizetype i = 0; i < cells.size(); ++i) {
             const QString blanks(widths[i] - ByteLength932(cells[i]), u' ');
-            text += QStringLiteral("  ") + (right_[i] ? blanks + cells[i] : cells[i] + blanks);
+            text += u"  "_s + (right_[i] ? blanks + cells[i] : cells[i] + blanks);
         }
         while (text.endsWith(u' '))
             text.chop(1);

@@ -8,66 +8,65 @@
 #include "admin/Template.h"
 #include "admin/Terminal.h"
 #include "admin/Zip.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix::admin {
 
 namespace {
 
-QString overview() {
-    QString text = QStringLiteral(
-        "akarix-admin - データベースの作成と手入れ\n\n"
-        "使い方: akarix-admin コマンド [引数]\n\n");
-    for (const Command& command : Commands()) {
-        text += QStringLiteral("  %1 %2\n").arg(command.name.leftJustified(8), command.summary);
-    }
-    return text + QStringLiteral(
-                      "\nコマンドの説明: akarix-admin コマンド --help\n"
-                      "終了コード: 0 正常、1 失敗、2 使い方の誤り。check、debit、template は 1 "
-                      "見つかったものがある、2 読めない\n");
+QString Overview() {
+    QString text =
+        u"akarix-admin - データベースの作成と手入れ\n\n"
+        "使い方: akarix-admin コマンド [引数]\n\n"_s;
+    for (const Command& command : Commands())
+        text += u"  %1 %2\n"_s.arg(command.name.leftJustified(8), command.summary);
+    return text +
+           u"\nコマンドの説明: akarix-admin コマンド --help\n"
+           "終了コード: 0 正常、1 失敗、2 使い方の誤り。check、debit、template は 1 "
+           "見つかったものがある、2 読めない\n"_s;
 }
 
-const Command* findCommand(const QString& name) {
-    for (const Command& command : Commands()) {
+const Command* FindCommand(const QString& name) {
+    for (const Command& command : Commands())
         if (command.name == name) return &command;
-    }
     return nullptr;
 }
 
-bool asksForHelp(const QStringList& arguments) {
-    return arguments.contains(QStringLiteral("--help")) || arguments.contains(QStringLiteral("-h"));
+bool AsksForHelp(const QStringList& arguments) {
+    return arguments.contains(u"--help"_s) || arguments.contains(u"-h"_s);
 }
 
 }  // namespace
 
 std::span<const Command> Commands() {
-    static const Command commands[] = {createCommand(), sampleCommand(), checkCommand(),   restoreCommand(),
-                                       zipCommand(),    debitCommand(),  templateCommand()};
+    static const Command commands[] = {CreateCommand(), SampleCommand(), CheckCommand(),   RestoreCommand(),
+                                       ZipCommand(),    DebitCommand(),  TemplateCommand()};
     return commands;
 }
 
 int Run(const QStringList& arguments) {
     if (arguments.isEmpty()) {
-        tellError(overview());
+        TellError(Overview());
         return WrongUse;
     }
-    const Command* command = findCommand(arguments.first());
+    const Command* command = FindCommand(arguments.first());
     if (command == nullptr) {
-        if (asksForHelp(arguments.first(1))) {
-            tell(overview());
+        if (AsksForHelp(arguments.first(1))) {
+            Tell(Overview());
             return Done;
         }
-        tellError(QStringLiteral("知らないコマンドです: %1\n\n").arg(arguments.first()) + overview());
+        TellError(u"知らないコマンドです: %1\n\n"_s.arg(arguments.first()) + Overview());
         return WrongUse;
     }
-    if (asksForHelp(arguments)) {
-        tell(command->help);
+    if (AsksForHelp(arguments)) {
+        Tell(command->help);
         return Done;
     }
     try {
         return command->run(arguments.mid(1));
     } catch (const RuntimeError& error) {
-        tellError(QStringLiteral("エラー %1: %2\n").arg(error.number()).arg(error.description()));
+        TellError(u"エラー %1: %2\n"_s.arg(error.number()).arg(error.description()));
         return Failed;
     }
 }

@@ -4,6 +4,6 @@
 
 namespace akarix::admin {
 
-Command createCommand();
+Command CreateCommand();
 
 }  // namespace akarix::admin

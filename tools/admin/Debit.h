@@ -4,6 +4,6 @@
 
 namespace akarix::admin {
 
-Command debitCommand();
+Command DebitCommand();
 
 }  // namespace akarix::admin

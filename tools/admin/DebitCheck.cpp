@@ -5,11 +5,13 @@
 #include <set>
 #include <utility>
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix::admin {
 
 namespace {
 
-char kindOf(const QByteArray& record) {
+char KindOf(const QByteArray& record) {
     return record.isEmpty() ? '\0' : record[0];
 }
 
@@ -25,13 +27,13 @@ class Check {
             ++number_;
             checkWhole(record);
             checkLength(record);
-            checkOrder(kindOf(record));
+            checkOrder(KindOf(record));
             checkFields(record);
-            if (kindOf(record) == '2') count(record);
-            if (kindOf(record) == '8') trailer_ = number_;
+            if (KindOf(record) == '2') count(record);
+            if (KindOf(record) == '8') trailer_ = number_;
         }
         number_ = 0;
-        if (kindOf(records_.back()) != '9') depart(QStringLiteral("エンドレコードで終わっていない"));
+        if (KindOf(records_.back()) != '9') depart(u"エンドレコードで終わっていない"_s);
         // A bank's request has 0 for every result, so where all went well the trailer alone tells; the post
         // office's has nothing.
         const auto answers = report_.byResult.begin() + (report_.form == DebitForm::Bank ? 1 : 0);
@@ -50,7 +52,7 @@ class Check {
         constexpr qsizetype kFront = 24;
         const QByteArray filler(20, ' ');
         for (std::size_t i = 0; i < lines.size(); ++i) {
-            const bool isBroken = report_.form == DebitForm::PostOffice && kindOf(lines[i]) == '2' &&
+            const bool isBroken = report_.form == DebitForm::PostOffice && KindOf(lines[i]) == '2' &&
                                   lines[i].size() == kFront && i + 1 < lines.size() &&
                                   lines[i + 1].startsWith(filler);
             if (!isBroken) {
@@ -65,44 +67,39 @@ class Check {
 
     void checkWhole(const QByteArray& record) {
         if (!broken_.contains(number_)) return;
-        depart(QStringLiteral(
-                   "支店番号が 3 けた以下（%1）なので、レコードが 2 行に割れている。得意先 %2 の支店を 5 "
-                   "けたにして作り直す")
-                   .arg(QString::fromLatin1(record.mid(20, 3)))
-                   .arg(record.mid(91, 20).toLongLong()));
+        depart(
+            u"支店番号が 3 けた以下（%1）なので、レコードが 2 行に割れている。得意先 %2 の支店を 5 "
+            "けたにして作り直す"_s.arg(QString::fromLatin1(record.mid(20, 3)))
+                .arg(record.mid(91, 20).toLongLong()));
     }
 
     void depart(const QString& text) { report_.departures.push_back({number_, text}); }
 
     void checkLength(const QByteArray& record) {
         if (record.size() == kDebitRecord) return;
-        depart(QStringLiteral("長さが %1 バイト（%2 バイトのはず）").arg(record.size()).arg(kDebitRecord));
+        depart(u"長さが %1 バイト（%2 バイトのはず）"_s.arg(record.size()).arg(kDebitRecord));
     }
 
     /// 1, then 2 as often as there are accounts, then 8 and 9, once each.
     void checkOrder(char kind) {
-        const char before = number_ == 1 ? '\0' : kindOf(records_[static_cast<std::size_t>(number_ - 2)]);
+        const char before = number_ == 1 ? '\0' : KindOf(records_[static_cast<std::size_t>(number_ - 2)]);
         const QByteArray step{QByteArray(1, before) + kind};
-        if (DebitLayout(report_.form, kind).empty()) {
-            depart(QStringLiteral("データ区分が 1、2、8、9 のどれでもない"));
-        } else if (number_ == 1 ? kind != '1'
-                                : !QByteArrayList{"12", "18", "22", "28", "89"}.contains(step)) {
-            depart(QStringLiteral("%1レコードの順番ではない").arg(DebitKindName(kind)));
-        }
+        if (DebitLayout(report_.form, kind).empty())
+            depart(u"データ区分が 1、2、8、9 のどれでもない"_s);
+        else if (number_ == 1 ? kind != '1' : !QByteArrayList{"12", "18", "22", "28", "89"}.contains(step))
+            depart(u"%1レコードの順番ではない"_s.arg(DebitKindName(kind)));
     }
 
     void checkFields(const QByteArray& record) {
-        for (const DebitField& field : DebitLayout(report_.form, kindOf(record))) {
+        for (const DebitField& field : DebitLayout(report_.form, KindOf(record))) {
             const QByteArray bytes = field.of(record);
             if (bytes.size() < field.width) break;  // told by the length
             const QString reason = FieldDeparture(field, bytes);
             if (reason.isEmpty()) continue;
             const QString to =
                 field.width > 1 ? u'-' + QString::number(field.place + field.width - 1) : QString();
-            depart(QStringLiteral("%1（%2%3桁目） %4")
-                       .arg(QString::fromUtf16(field.name))
-                       .arg(field.place)
-                       .arg(to, reason));
+            depart(
+                u"%1（%2%3桁目） %4"_s.arg(QString::fromUtf16(field.name)).arg(field.place).arg(to, reason));
         }
     }
 
@@ -140,20 +137,19 @@ class Check {
         const auto compare = [this](const QString& name, const DebitTally& written,
                                     const DebitTally& summed) {
             if (written == summed) return;
-            depart(QStringLiteral("%1が %2件 %3円、データレコードの合計は %4件 %5円")
-                       .arg(name)
+            depart(u"%1が %2件 %3円、データレコードの合計は %4件 %5円"_s.arg(name)
                        .arg(written.count)
                        .arg(written.amount)
                        .arg(summed.count)
                        .arg(summed.amount));
         };
         const DebitTally& debited = report_.byResult[0];
-        compare(QStringLiteral("合計"), total(2), report_.all);
+        compare(u"合計"_s, total(2), report_.all);
         const QByteArray& trailer = records_[static_cast<std::size_t>(trailer_ - 1)];
         const bool isFilled = report_.form == DebitForm::Bank || !trailer.mid(19, 36).trimmed().isEmpty();
         if (!report_.isResult || !isFilled) return;
-        compare(QStringLiteral("振替済"), total(20), debited);
-        compare(QStringLiteral("振替不能"), total(38),
+        compare(u"振替済"_s, total(20), debited);
+        compare(u"振替不能"_s, total(38),
                 {report_.all.count - debited.count, report_.all.amount - debited.amount});
     }
 
@@ -171,17 +167,15 @@ std::vector<QByteArray> SplitDebitRecords(const QByteArray& file) {
     const QByteArray bytes = mark < 0 ? file : file.left(mark);
     std::vector<QByteArray> records;
     if (!bytes.contains('\r') && !bytes.contains('\n')) {
-        for (qsizetype at = 0; at < bytes.size(); at += kDebitRecord) {
+        for (qsizetype at = 0; at < bytes.size(); at += kDebitRecord)
             records.push_back(bytes.mid(at, kDebitRecord));
-        }
         return records;
     }
     QByteArray lines = bytes;
     lines.replace("\r\n", "\n").replace('\r', '\n');
     if (lines.endsWith('\n')) lines.chop(1);
-    for (const QByteArray& line : lines.split('\n')) {
+    for (const QByteArray& line : lines.split('\n'))
         records.push_back(line);
-    }
     return records;
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/runtime/CodePage932.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::admin {
 
@@ -14,7 +15,7 @@ using enum DebitField::Holds;
 
 // Places, widths and codes: the record of the Japanese banks' direct-debit exchange, as several banks publish
 // it. Akarix sets the two names of the header to the right, and the banks take them.
-constexpr DebitField bankHeader[] = {
+constexpr DebitField kBankHeader[] = {
     {1, 1, u"データ区分", Choice, "1"},
     {2, 2, u"種別", Choice, "91|21"},
     {4, 1, u"コード区分", Choice, "0|1"},
@@ -29,7 +30,7 @@ constexpr DebitField bankHeader[] = {
     {97, 7, u"口座番号", Digits},
     {104, 17, u"ダミー", Filler},
 };
-constexpr DebitField bankData[] = {
+constexpr DebitField kBankData[] = {
     {1, 1, u"データ区分", Choice, "2"},
     {2, 4, u"銀行", Digits},
     {6, 15, u"銀行名", Text},
@@ -45,14 +46,14 @@ constexpr DebitField bankData[] = {
     {kResultPlace, 1, u"結果", Choice, "0|1|2|3|4|8|9"},
     {113, 8, u"ダミー", Filler},
 };
-constexpr DebitField bankTrailer[] = {
+constexpr DebitField kBankTrailer[] = {
     {1, 1, u"データ区分", Choice, "8"}, {2, 6, u"合計件数", Number},     {8, 12, u"合計金額", Number},
     {20, 6, u"振替済件数", Number},     {26, 12, u"振替済金額", Number}, {38, 6, u"振替不能件数", Number},
     {44, 12, u"振替不能金額", Number},  {56, 65, u"ダミー", Filler},
 };
 // The post office tries a second time, has neither branch names nor kinds of account, and leaves blank in a
 // request what only its answer knows.
-constexpr DebitField postHeader[] = {
+constexpr DebitField kPostHeader[] = {
     {1, 1, u"データ区分", Choice, "1"},
     {2, 2, u"種別", Choice, "21"},
     {4, 3, u"ダミー", Filler},
@@ -67,7 +68,7 @@ constexpr DebitField postHeader[] = {
     {104, 4, u"再振替日", DayOrBlank},
     {108, 13, u"ダミー", Filler},
 };
-constexpr DebitField postData[] = {
+constexpr DebitField kPostData[] = {
     {1, 1, u"データ区分", Choice, "2"},
     {2, 4, u"銀行", Choice, "9900"},
     {6, 15, u"郵便局名", Text},
@@ -81,7 +82,7 @@ constexpr DebitField postData[] = {
     {kResultPlace, 1, u"結果", Choice, " |0|1|2|3|4|8|9"},
     {113, 8, u"ダミー", Filler},
 };
-constexpr DebitField postTrailer[] = {
+constexpr DebitField kPostTrailer[] = {
     {1, 1, u"データ区分", Choice, "8"},
     {2, 6, u"合計件数", Number},
     {8, 12, u"合計金額", Number},
@@ -91,63 +92,64 @@ constexpr DebitField postTrailer[] = {
     {44, 12, u"振替不能金額", DigitsOrBlank},
     {56, 65, u"ダミー", Filler},
 };
-constexpr DebitField end[] = {
+constexpr DebitField kEnd[] = {
     {1, 1, u"データ区分", Choice, "9"},
     {2, 119, u"ダミー", Filler},
 };
 
-bool isDigits(const QByteArray& bytes) {
-    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return c >= '0' && c <= '9'; });
+bool IsDigits(const QByteArray& bytes) {
+    return std::all_of(
+        bytes.begin(), bytes.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-bool isBlank(const QByteArray& bytes) {
+bool IsBlank(const QByteArray& bytes) {
     return bytes.trimmed().isEmpty();
 }
 
 /// Digits, capitals, half-width kana with its two marks, blank and four signs; neither small kana nor the
 /// long-vowel mark.
-bool isBankCharacter(char c) {
+bool IsBankCharacter(char c) {
     const auto byte = static_cast<unsigned char>(c);
     return (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') || byte == 0xA6 ||
            (byte >= 0xB1 && byte <= 0xDF) || QByteArrayView(" ()-.").contains(c);
 }
 
-QString refusedCharacters(const QByteArray& bytes) {
+QString RefusedCharacters(const QByteArray& bytes) {
     QString refused;
     const QString text = FromCodePage932(bytes);
     for (const QChar c : text) {
         const QByteArray one = ToCodePage932(c);
-        const bool fits = one.size() == 1 && isBankCharacter(one[0]);
+        const bool fits = one.size() == 1 && IsBankCharacter(one[0]);
         if (!fits && !refused.contains(c)) refused += c;
     }
     return refused;
 }
 
-QString textDeparture(const QByteArray& bytes, bool toTheLeft) {
-    const QString refused = refusedCharacters(bytes);
-    if (!refused.isEmpty()) return QStringLiteral("使えない文字「%1」").arg(refused);
-    if (toTheLeft && bytes.startsWith(' ') && !isBlank(bytes)) return QStringLiteral("左詰めではない");
+QString TextDeparture(const QByteArray& bytes, bool toTheLeft) {
+    const QString refused = RefusedCharacters(bytes);
+    if (!refused.isEmpty()) return u"使えない文字「%1」"_s.arg(refused);
+    if (toTheLeft && bytes.startsWith(' ') && !IsBlank(bytes)) return u"左詰めではない"_s;
     return {};
 }
 
-bool isDay(const QByteArray& bytes) {
+bool IsDay(const QByteArray& bytes) {
     constexpr int kLeapYear = 2024;
-    return isDigits(bytes) && QDate::isValid(kLeapYear, bytes.left(2).toInt(), bytes.mid(2).toInt());
+    return IsDigits(bytes) && QDate::isValid(kLeapYear, bytes.left(2).toInt(), bytes.mid(2).toInt());
 }
 
-QString shown(const QByteArray& bytes) {
-    return isBlank(bytes) ? QStringLiteral("空白") : QStringLiteral("「%1」").arg(FromCodePage932(bytes));
+QString Shown(const QByteArray& bytes) {
+    return IsBlank(bytes) ? u"空白"_s : u"「%1」"_s.arg(FromCodePage932(bytes));
 }
 
-QString listed(const QByteArrayList& choices) {
+QString Listed(const QByteArrayList& choices) {
     QStringList shown;
     for (const QByteArray& choice : choices)
-        shown += choice == " " ? QStringLiteral("空白") : QString::fromLatin1(choice);
-    return shown.join(QStringLiteral("、"));
+        shown += choice == " " ? u"空白"_s : QString::fromLatin1(choice);
+    return shown.join(u"、"_s);
 }
 
 template <std::size_t A, std::size_t B>
-std::span<const DebitField> either(DebitForm form, const DebitField (&bank)[A], const DebitField (&post)[B]) {
+std::span<const DebitField> Either(DebitForm form, const DebitField (&bank)[A], const DebitField (&post)[B]) {
     if (form == DebitForm::Bank) return bank;
     return post;
 }
@@ -161,13 +163,13 @@ DebitForm DebitFormOf(const QByteArray& header) {
 std::span<const DebitField> DebitLayout(DebitForm form, char kind) {
     switch (kind) {
         case '1':
-            return either(form, bankHeader, postHeader);
+            return Either(form, kBankHeader, kPostHeader);
         case '2':
-            return either(form, bankData, postData);
+            return Either(form, kBankData, kPostData);
         case '8':
-            return either(form, bankTrailer, postTrailer);
+            return Either(form, kBankTrailer, kPostTrailer);
         case '9':
-            return end;
+            return kEnd;
         default:
             return {};
     }
@@ -176,34 +178,34 @@ std::span<const DebitField> DebitLayout(DebitForm form, char kind) {
 QString DebitKindName(char kind) {
     switch (kind) {
         case '1':
-            return QStringLiteral("ヘッダー");
+            return u"ヘッダー"_s;
         case '2':
-            return QStringLiteral("データ");
+            return u"データ"_s;
         case '8':
-            return QStringLiteral("トレーラ");
+            return u"トレーラ"_s;
         case '9':
-            return QStringLiteral("エンド");
+            return u"エンド"_s;
         default:
-            return QStringLiteral("不明");
+            return u"不明"_s;
     }
 }
 
 QString DebitResultName(char code) {
     switch (code) {
         case '0':
-            return QStringLiteral("振替済");
+            return u"振替済"_s;
         case '1':
-            return QStringLiteral("資金不足");
+            return u"資金不足"_s;
         case '2':
-            return QStringLiteral("預金取引なし");
+            return u"預金取引なし"_s;
         case '3':
-            return QStringLiteral("預金者の都合による停止");
+            return u"預金者の都合による停止"_s;
         case '4':
-            return QStringLiteral("依頼書なし");
+            return u"依頼書なし"_s;
         case '8':
-            return QStringLiteral("委託者の都合による停止");
+            return u"委託者の都合による停止"_s;
         case '9':
-            return QStringLiteral("その他");
+            return u"その他"_s;
         default:
             return {};
     }
@@ -213,27 +215,25 @@ QString FieldDeparture(const DebitField& field, const QByteArray& bytes) {
     switch (field.holds) {
         case Digits:
         case Number:
-            return isDigits(bytes) ? QString() : QStringLiteral("数字ではない: ") + shown(bytes);
+            return IsDigits(bytes) ? QString() : u"数字ではない: "_s + Shown(bytes);
         case DigitsOrBlank:
-            return isDigits(bytes) || isBlank(bytes)
-                       ? QString()
-                       : QStringLiteral("数字でも空白でもない: ") + shown(bytes);
+            return IsDigits(bytes) || IsBlank(bytes) ? QString() : u"数字でも空白でもない: "_s + Shown(bytes);
         case Text:
         case TextEitherSide:
-            return textDeparture(bytes, field.holds == Text);
+            return TextDeparture(bytes, field.holds == Text);
         case Day:
         case DayOrBlank:
-            return isDay(bytes) || (field.holds == DayOrBlank && isBlank(bytes))
+            return IsDay(bytes) || (field.holds == DayOrBlank && IsBlank(bytes))
                        ? QString()
-                       : QStringLiteral("月日ではない: ") + shown(bytes);
+                       : u"月日ではない: "_s + Shown(bytes);
         case Choice: {
             const QByteArrayList choices = QByteArray(field.choices).split('|');
             return choices.contains(bytes)
                        ? QString()
-                       : QStringLiteral("%1 は定められた値（%2）にない").arg(shown(bytes), listed(choices));
+                       : u"%1 は定められた値（%2）にない"_s.arg(Shown(bytes), Listed(choices));
         }
         case Filler:
-            return isBlank(bytes) ? QString() : QStringLiteral("空白ではない: ") + shown(bytes);
+            return IsBlank(bytes) ? QString() : u"空白ではない: "_s + Shown(bytes);
     }
     return {};
 }

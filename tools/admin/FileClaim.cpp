@@ -2,9 +2,10 @@
 
 #include <QFileInfo>
 
+#include "platform/cipher/RawFile.h"
 #include "platform/forms/SingleInstance.h"
-#include "platform/jet/RawFile.h"
 #include "platform/runtime/FileHolders.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/dbAccess.h"
 
@@ -13,7 +14,7 @@ namespace akarix::admin {
 namespace {
 
 /// A desk across the network shows itself only while it writes.
-bool isLocked(const QString& path) {
+bool IsLocked(const QString& path) {
     if (!QFileInfo(path).isWritable()) return false;  // takes no lock
     try {
         RawFile file(path);
@@ -24,7 +25,7 @@ bool isLocked(const QString& path) {
 }
 
 /// The program of another user keeps its open files to itself, but not where it runs.
-bool programHas(const QString& path) {
+bool ProgramHas(const QString& path) {
     const std::optional<QString> folder = SingleInstance::RunningIn();
     if (!folder) return false;
     const QFileInfo its(*folder + u'/' + DatabaseName());
@@ -33,24 +34,21 @@ bool programHas(const QString& path) {
 
 }  // namespace
 
-QString holderOf(const QString& path) {
+QString HolderOf(const QString& path) {
     if (!QFileInfo(path).isFile()) return {};
     const QStringList holders = FileHolders(path).value_or(QStringList());
-    if (!holders.isEmpty()) {
-        return QStringLiteral("%1 は使用中です: %2").arg(path, holders.join(QStringLiteral("、")));
-    }
-    if (programHas(path)) return QStringLiteral("Akarix が動いています。");
-    if (isLocked(path)) return QStringLiteral("%1 はほかの机で使用中です。").arg(path);
+    if (!holders.isEmpty()) return u"%1 は使用中です: %2"_s.arg(path, holders.join(u"、"_s));
+    if (ProgramHas(path)) return u"Akarix が動いています。"_s;
+    if (IsLocked(path)) return u"%1 はほかの机で使用中です。"_s.arg(path);
     return {};
 }
 
 FileClaim::FileClaim(const QString& path) : claim_(path) {
-    if (!claim_.holder().isEmpty()) {
-        refusal_ = QStringLiteral("%1 は使用中です: %2").arg(path, claim_.holder());
-    } else {
-        refusal_ = holderOf(path);
-    }
-    if (!refusal_.isEmpty()) refusal_ += QStringLiteral("\n終わらせてから、もう一度実行してください。");
+    if (!claim_.holder().isEmpty())
+        refusal_ = u"%1 は使用中です: %2"_s.arg(path, claim_.holder());
+    else
+        refusal_ = HolderOf(path);
+    if (!refusal_.isEmpty()) refusal_ += u"\n終わらせてから、もう一度実行してください。"_s;
 }
 
 }  // namespace akarix::admin

@@ -7,7 +7,7 @@
 namespace akarix::admin {
 
 /// Who has a database file open: empty when nobody has, otherwise a sentence that says who.
-QString holderOf(const QString& path);
+QString HolderOf(const QString& path);
 
 /// A command's claim to a file it is about to change: while it lives the desktop program does not open the
 /// file, and says why. On other files it works on.

@@ -2,12 +2,12 @@
 
 #include <QString>
 
-#include "platform/jet/FileCheck.h"
+#include "platform/cipher/FileCheck.h"
 
 namespace akarix::admin {
 
 /// "" for a sound file; what is wrong with it, in a few words, otherwise.
-QString faultsOf(const FileCheck& check);
+QString FaultsOf(const FileCheck& check);
 
 /// Looks at a file with the dealer's password; an error becomes its words, so that a list can go on.
 struct FileState {
@@ -16,6 +16,6 @@ struct FileState {
 
     bool sound() const { return faults.isEmpty(); }
 };
-FileState stateOf(const QString& path);
+FileState StateOf(const QString& path);
 
 }  // namespace akarix::admin

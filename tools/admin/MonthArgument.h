@@ -13,8 +13,8 @@ struct MonthArgument {
 };
 
 /// "2011/3" of the command line; nothing when it is no month.
-std::optional<MonthArgument> readMonth(const QString& text);
+std::optional<MonthArgument> ReadMonth(const QString& text);
 /// "2011/03"
-QString monthText(int nendo, int getudo);
+QString MonthText(int nendo, int getudo);
 
 }  // namespace akarix::admin

@@ -9,14 +9,14 @@ class FileClaim;
 
 /// Why a file may not be made here; empty when it may. An existing file is touched on demand
 /// alone, and never while somebody has it open.
-QString refusal(const QString& path, bool force, const FileClaim& claim);
+QString Refusal(const QString& path, bool force, const FileClaim& claim);
 
 /// Lets `make` write the file under another name beside it and puts it in its place when that is done, so
 /// that a failure half-way leaves what was there. Raises 75 when it cannot be put there.
-void replaceFile(const QString& name, const std::function<void(const QString& working)>& make);
+void ReplaceFile(const QString& name, const std::function<void(const QString& working)>& make);
 
 /// Copies a file's bytes as they stand; they are on the disk when it returns. A copy that breaks off is taken
 /// away.
-void copyFile(const QString& from, const QString& to);
+void CopyFile(const QString& from, const QString& to);
 
 }  // namespace akarix::admin

@@ -17,7 +17,7 @@ struct PostalPlace {
 
 /// A place as the operator's list names it, without the words that belong to the list and not to an address:
 /// "以下に掲載がない場合", remarks in brackets, several towns in one line. A floor stays.
-PostalPlace asAddress(PostalPlace published);
+PostalPlace AsAddress(PostalPlace published);
 
 /// The codes of a list. A code of several places gets as much as they have in common.
 class PostalCodes {

@@ -1,6 +1,6 @@
 #include "admin/ReadStore.h"
 
-#include "platform/jet/DBEngine.h"
+#include "platform/dao/DBEngine.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/dbAccess.h"
 

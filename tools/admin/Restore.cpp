@@ -17,6 +17,7 @@
 #include "ledger/Rows.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/Path.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/BackupPlace.h"
@@ -26,7 +27,7 @@ namespace akarix::admin {
 
 namespace {
 
-const char* const helpText =
+const char* const kHelpText =
     "使い方: akarix-admin restore [番号] [--from フォルダ] [--force]\n\n"
     "番号なし: Akarix が終わるときに取った曜日ごとの控え（Akarix1.MDB から Akarix7.MDB）を、日時、大きさ、\n"
     "最後に請求処理をした月、検査の結果とともに並べます。控えのフォルダは、今のフォルダのファイル BKPath\n"
@@ -38,147 +39,144 @@ const char* const helpText =
     "データベースのあるフォルダで実行してください。\n"
     "終了コード: 0 正常、1 失敗、2 使い方の誤り\n";
 
-constexpr int weekdays = 7;
+constexpr int kWeekdays = 7;
 
 /// "日" for 1.
-QString weekdayName(int number) {
-    return QStringLiteral("日月火水木金土").mid(number - 1, 1);
+QString WeekdayName(int number) {
+    return u"日月火水木金土"_s.mid(number - 1, 1);
 }
 
-QString copyOf(const QString& place, int number) {
+QString CopyOf(const QString& place, int number) {
     return LocalPath(BackupCopy(place, number));
 }
 
-QString journalOf(const QString& path) {
-    return path + QStringLiteral("-journal");
+QString JournalOf(const QString& path) {
+    return path + u"-journal"_s;
 }
 
-QString timeText(const QFileInfo& file) {
-    return file.lastModified().toString(QStringLiteral("yyyy/MM/dd HH:mm"));
+QString TimeText(const QFileInfo& file) {
+    return file.lastModified().toString(u"yyyy/MM/dd HH:mm"_s);
 }
 
 /// The last month that was billed in a copy, which tells better than its date how far its books go.
-QString lastBilled(const QString& copy) {
+QString LastBilled(const QString& copy) {
     try {
         const ReadStore store(copy);
-        const auto last = readNumbers(
-            store.db(), QStringLiteral("SELECT TOP 1 Nen,Tuki FROM Syukei ORDER BY Nen*100+Tuki DESC"));
+        const auto last =
+            ReadNumbers(store.db(), u"SELECT TOP 1 Nen,Tuki FROM Syukei ORDER BY Nen*100+Tuki DESC"_s);
         return last.empty() ? QString()
-                            : monthText(static_cast<int>(last[0][0]), static_cast<int>(last[0][1]));
+                            : MonthText(static_cast<int>(last[0][0]), static_cast<int>(last[0][1]));
     } catch (const RuntimeError&) {
         return {};
     }
 }
 
-int listCopies(const QString& place) {
-    Columns table({QStringLiteral(">番号"), QStringLiteral("曜日"), QStringLiteral("日時"),
-                   QStringLiteral(">バイト"), QStringLiteral("請求処理"), QStringLiteral("検査"),
-                   QStringLiteral("ファイル")});
+int ListCopies(const QString& place) {
+    Columns table({u">番号"_s, u"曜日"_s, u"日時"_s, u">バイト"_s, u"請求処理"_s, u"検査"_s, u"ファイル"_s});
     bool isAny = false;
-    for (int number = 1; number <= weekdays; ++number) {
-        const QString copy = copyOf(place, number);
+    for (int number = 1; number <= kWeekdays; ++number) {
+        const QString copy = CopyOf(place, number);
         const QFileInfo file(copy);
         if (!file.isFile()) continue;
         isAny = true;
-        const FileState state = stateOf(copy);
-        table.add({QString::number(number), weekdayName(number), timeText(file),
-                   QLocale::c().toString(file.size()), state.check.opens ? lastBilled(copy) : QString(),
-                   state.sound() ? QStringLiteral("正常") : state.faults, copy});
+        const FileState state = StateOf(copy);
+        table.add({QString::number(number), WeekdayName(number), TimeText(file),
+                   QLocale::c().toString(file.size()), state.check.opens ? LastBilled(copy) : QString(),
+                   state.sound() ? u"正常"_s : state.faults, copy});
     }
     if (!isAny) {
-        tellError(QStringLiteral("%1 に控えがありません。\n").arg(place));
+        TellError(u"%1 に控えがありません。\n"_s.arg(place));
         return Failed;
     }
-    tell(table.text());
+    Tell(table.text());
     return Done;
 }
 
 /// A free name beside the file that tells when it was set aside: "Akarix-20110430-173005.MDB".
-QString asideName(const QString& path) {
-    const QString moment = Format(Now(), QStringLiteral("yyyymmdd-hhnnss"));
+QString AsideName(const QString& path) {
+    const QString moment = Format(Now(), u"yyyymmdd-hhnnss"_s);
     const QFileInfo file(path);
     const auto name = [&](const QString& count) {
         return file.dir().filePath(
-            QStringLiteral("%1-%2%3.%4").arg(file.completeBaseName(), moment, count, file.suffix()));
+            u"%1-%2%3.%4"_s.arg(file.completeBaseName(), moment, count, file.suffix()));
     };
     QString free = name(QString());
     for (int count = 2; QFileInfo::exists(free); ++count)
-        free = name(QStringLiteral("-%1").arg(count));
+        free = name(u"-%1"_s.arg(count));
     return free;
 }
 
 /// Sets the present file aside, with the journal that belongs to it when a program died over it.
-QString setAside(const QString& path) {
-    const QString aside = asideName(path);
-    if (QFileInfo::exists(journalOf(path))) copyFile(journalOf(path), journalOf(aside));
-    copyFile(path, aside);
+QString SetAside(const QString& path) {
+    const QString aside = AsideName(path);
+    if (QFileInfo::exists(JournalOf(path))) CopyFile(JournalOf(path), JournalOf(aside));
+    CopyFile(path, aside);
     return aside;
 }
 
-int restore(const QString& place, int number, bool force) {
-    const QString copy = copyOf(place, number);
+int Restore(const QString& place, int number, bool force) {
+    const QString copy = CopyOf(place, number);
     if (!QFileInfo(copy).isFile()) {
-        tellError(QStringLiteral("控えがありません: %1\n").arg(copy));
+        TellError(u"控えがありません: %1\n"_s.arg(copy));
         return Failed;
     }
     const QString path = DatabaseName();
     const FileClaim claim(path);
     if (!claim.refusal().isEmpty()) {
-        tellError(claim.refusal() + u'\n');
+        TellError(claim.refusal() + u'\n');
         return Failed;
     }
-    const FileState state = stateOf(copy);
+    const FileState state = StateOf(copy);
     if (!state.sound()) {
-        tellError(QStringLiteral("%1: %2\n").arg(copy, state.faults));
+        TellError(u"%1: %2\n"_s.arg(copy, state.faults));
         if (!force) {
-            tellError(QStringLiteral("戻しませんでした。それでも戻すときは --force を付けてください。\n"));
+            TellError(u"戻しませんでした。それでも戻すときは --force を付けてください。\n"_s);
             return Failed;
         }
     }
-    const QString time = timeText(QFileInfo(copy));
-    const QString aside = QFileInfo(path).isFile() ? setAside(path) : QString();
-    replaceFile(path, [&copy](const QString& working) { copyFile(copy, working); });
-    tell(QStringLiteral("%1曜日の控え（%2）を %3 に戻しました。\n").arg(weekdayName(number), time, path));
-    if (!aside.isEmpty()) tell(QStringLiteral("これまでのものは %1 にあります。\n").arg(aside));
+    const QString time = TimeText(QFileInfo(copy));
+    const QString aside = QFileInfo(path).isFile() ? SetAside(path) : QString();
+    ReplaceFile(path, [&copy](const QString& working) { CopyFile(copy, working); });
+    Tell(u"%1曜日の控え（%2）を %3 に戻しました。\n"_s.arg(WeekdayName(number), time, path));
+    if (!aside.isEmpty()) Tell(u"これまでのものは %1 にあります。\n"_s.arg(aside));
     return Done;
 }
 
 /// A number of 1 to 7; 0 when none is given.
-std::optional<int> readNumber(const QStringList& arguments) {
+std::optional<int> ReadNumber(const QStringList& arguments) {
     if (arguments.isEmpty()) return 0;
     const int number = arguments.first().toInt();
-    return arguments.size() == 1 && number >= 1 && number <= weekdays ? std::optional(number) : std::nullopt;
+    return arguments.size() == 1 && number >= 1 && number <= kWeekdays ? std::optional(number) : std::nullopt;
 }
 
-int run(const QStringList& arguments) {
+int RunRestore(const QStringList& arguments) {
     QCommandLineParser parser;
-    parser.addOptions({QCommandLineOption(QStringLiteral("force")),
-                       QCommandLineOption(QStringLiteral("from"), QString(), QStringLiteral("folder"))});
+    parser.addOptions(
+        {QCommandLineOption(u"force"_s), QCommandLineOption(u"from"_s, QString(), u"folder"_s)});
     const bool understood = parser.parse(QStringList(QString()) + arguments);
-    const std::optional<int> number = readNumber(parser.positionalArguments());
+    const std::optional<int> number = ReadNumber(parser.positionalArguments());
     if (!understood || !number) {
-        tellWrongUse(QStringLiteral("restore"));
+        TellWrongUse(u"restore"_s);
         return WrongUse;
     }
-    QString place = parser.value(QStringLiteral("from"));
+    QString place = parser.value(u"from"_s);
     if (place.isEmpty()) {
         if (!QFileInfo(BackupPlaceFile()).isFile()) {
-            tellError(QStringLiteral(
-                "ファイル BKPath がありません。データベースのあるフォルダで実行するか、--from で\n"
-                "控えのフォルダを指定してください。\n"));
+            TellError(
+                u"ファイル BKPath がありません。データベースのあるフォルダで実行するか、--from で\n"
+                "控えのフォルダを指定してください。\n"_s);
             return Failed;
         }
         place = ReadBackupPlace();
     }
-    if (*number == 0) return listCopies(place);
-    return restore(place, *number, parser.isSet(QStringLiteral("force")));
+    if (*number == 0) return ListCopies(place);
+    return Restore(place, *number, parser.isSet(u"force"_s));
 }
 
 }  // namespace
 
-Command restoreCommand() {
-    return {QStringLiteral("restore"), QStringLiteral("曜日ごとの控えを並べる、戻す"),
-            QString::fromUtf8(helpText), run};
+Command RestoreCommand() {
+    return {u"restore"_s, u"曜日ごとの控えを並べる、戻す"_s, QString::fromUtf8(kHelpText), RunRestore};
 }
 
 }  // namespace akarix::admin

@@ -4,6 +4,6 @@
 
 namespace akarix::admin {
 
-Command restoreCommand();
+Command RestoreCommand();
 
 }  // namespace akarix::admin

@@ -4,6 +4,6 @@
 
 namespace akarix::admin {
 
-Command sampleCommand();
+Command SampleCommand();
 
 }  // namespace akarix::admin

@@ -6,6 +6,7 @@
 
 #include "admin/TemplateCheck.h"
 #include "admin/Terminal.h"
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/SheetReader.h"
 
 namespace akarix::admin {
@@ -14,7 +15,7 @@ namespace {
 
 enum Finding { Clean = 0, Found = 1, Unreadable = 2 };
 
-const char* const helpText =
+const char* const kHelpText =
     "使い方: akarix-admin template ファイル...\n\n"
     "帳票の雛形（Prt の中のブック）を調べます。中身は変えません。\n"
     "  1. シート「Sheet1」があるか。\n"
@@ -24,52 +25,48 @@ const char* const helpText =
     "どの帳票のものかは、ファイルの名前の始まりで見分けます（請求書.xlsx、請求書 控え.xlsx）。\n"
     "終了コード: 0 異常なし、1 見つかったものがある、2 読めない（または使い方の誤り）\n";
 
-Finding checkTemplate(const QString& path) {
+Finding CheckTemplate(const QString& path) {
     const QStringList names = ReportNames();
     const auto report = std::find_if(
         names.begin(), names.end(),
         [file = QFileInfo(path).fileName()](const QString& name) { return file.startsWith(name); });
     if (report == names.end()) {
-        tellError(QStringLiteral("%1: どの帳票の雛形か分かりません。名前は %2 のどれかで始まります。\n")
-                      .arg(path, names.join(u'、')));
+        TellError(u"%1: どの帳票の雛形か分かりません。名前は %2 のどれかで始まります。\n"_s.arg(
+            path, names.join(u'、')));
         return Unreadable;
     }
     QStringList faults;
     try {
-        faults = TemplateFaults(ReadSheet(path, QStringLiteral("Sheet1")), *report);
+        faults = TemplateFaults(ReadSheet(path, u"Sheet1"_s), *report);
     } catch (const MissingSheet& error) {
         faults += error.description();
     } catch (const RuntimeError& error) {
-        tellError(
-            QStringLiteral("%1: エラー %2: %3\n").arg(path).arg(error.number()).arg(error.description()));
+        TellError(u"%1: エラー %2: %3\n"_s.arg(path).arg(error.number()).arg(error.description()));
         return Unreadable;
     }
-    tell(path + QStringLiteral(": ") + (faults.isEmpty() ? QStringLiteral("正常\n") : QStringLiteral("\n")));
-    for (const QString& fault : faults) {
-        tell(QStringLiteral("  - %1\n").arg(fault));
-    }
+    Tell(path + u": "_s + (faults.isEmpty() ? u"正常\n"_s : u"\n"_s));
+    for (const QString& fault : faults)
+        Tell(u"  - %1\n"_s.arg(fault));
     return faults.isEmpty() ? Clean : Found;
 }
 
-int checkTemplates(const QStringList& arguments) {
+int CheckTemplates(const QStringList& arguments) {
     QCommandLineParser parser;
     const bool understood = parser.parse(QStringList(QString()) + arguments);
     if (!understood || parser.positionalArguments().isEmpty()) {
-        tellWrongUse(QStringLiteral("template"));
+        TellWrongUse(u"template"_s);
         return WrongUse;
     }
     int worst = Clean;
-    for (const QString& path : parser.positionalArguments()) {
-        worst = std::max<int>(worst, checkTemplate(path));
-    }
+    for (const QString& path : parser.positionalArguments())
+        worst = std::max<int>(worst, CheckTemplate(path));
     return worst;
 }
 
 }  // namespace
 
-Command templateCommand() {
-    return {QStringLiteral("template"), QStringLiteral("帳票の雛形を調べる"), QString::fromUtf8(helpText),
-            checkTemplates};
+Command TemplateCommand() {
+    return {u"template"_s, u"帳票の雛形を調べる"_s, QString::fromUtf8(kHelpText), CheckTemplates};
 }
 
 }  // namespace akarix::admin

@@ -4,6 +4,6 @@
 
 namespace akarix::admin {
 
-Command templateCommand();
+Command TemplateCommand();
 
 }  // namespace akarix::admin

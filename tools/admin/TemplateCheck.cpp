@@ -4,6 +4,7 @@
 #include <array>
 #include <map>
 
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/SheetPainter.h"
 
 namespace akarix::admin {
@@ -18,25 +19,25 @@ struct Written {
     bool rightHalf = false;  ///< of a sheet that is whole with either half
 };
 
-constexpr const char16_t *invoice = u"請求書", *billingList = u"請求一覧表", *customers = u"取引先一覧",
+constexpr const char16_t *kInvoice = u"請求書", *billingList = u"請求一覧表", *customers = u"取引先一覧",
                          *debitTotal = u"口座振替合計表", *bank = u"口座振替明細表",
                          *post = u"郵便局口座振替明細表", *prices = u"価格表";
 
-constexpr Written writtenCells[] = {
-    {invoice, u"A5", u"株式会社　山田商店 様"},
-    {invoice, u"AC5", u"株式会社　山田商店 様", true},
-    {invoice, u"D15", u"¥1,234,567"},
-    {invoice, u"AF15", u"¥1,234,567", true},
-    {invoice, u"A18:A20,A23:A30", u"12/31"},
-    {invoice, u"AC18:AC20,AC23:AC30", u"12/31", true},
-    {invoice, u"D18:D20,D23:D30", u"当月ガス料金 指針 : 1234.5"},
-    {invoice, u"AF18:AF20,AF23:AF30", u"当月ガス料金 指針 : 1234.5", true},
-    {invoice, u"M18:M20,M23:M30", u"1234.5"},
-    {invoice, u"AO18:AO20,AO23:AO30", u"1234.5", true},
-    {invoice, u"P23:P30", u"12,345"},
-    {invoice, u"AR23:AR30", u"12,345", true},
-    {invoice, u"V23:V30", u"123,456"},
-    {invoice, u"AX23:AX30", u"123,456", true},
+constexpr Written kWrittenCells[] = {
+    {kInvoice, u"A5", u"株式会社　山田商店 様"},
+    {kInvoice, u"AC5", u"株式会社　山田商店 様", true},
+    {kInvoice, u"D15", u"¥1,234,567"},
+    {kInvoice, u"AF15", u"¥1,234,567", true},
+    {kInvoice, u"A18:A20,A23:A30", u"12/31"},
+    {kInvoice, u"AC18:AC20,AC23:AC30", u"12/31", true},
+    {kInvoice, u"D18:D20,D23:D30", u"当月ガス料金 指針 : 1234.5"},
+    {kInvoice, u"AF18:AF20,AF23:AF30", u"当月ガス料金 指針 : 1234.5", true},
+    {kInvoice, u"M18:M20,M23:M30", u"1234.5"},
+    {kInvoice, u"AO18:AO20,AO23:AO30", u"1234.5", true},
+    {kInvoice, u"P23:P30", u"12,345"},
+    {kInvoice, u"AR23:AR30", u"12,345", true},
+    {kInvoice, u"V23:V30", u"123,456"},
+    {kInvoice, u"AX23:AX30", u"123,456", true},
     {billingList, u"F2", u"平成35年12月"},
     {billingList, u"B5:B61", u"123456"},
     {billingList, u"C5:C61", u"株式会社　山田商店"},
@@ -83,20 +84,20 @@ constexpr Written writtenCells[] = {
 
 enum class Fault { Outside, Hidden, Covered, Low, Narrow };
 
-QString textOf(Fault fault) {
+QString TextOf(Fault fault) {
     switch (fault) {
         case Fault::Outside:
-            return QStringLiteral("印刷の範囲の外にあります");
+            return u"印刷の範囲の外にあります"_s;
         case Fault::Hidden:
-            return QStringLiteral("隠れた行か列にあります");
+            return u"隠れた行か列にあります"_s;
         case Fault::Covered:
-            return QStringLiteral("ほかのセルとの結合に隠れます");
+            return u"ほかのセルとの結合に隠れます"_s;
         case Fault::Low:
-            return QStringLiteral("行が低く、文字が切れます");
+            return u"行が低く、文字が切れます"_s;
         case Fault::Narrow:
             break;
     }
-    return QStringLiteral("幅が足りません");
+    return u"幅が足りません"_s;
 }
 
 class Checker {
@@ -110,15 +111,13 @@ class Checker {
     std::optional<Fault> faultOf(CellAddress at) const {
         if (outside(at)) return Fault::Outside;
         CellRange block{at, at};
-        for (const CellRange& merge : sheet_.merges) {
+        for (const CellRange& merge : sheet_.merges)
             if (merge.contains(at)) block = merge;
-        }
         if (block.first != at) return Fault::Covered;
         if (sheet_.columnWidth(at.column) <= 0 || sheet_.rowHidden(at.row)) return Fault::Hidden;
         double height = 0;
-        for (int row = at.row; row <= block.last.row; ++row) {
+        for (int row = at.row; row <= block.last.row; ++row)
             height += sheet_.rowHeight(row);
-        }
         if (height < sheet_.styleAt(at).font.size) return Fault::Low;
         return isNarrow(block) ? std::optional(Fault::Narrow) : std::nullopt;
     }
@@ -144,41 +143,35 @@ class Checker {
             letters += half ? 0.5 : 1;
         }
         double room = 0;
-        for (int column = at.column; column <= block.last.column; ++column) {
+        for (int column = at.column; column <= block.last.column; ++column)
             room += sheet_.columnWidth(column);
-        }
         const bool text = !sheet_.cells.at(at).number;
         if (style.wrap && text) return room < style.font.size;
-        if (text && !style.shrink && block.first == block.last) {  // it runs on over empty cells
+        if (text && !style.shrink && block.first == block.last)  // it runs on over empty cells
             for (CellAddress next{at.row, at.column + 1};
-                 !outside(next) && next.column <= lastSheetColumn && blank(next); ++next.column) {
+                 !outside(next) && next.column <= kLastSheetColumn && blank(next); ++next.column)
                 room += sheet_.columnWidth(next.column);
-            }
-        }
         return letters * style.font.size * (style.shrink ? 0.5 : 1) > room;
     }
 
     const Sheet& sheet_;
 };
 
-std::vector<CellAddress> addressesOf(const Written& written) {
+std::vector<CellAddress> AddressesOf(const Written& written) {
     std::vector<CellAddress> addresses;
     for (const QString& block : QString::fromUtf16(written.cells).split(u',')) {
         const CellRange range = ParseRange(block);
-        for (int row = range.first.row; row <= range.last.row; ++row) {
-            for (int column = range.first.column; column <= range.last.column; ++column) {
+        for (int row = range.first.row; row <= range.last.row; ++row)
+            for (int column = range.first.column; column <= range.last.column; ++column)
                 addresses.push_back({row, column});
-            }
-        }
     }
     return addresses;
 }
 
-QString nameOf(CellAddress at) {
+QString NameOf(CellAddress at) {
     QString letters;
-    for (int column = at.column; column > 0; column = (column - 1) / 26) {
+    for (int column = at.column; column > 0; column = (column - 1) / 26)
         letters.prepend(QChar(u'A' + (column - 1) % 26));
-    }
     return letters + QString::number(at.row);
 }
 
@@ -186,7 +179,7 @@ QString nameOf(CellAddress at) {
 
 QStringList ReportNames() {
     QStringList names;
-    for (const Written& written : writtenCells) {
+    for (const Written& written : kWrittenCells) {
         const QString name = QString::fromUtf16(written.report);
         if (!names.contains(name)) names += name;
     }
@@ -197,35 +190,31 @@ QStringList TemplateFaults(const Sheet& sheet, const QString& report) {
     Sheet filled = sheet;
     const Checker checker(filled);
     std::array<bool, 2> printed{};  // of the halves
-    for (const Written& written : writtenCells) {
+    for (const Written& written : kWrittenCells) {
         if (report != QStringView(written.report)) continue;
-        for (const CellAddress at : addressesOf(written)) {
-            filled.setValue(nameOf(at), QString::fromUtf16(written.text));
+        for (const CellAddress at : AddressesOf(written)) {
+            filled.setValue(NameOf(at), QString::fromUtf16(written.text));
             printed[written.rightHalf] = printed[written.rightHalf] || !checker.outside(at);
         }
     }
     QStringList faults;
-    for (const Written& written : writtenCells) {
+    for (const Written& written : kWrittenCells) {
         // A half may be left off the paper, but not both.
         if (report != QStringView(written.report) ||
             (!printed[written.rightHalf] && printed[!written.rightHalf]))
             continue;
         std::map<Fault, QStringList> found;
-        for (const CellAddress at : addressesOf(written)) {
-            if (const auto fault = checker.faultOf(at)) found[*fault] += nameOf(at);
-        }
+        for (const CellAddress at : AddressesOf(written))
+            if (const auto fault = checker.faultOf(at)) found[*fault] += NameOf(at);
         for (const auto& [fault, cells] : found) {
-            const QString more =
-                cells.size() > 1 ? QStringLiteral(" など %1 か所").arg(cells.size()) : QString();
-            faults += QStringLiteral("セル %1%2: %3。").arg(cells.first(), more, textOf(fault));
+            const QString more = cells.size() > 1 ? u" など %1 か所"_s.arg(cells.size()) : QString();
+            faults += u"セル %1%2: %3。"_s.arg(cells.first(), more, TextOf(fault));
         }
     }
     const size_t pages = LayOutSheet(sheet).size();
-    if (pages > 1) faults += QStringLiteral("1 枚に収まらず、%1 枚に分かれます。").arg(pages);
-    if ((sheet.page.headerText + sheet.page.footerText).contains(u"&N", Qt::CaseInsensitive)) {
-        faults += QStringLiteral(
-            "総ページ数は、そのページまでの数になります。");  // the end is not known before it comes
-    }
+    if (pages > 1) faults += u"1 枚に収まらず、%1 枚に分かれます。"_s.arg(pages);
+    if ((sheet.page.headerText + sheet.page.footerText).contains(u"&N", Qt::CaseInsensitive))
+        faults += u"総ページ数は、そのページまでの数になります。"_s;  // the end is not known before it comes
     return faults + sheet.warnings;
 }
 

@@ -2,41 +2,43 @@
 
 #include <cstdio>
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix::admin {
 
 namespace {
 
-void write(std::FILE* stream, const QString& text) {
+void Write(std::FILE* stream, const QString& text) {
     const QByteArray bytes = text.toLocal8Bit();
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
     std::fflush(stream);
 }
 
-constexpr qint64 patience = 1000;  // ms
-constexpr qint64 stepPause = 100;
+constexpr qint64 kPatience = 1000;  // ms
+constexpr qint64 kStepPause = 100;
 
 }  // namespace
 
-void tell(const QString& text) {
-    write(stdout, text);
+void Tell(const QString& text) {
+    Write(stdout, text);
 }
 
-void tellError(const QString& text) {
-    write(stderr, text);
+void TellError(const QString& text) {
+    Write(stderr, text);
 }
 
-void tellWrongUse(const QString& command) {
-    tellError(QStringLiteral("引数が正しくありません。使い方: akarix-admin %1 --help\n").arg(command));
+void TellWrongUse(const QString& command) {
+    TellError(u"引数が正しくありません。使い方: akarix-admin %1 --help\n"_s.arg(command));
 }
 
 ProgressLine::~ProgressLine() {
-    if (shown_) write(stderr, QStringLiteral("\n"));
+    if (shown_) Write(stderr, u"\n"_s);
 }
 
 void ProgressLine::show(const QString& text) {
-    if (!shown_ && clock_.elapsed() < patience) return;
+    if (!shown_ && clock_.elapsed() < kPatience) return;
     shown_ = true;
-    write(stderr, QStringLiteral("\r\x1b[K") + text);
+    Write(stderr, u"\r\x1b[K"_s + text);
 }
 
 void ProgressLine::stage(const QString& what, bool /*mayStop*/) {
@@ -45,9 +47,9 @@ void ProgressLine::stage(const QString& what, bool /*mayStop*/) {
 
 void ProgressLine::step(int done, int total) {
     const qint64 now = clock_.elapsed();
-    if (now < patience || now < stepShown_ + stepPause) return;
+    if (now < kPatience || now < stepShown_ + kStepPause) return;
     stepShown_ = now;
-    show(QStringLiteral("%1 %2 / %3 件").arg(what_).arg(done).arg(total));
+    show(u"%1 %2 / %3 件"_s.arg(what_).arg(done).arg(total));
 }
 
 }  // namespace akarix::admin

@@ -6,7 +6,8 @@
 #include "admin/FileClaim.h"
 #include "admin/PostalList.h"
 #include "admin/Terminal.h"
-#include "platform/jet/Action.h"
+#include "platform/runtime/Action.h"
+#include "platform/runtime/Literals.h"
 #include "sample/OpenStore.h"
 #include "sample/RowWriter.h"
 #include "store/dbAccess.h"
@@ -15,7 +16,7 @@ namespace akarix::admin {
 
 namespace {
 
-const char* const helpText =
+const char* const kHelpText =
     "使い方: akarix-admin zip 一覧 [ファイル]\n\n"
     "郵便番号の一覧をデータベース（既定 Akarix.MDB）に取り込みます。得意先の画面で郵便番号を打つと、\n"
     "住所が入るようになります。前に取り込んだ一覧は、新しい一覧に置きかわります。\n\n"
@@ -28,13 +29,13 @@ const char* const helpText =
     "終了コード: 0 正常、1 失敗、2 使い方の誤り\n";
 
 /// Gives the number of codes that were kept.
-int store(const PostalCodes& codes) {
+int Store(const PostalCodes& codes) {
     constexpr int longestAddress = 100;
     ProgressLine line;
-    line.stage(QStringLiteral("郵便番号"), false);
+    line.stage(u"郵便番号"_s, false);
     const Action grouped;
-    gDb->Execute(QStringLiteral("DELETE * FROM Zip7"));
-    sample::RowWriter table(QStringLiteral("Zip7"));
+    gDb->Execute(u"DELETE * FROM Zip7"_s);
+    sample::RowWriter table(u"Zip7"_s);
     int done = 0;
     const int total = static_cast<int>(codes.places().size());
     int kept = 0;
@@ -43,44 +44,43 @@ int store(const PostalCodes& codes) {
         const QString address = place.address().left(longestAddress);
         if (address.isEmpty()) continue;  // of two prefectures: it says nothing
         ++kept;
-        table.add({{QStringLiteral("Code"), std::int32_t{code}}, {QStringLiteral("Addr"), address}});
+        table.add({{u"Code"_s, std::int32_t{code}}, {u"Addr"_s, address}});
     }
     return kept;
 }
 
-int import(const QStringList& arguments) {
+int Import(const QStringList& arguments) {
     QCommandLineParser parser;
     const bool understood = parser.parse(QStringList(QString()) + arguments);
     const QStringList names = parser.positionalArguments();
     if (!understood || names.isEmpty() || names.size() > 2) {
-        tellWrongUse(QStringLiteral("zip"));
+        TellWrongUse(u"zip"_s);
         return WrongUse;
     }
     const QString path = names.value(1, DatabaseName());
     if (!QFileInfo(path).isFile()) {
-        tellError(QStringLiteral("ファイルがありません: %1\n").arg(path));
+        TellError(u"ファイルがありません: %1\n"_s.arg(path));
         return Failed;
     }
     const FileClaim claim(path);
     if (!claim.refusal().isEmpty()) {
-        tellError(claim.refusal() + u'\n');
+        TellError(claim.refusal() + u'\n');
         return Failed;
     }
-    const PostalCodes codes = readPostalList(names.first());
+    const PostalCodes codes = ReadPostalList(names.first());
     int kept = 0;
     {
         const sample::OpenStore opened(path);
-        kept = store(codes);
+        kept = Store(codes);
     }
-    tell(QStringLiteral("%1 に郵便番号 %2 件を取り込みました。\n").arg(path).arg(kept));
+    Tell(u"%1 に郵便番号 %2 件を取り込みました。\n"_s.arg(path).arg(kept));
     return Done;
 }
 
 }  // namespace
 
-Command zipCommand() {
-    return {QStringLiteral("zip"), QStringLiteral("郵便番号の一覧を取り込む"), QString::fromUtf8(helpText),
-            import};
+Command ZipCommand() {
+    return {u"zip"_s, u"郵便番号の一覧を取り込む"_s, QString::fromUtf8(kHelpText), Import};
 }
 
 }  // namespace akarix::admin

@@ -4,6 +4,6 @@
 
 namespace akarix::admin {
 
-Command zipCommand();
+Command ZipCommand();
 
 }  // namespace akarix::admin

@@ -17,6 +17,7 @@
 #include "platform/forms/Label.h"
 #include "platform/forms/MemoBox.h"
 #include "platform/forms/TextBox.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
@@ -25,12 +26,12 @@ namespace {
     throw std::runtime_error(what.toStdString());
 }
 
-bool isCalled(const QWidget& dialog, const QString& name) {
+bool IsCalled(const QWidget& dialog, const QString& name) {
     return name.isEmpty() || dialog.objectName() == name || dialog.windowTitle() == name ||
            QLatin1String(dialog.metaObject()->className()) == name;
 }
 
-void shut(QWidget& dialog) {
+void Shut(QWidget& dialog) {
     dialog.close();
     if (dialog.isVisible()) dialog.hide();
 }
@@ -44,13 +45,11 @@ Clerk::Clerk() {
 Clerk::~Clerk() = default;
 
 Form& Clerk::form(const QString& name) const {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
+    for (QWidget* widget : QApplication::topLevelWidgets())
         if (auto* found = qobject_cast<Form*>(widget);
-            found && found->isVisible() && found->objectName() == name) {
+            found && found->isVisible() && found->objectName() == name)
             return *found;
-        }
-    }
-    missing(QStringLiteral("no form is open by the name of ") + name);
+    missing(u"no form is open by the name of "_s + name);
 }
 
 bool Clerk::isOpen(const QString& name) const {
@@ -63,16 +62,14 @@ bool Clerk::isOpen(const QString& name) const {
 QWidget* Clerk::window() const {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     if (QWidget* active = QApplication::activeWindow()) return active;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
+    for (QWidget* widget : QApplication::topLevelWidgets())
         if (widget->isVisible()) return widget;
-    }
     return nullptr;
 }
 
 QWidget* Clerk::focused() const {
-    if (QWidget* popup = QApplication::activePopupWidget()) {
+    if (QWidget* popup = QApplication::activePopupWidget())
         return popup->focusWidget() != nullptr ? popup->focusWidget() : popup;
-    }
     QWidget* present = window();
     if (present == nullptr) return nullptr;
     return present->focusWidget() != nullptr ? present->focusWidget() : present;
@@ -98,8 +95,7 @@ QWidget& Clerk::control(const QString& name) const {
     if (scope != nullptr) {
         if (auto* found = scope->findChild<QWidget*>(wanted)) return *found;
     }
-    missing(QStringLiteral("no control %1 on %2")
-                .arg(wanted, scope != nullptr ? scope->objectName() : QString()));
+    missing(u"no control %1 on %2"_s.arg(wanted, scope != nullptr ? scope->objectName() : QString()));
 }
 
 QString Clerk::text(const QString& name) const {
@@ -110,7 +106,7 @@ QString Clerk::text(const QString& name) const {
     if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) return combo->currentText();
     if (const auto* memo = qobject_cast<const MemoBox*>(&widget)) return memo->Text();
     if (const auto* frame = qobject_cast<const Frame*>(&widget)) return frame->Caption();
-    missing(name + QStringLiteral(" shows no text"));
+    missing(name + u" shows no text"_s);
 }
 
 void Clerk::type(const QString& text) {
@@ -123,7 +119,7 @@ void Clerk::type(const QString& text) {
         }
         compose(std::exchange(composed, {}));
         QWidget* target = focused();
-        if (target == nullptr) missing(QStringLiteral("nothing to type into"));
+        if (target == nullptr) missing(u"nothing to type into"_s);
         QTest::keyClick(target, letter.toLatin1());
     }
     compose(composed);
@@ -132,9 +128,8 @@ void Clerk::type(const QString& text) {
 void Clerk::compose(const QString& text) {
     if (text.isEmpty()) return;
     QWidget* target = focused();
-    if (target == nullptr || !target->testAttribute(Qt::WA_InputMethodEnabled)) {
-        missing(QStringLiteral("the input method is off: ") + text);
-    }
+    if (target == nullptr || !target->testAttribute(Qt::WA_InputMethodEnabled))
+        missing(u"the input method is off: "_s + text);
     QInputMethodEvent composing(text, {});
     QApplication::sendEvent(target, &composing);
     QInputMethodEvent committing;
@@ -146,7 +141,7 @@ void Clerk::compose(const QString& text) {
 void Clerk::press(int key, Qt::KeyboardModifiers modifiers) {
     settle();
     QWidget* target = focused();
-    if (target == nullptr) missing(QStringLiteral("no window to take a key"));
+    if (target == nullptr) missing(u"no window to take a key"_s);
     const QPointer<QWidget> guard = target;
     QTest::keyPress(target, static_cast<Qt::Key>(key), modifiers);
     // The press may have carried the keyboard elsewhere; the release follows it, as on a desk.
@@ -161,7 +156,7 @@ void Clerk::fill(const QString& text) {
 
 void Clerk::click(QWidget& widget, Qt::KeyboardModifiers modifiers) {
     settle();
-    if (!widget.isVisible()) missing(QStringLiteral("cannot be seen: ") + widget.objectName());
+    if (!widget.isVisible()) missing(u"cannot be seen: "_s + widget.objectName());
     QTest::mouseClick(&widget, Qt::LeftButton, modifiers);
     settle();
 }
@@ -169,7 +164,7 @@ void Clerk::click(QWidget& widget, Qt::KeyboardModifiers modifiers) {
 // By the window, as the desk does it: who gets the press and the keyboard is Qt's to say.
 void Clerk::doubleClick(QWidget& widget) {
     settle();
-    if (!widget.isVisible()) missing(QStringLiteral("cannot be seen: ") + widget.objectName());
+    if (!widget.isVisible()) missing(u"cannot be seen: "_s + widget.objectName());
     constexpr int kBetween = 100;  // milliseconds
     const QPoint place = widget.mapToGlobal(widget.rect().center());
     const int first = QTest::lastMouseTimestamp;
@@ -194,7 +189,7 @@ void Clerk::clickCell(FlexGrid& grid, int row, int col) {
         QTest::mouseClick(head->viewport(), Qt::LeftButton, {}, at);
     } else {
         const QModelIndex cell = grid.model()->index(row - grid.FixedRows(), col);
-        if (!cell.isValid()) missing(QStringLiteral("no cell %1, %2").arg(row).arg(col));
+        if (!cell.isValid()) missing(u"no cell %1, %2"_s.arg(row).arg(col));
         grid.scrollTo(cell);
         QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(cell).center());
     }
@@ -212,35 +207,40 @@ void Clerk::expect(const QString& name, Answer answer) {
 }
 
 void Clerk::answerAlert() {
-    expect(QStringLiteral("Alert_frm"), [this](QWidget&) { enter(); });
+    expect(
+        u"Alert_frm"_s, [this](QWidget&) { enter(); });
 }
 
 void Clerk::answerText(const QString& text) {
-    expect(QStringLiteral("Request_frm"), [this, text](QWidget&) {
-        if (text.isEmpty()) {
-            press(Qt::Key_Delete);
-        } else {
-            type(text);
-        }
-        enter();
-    });
+    expect(
+        u"Request_frm"_s,
+        [this, text](QWidget&) {
+            if (text.isEmpty())
+                press(Qt::Key_Delete);
+            else
+                type(text);
+            enter();
+        });
 }
 
 void Clerk::answerConfirm(bool first) {
-    expect(QStringLiteral("Confirm_frm"), [this, first](QWidget&) {
-        if (!first) down();
-        enter();
-        enter();
-    });
+    expect(
+        u"Confirm_frm"_s,
+        [this, first](QWidget&) {
+            if (!first) down();
+            enter();
+            enter();
+        });
 }
 
 void Clerk::answerConfirmRev(bool first) {
     answerConfirm(first);
-    expected_.back().name = QStringLiteral("gyakuConfirm_frm");
+    expected_.back().name = u"gyakuConfirm_frm"_s;
 }
 
 void Clerk::answerMsgBox() {
-    expect(QStringLiteral("MsgBox"), [this](QWidget&) { enter(); });
+    expect(
+        u"MsgBox"_s, [this](QWidget&) { enter(); });
 }
 
 QString Clerk::lastSaid() {
@@ -252,7 +252,7 @@ QString Clerk::lastSaid() {
 void Clerk::picture(QWidget& window, const QString& path) const {
     settle();
     QDir().mkpath(QFileInfo(path).path());
-    if (!window.grab().save(path)) missing(QStringLiteral("cannot write ") + path);
+    if (!window.grab().save(path)) missing(u"cannot write "_s + path);
 }
 
 void Clerk::settle() const {
@@ -284,15 +284,15 @@ void Clerk::dialogOpened(QWidget& dialog) {
     const QPointer<QWidget> shown = &dialog;
     const QString text = words(dialog);
     said_ << text;
-    if (expected_.empty() || !isCalled(dialog, expected_.front().name)) {
-        complain(QStringLiteral("思わぬ画面が出ました: ") + text);
-        shut(dialog);
+    if (expected_.empty() || !IsCalled(dialog, expected_.front().name)) {
+        complain(u"思わぬ画面が出ました: "_s + text);
+        Shut(dialog);
         return;
     }
     QTimer::singleShot(patience_, this, [this, shown, text] {
         if (!shown || QApplication::activeModalWidget() != shown) return;
-        complain(QStringLiteral("画面が閉じません: ") + text);
-        shut(*shown);
+        complain(u"画面が閉じません: "_s + text);
+        Shut(*shown);
     });
     const Expected expected = std::move(expected_.front());
     expected_.pop_front();
@@ -300,8 +300,8 @@ void Clerk::dialogOpened(QWidget& dialog) {
     try {
         expected.answer(dialog);
     } catch (const std::exception& error) {
-        complain(QStringLiteral("画面「%1」に答えられません: %2").arg(text, QString::fromUtf8(error.what())));
-        if (shown) shut(*shown);
+        complain(u"画面「%1」に答えられません: %2"_s.arg(text, QString::fromUtf8(error.what())));
+        if (shown) Shut(*shown);
     }
 }
 
@@ -312,9 +312,8 @@ void Clerk::complain(const QString& text) {
 
 QString Clerk::words(const QWidget& dialog) {
     if (const auto* box = qobject_cast<const QMessageBox*>(&dialog)) return box->text();
-    if (const auto* message = dialog.findChild<const QLabel*>(QStringLiteral("Message")))
-        return message->text();
-    if (const auto* frame = dialog.findChild<const Frame*>(QStringLiteral("Frame1"))) return frame->Caption();
+    if (const auto* message = dialog.findChild<const QLabel*>(u"Message"_s)) return message->text();
+    if (const auto* frame = dialog.findChild<const Frame*>(u"Frame1"_s)) return frame->Caption();
     return dialog.windowTitle();
 }
 

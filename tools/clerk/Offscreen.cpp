@@ -18,11 +18,10 @@ constexpr char kScreens[] = R"({"screens": [
 
 QtMessageHandler standardHandler;
 
-void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     for (const char16_t* known :
-         {u"This plugin does not support", u"QStandardPaths: XDG_RUNTIME_DIR not set"}) {
+         {u"This plugin does not support", u"QStandardPaths: XDG_RUNTIME_DIR not set"})
         if (text.startsWith(QStringView(known))) return;
-    }
     standardHandler(type, context, text);
 }
 
@@ -31,17 +30,15 @@ void handleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
 void GoOffscreen() {
     static QTemporaryFile screens;  // read when the application is made
     QByteArray platform = "offscreen";
-    if (screens.open() && screens.write(kScreens) > 0 && screens.flush()) {
+    if (screens.open() && screens.write(kScreens) > 0 && screens.flush())
         platform += ":configfile=" + QFile::encodeName(screens.fileName());
-    }
     qputenv("QT_QPA_PLATFORM", platform);
-    if (standardHandler == nullptr) standardHandler = qInstallMessageHandler(handleMessage);
+    if (standardHandler == nullptr) standardHandler = qInstallMessageHandler(HandleMessage);
 }
 
 void GoOffscreenWithoutDisplay() {
-    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
         if (!qEnvironmentVariableIsEmpty(name)) return;
-    }
     GoOffscreen();
 }
 

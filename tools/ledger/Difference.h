@@ -16,9 +16,9 @@ struct Difference {
 };
 
 /// "1500", "-0.5"
-QString amountText(std::int64_t scaled);
+QString AmountText(std::int64_t scaled);
 
 /// "得意先 12 2011/3 UGaku: 正 1500 誤 1499"
-QString describe(const Difference& difference);
+QString Describe(const Difference& difference);
 
 }  // namespace akarix

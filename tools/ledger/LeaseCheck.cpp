@@ -7,7 +7,8 @@
 #include <tuple>
 
 #include "ledger/Rows.h"
-#include "platform/jet/Database.h"
+#include "platform/dao/Database.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -25,13 +26,13 @@ struct Thing {
     const char16_t* line;
     const char16_t* mark;  ///< the customer's column
 };
-constexpr std::array<Thing, 2> things{{{u"ACUリース代", u"ACU"}, {u"警報機リース代", u"Keihou"}}};
+constexpr std::array<Thing, 2> kThings{{{u"ACUリース代", u"ACU"}, {u"警報機リース代", u"Keihou"}}};
 
-QString lineOf(std::size_t thing) {
-    return QString::fromUtf16(things[thing].line);
+QString LineOf(std::size_t thing) {
+    return QString::fromUtf16(kThings[thing].line);
 }
 
-using PerThing = std::array<int, things.size()>;
+using PerThing = std::array<int, kThings.size()>;
 
 /// A customer's lease slips of one month.
 struct Slips {
@@ -50,12 +51,12 @@ struct MonthOf {
 class Walk {
  public:
     explicit Walk(Database& db) : db_(db) {
-        for (std::size_t i = 0; i < things.size(); ++i) {
-            const QString sql = QStringLiteral("SELECT Code FROM Deal WHERE %1=1");
-            for (const auto& row : readNumbers(db, sql.arg(QString::fromUtf16(things[i].mark))))
+        for (std::size_t i = 0; i < kThings.size(); ++i) {
+            const QString sql = u"SELECT Code FROM Deal WHERE %1=1"_s;
+            for (const auto& row : ReadNumbers(db, sql.arg(QString::fromUtf16(kThings[i].mark))))
                 ++marks_[static_cast<Code>(row[0])][i];
         }
-        for (const auto& row : readNumbers(db, QStringLiteral("SELECT Nen,Tuki FROM Syukei")))
+        for (const auto& row : ReadNumbers(db, u"SELECT Nen,Tuki FROM Syukei"_s))
             billed_.insert({static_cast<int>(row[0]), static_cast<int>(row[1])});
     }
 
@@ -63,7 +64,7 @@ class Walk {
         for (const Month month : billed_)
             read(month);
         for (const auto& [deal, months] : months_) {
-            for (std::size_t i = 0; i < things.size(); ++i)
+            for (std::size_t i = 0; i < kThings.size(); ++i)
                 judgeCourse(deal, months, i);
             for (const MonthOf& entry : months)
                 judgeSlips(deal, entry);
@@ -73,11 +74,10 @@ class Walk {
 
  private:
     void read(Month month) {
-        const QString ofMonth =
-            QStringLiteral(" WHERE Nendo=%1 AND Getudo=%2").arg(month.nendo).arg(month.getudo);
+        const QString ofMonth = u" WHERE Nendo=%1 AND Getudo=%2"_s.arg(month.nendo).arg(month.getudo);
         std::map<Code, Slips> slips;
-        Recordset lines = db_.OpenRecordset(QStringLiteral("SELECT Deal,Dno,HinNamae FROM Dud") + ofMonth +
-                                            QStringLiteral(" AND CreateAuto=1"));
+        Recordset lines =
+            db_.OpenRecordset(u"SELECT Deal,Dno,HinNamae FROM Dud"_s + ofMonth + u" AND CreateAuto=1"_s);
         for (; !lines.Eof(); lines.MoveNext()) {
             const auto number = [&lines](int field) {
                 const Variant value = lines.Fields(field).Value();
@@ -89,7 +89,7 @@ class Walk {
             add(slips[number(0)], month, number(0), number(1), text != nullptr ? *text : QString());
         }
         lines.Close();
-        for (const auto& row : readNumbers(db_, QStringLiteral("SELECT Deal FROM TtoD") + ofMonth)) {
+        for (const auto& row : ReadNumbers(db_, u"SELECT Deal FROM TtoD"_s + ofMonth)) {
             const auto deal = static_cast<Code>(row[0]);
             const auto found = slips.find(deal);
             const bool everLeased = months_.contains(deal) || marks_.contains(deal);
@@ -101,8 +101,8 @@ class Walk {
     void add(Slips& slips, Month month, Code deal, Code number, const QString& name) {
         slips.numbers.insert(number);
         owners_[number].insert({month, deal});
-        for (std::size_t i = 0; i < things.size(); ++i) {
-            if (name == lineOf(i)) {
+        for (std::size_t i = 0; i < kThings.size(); ++i) {
+            if (name == LineOf(i)) {
                 ++slips.lines[i];
                 return;
             }
@@ -131,27 +131,24 @@ class Walk {
             last = none - 1;
         }
         if (first == none) return;
-        for (std::size_t at = first; at <= last; ++at) {
-            if (!has(at)) note(deal, months[at], LeaseFault::Missing, lineOf(thing));
-        }
+        for (std::size_t at = first; at <= last; ++at)
+            if (!has(at)) note(deal, months[at], LeaseFault::Missing, LineOf(thing));
         // Who has ended a lease keeps his slips. One alone in the first month may be the end of a long row,
         // unless another mark shows that the slip is still made anew with each run.
         const bool isTold = months[first].month != *billed_.begin() || marks != marks_.end();
         if (!isMarked && first == last && isTold)
-            note(deal, months[first], LeaseFault::NotLeased, lineOf(thing));
+            note(deal, months[first], LeaseFault::NotLeased, LineOf(thing));
     }
 
     void judgeSlips(Code deal, const MonthOf& entry) {
         const Slips& slips = entry.slips;
         for (const QString& name : slips.unknown)
             note(deal, entry, LeaseFault::UnknownLine, name);
-        for (const Code number : slips.numbers) {
+        for (const Code number : slips.numbers)
             if (owners_[number].size() > 1) note(deal, entry, LeaseFault::NumberShared, {});
-        }
         if (slips.numbers.size() > 1) return note(deal, entry, LeaseFault::SlipDoubled, {});
-        for (std::size_t i = 0; i < things.size(); ++i) {
-            if (slips.lines[i] > 1) note(deal, entry, LeaseFault::LineDoubled, lineOf(i));
-        }
+        for (std::size_t i = 0; i < kThings.size(); ++i)
+            if (slips.lines[i] > 1) note(deal, entry, LeaseFault::LineDoubled, LineOf(i));
     }
 
     void note(Code deal, const MonthOf& entry, LeaseFault fault, const QString& line) {
@@ -170,8 +167,8 @@ class Walk {
 
 std::vector<LeaseFinding> CheckLeases(Database& db, int fromMonth) {
     std::vector<LeaseFinding> findings = Walk(db).run();
-    std::erase_if(findings,
-                  [fromMonth](const LeaseFinding& f) { return f.nendo * 100 + f.getudo < fromMonth; });
+    std::erase_if(
+        findings, [fromMonth](const LeaseFinding& f) { return f.nendo * 100 + f.getudo < fromMonth; });
     std::stable_sort(findings.begin(), findings.end(), [](const LeaseFinding& a, const LeaseFinding& b) {
         return std::tie(a.nendo, a.getudo, a.deal) < std::tie(b.nendo, b.getudo, b.deal);
     });

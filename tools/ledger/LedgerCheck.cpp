@@ -4,6 +4,7 @@
 #include <set>
 
 #include "ledger/Rows.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -20,43 +21,40 @@ struct LedgerRow {
     bool setByHand = false;
 };
 
-QString monthCondition(int nendo, int getudo) {
-    return QStringLiteral(" WHERE Nendo=%1 AND Getudo=%2").arg(nendo).arg(getudo);
+QString MonthCondition(int nendo, int getudo) {
+    return u" WHERE Nendo=%1 AND Getudo=%2"_s.arg(nendo).arg(getudo);
 }
 
 /// Adds up the amounts of a source table by customer.
-Amounts sumsOf(Database& db, const QString& table, int nendo, int getudo) {
+Amounts SumsOf(Database& db, const QString& table, int nendo, int getudo) {
     Amounts sums;
-    for (const auto& row : readNumbers(
-             db, QStringLiteral("SELECT Deal,Gaku FROM %1").arg(table) + monthCondition(nendo, getudo))) {
+    for (const auto& row :
+         ReadNumbers(db, u"SELECT Deal,Gaku FROM %1"_s.arg(table) + MonthCondition(nendo, getudo)))
         sums[static_cast<std::int32_t>(row[0])] += row[1];
-    }
     return sums;
 }
 
-std::map<std::int32_t, LedgerRow> ledgerOf(Database& db, int nendo, int getudo) {
+std::map<std::int32_t, LedgerRow> LedgerOf(Database& db, int nendo, int getudo) {
     std::map<std::int32_t, LedgerRow> ledger;
     for (const auto& row :
-         readNumbers(db, QStringLiteral("SELECT Deal,ZenkaiGaku,GGaku,UGaku,Gaku,NGaku,SyokiFlg FROM TtoD") +
-                             monthCondition(nendo, getudo))) {
+         ReadNumbers(db, u"SELECT Deal,ZenkaiGaku,GGaku,UGaku,Gaku,NGaku,SyokiFlg FROM TtoD"_s +
+                             MonthCondition(nendo, getudo)))
         ledger[static_cast<std::int32_t>(row[0])] = {row[1], row[2], row[3], row[4], row[5], row[6] != 0};
-    }
     return ledger;
 }
 
 /// What each customer's latest earlier row carries out.
-Amounts balancesBefore(Database& db, int nendo, int getudo) {
+Amounts BalancesBefore(Database& db, int nendo, int getudo) {
     struct Latest {
         std::int64_t month = 0;
         std::int64_t balance = 0;
     };
     std::map<std::int32_t, Latest> latest;
-    for (const auto& row : readNumbers(
-             db,
-             QStringLiteral("SELECT Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku FROM TtoD WHERE Nendo<%1 "
-                            "OR (Nendo=%1 AND Getudo<%2)")
-                 .arg(nendo)
-                 .arg(getudo))) {
+    for (const auto& row :
+         ReadNumbers(db,
+                     u"SELECT Deal,Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku FROM TtoD WHERE Nendo<%1 "
+                     "OR (Nendo=%1 AND Getudo<%2)"_s.arg(nendo)
+                         .arg(getudo))) {
         Latest& kept = latest[static_cast<std::int32_t>(row[0])];
         const std::int64_t month = row[1] * 12 + row[2];
         if (month > kept.month) kept = {month, row[3] + row[4] + row[5] - row[6]};
@@ -67,7 +65,7 @@ Amounts balancesBefore(Database& db, int nendo, int getudo) {
     return balances;
 }
 
-const std::int64_t* find(const Amounts& amounts, std::int32_t deal) {
+const std::int64_t* Find(const Amounts& amounts, std::int32_t deal) {
     const auto found = amounts.find(deal);
     return found == amounts.end() ? nullptr : &found->second;
 }
@@ -75,22 +73,20 @@ const std::int64_t* find(const Amounts& amounts, std::int32_t deal) {
 }  // namespace
 
 std::vector<Difference> CheckLedgerMonth(Database& db, int nendo, int getudo) {
-    const Amounts gas = sumsOf(db, QStringLiteral("Dgd"), nendo, getudo);
-    const Amounts sales = sumsOf(db, QStringLiteral("Dud"), nendo, getudo);
-    const Amounts payments = sumsOf(db, QStringLiteral("Dny"), nendo, getudo);
-    const Amounts before = balancesBefore(db, nendo, getudo);
-    const std::map<std::int32_t, LedgerRow> ledger = ledgerOf(db, nendo, getudo);
+    const Amounts gas = SumsOf(db, u"Dgd"_s, nendo, getudo);
+    const Amounts sales = SumsOf(db, u"Dud"_s, nendo, getudo);
+    const Amounts payments = SumsOf(db, u"Dny"_s, nendo, getudo);
+    const Amounts before = BalancesBefore(db, nendo, getudo);
+    const std::map<std::int32_t, LedgerRow> ledger = LedgerOf(db, nendo, getudo);
 
     std::set<std::int32_t> known;
-    for (const auto& row : readNumbers(db, QStringLiteral("SELECT Code FROM Deal"))) {
+    for (const auto& row : ReadNumbers(db, u"SELECT Code FROM Deal"_s))
         known.insert(static_cast<std::int32_t>(row[0]));
-    }
     // Documents of a customer who is no longer known still have their row, only no balance is carried.
     std::set<std::int32_t> due = known;
-    for (const Amounts* source : {&gas, &sales, &payments}) {
+    for (const Amounts* source : {&gas, &sales, &payments})
         for (const auto& [deal, amount] : *source)
             due.insert(deal);
-    }
     for (const auto& [deal, row] : ledger)
         due.insert(deal);
 
@@ -101,23 +97,22 @@ std::vector<Difference> CheckLedgerMonth(Database& db, int nendo, int getudo) {
         };
         const auto stored = ledger.find(deal);
         if (stored == ledger.end()) {
-            note(QStringLiteral("行"), 10000, 0);
+            note(u"行"_s, 10000, 0);
             continue;
         }
         const LedgerRow& row = stored->second;
-        const std::int64_t* gasCharge = find(gas, deal);
-        const std::int64_t* sold = find(sales, deal);
-        const std::int64_t* paid = find(payments, deal);
-        const std::int64_t* carried = find(before, deal);
+        const std::int64_t* gasCharge = Find(gas, deal);
+        const std::int64_t* sold = Find(sales, deal);
+        const std::int64_t* paid = Find(payments, deal);
+        const std::int64_t* carried = Find(before, deal);
         const std::int64_t expectedGas = gasCharge != nullptr ? *gasCharge : row.gGaku;
         const std::int64_t expectedSales = sold != nullptr ? *sold : 0;
-        note(QStringLiteral("GGaku"), expectedGas, row.gGaku);
-        note(QStringLiteral("UGaku"), expectedSales, row.uGaku);
-        note(QStringLiteral("Gaku"), expectedGas + expectedSales, row.gaku);
-        if (paid != nullptr) note(QStringLiteral("NGaku"), *paid, row.nGaku);
-        if (!row.setByHand && known.contains(deal)) {
-            note(QStringLiteral("ZenkaiGaku"), carried != nullptr ? *carried : 0, row.zenkaiGaku);
-        }
+        note(u"GGaku"_s, expectedGas, row.gGaku);
+        note(u"UGaku"_s, expectedSales, row.uGaku);
+        note(u"Gaku"_s, expectedGas + expectedSales, row.gaku);
+        if (paid != nullptr) note(u"NGaku"_s, *paid, row.nGaku);
+        if (!row.setByHand && known.contains(deal))
+            note(u"ZenkaiGaku"_s, carried != nullptr ? *carried : 0, row.zenkaiGaku);
     }
     return differences;
 }

@@ -6,6 +6,7 @@
 #include <set>
 
 #include "ledger/Rows.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -49,52 +50,48 @@ struct Carried {
     std::vector<std::int64_t> payments;
 };
 
-constexpr std::int64_t byDebit = 2;  // payment class
+constexpr std::int64_t kByDebit = 2;  // payment class
 
-QString ofMonth(Month month) {
-    return QStringLiteral(" WHERE Nendo=%1 AND Getudo=%2").arg(month.nendo).arg(month.getudo);
+QString OfMonth(Month month) {
+    return u" WHERE Nendo=%1 AND Getudo=%2"_s.arg(month.nendo).arg(month.getudo);
 }
 
-DocumentsOf readDocuments(Database& db, const QString& columns, const QString& table, Month month) {
+DocumentsOf ReadDocuments(Database& db, const QString& columns, const QString& table, Month month) {
     DocumentsOf documents;
-    for (const auto& row :
-         readNumbers(db, QStringLiteral("SELECT %1 FROM %2").arg(columns, table) + ofMonth(month))) {
+    for (const auto& row : ReadNumbers(db, u"SELECT %1 FROM %2"_s.arg(columns, table) + OfMonth(month))) {
         Documents& kept = documents[static_cast<Code>(row[0])];
         kept.sum += row[1];
         if (row.size() == 2) continue;
         kept.amounts[row[2]] += row[1];
         kept.newest = std::max(kept.newest, row[3]);
-        if (row.size() > 4 && row[4] == byDebit) kept.debited += row[1];
+        if (row.size() > 4 && row[4] == kByDebit) kept.debited += row[1];
     }
     return documents;
 }
 
-std::map<Code, LedgerRow> readLedger(Database& db, Month month) {
+std::map<Code, LedgerRow> ReadLedger(Database& db, Month month) {
     std::map<Code, LedgerRow> ledger;
-    for (const auto& row :
-         readNumbers(db, QStringLiteral("SELECT Deal,ZenkaiGaku,GGaku,UGaku,Gaku,NGaku,SyokiFlg FROM TtoD") +
-                             ofMonth(month))) {
+    for (const auto& row : ReadNumbers(
+             db, u"SELECT Deal,ZenkaiGaku,GGaku,UGaku,Gaku,NGaku,SyokiFlg FROM TtoD"_s + OfMonth(month)))
         ledger[static_cast<Code>(row[0])] = {row[1], row[2], row[3], row[4], row[5], row[6] != 0};
-    }
     return ledger;
 }
 
-const Documents* find(const DocumentsOf& documents, Code deal) {
+const Documents* Find(const DocumentsOf& documents, Code deal) {
     const auto found = documents.find(deal);
     return found == documents.end() ? nullptr : &found->second;
 }
 
-std::vector<std::int64_t> amountsOf(const Documents* documents) {
+std::vector<std::int64_t> AmountsOf(const Documents* documents) {
     std::vector<std::int64_t> amounts;
-    if (documents != nullptr) {
+    if (documents != nullptr)
         for (const auto& [number, amount] : documents->amounts)
             amounts.push_back(amount);
-    }
     return amounts;
 }
 
 /// Whether some of the amounts, one at least, add up to the wanted sum.
-bool someAddUpTo(const std::vector<std::int64_t>& amounts, std::int64_t wanted) {
+bool SomeAddUpTo(const std::vector<std::int64_t>& amounts, std::int64_t wanted) {
     constexpr std::size_t mostTried = 12;  // a customer's month has one or two
     const std::size_t count = std::min(amounts.size(), mostTried);
     for (unsigned chosen = 1; chosen < 1u << count; ++chosen) {
@@ -110,32 +107,29 @@ bool someAddUpTo(const std::vector<std::int64_t>& amounts, std::int64_t wanted) 
 class Walk {
  public:
     Walk(Database& db, LedgerProof& proof) : db_(db), proof_(proof) {
-        for (const auto& row : readNumbers(db, QStringLiteral("SELECT Code FROM Deal")))
+        for (const auto& row : ReadNumbers(db, u"SELECT Code FROM Deal"_s))
             customers_.insert(static_cast<Code>(row[0]));
-        for (const auto& row : readNumbers(db, QStringLiteral("SELECT Nen,Tuki,Hizuke FROM Syukei")))
+        for (const auto& row : ReadNumbers(db, u"SELECT Nen,Tuki,Hizuke FROM Syukei"_s))
             runs_[{static_cast<int>(row[0]), static_cast<int>(row[1])}] = row[2];
     }
 
     std::set<Month> months() const {
         std::set<Month> all;
-        for (const char16_t* table : {u"TtoD", u"Dgd", u"Dud", u"Dny"}) {
-            for (const auto& row :
-                 readNumbers(db_, QStringLiteral("SELECT Nendo,Getudo FROM %1 GROUP BY Nendo,Getudo")
-                                      .arg(QString::fromUtf16(table)))) {
+        for (const char16_t* table : {u"TtoD", u"Dgd", u"Dud", u"Dny"})
+            for (const auto& row : ReadNumbers(
+                     db_,
+                     u"SELECT Nendo,Getudo FROM %1 GROUP BY Nendo,Getudo"_s.arg(QString::fromUtf16(table))))
                 all.insert({static_cast<int>(row[0]), static_cast<int>(row[1])});
-            }
-        }
         return all;
     }
 
     void prove(Month month) {
         month_ = month;
         run_ = runOf(month);
-        gas_ = readDocuments(db_, QStringLiteral("Deal,Gaku"), QStringLiteral("Dgd"), month);
-        sales_ = readDocuments(db_, QStringLiteral("Deal,Gaku,Dno,Hizuke"), QStringLiteral("Dud"), month);
-        payments_ =
-            readDocuments(db_, QStringLiteral("Deal,Gaku,Dno,Hizuke,Kubun"), QStringLiteral("Dny"), month);
-        const std::map<Code, LedgerRow> ledger = readLedger(db_, month);
+        gas_ = ReadDocuments(db_, u"Deal,Gaku"_s, u"Dgd"_s, month);
+        sales_ = ReadDocuments(db_, u"Deal,Gaku,Dno,Hizuke"_s, u"Dud"_s, month);
+        payments_ = ReadDocuments(db_, u"Deal,Gaku,Dno,Hizuke,Kubun"_s, u"Dny"_s, month);
+        const std::map<Code, LedgerRow> ledger = ReadLedger(db_, month);
         if (proof_.rows == 0) proof_.first = {month.nendo, month.getudo};
         if (run_) {
             ++proof_.months;
@@ -150,13 +144,12 @@ class Walk {
                 proveCarriedIn(deal, row);
             }
             provePaid(deal, row);
-            carried_[deal] = {month, row.carriedOut(), amountsOf(find(sales_, deal)),
-                              amountsOf(find(payments_, deal))};
+            carried_[deal] = {month, row.carriedOut(), AmountsOf(Find(sales_, deal)),
+                              AmountsOf(Find(payments_, deal))};
         }
-        for (const DocumentsOf* source : {&gas_, &sales_, &payments_}) {
+        for (const DocumentsOf* source : {&gas_, &sales_, &payments_})
             for (const auto& [deal, documents] : *source)
                 documented_.insert(deal);
-        }
     }
 
  private:
@@ -173,49 +166,44 @@ class Walk {
 
     void proveRowsExist(const std::map<Code, LedgerRow>& ledger) {
         std::set<Code> due;
-        for (const DocumentsOf* source : {&gas_, &sales_, &payments_}) {
+        for (const DocumentsOf* source : {&gas_, &sales_, &payments_})
             for (const auto& [deal, documents] : *source)
                 due.insert(deal);
-        }
-        for (const Code deal : due) {
+        for (const Code deal : due)
             if (!ledger.contains(deal)) note(deal, u"行", 10000, 0, Cause::NotBilledAgain);
-        }
     }
 
     void proveBilled(Code deal, const LedgerRow& row) {
-        const Documents* gas = find(gas_, deal);
-        const Documents* sold = find(sales_, deal);
+        const Documents* gas = Find(gas_, deal);
+        const Documents* sold = Find(sales_, deal);
         const bool isNewer = sold != nullptr && sold->newest > *run_;
         const Cause cause = row.asTheRunLeaves() || isNewer ? Cause::NotBilledAgain : Cause::Unknown;
-        if (gas != nullptr) {
+        if (gas != nullptr)
             note(deal, u"GGaku", gas->sum, row.gGaku, cause);
-        } else {
+        else
             note(deal, u"GGaku", 0, row.gGaku, Cause::SourceGone);
-        }
         note(deal, u"UGaku", sold != nullptr ? sold->sum : 0, row.uGaku, cause);
         note(deal, u"Gaku", row.gGaku + row.uGaku, row.gaku, Cause::Unknown);
     }
 
     void provePaid(Code deal, const LedgerRow& row) {
-        const Documents* paid = find(payments_, deal);
+        const Documents* paid = Find(payments_, deal);
         if (paid == nullptr) return note(deal, u"NGaku", 0, row.nGaku, Cause::SourceGone);
         Cause cause = Cause::Unknown;
-        if (paid->debited != 0 && someAddUpTo({paid->debited}, row.nGaku)) {
+        if (paid->debited != 0 && SomeAddUpTo({paid->debited}, row.nGaku))
             cause = Cause::DebitReadBack;
-        } else if (run_ && paid->newest > *run_) {
+        else if (run_ && paid->newest > *run_)
             cause = Cause::PaidAfterBilling;
-        }
         note(deal, u"NGaku", paid->sum, row.nGaku, cause);
     }
 
     void proveCarriedIn(Code deal, const LedgerRow& row) {
         const auto before = carried_.find(deal);
         if (row.setByHand) {
-            if (before == carried_.end()) {
+            if (before == carried_.end())
                 ++proof_.openings;
-            } else {
+            else
                 note(deal, u"ZenkaiGaku", before->second.balance, row.zenkaiGaku, Cause::HandSet);
-            }
             return;
         }
         // The run carries for the customers it knows.
@@ -225,11 +213,10 @@ class Walk {
             // A purge takes the documents with the rows.
             if (documented_.contains(deal))
                 return note(deal, u"ZenkaiGaku", 0, row.zenkaiGaku, Cause::Unknown);
-            if (proof_.first == std::pair(month_.nendo, month_.getudo)) {
+            if (proof_.first == std::pair(month_.nendo, month_.getudo))
                 ++proof_.unproved;
-            } else {
+            else
                 proof_.purged.push_back(deal);
-            }
             return;
         }
         const Carried& carried = before->second;
@@ -239,10 +226,10 @@ class Walk {
 
     Cause causeOfStaleBalance(const Carried& carried, const LedgerRow& row) const {
         const std::int64_t excess = row.zenkaiGaku - carried.balance;
-        if (someAddUpTo(carried.payments, excess)) return Cause::PaidAfterBilling;
+        if (SomeAddUpTo(carried.payments, excess)) return Cause::PaidAfterBilling;
         const auto earlierRun = runOf(carried.from);
         const bool ranLater = earlierRun && *earlierRun > *run_;
-        return ranLater || someAddUpTo(carried.sales, -excess) ? Cause::NotBilledAgain : Cause::Unknown;
+        return ranLater || SomeAddUpTo(carried.sales, -excess) ? Cause::NotBilledAgain : Cause::Unknown;
     }
 
     Database& db_;

@@ -7,24 +7,25 @@
 
 #include "ledger/MeterUse.h"
 #include "ledger/Rows.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
 namespace {
 
-constexpr std::int64_t unit = 10000;
-constexpr int fewestToCompare = 3;
+constexpr std::int64_t kUnit = 10000;
+constexpr int kFewestToCompare = 3;
 // A house's winter is some three times its summer, and the year before has both.
-constexpr std::int64_t timesAbove = 3;
-constexpr std::int64_t partBelow = 5;
-constexpr std::int64_t leastGap = 10 * unit;  // small uses jump by their nature
+constexpr std::int64_t kTimesAbove = 3;
+constexpr std::int64_t kPartBelow = 5;
+constexpr std::int64_t kLeastGap = 10 * kUnit;  // small uses jump by their nature
 
 struct PastUse {
     int month = 0;  ///< counted from year 0
     std::int64_t use = 0;
 };
 
-int countedMonth(std::int64_t nendo, std::int64_t getudo) {
+int CountedMonth(std::int64_t nendo, std::int64_t getudo) {
     return static_cast<int>(nendo * 12 + getudo - 1);
 }
 
@@ -49,15 +50,15 @@ struct Reading {
 class Walk {
  public:
     Walk(Database& db, int from) : db_(db), from_(from) {
-        for (const auto& row : readNumbers(db, QStringLiteral("SELECT Code FROM Deal WHERE TankaPtn<>0")))
+        for (const auto& row : ReadNumbers(db, u"SELECT Code FROM Deal WHERE TankaPtn<>0"_s))
             takesGas_.insert(static_cast<std::int32_t>(row[0]));
-        for (const auto& row : readNumbers(db, QStringLiteral("SELECT Nen,Tuki FROM Syukei")))
+        for (const auto& row : ReadNumbers(db, u"SELECT Nen,Tuki FROM Syukei"_s))
             billed_.insert(static_cast<int>(row[0] * 100 + row[1]));
     }
 
     void add(const Reading& reading) {
         if (reading.deal != deal_) beginCustomer(reading.deal);
-        const int month = countedMonth(reading.nendo, reading.getudo);
+        const int month = CountedMonth(reading.nendo, reading.getudo);
         while (!year_.empty() && year_.front().month < month - 12)
             year_.pop_front();
         if (reading.number() >= from_) judge(reading);
@@ -90,16 +91,16 @@ class Walk {
         unread_ = 0;
         const std::int64_t use = reading.use;
         const std::int64_t meters =
-            roundShown(meterUse(reading.before, reading.oldEnd, reading.newStart, reading.now), unit / 10);
+            RoundShown(MeterUse(reading.before, reading.oldEnd, reading.newStart, reading.now), kUnit / 10);
         doubt(reading, use < 0, Doubt::Negative, 0);
         doubt(reading, use > 0 && reading.charge == 0, Doubt::NoCharge, 0);
         doubt(reading, use != meters, Doubt::NotMeters, meters);
-        if (year_.size() < fewestToCompare || use <= 0) return;
+        if (year_.size() < kFewestToCompare || use <= 0) return;
         const auto [low, high] = std::minmax_element(
             year_.begin(), year_.end(), [](const PastUse& a, const PastUse& b) { return a.use < b.use; });
-        doubt(reading, use > high->use * timesAbove && use - high->use > leastGap, Doubt::FarAbove,
+        doubt(reading, use > high->use * kTimesAbove && use - high->use > kLeastGap, Doubt::FarAbove,
               high->use);
-        doubt(reading, use * partBelow < low->use && low->use - use > leastGap, Doubt::FarBelow, low->use);
+        doubt(reading, use * kPartBelow < low->use && low->use - use > kLeastGap, Doubt::FarBelow, low->use);
     }
 
     /// Behind a month that nobody read the next one starts at 0. In a row that is itself not read that
@@ -118,17 +119,17 @@ class Walk {
             doubt(reading, true, Doubt::NeverRead, 0);
             unread_ = doubtful.size();
         }
-        doubtful[unread_ - 1].usual += unit;
+        doubtful[unread_ - 1].usual += kUnit;
     }
 
     void seekOlder(const Reading& reading) {
         if (isOlderSought_) return;
         isOlderSought_ = true;
-        const auto found = readNumbers(
-            db_, QStringLiteral("SELECT TOP 1 KonkaiMeter FROM Dgd WHERE Deal=%1 AND Nendo*100+Getudo<%2 AND "
-                                "KonkaiMeter<>0 ORDER BY Nendo*100+Getudo DESC")
-                     .arg(reading.deal)
-                     .arg(reading.number()));
+        const auto found =
+            ReadNumbers(db_,
+                        u"SELECT TOP 1 KonkaiMeter FROM Dgd WHERE Deal=%1 AND Nendo*100+Getudo<%2 AND "
+                        "KonkaiMeter<>0 ORDER BY Nendo*100+Getudo DESC"_s.arg(reading.deal)
+                            .arg(reading.number()));
         if (!found.empty()) last_ = found[0][0];
     }
 
@@ -149,10 +150,11 @@ class Walk {
 
 std::vector<DoubtfulReading> CheckReadings(Database& db, int fromMonth) {
     Walk walk(db, fromMonth);
-    for (const auto& row : readNumbers(
-             db, QStringLiteral("SELECT Deal,Nendo,Getudo,ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,"
-                                "Suu,Gaku FROM Dgd WHERE Nendo*100+Getudo>=%1 ORDER BY Deal,Nendo,Getudo")
-                     .arg(fromMonth - 100))) {
+    for (const auto& row :
+         ReadNumbers(db,
+                     u"SELECT Deal,Nendo,Getudo,ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,"
+                     "Suu,Gaku FROM Dgd WHERE Nendo*100+Getudo>=%1 ORDER BY Deal,Nendo,Getudo"_s.arg(
+                         fromMonth - 100))) {
         walk.add({static_cast<std::int32_t>(row[0]), static_cast<int>(row[1]), static_cast<int>(row[2]),
                   row[3], row[4], row[5], row[6], row[7], row[8]});
     }
@@ -160,11 +162,10 @@ std::vector<DoubtfulReading> CheckReadings(Database& db, int fromMonth) {
 }
 
 int LastYearOfReadings(Database& db) {
-    const auto last = readNumbers(
-        db, QStringLiteral(
-                "SELECT TOP 1 Nendo,Getudo FROM Dgd WHERE KonkaiMeter<>0 ORDER BY Nendo*100+Getudo DESC"));
+    const auto last = ReadNumbers(
+        db, u"SELECT TOP 1 Nendo,Getudo FROM Dgd WHERE KonkaiMeter<>0 ORDER BY Nendo*100+Getudo DESC"_s);
     if (last.empty()) return 0;
-    const int first = countedMonth(last[0][0], last[0][1]) - 11;
+    const int first = CountedMonth(last[0][0], last[0][1]) - 11;
     return first / 12 * 100 + first % 12 + 1;
 }
 

@@ -2,13 +2,13 @@
 
 #include <cmath>
 
-#include "platform/jet/Database.h"
+#include "platform/dao/Database.h"
 
 namespace akarix {
 
 namespace {
 
-std::int64_t plainNumber(const Variant& value) {
+std::int64_t PlainNumber(const Variant& value) {
     if (const Currency* amount = value.If<Currency>()) return amount->Scaled();
     if (const std::int32_t* number = value.If<std::int32_t>()) return *number;
     if (const std::int16_t* number = value.If<std::int16_t>()) return *number;
@@ -18,14 +18,14 @@ std::int64_t plainNumber(const Variant& value) {
 
 }  // namespace
 
-std::vector<std::vector<std::int64_t>> readNumbers(Database& db, const QString& sql) {
+std::vector<std::vector<std::int64_t>> ReadNumbers(Database& db, const QString& sql) {
     Recordset set = db.OpenRecordset(sql);
     std::vector<std::vector<std::int64_t>> rows;
     for (; !set.Eof(); set.MoveNext()) {
         std::vector<std::int64_t>& row = rows.emplace_back();
         row.reserve(static_cast<std::size_t>(set.FieldCount()));
         for (int i = 0; i < set.FieldCount(); ++i)
-            row.push_back(plainNumber(set.Fields(i).Value()));
+            row.push_back(PlainNumber(set.Fields(i).Value()));
     }
     set.Close();
     return rows;

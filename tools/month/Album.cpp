@@ -7,31 +7,32 @@
 #include <QWidget>
 
 #include "month/Failure.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::month {
 
 namespace {
 
-constexpr int titleHeight = 30;
-constexpr int edge = 1;
+constexpr int kTitleHeight = 30;
+constexpr int kEdge = 1;
 
-bool isFramed(const QWidget& window) {
+bool IsFramed(const QWidget& window) {
     return !window.windowFlags().testFlag(Qt::FramelessWindowHint);
 }
 
 /// The place of a window on the desk, title included: the pictures come without the desk's own frames.
-QRect outline(const QWidget& window) {
+QRect Outline(const QWidget& window) {
     const QRect inner(window.pos(), window.size());
-    return isFramed(window) ? inner.adjusted(-edge, -titleHeight, edge, edge) : inner;
+    return IsFramed(window) ? inner.adjusted(-kEdge, -kTitleHeight, kEdge, kEdge) : inner;
 }
 
-void paintWindow(QPainter& painter, QWidget& window) {
-    if (isFramed(window)) {
-        const QRect frame = outline(window);
+void PaintWindow(QPainter& painter, QWidget& window) {
+    if (IsFramed(window)) {
+        const QRect frame = Outline(window);
         painter.fillRect(frame, QColor(0x4a, 0x5d, 0x73));
         painter.setPen(Qt::white);
         painter.setFont(window.font());
-        painter.drawText(frame.adjusted(10, 0, -10, 0).adjusted(0, 0, 0, titleHeight - frame.height()),
+        painter.drawText(frame.adjusted(10, 0, -10, 0).adjusted(0, 0, 0, kTitleHeight - frame.height()),
                          Qt::AlignVCenter | Qt::AlignLeft, window.windowTitle());
     }
     painter.drawPixmap(window.pos(), window.grab());
@@ -43,7 +44,7 @@ void Album::take(const QString& name, const QList<QWidget*>& windows) {
     QCoreApplication::processEvents();  // a window just opened has yet to take the keyboard
     QRect desk;
     for (const QWidget* window : windows)
-        desk |= outline(*window);
+        desk |= Outline(*window);
     const qreal ratio = windows.front()->devicePixelRatioF();
     QPixmap picture(desk.size() * ratio);
     picture.setDevicePixelRatio(ratio);
@@ -51,13 +52,13 @@ void Album::take(const QString& name, const QList<QWidget*>& windows) {
     QPainter painter(&picture);
     painter.translate(-desk.topLeft());
     for (QWidget* window : windows)
-        paintWindow(painter, *window);
+        PaintWindow(painter, *window);
     painter.end();
 
     QDir().mkpath(folder_);
-    const QString number = QStringLiteral("%1").arg(++count_, 2, 10, QLatin1Char('0'));
-    const QString path = QDir(folder_).filePath(number + u'-' + name + QStringLiteral(".png"));
-    if (!picture.save(path)) throw Failure(QStringLiteral("%1 に書き込めません。").arg(path));
+    const QString number = u"%1"_s.arg(++count_, 2, 10, QLatin1Char('0'));
+    const QString path = QDir(folder_).filePath(number + u'-' + name + u".png"_s);
+    if (!picture.save(path)) throw Failure(u"%1 に書き込めません。"_s.arg(path));
 }
 
 }  // namespace akarix::month

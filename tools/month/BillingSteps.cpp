@@ -11,82 +11,81 @@
 #include "platform/forms/Form.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Literals.h"
 #include "values/Dates.h"
 
 namespace akarix::month {
 
 namespace {
 
-const QString billingForm = QStringLiteral("Seikyu_frm");
-const QString listForm = QStringLiteral("RepoSeikyu_frm");
-const QString printButton = QStringLiteral("Btn(0)");
-const QString showButton = QStringLiteral("Btn(1)");
-const QString exportButton = QStringLiteral("Btn(2)");
+const QString kBillingForm = u"Seikyu_frm"_s;
+const QString kListForm = u"RepoSeikyu_frm"_s;
+const QString kPrintButton = u"Btn(0)"_s;
+const QString kShowButton = u"Btn(1)"_s;
+const QString kExportButton = u"Btn(2)"_s;
 
-void openBilling(Desk& desk) {
-    openFromMenu(desk, 16, billingForm);
-    std::map<QString, QString> typed = monthTyped(desk.options);
-    typed[QStringLiteral("ebox(2)")] = DateText(DateSerial(desk.options.year, desk.options.month + 1, 0));
-    walkTo(desk, QStringLiteral("ebox(5)"), typed);
+void OpenBilling(Desk& desk) {
+    OpenFromMenu(desk, 16, kBillingForm);
+    std::map<QString, QString> typed = MonthTyped(desk.options);
+    typed[u"ebox(2)"_s] = DateText(DateSerial(desk.options.year, desk.options.month + 1, 0));
+    WalkTo(desk, u"ebox(5)"_s, typed);
 }
 
-void bill(Desk& desk) {
-    desk.clerk.click(QStringLiteral("Command(0)"));
+void Bill(Desk& desk) {
+    desk.clerk.click(u"Command(0)"_s);
     const QString said = desk.clerk.lastSaid();
-    if (said != QStringLiteral("集計しました。")) throw Failure(QStringLiteral("請求処理: ") + said);
-    closeForm(desk, billingForm);
+    if (said != u"集計しました。"_s) throw Failure(u"請求処理: "_s + said);
+    CloseForm(desk, kBillingForm);
 }
 
 }  // namespace
 
-void runBilling(Desk& desk) {
-    openBilling(desk);
-    takeForm(desk, QStringLiteral("billing"), billingForm);
-    desk.clerk.expect(QStringLiteral("Alert_frm"), [&desk](QWidget& message) {
-        desk.album.take(QStringLiteral("billing-done"), {&desk.clerk.form(billingForm), &message});
-        desk.album.take(QStringLiteral("message"), {&message});
+void RunBilling(Desk& desk) {
+    OpenBilling(desk);
+    TakeForm(desk, u"billing"_s, kBillingForm);
+    desk.clerk.expect(u"Alert_frm"_s, [&desk](QWidget& message) {
+        desk.album.take(u"billing-done"_s, {&desk.clerk.form(kBillingForm), &message});
+        desk.album.take(u"message"_s, {&message});
         desk.clerk.enter();
     });
-    bill(desk);
+    Bill(desk);
 }
 
-void runBillingAgain(Desk& desk) {
-    openBilling(desk);
+void RunBillingAgain(Desk& desk) {
+    OpenBilling(desk);
     desk.clerk.answerAlert();
-    bill(desk);
+    Bill(desk);
 }
 
-void showList(Desk& desk) {
-    openFromMenu(desk, 7, listForm);
-    walkTo(desk, showButton, monthTyped(desk.options));
+void ShowList(Desk& desk) {
+    OpenFromMenu(desk, 7, kListForm);
+    WalkTo(desk, kShowButton, MonthTyped(desk.options));
     desk.clerk.enter();
-    takeForm(desk, QStringLiteral("billing-list"), listForm);
+    TakeForm(desk, u"billing-list"_s, kListForm);
 }
 
-void printList(Desk& desk) {
-    printTo(desk, printButton, desk.folder.path(QStringLiteral("billing-list.pdf")),
-            QStringLiteral("printer"));
+void PrintList(Desk& desk) {
+    PrintInto(desk, kPrintButton, desk.folder.path(u"billing-list.pdf"_s), u"printer"_s);
 }
 
-void exportList(Desk& desk) {
-    saveAs(desk, exportButton, desk.folder.path(QStringLiteral("billing-list.xlsx")),
-           QStringLiteral("save-as"));
-    closeForm(desk, listForm);
+void ExportList(Desk& desk) {
+    SaveAs(desk, kExportButton, desk.folder.path(u"billing-list.xlsx"_s), u"save-as"_s);
+    CloseForm(desk, kListForm);
 }
 
 // The first customers alone make a single page, and so one preview.
-void previewList(Desk& desk) {
-    openFromMenu(desk, 7, listForm);
-    std::map<QString, QString> typed = monthTyped(desk.options);
-    typed[QStringLiteral("ebox(2)")] = QStringLiteral("1");
-    typed[QStringLiteral("ebox(3)")] = QStringLiteral("40");
-    walkTo(desk, showButton, typed);
-    desk.clerk.expect(QStringLiteral("Printer_frm"), [&desk](QWidget&) { desk.clerk.enter(); });
-    expectPictured(desk, QStringLiteral("Preview_frm"), QStringLiteral("preview"), Qt::Key_Escape);
+void PreviewList(Desk& desk) {
+    OpenFromMenu(desk, 7, kListForm);
+    std::map<QString, QString> typed = MonthTyped(desk.options);
+    typed[u"ebox(2)"_s] = u"1"_s;
+    typed[u"ebox(3)"_s] = u"40"_s;
+    WalkTo(desk, kShowButton, typed);
+    desk.clerk.expect(u"Printer_frm"_s, [&desk](QWidget&) { desk.clerk.enter(); });
+    ExpectPictured(desk, u"Preview_frm"_s, u"preview"_s, Qt::Key_Escape);
     gPrintPreview = true;  // the setting itself is read at the program's start alone
-    desk.clerk.click(printButton);
+    desk.clerk.click(kPrintButton);
     gPrintPreview = false;
-    closeForm(desk, listForm);
+    CloseForm(desk, kListForm);
 }
 
 }  // namespace akarix::month

@@ -4,47 +4,46 @@
 #include <algorithm>
 
 #include "month/Failure.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::month {
 
 namespace {
 
 // Places of a record, from 0.
-constexpr int recordWidth = 120;
-constexpr int amountAt = 80;
-constexpr int customerAt = 91;
-constexpr int resultAt = 111;
+constexpr int kRecordWidth = 120;
+constexpr int kAmountAt = 80;
+constexpr int kCustomerAt = 91;
+constexpr int kResultAt = 111;
 
-QList<QByteArray> readRecords(const QString& path) {
+QList<QByteArray> ReadRecords(const QString& path) {
     QFile file(path);
-    if (!file.open(QFile::ReadOnly)) throw Failure(path + QStringLiteral(" が読めません。"));
+    if (!file.open(QFile::ReadOnly)) throw Failure(path + u" が読めません。"_s);
     QList<QByteArray> records = file.readAll().split('\n');
     records.removeLast();  // nothing stands behind the last end of line
     for (QByteArray& record : records) {
-        if (!record.endsWith('\r') || record.size() != recordWidth + 1) {
-            throw Failure(path + QStringLiteral(" に 120 桁でない行があります。"));
-        }
+        if (!record.endsWith('\r') || record.size() != kRecordWidth + 1)
+            throw Failure(path + u" に 120 桁でない行があります。"_s);
         record.chop(1);
     }
     return records;
 }
 
-bool isClaim(const QByteArray& record) {
+bool IsClaim(const QByteArray& record) {
     return record.startsWith('2');
 }
 
-void requireTrailer(const QList<QByteArray>& records, const DebitFigures& figures, const QString& path) {
+void RequireTrailer(const QList<QByteArray>& records, const DebitFigures& figures, const QString& path) {
     const auto trailer = std::find_if(records.begin(), records.end(),
                                       [](const QByteArray& record) { return record.startsWith('8'); });
     if (trailer == records.end() || trailer->mid(1, 6).toLongLong() != figures.asked ||
-        trailer->mid(7, 12).toLongLong() != figures.askedYen) {
-        throw Failure(path + QStringLiteral(" の合計が明細と違います。"));
-    }
+        trailer->mid(7, 12).toLongLong() != figures.askedYen)
+        throw Failure(path + u" の合計が明細と違います。"_s);
 }
 
 }  // namespace
 
-DebitFigures totalsOf(const DebitClaims& claims) {
+DebitFigures TotalsOf(const DebitClaims& claims) {
     DebitFigures figures;
     for (const DebitClaim& claim : claims) {
         ++figures.asked;
@@ -56,28 +55,28 @@ DebitFigures totalsOf(const DebitClaims& claims) {
     return figures;
 }
 
-DebitClaims readDebitFile(const QString& path) {
-    const QList<QByteArray> records = readRecords(path);
+DebitClaims ReadDebitFile(const QString& path) {
+    const QList<QByteArray> records = ReadRecords(path);
     DebitClaims claims;
     for (const QByteArray& record : records) {
-        if (!isClaim(record)) continue;
-        const char result = record[resultAt];
-        claims.push_back({record.mid(customerAt, 20).toInt(), record.mid(amountAt, 10).toLongLong(),
+        if (!IsClaim(record)) continue;
+        const char result = record[kResultAt];
+        claims.push_back({record.mid(kCustomerAt, 20).toInt(), record.mid(kAmountAt, 10).toLongLong(),
                           result == '0' || result == ' '});
     }
-    requireTrailer(records, totalsOf(claims), path);
+    RequireTrailer(records, TotalsOf(claims), path);
     return claims;
 }
 
-void markDebitFile(const QString& path) {
-    QList<QByteArray> records = readRecords(path);
+void MarkDebitFile(const QString& path) {
+    QList<QByteArray> records = ReadRecords(path);
     QFile file(path);
-    if (!file.open(QFile::WriteOnly)) throw Failure(path + QStringLiteral(" に書き込めません。"));
+    if (!file.open(QFile::WriteOnly)) throw Failure(path + u" に書き込めません。"_s);
     int claim = 0;
     for (QByteArray& record : records) {
-        if (isClaim(record)) {
+        if (IsClaim(record)) {
             const bool hasMoney = claim % 9 != 1;
-            record[resultAt] = claim == 0 ? ' ' : (hasMoney ? '0' : '1');
+            record[kResultAt] = claim == 0 ? ' ' : (hasMoney ? '0' : '1');
             ++claim;
         }
         file.write(record + "\r\n");

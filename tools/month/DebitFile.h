@@ -22,14 +22,14 @@ struct DebitFigures {
     std::int64_t debitedYen = 0;
 };
 
-DebitFigures totalsOf(const DebitClaims& claims);
+DebitFigures TotalsOf(const DebitClaims& claims);
 
 // The post office's disk, read by its places and with none of the product's routines.
 
 /// Raises Failure when the file cannot be read, or its records do not come to what its trailer says.
-DebitClaims readDebitFile(const QString& path);
+DebitClaims ReadDebitFile(const QString& path);
 /// What the post office does with the disk: a result on each record. Most are debited, some have no money,
 /// and one is left blank, which counts as debited.
-void markDebitFile(const QString& path);
+void MarkDebitFile(const QString& path);
 
 }  // namespace akarix::month

@@ -16,6 +16,7 @@
 #include "month/WorkFolder.h"
 #include "platform/forms/Form.h"
 #include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Literals.h"
 #include "sample/SampleMasters.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -25,37 +26,37 @@ namespace akarix::month {
 
 namespace {
 
-const QString billingForm = QStringLiteral("Seikyu_frm");
-const QString firstButton = QStringLiteral("Command(0)");
-const QString writeButton = QStringLiteral("Command(2)");
-const QString readButton = QStringLiteral("Command(4)");
-const QString bankStatementButton = QStringLiteral("Command(5)");
-const QString postStatementButton = QStringLiteral("Command(6)");
+const QString kBillingForm = u"Seikyu_frm"_s;
+const QString kFirstButton = u"Command(0)"_s;
+const QString kWriteButton = u"Command(2)"_s;
+const QString kReadButton = u"Command(4)"_s;
+const QString kBankStatementButton = u"Command(5)"_s;
+const QString kPostStatementButton = u"Command(6)"_s;
 
-const QString branchBox = QStringLiteral("ebox(17)");  // of the customer
+const QString kBranchBox = u"ebox(17)"_s;  // of the customer
 
-QString onDisk(const Desk& desk, const QString& name) {
+QString OnDisk(const Desk& desk, const QString& name) {
     return desk.folder.disk() + u'/' + name;
 }
 
 /// The disk's own name, as the consignor's screen has it.
-QString diskFile(const Desk& desk) {
-    return onDisk(desk, QStringLiteral("jiharai"));
+QString DiskFile(const Desk& desk) {
+    return OnDisk(desk, u"jiharai"_s);
 }
 
 /// The bill of the month before is what is debited in this one.
-DebitClaims claimsOf(const Desk& desk, int bank) {
+DebitClaims ClaimsOf(const Desk& desk, int bank) {
     const int before = desk.options.year * 12 + desk.options.month - 2;
-    return claimsAfter(*gDb, bank, before / 12, before % 12 + 1);
+    return ClaimsAfter(*gDb, bank, before / 12, before % 12 + 1);
 }
 
 /// The bank with the most to debit; 0 when none has any.
-int busiestBank(const Desk& desk) {
+int BusiestBank(const Desk& desk) {
     int busiest = 0;
     std::size_t most = 0;
-    for (int i = 0; i < sample::bankCount; ++i) {
-        const int bank = sample::bankAt(i).code;
-        const std::size_t count = claimsOf(desk, bank).size();
+    for (int i = 0; i < sample::kBankCount; ++i) {
+        const int bank = sample::BankAt(i).code;
+        const std::size_t count = ClaimsOf(desk, bank).size();
         if (count > most) busiest = bank;
         most = std::max(most, count);
     }
@@ -63,27 +64,24 @@ int busiestBank(const Desk& desk) {
 }
 
 /// A consignor is looked up, walked through and saved as it stands.
-void keepConsignor(Desk& desk, int button, const QString& form, int code, const QString& picture) {
-    openFromMenu(desk, button, form);
-    walkTo(desk, QStringLiteral("Btn(2)"), {{QStringLiteral("ebox(0)"), QString::number(code)}});
-    takeForm(desk, picture, form);
+void KeepConsignor(Desk& desk, int button, const QString& form, int code, const QString& picture) {
+    OpenFromMenu(desk, button, form);
+    WalkTo(desk, u"Btn(2)"_s, {{u"ebox(0)"_s, QString::number(code)}});
+    TakeForm(desk, picture, form);
     desk.clerk.enter();
-    closeForm(desk, form);
+    CloseForm(desk, form);
 }
 
-void requireSaid(Desk& desk, const QString& wanted) {
-    if (!desk.clerk.said().contains(wanted)) {
-        throw Failure(QStringLiteral("「%1」と出ません。").arg(wanted));
-    }
+void RequireSaid(Desk& desk, const QString& wanted) {
+    if (!desk.clerk.said().contains(wanted)) throw Failure(u"「%1」と出ません。"_s.arg(wanted));
 }
 
-QString branchOf(std::int32_t deal) {
-    return QString::number(
-        readNumbers(*gDb, QStringLiteral("SELECT Stn FROM Deal WHERE Code=%1").arg(deal))[0][0]);
+QString BranchOf(std::int32_t deal) {
+    return QString::number(ReadNumbers(*gDb, u"SELECT Stn FROM Deal WHERE Code=%1"_s.arg(deal))[0][0]);
 }
 
 /// From the proposed day of the second attempt to the message that the disk is done.
-void writeDisk(Desk& desk, const std::function<void()>& expectTotals) {
+void WriteDisk(Desk& desk, const std::function<void()>& expectTotals) {
     desk.clerk.answerConfirm(true);
     desk.clerk.answerConfirm(true);
     expectTotals();
@@ -93,9 +91,9 @@ void writeDisk(Desk& desk, const std::function<void()>& expectTotals) {
 }
 
 /// Those that akarix-admin's check of a disk finds fault with, counted from 1.
-std::set<qsizetype> recordsNamed(const QString& path) {
+std::set<qsizetype> RecordsNamed(const QString& path) {
     QFile file(path);
-    if (!file.open(QFile::ReadOnly)) throw Failure(path + QStringLiteral(" が読めません。"));
+    if (!file.open(QFile::ReadOnly)) throw Failure(path + u" が読めません。"_s);
     std::set<qsizetype> named;
     for (const auto& departure : admin::CheckDebitFile(admin::SplitDebitRecords(file.readAll())).departures)
         named.insert(departure.record);
@@ -103,103 +101,94 @@ std::set<qsizetype> recordsNamed(const QString& path) {
 }
 
 /// The check names the broken record before the disk goes out; the customer gets his branch back.
-void mendBranch(Desk& desk) {
-    const auto named = recordsNamed(diskFile(desk));
+void MendBranch(Desk& desk) {
+    const auto named = RecordsNamed(DiskFile(desk));
     const int behindHeader = desk.shortBranch.claim + 2;
-    if (!named.contains(behindHeader)) {
-        throw Failure(QStringLiteral("検査が %1 番目のレコードを挙げません。").arg(behindHeader));
-    }
+    if (!named.contains(behindHeader))
+        throw Failure(u"検査が %1 番目のレコードを挙げません。"_s.arg(behindHeader));
     ++desk.refusedDisks;
-    changeCustomer(desk, desk.shortBranch.deal, {{branchBox, desk.shortBranch.branch}});
+    ChangeCustomer(desk, desk.shortBranch.deal, {{kBranchBox, desk.shortBranch.branch}});
 }
 
 }  // namespace
 
-void keepConsignors(Desk& desk) {
-    keepConsignor(desk, 14, QStringLiteral("MstBnk_frm"), sample::bankAt(0).code,
-                  QStringLiteral("bank-consignor"));
-    keepConsignor(desk, 15, QStringLiteral("MstYubin_frm"), sample::postOffice,
-                  QStringLiteral("post-consignor"));
+void KeepConsignors(Desk& desk) {
+    KeepConsignor(desk, 14, u"MstBnk_frm"_s, sample::BankAt(0).code, u"bank-consignor"_s);
+    KeepConsignor(desk, 15, u"MstYubin_frm"_s, sample::kPostOffice, u"post-consignor"_s);
 }
 
 // Keyed as a bank's branch is, the post office's breaks its record in two.
-void shortenBranch(Desk& desk) {
-    const DebitClaims claims = claimsOf(desk, sample::postOffice);
+void ShortenBranch(Desk& desk) {
+    const DebitClaims claims = ClaimsOf(desk, sample::kPostOffice);
     if (claims.empty()) return;
     const auto claim = claims.size() / 2;
-    desk.shortBranch = {claims[claim].deal, static_cast<int>(claim), branchOf(claims[claim].deal)};
-    changeCustomer(desk, desk.shortBranch.deal, {{branchBox, desk.shortBranch.branch.left(3)}});
+    desk.shortBranch = {claims[claim].deal, static_cast<int>(claim), BranchOf(claims[claim].deal)};
+    ChangeCustomer(desk, desk.shortBranch.deal, {{kBranchBox, desk.shortBranch.branch.left(3)}});
 }
 
 // The screen stays open until the disk is back.
-void printStatements(Desk& desk) {
-    const int bank = busiestBank(desk);
-    openFromMenu(desk, 16, billingForm);
-    std::map<QString, QString> typed = monthTyped(desk.options, -1);
-    typed[QStringLiteral("ebox(2)")] = DateText(DateSerial(desk.options.year, desk.options.month, debitDay));
-    if (bank != 0) typed[QStringLiteral("ebox(5)")] = QString::number(bank);
-    walkTo(desk, firstButton, typed);
-    if (bank != 0) {
-        printTo(desk, bankStatementButton, onDisk(desk, QStringLiteral("bank-statement.pdf")));
-    }
-    if (claimsOf(desk, sample::postOffice).empty()) return;
-    desk.clerk.bringToFront(billingForm);
-    printTo(desk, postStatementButton, onDisk(desk, QStringLiteral("post-statement.pdf")));
+void PrintStatements(Desk& desk) {
+    const int bank = BusiestBank(desk);
+    OpenFromMenu(desk, 16, kBillingForm);
+    std::map<QString, QString> typed = MonthTyped(desk.options, -1);
+    typed[u"ebox(2)"_s] = DateText(DateSerial(desk.options.year, desk.options.month, kDebitDay));
+    if (bank != 0) typed[u"ebox(5)"_s] = QString::number(bank);
+    WalkTo(desk, kFirstButton, typed);
+    if (bank != 0) PrintInto(desk, kBankStatementButton, OnDisk(desk, u"bank-statement.pdf"_s));
+    if (ClaimsOf(desk, sample::kPostOffice).empty()) return;
+    desk.clerk.bringToFront(kBillingForm);
+    PrintInto(desk, kPostStatementButton, OnDisk(desk, u"post-statement.pdf"_s));
 }
 
-void writeRequest(Desk& desk) {
-    const DebitClaims wanted = claimsOf(desk, sample::postOffice);
+void WriteRequest(Desk& desk) {
+    const DebitClaims wanted = ClaimsOf(desk, sample::kPostOffice);
     if (wanted.empty()) return;
-    desk.clerk.bringToFront(billingForm);
-    desk.clerk.click(writeButton);
-    takeForm(desk, QStringLiteral("retransfer"), billingForm);
-    writeDisk(desk, [&desk] {
-        desk.clerk.expect(QStringLiteral("Printer_frm"),
-                          [&desk](QWidget&) { desk.clerk.press(Qt::Key_Escape); });
+    desk.clerk.bringToFront(kBillingForm);
+    desk.clerk.click(kWriteButton);
+    TakeForm(desk, u"retransfer"_s, kBillingForm);
+    WriteDisk(desk, [&desk] {
+        desk.clerk.expect(u"Printer_frm"_s, [&desk](QWidget&) { desk.clerk.press(Qt::Key_Escape); });
     });
-    mendBranch(desk);
+    MendBranch(desk);
 
-    desk.clerk.bringToFront(billingForm);
-    desk.clerk.click(writeButton);
-    const QString totals = onDisk(desk, QStringLiteral("total-sheet.pdf"));
-    writeDisk(desk, [&] { expectPrinter(desk, totals); });
-    requireFile(totals);
-    const auto named = recordsNamed(diskFile(desk));
-    if (!named.empty()) throw Failure(QStringLiteral("依頼のディスクが検査を通りません。"));
-    const DebitFigures sums = totalsOf(wanted);
-    requireSaid(desk, QStringLiteral("件数：%1\n金額：%2").arg(sums.asked).arg(sums.askedYen));
+    desk.clerk.bringToFront(kBillingForm);
+    desk.clerk.click(kWriteButton);
+    const QString totals = OnDisk(desk, u"total-sheet.pdf"_s);
+    WriteDisk(desk, [&] { ExpectPrinter(desk, totals); });
+    RequireFile(totals);
+    const auto named = RecordsNamed(DiskFile(desk));
+    if (!named.empty()) throw Failure(u"依頼のディスクが検査を通りません。"_s);
+    const DebitFigures sums = TotalsOf(wanted);
+    RequireSaid(desk, u"件数：%1\n金額：%2"_s.arg(sums.asked).arg(sums.askedYen));
 
-    DebitClaims asked = readDebitFile(diskFile(desk));
+    DebitClaims asked = ReadDebitFile(DiskFile(desk));
     for (DebitClaim& claim : asked)
         claim.debited = false;
-    if (asked != wanted) throw Failure(QStringLiteral("依頼のディスクが売掛と違います。"));
-    QFile::copy(diskFile(desk), onDisk(desk, QStringLiteral("jiharai-request")));
+    if (asked != wanted) throw Failure(u"依頼のディスクが売掛と違います。"_s);
+    QFile::copy(DiskFile(desk), OnDisk(desk, u"jiharai-request"_s));
 }
 
-void readResult(Desk& desk) {
-    if (QFile::exists(diskFile(desk))) {
-        markDebitFile(diskFile(desk));
-        desk.typed.debits = readDebitFile(diskFile(desk));
-        std::int32_t number = HighestPlus(QStringLiteral("SELECT MAX(Dno) AS tDno FROM Dny"), 1);
-        for (const DebitClaim& claim : desk.typed.debits) {
+void ReadResult(Desk& desk) {
+    if (QFile::exists(DiskFile(desk))) {
+        MarkDebitFile(DiskFile(desk));
+        desk.typed.debits = ReadDebitFile(DiskFile(desk));
+        std::int32_t number = HighestPlus(u"SELECT MAX(Dno) AS tDno FROM Dny"_s, 1);
+        for (const DebitClaim& claim : desk.typed.debits)
             if (claim.debited) desk.typed.payments[number++] = {claim.deal, claim.yen};
-        }
-        desk.clerk.bringToFront(billingForm);
+        desk.clerk.bringToFront(kBillingForm);
         desk.clerk.answerConfirm(true);
         desk.clerk.answerConfirm(true);
-        desk.clerk.expect(QStringLiteral("Alert_frm"), [&desk](QWidget& message) {
-            desk.album.take(QStringLiteral("debit-result"), {&desk.clerk.form(billingForm), &message});
+        desk.clerk.expect(u"Alert_frm"_s, [&desk](QWidget& message) {
+            desk.album.take(u"debit-result"_s, {&desk.clerk.form(kBillingForm), &message});
             desk.clerk.enter();
         });
-        desk.clerk.click(readButton);
-        const DebitFigures sums = totalsOf(desk.typed.debits);
-        requireSaid(
-            desk, QStringLiteral("%1 / %2%3完了しました。")
-                      .arg(sums.debited)
-                      .arg(sums.asked)
-                      .arg(sums.debited == sums.asked ? QStringLiteral(" 全件　") : QStringLiteral(" 件　")));
+        desk.clerk.click(kReadButton);
+        const DebitFigures sums = TotalsOf(desk.typed.debits);
+        RequireSaid(desk, u"%1 / %2%3完了しました。"_s.arg(sums.debited)
+                              .arg(sums.asked)
+                              .arg(sums.debited == sums.asked ? u" 全件　"_s : u" 件　"_s));
     }
-    closeForm(desk, billingForm);
+    CloseForm(desk, kBillingForm);
 }
 
 }  // namespace akarix::month

@@ -8,21 +8,22 @@
 #include "month/Failure.h"
 #include "month/Options.h"
 #include "platform/forms/Form.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::month {
 
-void openFromMenu(Desk& desk, int button, const QString& form) {
-    desk.clerk.bringToFront(QStringLiteral("main_menu"));
-    desk.clerk.click(QStringLiteral("main_menu/Command(%1)").arg(button));
+void OpenFromMenu(Desk& desk, int button, const QString& form) {
+    desk.clerk.bringToFront(u"main_menu"_s);
+    desk.clerk.click(u"main_menu/Command(%1)"_s.arg(button));
     desk.clerk.bringToFront(form);
 }
 
-void closeForm(Desk& desk, const QString& form) {
+void CloseForm(Desk& desk, const QString& form) {
     desk.clerk.closeBox(desk.clerk.form(form));
-    if (desk.clerk.isOpen(form)) throw Failure(form + QStringLiteral(" が閉じません。"));
+    if (desk.clerk.isOpen(form)) throw Failure(form + u" が閉じません。"_s);
 }
 
-void walkTo(Desk& desk, const QString& end, const std::map<QString, QString>& texts) {
+void WalkTo(Desk& desk, const QString& end, const std::map<QString, QString>& texts) {
     constexpr int mostFields = 60;
     for (int i = 0; i < mostFields; ++i) {
         const QString here = desk.clerk.focusedName();
@@ -30,76 +31,77 @@ void walkTo(Desk& desk, const QString& end, const std::map<QString, QString>& te
         if (const auto text = texts.find(here); text != texts.end()) desk.clerk.type(text->second);
         desk.clerk.enter();
     }
-    throw Failure(QStringLiteral("Enter で %1 に着きません。").arg(end));
+    throw Failure(u"Enter で %1 に着きません。"_s.arg(end));
 }
 
-void changeCustomer(Desk& desk, std::int32_t deal, const std::map<QString, QString>& texts,
+void ChangeCustomer(Desk& desk, std::int32_t deal, const std::map<QString, QString>& texts,
                     const QStringList& ticks) {
-    const QString form = QStringLiteral("MstDeal_frm");
-    const QString save = QStringLiteral("Btn(2)");
-    openFromMenu(desk, 13, form);
+    const QString form = u"MstDeal_frm"_s;
+    const QString save = u"Btn(2)"_s;
+    OpenFromMenu(desk, 13, form);
     desk.clerk.fill(QString::number(deal));
-    walkTo(desk, save, texts);
+    WalkTo(desk, save, texts);
     for (const QString& tick : ticks)
         desk.clerk.click(tick);
     desk.clerk.click(save);
-    closeForm(desk, form);
+    CloseForm(desk, form);
 }
 
-std::map<QString, QString> monthTyped(const Options& options, int later) {
+std::map<QString, QString> MonthTyped(const Options& options, int later) {
     const int index = options.year * 12 + options.month - 1 + later;
-    return {{QStringLiteral("ebox(0)"), QString::number(index / 12)},
-            {QStringLiteral("ebox(1)"), QString::number(index % 12 + 1)}};
+    return {{u"ebox(0)"_s, QString::number(index / 12)}, {u"ebox(1)"_s, QString::number(index % 12 + 1)}};
 }
 
-void requireFocus(Desk& desk, const QString& control) {
+void RequireFocus(Desk& desk, const QString& control) {
     const QString here = desk.clerk.focusedName();
-    if (here != control) {
-        throw Failure(QStringLiteral("キーボードが %1 でなく %2 にあります。").arg(control, here));
-    }
+    if (here != control) throw Failure(u"キーボードが %1 でなく %2 にあります。"_s.arg(control, here));
 }
 
-void takeForm(Desk& desk, const QString& picture, const QString& form) {
+void TakeForm(Desk& desk, const QString& picture, const QString& form) {
     desk.clerk.settle();
     desk.album.take(picture, {&desk.clerk.form(form)});
 }
 
-void expectPictured(Desk& desk, const QString& dialog, const QString& picture, int key) {
-    desk.clerk.expect(dialog, [&desk, picture, key](QWidget& shown) {
-        desk.album.take(picture, {&shown});
-        desk.clerk.press(key);
-    });
+void ExpectPictured(Desk& desk, const QString& dialog, const QString& picture, int key) {
+    desk.clerk.expect(
+        dialog,
+        [&desk, picture, key](QWidget& shown) {
+            desk.album.take(picture, {&shown});
+            desk.clerk.press(key);
+        });
 }
 
-void saveAs(Desk& desk, const QString& button, const QString& path, const QString& picture) {
-    desk.clerk.expect(QStringLiteral("SaveAs_frm"), [&desk, path, picture](QWidget& dialog) {
+void SaveAs(Desk& desk, const QString& button, const QString& path, const QString& picture) {
+    desk.clerk.expect(u"SaveAs_frm"_s, [&desk, path, picture](QWidget& dialog) {
         desk.clerk.type(path);
         if (!picture.isEmpty()) desk.album.take(picture, {&dialog});
         desk.clerk.enter();
     });
     desk.clerk.click(button);
-    requireFile(path);
+    RequireFile(path);
 }
 
-void expectPrinter(Desk& desk, const QString& path, const QString& picture) {
-    desk.clerk.expect(QStringLiteral("Printer_frm"), [&desk, path, picture](QWidget& dialog) {
-        desk.clerk.press(Qt::Key_End);
-        desk.clerk.tab();
-        requireFocus(desk, QStringLiteral("Path"));
-        desk.clerk.type(path);
-        if (!picture.isEmpty()) desk.album.take(picture, {&dialog});
-        desk.clerk.enter();
-    });
+void ExpectPrinter(Desk& desk, const QString& path, const QString& picture) {
+    desk.clerk.expect(
+        u"Printer_frm"_s,
+        [&desk, path, picture](QWidget& dialog) {
+            desk.clerk.press(Qt::Key_End);
+            desk.clerk.tab();
+            RequireFocus(desk, u"Path"_s);
+            desk.clerk.type(path);
+            if (!picture.isEmpty()) desk.album.take(picture, {&dialog});
+            desk.clerk.enter();
+        });
 }
 
-void printTo(Desk& desk, const QString& button, const QString& path, const QString& picture) {
-    expectPrinter(desk, path, picture);
+void PrintInto(Desk& desk, const QString& button, const QString& path, const QString& picture) {
+    ExpectPrinter(desk, path, picture);
     desk.clerk.click(button);
-    requireFile(path);
+    RequireFile(path);
 }
 
-void requireFile(const QString& path) {
-    if (QFileInfo(path).size() == 0) throw Failure(path + QStringLiteral(" ができていません。"));
+void RequireFile(const QString& path) {
+    if (QFileInfo(path).size() == 0) throw Failure(path + u" ができていません。"_s);
 }
 
 }  // namespace akarix::month

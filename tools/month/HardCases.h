@@ -17,6 +17,6 @@ struct Desk;
 using HardCases = std::vector<std::pair<QString, std::int64_t>>;
 
 /// Counted in the store where it stands there, else by what was done at the desk.
-HardCases hardCasesOf(Database& db, const Desk& desk);
+HardCases HardCasesOf(Database& db, const Desk& desk);
 
 }  // namespace akarix::month

@@ -13,6 +13,6 @@ struct InvoicePages {
 
 /// The pages that the marked invoices of a month must have: each line of a slip and the gas take a line of
 /// the sheet.
-InvoicePages invoicePagesOf(Database& db, int year, int month);
+InvoicePages InvoicePagesOf(Database& db, int year, int month);
 
 }  // namespace akarix::month

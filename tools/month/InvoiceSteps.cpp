@@ -12,6 +12,7 @@
 #include "output/PB.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/print/PrinterSurface.h"
+#include "platform/runtime/Literals.h"
 #include "reports/InvoiceScript.h"
 #include "store/Settings.h"
 #include "store/dbAccess.h"
@@ -20,16 +21,16 @@ namespace akarix::month {
 
 namespace {
 
-const QString invoiceForm = QStringLiteral("SeikyuPrt_frm");
-const QString printButton = QStringLiteral("Btn");
+const QString kInvoiceForm = u"SeikyuPrt_frm"_s;
+const QString kPrintButton = u"Btn"_s;
 
 enum Column { ColMark = 0, ColDeal = 1, ColBefore = 3, ColSales = 9 };
 
 /// By the page tree that ends the file.
-int pagesOf(const QString& path) {
+int PagesOf(const QString& path) {
     QFile file(path);
-    if (!file.open(QFile::ReadOnly)) throw Failure(path + QStringLiteral(" が読めません。"));
-    static const QRegularExpression count(QStringLiteral("/Type /Pages.*?/Count (\\d+)"),
+    if (!file.open(QFile::ReadOnly)) throw Failure(path + u" が読めません。"_s);
+    static const QRegularExpression count(u"/Type /Pages.*?/Count (\\d+)"_s,
                                           QRegularExpression::DotMatchesEverythingOption);
     const QByteArray bytes = file.readAll();
     const auto tree = bytes.lastIndexOf("/Type /Pages");
@@ -37,7 +38,7 @@ int pagesOf(const QString& path) {
 }
 
 /// A customer who gets an invoice, if possible one with something on every part of it.
-std::int32_t tellingCustomer(const FlexGrid& list) {
+std::int32_t TellingCustomer(const FlexGrid& list) {
     std::int32_t found = 0;
     for (int row = 1; row < list.Rows(); ++row) {
         if (list.TextMatrix(row, ColMark).isEmpty()) continue;
@@ -45,55 +46,52 @@ std::int32_t tellingCustomer(const FlexGrid& list) {
         if (found == 0 || tells) found = list.TextMatrix(row, ColDeal).toInt();
         if (tells) break;
     }
-    if (found == 0) throw Failure(QStringLiteral("請求書の出る得意先がありません。"));
+    if (found == 0) throw Failure(u"請求書の出る得意先がありません。"_s);
     return found;
 }
 
 }  // namespace
 
-void showInvoices(Desk& desk) {
-    openFromMenu(desk, 5, invoiceForm);
-    walkTo(desk, printButton, monthTyped(desk.options));
-    takeForm(desk, QStringLiteral("invoices"), invoiceForm);
+void ShowInvoices(Desk& desk) {
+    OpenFromMenu(desk, 5, kInvoiceForm);
+    WalkTo(desk, kPrintButton, MonthTyped(desk.options));
+    TakeForm(desk, u"invoices"_s, kInvoiceForm);
 }
 
-void printInvoices(Desk& desk) {
-    const QString path = desk.folder.path(QStringLiteral("invoices.pdf"));
-    printTo(desk, printButton, path);
-    desk.invoicePages = pagesOf(path);
-    const int wanted = invoicePagesOf(*gDb, desk.options.year, desk.options.month).all;
-    if (desk.invoicePages != wanted) {
-        throw Failure(
-            QStringLiteral("請求書が %1 頁のはずが %2 頁です。").arg(wanted).arg(desk.invoicePages));
-    }
+void PrintInvoices(Desk& desk) {
+    const QString path = desk.folder.path(u"invoices.pdf"_s);
+    PrintInto(desk, kPrintButton, path);
+    desk.invoicePages = PagesOf(path);
+    const int wanted = InvoicePagesOf(*gDb, desk.options.year, desk.options.month).all;
+    if (desk.invoicePages != wanted)
+        throw Failure(u"請求書が %1 頁のはずが %2 頁です。"_s.arg(wanted).arg(desk.invoicePages));
 }
 
 // The drawn invoice breaks off at the balance, before anything is printed. Its script is left as it stands
 // then, and the rest of the page is added to it here, so that the whole layout comes on paper.
-void drawInvoice(Desk& desk) {
-    const std::int32_t deal =
-        tellingCustomer(desk.clerk.find<FlexGrid>(invoiceForm + QStringLiteral("/List")));
+void DrawInvoice(Desk& desk) {
+    const std::int32_t deal = TellingCustomer(desk.clerk.find<FlexGrid>(kInvoiceForm + u"/List"_s));
     const QString code = QString::number(deal);
-    desk.clerk.bringToFront(invoiceForm);
-    desk.clerk.click(QStringLiteral("ebox(3)"));
-    walkTo(desk, printButton, {{QStringLiteral("ebox(3)"), code}, {QStringLiteral("ebox(4)"), code}});
-    const QString path = desk.folder.path(QStringLiteral("script.pdf"));
-    expectPrinter(desk, path);
+    desk.clerk.bringToFront(kInvoiceForm);
+    desk.clerk.click(u"ebox(3)"_s);
+    WalkTo(desk, kPrintButton, {{u"ebox(3)"_s, code}, {u"ebox(4)"_s, code}});
+    const QString path = desk.folder.path(u"script.pdf"_s);
+    ExpectPrinter(desk, path);
     desk.clerk.answerAlert();
     const std::int16_t mode = gInvoiceMode;
     gInvoiceMode = 0;  // the setting itself is read at the program's start alone
-    desk.clerk.click(printButton);
+    desk.clerk.click(kPrintButton);
     gInvoiceMode = mode;
     const QString said = desk.clerk.lastSaid();
-    if (!said.startsWith(QStringLiteral("3420"))) throw Failure(QStringLiteral("請求書の作図: ") + said);
+    if (!said.startsWith(u"3420"_s)) throw Failure(u"請求書の作図: "_s + said);
 
     const InvoiceMonth invoice{deal, desk.options.year, desk.options.month};
     const auto ledger = ReadInvoiceLedger(invoice);
     AddInvoiceAccount(invoice, ReadInvoiceReading(invoice), ledger ? ledger->zenkaiGaku : Currency());
     PBRun();
     PrinterSurface::Current().EndDoc();
-    requireFile(path);
-    closeForm(desk, invoiceForm);
+    RequireFile(path);
+    CloseForm(desk, kInvoiceForm);
 }
 
 }  // namespace akarix::month

@@ -4,17 +4,18 @@
 #include "month/Hands.h"
 #include "month/Steps.h"
 #include "month/TypedMonth.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::month {
 
 namespace {
 
-const QString slipForm = QStringLiteral("Slip_frm");
-const QString paymentForm = QStringLiteral("SlipN2_frm");
-const QString billingForm = QStringLiteral("Seikyu_frm");
+const QString kSlipForm = u"Slip_frm"_s;
+const QString kPaymentForm = u"SlipN2_frm"_s;
+const QString kBillingForm = u"Seikyu_frm"_s;
 
 /// The lookup that a picture opens is kept and left without a pick.
-void lookAt(Desk& desk, const QString& picture, const QString& lookup, const QString& name) {
+void LookAt(Desk& desk, const QString& picture, const QString& lookup, const QString& name) {
     desk.clerk.expect(lookup, [&desk, name](QWidget& shown) {
         desk.album.take(name, {&shown});
         desk.clerk.closeBox(shown);
@@ -23,32 +24,31 @@ void lookAt(Desk& desk, const QString& picture, const QString& lookup, const QSt
 }
 
 /// A search among the banks is an error: they have a list alone.
-void searchBanks(Desk& desk) {
-    desk.clerk.expect(QStringLiteral("Help_frm"), [&desk](QWidget& shown) {
-        desk.album.take(QStringLiteral("bank-lookup"), {&shown});
-        expectPictured(desk, QStringLiteral("MsgBox"), QStringLiteral("error"), Qt::Key_Return);
-        desk.clerk.click(QStringLiteral("Btn(0)"));
+void SearchBanks(Desk& desk) {
+    desk.clerk.expect(u"Help_frm"_s, [&desk](QWidget& shown) {
+        desk.album.take(u"bank-lookup"_s, {&shown});
+        ExpectPictured(desk, u"MsgBox"_s, u"error"_s, Qt::Key_Return);
+        desk.clerk.click(u"Btn(0)"_s);
         desk.clerk.closeBox(shown);
     });
-    desk.clerk.click(QStringLiteral("F6(0)"));
+    desk.clerk.click(u"F6(0)"_s);
 }
 
 }  // namespace
 
-void showLookups(Desk& desk) {
-    openFromMenu(desk, 0, slipForm);
-    lookAt(desk, QStringLiteral("F6(0)"), QStringLiteral("HelpSlip_frm"), QStringLiteral("slip-lookup"));
-    closeForm(desk, slipForm);
+void ShowLookups(Desk& desk) {
+    OpenFromMenu(desk, 0, kSlipForm);
+    LookAt(desk, u"F6(0)"_s, u"HelpSlip_frm"_s, u"slip-lookup"_s);
+    CloseForm(desk, kSlipForm);
 
-    openFromMenu(desk, 2, paymentForm);
-    walkTo(desk, QStringLiteral("ebox(2)"),
-           {{QStringLiteral("ebox(1)"), QString::number(desk.typed.payments.begin()->second.deal)}});
-    lookAt(desk, QStringLiteral("F6(0)"), QStringLiteral("HelpN_frm"), QStringLiteral("payment-lookup"));
-    closeForm(desk, paymentForm);
+    OpenFromMenu(desk, 2, kPaymentForm);
+    WalkTo(desk, u"ebox(2)"_s, {{u"ebox(1)"_s, QString::number(desk.typed.payments.begin()->second.deal)}});
+    LookAt(desk, u"F6(0)"_s, u"HelpN_frm"_s, u"payment-lookup"_s);
+    CloseForm(desk, kPaymentForm);
 
-    openFromMenu(desk, 16, billingForm);
-    searchBanks(desk);
-    closeForm(desk, billingForm);
+    OpenFromMenu(desk, 16, kBillingForm);
+    SearchBanks(desk);
+    CloseForm(desk, kBillingForm);
 }
 
 }  // namespace akarix::month

@@ -3,18 +3,19 @@
 #include <algorithm>
 
 #include "ledger/Rows.h"
+#include "platform/runtime/Literals.h"
 #include "sample/Season.h"
 
 namespace akarix::month {
 
 namespace {
 
-constexpr int meterEnd = 99999;
-constexpr int newHousehold = 80;  ///< tenths in its first month
-constexpr std::int64_t scaledTenth = 1000;
+constexpr int kMeterEnd = 99999;
+constexpr int kNewHousehold = 80;  ///< tenths in its first month
+constexpr std::int64_t kScaledTenth = 1000;
 
-int seasonOf(std::int64_t month) {
-    return sample::season[month - 1];
+int SeasonOf(std::int64_t month) {
+    return sample::kSeason[month - 1];
 }
 
 }  // namespace
@@ -25,12 +26,12 @@ MeterBook::MeterBook(Database& db, int year, int month) : month_(month) {
         int months = 0;
     };
     std::map<std::int32_t, Sum> sums;
-    for (const auto& row : readNumbers(db, QStringLiteral("SELECT Deal,Getudo,Suu FROM Dgd "
-                                                          "WHERE Nendo*100+Getudo<%1")
-                                               .arg(year * 100 + month))) {
+    for (const auto& row : ReadNumbers(db,
+                                       u"SELECT Deal,Getudo,Suu FROM Dgd "
+                                       "WHERE Nendo*100+Getudo<%1"_s.arg(year * 100 + month))) {
         if (row[2] < 0) continue;  // misread
         Sum& sum = sums[static_cast<std::int32_t>(row[0])];
-        sum.tenths += row[2] / scaledTenth * 100 / seasonOf(row[1]);
+        sum.tenths += row[2] / kScaledTenth * 100 / SeasonOf(row[1]);
         ++sum.months;
     }
     for (const auto& [deal, sum] : sums)
@@ -38,14 +39,14 @@ MeterBook::MeterBook(Database& db, int year, int month) : month_(month) {
 }
 
 void MeterBook::addMeter(std::int32_t deal) {
-    usualTenths_[deal] = newHousehold * 100 / seasonOf(month_);
+    usualTenths_[deal] = kNewHousehold * 100 / SeasonOf(month_);
 }
 
 std::optional<MeterNote> MeterBook::note(std::int32_t deal, int before) const {
     const auto found = usualTenths_.find(deal);
     if (found == usualTenths_.end()) return std::nullopt;
     const int mood = 85 + (deal * 37 + month_ * 11) % 31;  // no month is like another
-    const int use = found->second * seasonOf(month_) / 100 * mood / 100;
+    const int use = found->second * SeasonOf(month_) / 100 * mood / 100;
     // One customer in so many, so that a small dealer's month has each of these too.
     constexpr int every = 97;
     const int turn = deal % every;
@@ -53,9 +54,9 @@ std::optional<MeterNote> MeterBook::note(std::int32_t deal, int before) const {
     if (turn == 7 && before > readTooHigh) return MeterNote{.now = before - readTooHigh};
     constexpr int notedTooLow = 1000;  // the old meter's end, by a wrong digit
     const bool keyedWrong = turn == 13 && before > notedTooLow;
-    const bool exchanged = before + use > meterEnd || (before > 0 && turn == 11) || keyedWrong;
+    const bool exchanged = before + use > kMeterEnd || (before > 0 && turn == 11) || keyedWrong;
     if (!exchanged) return MeterNote{.now = before + use};
-    const int onTheOld = std::min(use / 2, meterEnd - before);
+    const int onTheOld = std::min(use / 2, kMeterEnd - before);
     constexpr int testedAtTheWorks = 3;
     return MeterNote{.exchangedAt = before + onTheOld - (keyedWrong ? notedTooLow : 0),
                      .startsAt = testedAtTheWorks,

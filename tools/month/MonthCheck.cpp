@@ -9,13 +9,14 @@
 #include "month/DebitCheck.h"
 #include "month/Failure.h"
 #include "month/TypedMonth.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::month {
 
 namespace {
 
-constexpr std::int64_t scaledTenth = 1000;
-constexpr std::int64_t scaledYen = 10000;
+constexpr std::int64_t kScaledTenth = 1000;
+constexpr std::int64_t kScaledYen = 10000;
 
 struct Stored {
     std::int32_t deal = 0;
@@ -24,35 +25,32 @@ struct Stored {
     friend bool operator==(const Stored&, const Stored&) = default;
 };
 
-QStringList compareReadings(Database& db, int year, int month, std::map<std::int32_t, MeterNote> typed) {
+QStringList CompareReadings(Database& db, int year, int month, std::map<std::int32_t, MeterNote> typed) {
     QStringList differences;
-    for (const auto& row :
-         readNumbers(db, QStringLiteral("SELECT Deal,KoukanMeter,KoukanGoMeter,KonkaiMeter FROM Dgd "
-                                        "WHERE Nendo=%1 AND Getudo=%2 ORDER BY Deal")
-                             .arg(year)
-                             .arg(month))) {
+    for (const auto& row : ReadNumbers(db,
+                                       u"SELECT Deal,KoukanMeter,KoukanGoMeter,KonkaiMeter FROM Dgd "
+                                       "WHERE Nendo=%1 AND Getudo=%2 ORDER BY Deal"_s.arg(year)
+                                           .arg(month))) {
         const auto deal = static_cast<std::int32_t>(row[0]);
         const auto tenths = [&row](std::size_t column) {
-            return static_cast<int>(row[column] / scaledTenth);
+            return static_cast<int>(row[column] / kScaledTenth);
         };
         const MeterNote stored{tenths(1), tenths(2), tenths(3)};
         const auto note = typed.find(deal);
-        if (stored != (note == typed.end() ? MeterNote() : note->second)) {
-            differences << QStringLiteral("得意先 %1: 入力した検針値と違います。").arg(deal);
-        }
+        if (stored != (note == typed.end() ? MeterNote() : note->second))
+            differences << u"得意先 %1: 入力した検針値と違います。"_s.arg(deal);
         if (note != typed.end()) typed.erase(note);
     }
     for (const auto& [deal, note] : typed)
-        differences << QStringLiteral("得意先 %1: 入力した検針がありません。").arg(deal);
+        differences << u"得意先 %1: 入力した検針がありません。"_s.arg(deal);
     return differences;
 }
 
 /// The documents from a number on, as the store has them in the month.
-std::map<std::int32_t, Stored> documentsOf(Database& db, const QString& source, std::int32_t first) {
+std::map<std::int32_t, Stored> DocumentsOf(Database& db, const QString& source, std::int32_t first) {
     std::map<std::int32_t, Stored> documents;
-    for (const auto& row : readNumbers(
-             db,
-             QStringLiteral("SELECT Dno,Deal,Nendo,Getudo,Gaku FROM %1 Dno>=%2").arg(source).arg(first))) {
+    for (const auto& row :
+         ReadNumbers(db, u"SELECT Dno,Deal,Nendo,Getudo,Gaku FROM %1 Dno>=%2"_s.arg(source).arg(first))) {
         Stored& document = documents[static_cast<std::int32_t>(row[0])];
         document.deal = static_cast<std::int32_t>(row[1]);
         document.month = row[2] * 12 + row[3];
@@ -62,37 +60,34 @@ std::map<std::int32_t, Stored> documentsOf(Database& db, const QString& source, 
 }
 
 /// The clerk typed the last documents of the store, save for what the run itself has written.
-QStringList compareDocuments(Database& db, int month, const QString& name, const QString& source,
+QStringList CompareDocuments(Database& db, int month, const QString& name, const QString& source,
                              const DocumentNotes& typed) {
     QStringList differences;
     if (typed.empty()) return differences;
-    auto stored = documentsOf(db, source, typed.begin()->first);
+    auto stored = DocumentsOf(db, source, typed.begin()->first);
     for (const auto& [dno, note] : typed) {
         const auto found = stored.extract(dno);
-        if (found.empty()) {
-            differences << QStringLiteral("%1 %2: 入力した伝票がありません。").arg(name).arg(dno);
-        } else if (found.mapped() !=
-                   Stored{note.deal, month + (note.nextMonth ? 1 : 0), note.yen * scaledYen}) {
-            differences << QStringLiteral("%1 %2: 入力した内容と違います。").arg(name).arg(dno);
-        }
+        if (found.empty())
+            differences << u"%1 %2: 入力した伝票がありません。"_s.arg(name).arg(dno);
+        else if (found.mapped() != Stored{note.deal, month + (note.nextMonth ? 1 : 0), note.yen * kScaledYen})
+            differences << u"%1 %2: 入力した内容と違います。"_s.arg(name).arg(dno);
     }
     for (const auto& [dno, document] : stored)
-        differences << QStringLiteral("%1 %2: 入力していない伝票です。").arg(name).arg(dno);
+        differences << u"%1 %2: 入力していない伝票です。"_s.arg(name).arg(dno);
     return differences;
 }
 
 /// A slip of its own for each customer who leases anything, with a line for each device, and no other.
-QStringList compareLeases(Database& db, int year, int month, const TypedMonth& typed) {
+QStringList CompareLeases(Database& db, int year, int month, const TypedMonth& typed) {
     using Fees = std::vector<std::int64_t>;  // in the order of the lines
     std::map<std::int32_t, std::map<std::int64_t, Fees>> slips;
-    for (const auto& row : readNumbers(db, QStringLiteral("SELECT Deal,Dno,Gaku FROM Dud WHERE Nendo=%1 AND "
-                                                          "Getudo=%2 AND CreateAuto=1 ORDER BY Dno,Eda")
-                                               .arg(year)
-                                               .arg(month))) {
-        slips[static_cast<std::int32_t>(row[0])][row[1]].push_back(row[2] / scaledYen);
-    }
+    for (const auto& row : ReadNumbers(db,
+                                       u"SELECT Deal,Dno,Gaku FROM Dud WHERE Nendo=%1 AND "
+                                       "Getudo=%2 AND CreateAuto=1 ORDER BY Dno,Eda"_s.arg(year)
+                                           .arg(month)))
+        slips[static_cast<std::int32_t>(row[0])][row[1]].push_back(row[2] / kScaledYen);
     QStringList differences;
-    for (const auto& row : readNumbers(db, QStringLiteral("SELECT Code,ACU,Keihou FROM Deal"))) {
+    for (const auto& row : ReadNumbers(db, u"SELECT Code,ACU,Keihou FROM Deal"_s)) {
         const auto deal = static_cast<std::int32_t>(row[0]);
         Fees wanted;
         if (row[1] == 1) wanted.push_back(typed.acuFee);
@@ -101,39 +96,36 @@ QStringList compareLeases(Database& db, int year, int month, const TypedMonth& t
         const bool right = wanted.empty() ? stored.empty()
                                           : !stored.empty() && stored.mapped().size() == 1 &&
                                                 stored.mapped().begin()->second == wanted;
-        if (!right) differences << QStringLiteral("得意先 %1: リース伝票が違います。").arg(deal);
+        if (!right) differences << u"得意先 %1: リース伝票が違います。"_s.arg(deal);
     }
     return differences;
 }
 
 /// The months around the one played: those before it, and what is paid for the one after.
-QStringList proveOtherMonths(Database& db, int year, int month) {
+QStringList ProveOtherMonths(Database& db, int year, int month) {
     QStringList differences;
     for (const LedgerFinding& finding : ProveLedger(db, [](int, int) {}).findings) {
         const Difference& difference = finding.difference;
-        if (difference.nendo != year || difference.getudo != month) differences << describe(difference);
+        if (difference.nendo != year || difference.getudo != month) differences << Describe(difference);
     }
     return differences;
 }
 
 }  // namespace
 
-void checkMonth(Database& db, int year, int month, const TypedMonth& typed) {
-    QStringList differences = compareReadings(db, year, month, typed.readings);
+void CheckMonth(Database& db, int year, int month, const TypedMonth& typed) {
+    QStringList differences = CompareReadings(db, year, month, typed.readings);
     const int index = year * 12 + month;
-    differences += compareDocuments(db, index, QStringLiteral("売上伝票"),
-                                    QStringLiteral("Dud WHERE CreateAuto=0 AND"), typed.slips);
-    differences +=
-        compareDocuments(db, index, QStringLiteral("入金"), QStringLiteral("Dny WHERE"), typed.payments);
-    differences += compareDebits(db, year, month, typed.debits);
-    differences += compareLeases(db, year, month, typed);
-    differences += proveOtherMonths(db, year, month);
-    for (const auto& found : {CheckCharges(db, year, month), CheckLedgerMonth(db, year, month)}) {
+    differences += CompareDocuments(db, index, u"売上伝票"_s, u"Dud WHERE CreateAuto=0 AND"_s, typed.slips);
+    differences += CompareDocuments(db, index, u"入金"_s, u"Dny WHERE"_s, typed.payments);
+    differences += CompareDebits(db, year, month, typed.debits);
+    differences += CompareLeases(db, year, month, typed);
+    differences += ProveOtherMonths(db, year, month);
+    for (const auto& found : {CheckCharges(db, year, month), CheckLedgerMonth(db, year, month)})
         for (const Difference& difference : found)
-            differences << describe(difference);
-    }
+            differences << Describe(difference);
     if (differences.isEmpty()) return;
-    throw Failure(QStringLiteral("台帳が再計算と違います（%1 か所）。\n").arg(differences.size()) +
+    throw Failure(u"台帳が再計算と違います（%1 か所）。\n"_s.arg(differences.size()) +
                   differences.join(u'\n'));
 }
 

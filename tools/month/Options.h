@@ -4,12 +4,14 @@
 #include <QStringList>
 #include <optional>
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix::month {
 
 /// The wishes of the command line.
 struct Options {
     int customers = 300;
-    QString out = QStringLiteral("month");
+    QString out = u"month"_s;
     double scale = 1;
     int year = 0;
     int month = 0;
@@ -19,7 +21,7 @@ struct Options {
 
 /// Nothing when the arguments (without the program's name) cannot be understood. The month is that of today
 /// unless one is named.
-std::optional<Options> readOptions(const QStringList& arguments);
-QString helpText();
+std::optional<Options> ReadOptions(const QStringList& arguments);
+QString HelpText();
 
 }  // namespace akarix::month

@@ -2,30 +2,31 @@
 #include "month/Desk.h"
 #include "month/Hands.h"
 #include "month/Steps.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::month {
 
 namespace {
 
 /// Walked through, with what is given typed on the way, and saved.
-void keepPage(Desk& desk, int button, const QString& form, const QString& save, const QString& picture,
+void KeepPage(Desk& desk, int button, const QString& form, const QString& save, const QString& picture,
               const std::map<QString, QString>& typed = {}) {
-    openFromMenu(desk, button, form);
-    walkTo(desk, save, typed);
-    takeForm(desk, picture, form);
+    OpenFromMenu(desk, button, form);
+    WalkTo(desk, save, typed);
+    TakeForm(desk, picture, form);
     desk.clerk.enter();
-    closeForm(desk, form);
+    CloseForm(desk, form);
 }
 
 }  // namespace
 
-void keepSettings(Desk& desk) {
-    keepPage(desk, 18, QStringLiteral("etc_frm"), QStringLiteral("Btn(1)"), QStringLiteral("settings"));
+void KeepSettings(Desk& desk) {
+    KeepPage(desk, 18, u"etc_frm"_s, u"Btn(1)"_s, u"settings"_s);
     desk.typed.alarmFee = 305;
     desk.typed.acuFee = 1220;
-    keepPage(desk, 9, QStringLiteral("Keihoki_frm"), QStringLiteral("Btn"), QStringLiteral("lease-fees"),
-             {{QStringLiteral("ebox(0)"), QString::number(desk.typed.alarmFee)},
-              {QStringLiteral("ebox(1)"), QString::number(desk.typed.acuFee)}});
+    KeepPage(desk, 9, u"Keihoki_frm"_s, u"Btn"_s, u"lease-fees"_s,
+             {{u"ebox(0)"_s, QString::number(desk.typed.alarmFee)},
+              {u"ebox(1)"_s, QString::number(desk.typed.acuFee)}});
 }
 
 }  // namespace akarix::month

@@ -31,9 +31,9 @@ struct Figures {
     HardCases hardCases{};
 };
 
-Figures readFigures(Database& db, int year, int month);
+Figures ReadFigures(Database& db, int year, int month);
 
 /// Plain text in two columns.
-QString summaryText(int year, int month, const Figures& figures, const StepTimes& times);
+QString SummaryText(int year, int month, const Figures& figures, const StepTimes& times);
 
 }  // namespace akarix::month

@@ -26,12 +26,12 @@ struct Sale {
     std::vector<SaleLine> lines;
 };
 
-SaleLine goodsLine(int item, int tenths, std::int64_t price);
-SaleLine textLine(const QString& text, std::int64_t yen);
-SaleLine taxLine();
-bool isTax(const SaleLine& line);
+SaleLine GoodsLine(int item, int tenths, std::int64_t price);
+SaleLine TextLine(const QString& text, std::int64_t yen);
+SaleLine TaxLine();
+bool IsTax(const SaleLine& line);
 /// Worked out in whole numbers, with no routine of the screen.
-std::int64_t totalOf(const Sale& sale);
+std::int64_t TotalOf(const Sale& sale);
 
 struct PaymentPart {
     int paymentClass = 0;  ///< NyukinKubun.Code
@@ -46,20 +46,20 @@ struct Payment {
     bool nextMonth = false;  ///< made after the closing day
 };
 
-std::int64_t totalOf(const Payment& payment);
+std::int64_t TotalOf(const Payment& payment);
 
 // What a month brings in beside the readings, the same for the same store and month. Each sale is dated so
 // that it counts for that month. Typing takes its time, so a large dealer's customers are sampled.
 
-constexpr int mostSales = 60;
-constexpr int mostPayments = 300;
+constexpr int kMostSales = 60;
+constexpr int kMostPayments = 300;
 
 /// Among them a new kitchen, whose invoice has more lines than a sheet.
-std::vector<Sale> salesOf(Database& db, int year, int month);
+std::vector<Sale> SalesOf(Database& db, int year, int month);
 /// Comes to the desk when the month is billed already: a part of the kitchen is given back.
-Sale lateSaleOf(Database& db, int year, int month);
+Sale LateSaleOf(Database& db, int year, int month);
 /// Most customers pay what the month before left, some a part of it or far more, a few nothing, and some only
 /// after their closing day. Those of the post office are booked by its disk.
-std::vector<Payment> paymentsOf(Database& db, int year, int month);
+std::vector<Payment> PaymentsOf(Database& db, int year, int month);
 
 }  // namespace akarix::month

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "month/Options.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix::month {
 
@@ -15,10 +16,10 @@ class WorkFolder {
 
     /// An absolute path in the folder.
     QString path(const QString& name) const;
-    QString dealer() const { return path(QStringLiteral("dealer")); }
+    QString dealer() const { return path(u"dealer"_s); }
     QString database() const;
     /// What lies in the dealer's drive A.
-    QString disk() const { return path(QStringLiteral("debit")); }
+    QString disk() const { return path(u"debit"_s); }
 
     /// Makes the dealer who has worked up to the month before, with templates, printing without previews.
     void makeDealer(const Options& options) const;

@@ -8,24 +8,27 @@
 #include "month/Options.h"
 #include "platform/forms/SingleInstance.h"
 #include "platform/forms/Style.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 enum ExitCode { Done = 0, Failed = 1, WrongUse = 2 };
 
-void write(std::FILE* stream, const QString& text) {
+void Write(std::FILE* stream, const QString& text) {
     std::fputs(text.toLocal8Bit().constData(), stream);
 }
 
-int play(const akarix::month::Options& options) {
+int Play(const akarix::month::Options& options) {
     try {
-        write(stdout, akarix::month::playMonth(options));
+        Write(stdout, akarix::month::PlayMonth(options));
         return Done;
     } catch (const akarix::RuntimeError& error) {
-        write(stderr, QStringLiteral("%1 %2\n").arg(error.number()).arg(error.description()));
+        Write(stderr, u"%1 %2\n"_s.arg(error.number()).arg(error.description()));
     } catch (const std::exception& error) {
-        write(stderr, QString::fromUtf8(error.what()) + u'\n');
+        Write(stderr, QString::fromUtf8(error.what()) + u'\n');
     }
     return Failed;
 }
@@ -36,9 +39,9 @@ int main(int argc, char** argv) {
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
-    const auto options = akarix::month::readOptions(arguments);
+    const auto options = akarix::month::ReadOptions(arguments);
     if (!options || options->help) {
-        write(options ? stdout : stderr, akarix::month::helpText());
+        Write(options ? stdout : stderr, akarix::month::HelpText());
         return options ? Done : WrongUse;
     }
     // The scale is read when the application is made, so it is set before.
@@ -51,5 +54,5 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     akarix::ApplyStyle(application);
-    return play(*options);
+    return Play(*options);
 }

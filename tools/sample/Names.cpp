@@ -1,5 +1,7 @@
 #include "sample/Names.h"
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix::sample {
 
 namespace {
@@ -9,7 +11,7 @@ struct Pair {
     const char16_t* kana;
 };
 
-const Pair familyNames[] = {
+const Pair kFamilyNames[] = {
     {u"佐藤", u"ｻﾄｳ"},   {u"鈴木", u"ｽｽﾞｷ"}, {u"高橋", u"ﾀｶﾊｼ"},  {u"田中", u"ﾀﾅｶ"},     {u"伊藤", u"ｲﾄｳ"},
     {u"渡辺", u"ﾜﾀﾅﾍﾞ"}, {u"山本", u"ﾔﾏﾓﾄ"}, {u"中村", u"ﾅｶﾑﾗ"},  {u"小林", u"ｺﾊﾞﾔｼ"},   {u"加藤", u"ｶﾄｳ"},
     {u"吉田", u"ﾖｼﾀﾞ"},  {u"山田", u"ﾔﾏﾀﾞ"}, {u"佐々木", u"ｻｻｷ"}, {u"山口", u"ﾔﾏｸﾞﾁ"},   {u"松本", u"ﾏﾂﾓﾄ"},
@@ -24,7 +26,7 @@ const Pair familyNames[] = {
     {u"和田", u"ﾜﾀﾞ"},
 };
 
-const Pair givenNames[] = {
+const Pair kGivenNames[] = {
     {u"一郎", u"ｲﾁﾛｳ"},  {u"健二", u"ｹﾝｼﾞ"},  {u"三郎", u"ｻﾌﾞﾛｳ"}, {u"正夫", u"ﾏｻｵ"},  {u"和夫", u"ｶｽﾞｵ"},
     {u"清", u"ｷﾖｼ"},     {u"勇", u"ｲｻﾑ"},     {u"茂", u"ｼｹﾞﾙ"},    {u"博", u"ﾋﾛｼ"},    {u"隆", u"ﾀｶｼ"},
     {u"誠", u"ﾏｺﾄ"},     {u"浩一", u"ｺｳｲﾁ"},  {u"直樹", u"ﾅｵｷ"},   {u"哲也", u"ﾃﾂﾔ"},  {u"健太", u"ｹﾝﾀ"},
@@ -35,18 +37,18 @@ const Pair givenNames[] = {
     {u"実", u"ﾐﾉﾙ"},     {u"修", u"ｵｻﾑ"},     {u"進", u"ｽｽﾑ"},     {u"豊", u"ﾕﾀｶ"},    {u"武", u"ﾀｹｼ"},
 };
 
-const Pair restaurants[] = {{u"食堂", u"ｼﾖｸﾄﾞｳ"}, {u"寿司", u"ｽﾞｼ"},      {u"そば店", u"ｿﾊﾞﾃﾝ"},
-                            {u"旅館", u"ﾘﾖｶﾝ"},   {u"ラーメン", u"ﾗ-ﾒﾝ"}, {u"喫茶店", u"ｷﾂｻﾃﾝ"}};
-const Pair apartments[] = {
+const Pair kRestaurants[] = {{u"食堂", u"ｼﾖｸﾄﾞｳ"}, {u"寿司", u"ｽﾞｼ"},      {u"そば店", u"ｿﾊﾞﾃﾝ"},
+                             {u"旅館", u"ﾘﾖｶﾝ"},   {u"ラーメン", u"ﾗ-ﾒﾝ"}, {u"喫茶店", u"ｷﾂｻﾃﾝ"}};
+const Pair kApartments[] = {
     {u"荘", u"ｿｳ"}, {u"ハイツ", u"ﾊｲﾂ"}, {u"アパート", u"ｱﾊﾟ-ﾄ"}, {u"コーポ", u"ｺ-ﾎﾟ"}};
-const Pair clinics[] = {{u"医院", u"ｲｲﾝ"}, {u"歯科医院", u"ｼｶｲｲﾝ"}};
-const Pair companies[] = {{u"工務店", u"ｺｳﾑﾃﾝ"}, {u"建設㈱", u"ｹﾝｾﾂ"}, {u"クリーニング", u"ｸﾘ-ﾆﾝｸﾞ"}};
-const Pair places[] = {
+const Pair kClinics[] = {{u"医院", u"ｲｲﾝ"}, {u"歯科医院", u"ｼｶｲｲﾝ"}};
+const Pair kCompanies[] = {{u"工務店", u"ｺｳﾑﾃﾝ"}, {u"建設㈱", u"ｹﾝｾﾂ"}, {u"クリーニング", u"ｸﾘ-ﾆﾝｸﾞ"}};
+const Pair kPlaces[] = {
     {u"本町", u"ﾎﾝﾁﾖｳ"}, {u"川西", u"ｶﾜﾆｼ"}, {u"山手", u"ﾔﾏﾃ"}, {u"浜通", u"ﾊﾏﾄﾞｵﾘ"}, {u"新田", u"ｼﾝﾃﾞﾝ"}};
-const Pair halls[] = {{u"公民館", u"ｺｳﾐﾝｶﾝ"}, {u"集会所", u"ｼﾕｳｶｲｼﾞﾖ"}};
-const Pair schools[] = {{u"小学校", u"ｼﾖｳｶﾞﾂｺｳ"}, {u"保育園", u"ﾎｲｸｴﾝ"}, {u"幼稚園", u"ﾖｳﾁｴﾝ"}};
+const Pair kHalls[] = {{u"公民館", u"ｺｳﾐﾝｶﾝ"}, {u"集会所", u"ｼﾕｳｶｲｼﾞﾖ"}};
+const Pair kSchools[] = {{u"小学校", u"ｼﾖｳｶﾞﾂｺｳ"}, {u"保育園", u"ﾎｲｸｴﾝ"}, {u"幼稚園", u"ﾖｳﾁｴﾝ"}};
 
-const Town towns[routeCount][townsOfRoute] = {
+const Town kTowns[kRouteCount][kTownsOfRoute] = {
     {{u"本町一丁目", u"999-9901"}, {u"本町二丁目", u"999-9902"}, {u"中央", u"999-9903"}},
     {{u"駅前", u"999-9911"}, {u"栄町", u"999-9912"}, {u"旭町", u"999-9913"}},
     {{u"川西", u"999-9921"}, {u"下川原", u"999-9922"}, {u"柳橋", u"999-9923"}},
@@ -55,49 +57,48 @@ const Town towns[routeCount][townsOfRoute] = {
     {{u"新田", u"999-9951"}, {u"大字上野原", u"999-9952"}, {u"大字小沢", u"999-9953"}},
 };
 
-QString text(const char16_t* value) {
+QString Text(const char16_t* value) {
     return QString::fromUtf16(value);
 }
 
-ReadName joined(const Pair& first, const Pair& second) {
-    return {text(first.name) + text(second.name), text(first.kana) + text(second.kana)};
+ReadName Joined(const Pair& first, const Pair& second) {
+    return {Text(first.name) + Text(second.name), Text(first.kana) + Text(second.kana)};
 }
 
 }  // namespace
 
-ReadName personName(Dice& dice) {
-    const Pair& family = dice.pick(familyNames);
-    const Pair& given = dice.pick(givenNames);
-    return {text(family.name) + QStringLiteral("　") + text(given.name),
-            text(family.kana) + u' ' + text(given.kana)};
+ReadName PersonName(Dice& dice) {
+    const Pair& family = dice.pick(kFamilyNames);
+    const Pair& given = dice.pick(kGivenNames);
+    return {Text(family.name) + u"　"_s + Text(given.name), Text(family.kana) + u' ' + Text(given.kana)};
 }
 
-ReadName businessName(Dice& dice, Premises premises) {
+ReadName BusinessName(Dice& dice, Premises premises) {
     switch (premises) {
         case Premises::Restaurant:
-            return joined(dice.pick(familyNames), dice.pick(restaurants));
+            return Joined(dice.pick(kFamilyNames), dice.pick(kRestaurants));
         case Premises::Apartment:
-            return joined(dice.pick(familyNames), dice.pick(apartments));
+            return Joined(dice.pick(kFamilyNames), dice.pick(kApartments));
         case Premises::Hospital:
-            return joined(dice.pick(familyNames), dice.pick(clinics));
+            return Joined(dice.pick(kFamilyNames), dice.pick(kClinics));
         case Premises::Hall:
-            return joined(dice.pick(places), dice.pick(halls));
+            return Joined(dice.pick(kPlaces), dice.pick(kHalls));
         case Premises::School:
-            return joined(dice.pick(places), dice.pick(schools));
+            return Joined(dice.pick(kPlaces), dice.pick(kSchools));
         case Premises::Other:
-            return joined(dice.pick(familyNames), dice.pick(companies));
+            return Joined(dice.pick(kFamilyNames), dice.pick(kCompanies));
         case Premises::House:
             break;
     }
-    return personName(dice);
+    return PersonName(dice);
 }
 
-const Town& townOf(int route, int index) {
-    return towns[route][index];
+const Town& TownOf(int route, int index) {
+    return kTowns[route][index];
 }
 
-QString townAddress(const Town& town) {
-    return QStringLiteral("緑川市") + text(town.name);
+QString TownAddress(const Town& town) {
+    return u"緑川市"_s + Text(town.name);
 }
 
 }  // namespace akarix::sample

@@ -28,12 +28,12 @@ struct Town {
     const char16_t* zip;
 };
 
-constexpr int routeCount = 6;
-constexpr int townsOfRoute = 3;
+constexpr int kRouteCount = 6;
+constexpr int kTownsOfRoute = 3;
 
-ReadName personName(Dice& dice);
-ReadName businessName(Dice& dice, Premises premises);
-const Town& townOf(int route, int index);
-QString townAddress(const Town& town);
+ReadName PersonName(Dice& dice);
+ReadName BusinessName(Dice& dice, Premises premises);
+const Town& TownOf(int route, int index);
+QString TownAddress(const Town& town);
 
 }  // namespace akarix::sample

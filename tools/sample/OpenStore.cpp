@@ -1,6 +1,6 @@
 #include "sample/OpenStore.h"
 
-#include "platform/jet/DBEngine.h"
+#include "platform/dao/DBEngine.h"
 #include "store/dbAccess.h"
 
 namespace akarix::sample {

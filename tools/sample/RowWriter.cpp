@@ -1,12 +1,12 @@
 #include "sample/RowWriter.h"
 
+#include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 #include "values/Text.h"
 
 namespace akarix::sample {
 
-RowWriter::RowWriter(const QString& table)
-    : set_(gDb->OpenRecordset(QStringLiteral("SELECT * FROM ") + table)) {}
+RowWriter::RowWriter(const QString& table) : set_(gDb->OpenRecordset(u"SELECT * FROM "_s + table)) {}
 
 void RowWriter::add(std::initializer_list<std::pair<QString, Variant>> values) {
     set_.AddNew();

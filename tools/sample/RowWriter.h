@@ -4,7 +4,7 @@
 #include <initializer_list>
 #include <utility>
 
-#include "platform/jet/Recordset.h"
+#include "platform/dao/Recordset.h"
 
 namespace akarix::sample {
 

@@ -23,6 +23,6 @@ struct Customer {
 };
 
 /// Writes the customers and gives what the months need of them.
-std::vector<Customer> fillCustomers(int count, Dice& dice);
+std::vector<Customer> FillCustomers(int count, Dice& dice);
 
 }  // namespace akarix::sample

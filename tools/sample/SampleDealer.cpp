@@ -1,6 +1,7 @@
 #include "sample/SampleDealer.h"
 
-#include "platform/jet/Action.h"
+#include "platform/runtime/Action.h"
+#include "platform/runtime/Literals.h"
 #include "sample/SampleMasters.h"
 #include "sample/SampleMonth.h"
 
@@ -11,9 +12,9 @@ void FillSampleDealer(const Wish& wish, const Progress& progress) {
     std::vector<Customer> customers;
     {
         const Action grouped;
-        progress(QStringLiteral("台帳と得意先"));
-        fillMasters();
-        customers = fillCustomers(wish.customers, dice);
+        progress(u"台帳と得意先"_s);
+        FillMasters();
+        customers = FillCustomers(wish.customers, dice);
     }
     MonthMaker months(customers, dice);
     for (int ago = wish.months - 1; ago >= 0; --ago) {
@@ -21,7 +22,7 @@ void FillSampleDealer(const Wish& wish, const Progress& progress) {
         const int index = wish.untilYear * 12 + wish.untilMonth - 1 - ago;
         const int year = index / 12;
         const int month = index % 12 + 1;
-        progress(QStringLiteral("%1年%2月").arg(year).arg(month));
+        progress(u"%1年%2月"_s.arg(year).arg(month));
         if (ago == wish.months - 1) months.openBalances(year, month);
         months.make(year, month);
     }

@@ -13,8 +13,8 @@ struct Wish {
     int untilMonth = 0;
 };
 
-constexpr int mostCustomers = 32000;
-constexpr int mostMonths = 120;
+constexpr int kMostCustomers = 32000;
+constexpr int kMostMonths = 120;
 
 /// Called before each step with what is being made.
 using Progress = std::function<void(const QString& text)>;

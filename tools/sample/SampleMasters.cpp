@@ -1,5 +1,6 @@
 #include "sample/SampleMasters.h"
 
+#include "platform/runtime/Literals.h"
 #include "sample/Names.h"
 #include "sample/RowWriter.h"
 
@@ -13,22 +14,22 @@ struct Route {
     int readingDay;
 };
 
-const Route routes[routeCount] = {
+const Route kRoutes[kRouteCount] = {
     {u"ﾎﾝﾁﾖｳ", u"本町地区", 20}, {u"ｴｷﾏｴ", u"駅前地区", 21},   {u"ｶﾜﾆｼ", u"川西地区", 22},
     {u"ﾔﾏﾃ", u"山手地区", 23},   {u"ﾊﾏﾄﾞｵﾘ", u"浜通地区", 24}, {u"ｼﾝﾃﾞﾝ", u"新田地区", 25},
 };
 
 /// Bounds of the bands, shared by neighbours so that a use with a fraction is always inside one.
-constexpr int bandCount = 5;
-constexpr int bounds[bandCount + 1] = {0, 5, 10, 20, 30, 999};
+constexpr int kBandCount = 5;
+constexpr int kBounds[kBandCount + 1] = {0, 5, 10, 20, 30, 999};
 
 struct TariffRow {
     Tariff pattern;
-    int basicTenths;             ///< of a yen
-    int tenthsOfYen[bandCount];  ///< price of a cubic metre in each band
+    int basicTenths;              ///< of a yen
+    int tenthsOfYen[kBandCount];  ///< price of a cubic metre in each band
 };
 
-const TariffRow tariffs[] = {
+const TariffRow kTariffs[] = {
     {HouseTariff, 17000, {5800, 5600, 5350, 5100, 4900}},
     {ApartmentTariff, 19000, {5950, 5750, 5500, 5250, 5050}},
     {BusinessTariff, 22000, {5200, 4950, 4655, 4405, 4105}},
@@ -36,22 +37,22 @@ const TariffRow tariffs[] = {
     {PublicTariff, 20005, {5405, 5155, 4905, 4655, 4405}},
 };
 
-const Item items[itemCount] = {
+const Item kItems[kItemCount] = {
     {1, u"ﾎﾞﾝﾍﾞ20", u"LPガス 20kgボンベ", 8800},
     {2, u"ﾎﾞﾝﾍﾞ50", u"LPガス 50kgボンベ", 19800},
     {3, u"ﾎﾞﾝﾍﾞ8", u"LPガス 8kgボンベ", 4200},
     {10, u"ｶﾞｽｺﾝﾛ", u"ガスコンロ 2口", 29800},
     {11, u"ｷﾕｳﾄｳｷ", u"ガス給湯器 16号", 138000},
     {12, u"ｶﾞｽﾌｱﾝﾋｰﾀ", u"ガスファンヒーター", 42800},
-    {hoseItem, u"ｶﾞｽﾎｰｽ", u"ガスホース 9.5mm 1m", 583},
+    {kHoseItem, u"ｶﾞｽﾎｰｽ", u"ガスホース 9.5mm 1m", 583},
     {21, u"ﾁﾖｳｾｲｷ", u"調整器", 6800},
     {22, u"ｹｲﾎｳｷ", u"ガス警報器", 7480},
     {30, u"ｼﾕﾂﾁﾖｳ", u"出張修理代", 4500},
     {31, u"ﾊｲｶﾝｺｳｼﾞ", u"配管工事", 18000},
-    {taxItem, u"ｼﾖｳﾋｾﾞｲ", u"消費税", 0},
+    {kTaxItem, u"ｼﾖｳﾋｾﾞｲ", u"消費税", 0},
 };
 
-const CollectingBank banks[bankCount] = {
+const CollectingBank kBanks[kBankCount] = {
     {152, {1, 12, 25}},
     {543, {101, 110, 118}},
     {1405, {3, 7, 21}},
@@ -69,132 +70,131 @@ struct ConsignorRow {
 
 const char16_t* const dealerKana = u"ﾐﾄﾞﾘｶﾜﾌﾟﾛﾊﾟﾝ";
 
-const ConsignorRow consignors[] = {
+const ConsignorRow kConsignors[] = {
     {152, u"0000152301", u"FURI0152.TXT", u"ﾐﾄﾞﾘｶﾜｷﾞﾝｺｳ", 1, u"ﾎﾝﾃﾝ", u"1023344"},
     {543, u"0000543877", u"FURI0543.TXT", u"ﾋｶﾞｼｳﾐｷﾞﾝｺｳ", 101, u"ｴｷﾏｴ", u"2210987"},
     {1405, u"0001405112", u"FURI1405.TXT", u"ｼﾛﾔﾏｼﾝｷﾝ", 3, u"ｼﾛﾔﾏ", u"0345671"},
 };
 
-QString text(const char16_t* value) {
+QString Text(const char16_t* value) {
     return QString::fromUtf16(value);
 }
 
-Variant number(int value) {
+Variant Number(int value) {
     return std::int32_t{value};
 }
 
-void fillRoutes() {
-    RowWriter table(QStringLiteral("Rte"));
-    for (int i = 0; i < routeCount; ++i) {
-        const Route& route = routes[i];
-        table.add({{QStringLiteral("Code"), number(i + 1)},
-                   {QStringLiteral("Kana"), text(route.kana)},
-                   {QStringLiteral("Namae"), text(route.name)},
-                   {QStringLiteral("Kensin"), number(route.readingDay)}});
+void FillRoutes() {
+    RowWriter table(u"Rte"_s);
+    for (int i = 0; i < kRouteCount; ++i) {
+        const Route& route = kRoutes[i];
+        table.add({{u"Code"_s, Number(i + 1)},
+                   {u"Kana"_s, Text(route.kana)},
+                   {u"Namae"_s, Text(route.name)},
+                   {u"Kensin"_s, Number(route.readingDay)}});
     }
 }
 
-void fillTariffs() {
-    RowWriter table(QStringLiteral("GasKeisan"));
-    for (const TariffRow& tariff : tariffs) {
+void FillTariffs() {
+    RowWriter table(u"GasKeisan"_s);
+    for (const TariffRow& tariff : kTariffs) {
         int basicTenths = tariff.basicTenths;
-        for (int band = 0; band < bandCount; ++band) {
-            table.add({{QStringLiteral("Ptn"), number(tariff.pattern)},
-                       {QStringLiteral("St"), number(bounds[band])},
-                       {QStringLiteral("Ed"), number(bounds[band + 1])},
-                       {QStringLiteral("Kihon"), Currency(basicTenths) / Currency(10)},
-                       {QStringLiteral("Tanka"), Currency(tariff.tenthsOfYen[band]) / Currency(10)}});
+        for (int band = 0; band < kBandCount; ++band) {
+            table.add({{u"Ptn"_s, Number(tariff.pattern)},
+                       {u"St"_s, Number(kBounds[band])},
+                       {u"Ed"_s, Number(kBounds[band + 1])},
+                       {u"Kihon"_s, Currency(basicTenths) / Currency(10)},
+                       {u"Tanka"_s, Currency(tariff.tenthsOfYen[band]) / Currency(10)}});
             // A band's basic charge holds what the bands below it cost.
-            basicTenths += (bounds[band + 1] - bounds[band]) * tariff.tenthsOfYen[band] / 10 * 10;
+            basicTenths += (kBounds[band + 1] - kBounds[band]) * tariff.tenthsOfYen[band] / 10 * 10;
         }
     }
 }
 
-void fillCapacityPrices() {
-    RowWriter table(QStringLiteral("Tnk"));
+void FillCapacityPrices() {
+    RowWriter table(u"Tnk"_s);
     const auto add = [&table](int pattern, int kind, Currency capacity, int price) {
-        table.add({{QStringLiteral("Ptn"), number(pattern)},
-                   {QStringLiteral("Capa"), capacity},
-                   {QStringLiteral("Tanka"), Currency(price)},
-                   {QStringLiteral("Kubun"), number(kind)}});
+        table.add({{u"Ptn"_s, Number(pattern)},
+                   {u"Capa"_s, capacity},
+                   {u"Tanka"_s, Currency(price)},
+                   {u"Kubun"_s, Number(kind)}});
     };
     for (int capacity = 1; capacity <= 100; ++capacity)
         add(1, 1, Currency(capacity), 2200 + capacity * 440);
-    for (int tenths = 1; tenths <= 300; ++tenths) {
+    for (int tenths = 1; tenths <= 300; ++tenths)
         add(2, 2, Currency(tenths) / Currency(10), 1700 + tenths * 56);
+}
+
+void FillItems() {
+    RowWriter table(u"Hin"_s);
+    for (const Item& item : kItems) {
+        table.add({{u"Code"_s, Number(item.code)},
+                   {u"Kana"_s, Text(item.kana)},
+                   {u"Namae"_s, Text(item.name)},
+                   {u"Tanka"_s, Currency(item.price)}});
     }
 }
 
-void fillItems() {
-    RowWriter table(QStringLiteral("Hin"));
-    for (const Item& item : items) {
-        table.add({{QStringLiteral("Code"), number(item.code)},
-                   {QStringLiteral("Kana"), text(item.kana)},
-                   {QStringLiteral("Namae"), text(item.name)},
-                   {QStringLiteral("Tanka"), Currency(item.price)}});
+void FillConsignors() {
+    RowWriter table(u"Bnk"_s);
+    for (const ConsignorRow& row : kConsignors) {
+        table.add({{u"Code"_s, Number(row.code)},
+                   {u"ItakuCode"_s, Text(row.itakuCode)},
+                   {u"Itakusya"_s, Text(dealerKana)},
+                   {u"fName"_s, Text(row.fileName)},
+                   {u"BkName"_s, Text(row.bank)},
+                   {u"Stn"_s, Number(row.branch)},
+                   {u"StnName"_s, Text(row.branchName)},
+                   {u"Syurui"_s, u"1"_s},
+                   {u"KozaNo"_s, Text(row.account)}});
     }
+    table.add({{u"Code"_s, Number(kPostOffice)},
+               {u"ItakuCode"_s, u"10990456"_s},
+               {u"Itakusya"_s, Text(dealerKana)},
+               {u"fName"_s, u"jiharai"_s},
+               {u"BkName"_s, u"ﾕｳｾｲｼﾖｳﾁﾖｷﾝｷﾖｸ"_s},
+               {u"Stn"_s, Number(990)},
+               {u"StnName"_s, u"ﾐﾄﾞﾘｶﾜ"_s},
+               {u"Syurui"_s, u"1"_s},
+               {u"KozaNo"_s, u"0123456"_s},
+               {u"Saifurikae"_s, u"15"_s},
+               {u"Keiyaku"_s, u"02"_s},
+               {u"Jimusyo"_s, u"緑川貯金事務センター"_s}});
 }
 
-void fillConsignors() {
-    RowWriter table(QStringLiteral("Bnk"));
-    for (const ConsignorRow& row : consignors) {
-        table.add({{QStringLiteral("Code"), number(row.code)},
-                   {QStringLiteral("ItakuCode"), text(row.itakuCode)},
-                   {QStringLiteral("Itakusya"), text(dealerKana)},
-                   {QStringLiteral("fName"), text(row.fileName)},
-                   {QStringLiteral("BkName"), text(row.bank)},
-                   {QStringLiteral("Stn"), number(row.branch)},
-                   {QStringLiteral("StnName"), text(row.branchName)},
-                   {QStringLiteral("Syurui"), QStringLiteral("1")},
-                   {QStringLiteral("KozaNo"), text(row.account)}});
-    }
-    table.add({{QStringLiteral("Code"), number(postOffice)},
-               {QStringLiteral("ItakuCode"), QStringLiteral("10990456")},
-               {QStringLiteral("Itakusya"), text(dealerKana)},
-               {QStringLiteral("fName"), QStringLiteral("jiharai")},
-               {QStringLiteral("BkName"), QStringLiteral("ﾕｳｾｲｼﾖｳﾁﾖｷﾝｷﾖｸ")},
-               {QStringLiteral("Stn"), number(990)},
-               {QStringLiteral("StnName"), QStringLiteral("ﾐﾄﾞﾘｶﾜ")},
-               {QStringLiteral("Syurui"), QStringLiteral("1")},
-               {QStringLiteral("KozaNo"), QStringLiteral("0123456")},
-               {QStringLiteral("Saifurikae"), QStringLiteral("15")},
-               {QStringLiteral("Keiyaku"), QStringLiteral("02")},
-               {QStringLiteral("Jimusyo"), QStringLiteral("緑川貯金事務センター")}});
-}
-
-void fillPostalCodes() {
-    RowWriter table(QStringLiteral("Zip7"));
-    for (int route = 0; route < routeCount; ++route) {
-        for (int index = 0; index < townsOfRoute; ++index) {
-            const Town& town = townOf(route, index);
-            table.add({{QStringLiteral("Code"), number(text(town.zip).remove(u'-').toInt())},
-                       {QStringLiteral("Addr"), townAddress(town)}});
+void FillPostalCodes() {
+    RowWriter table(u"Zip7"_s);
+    for (int route = 0; route < kRouteCount; ++route) {
+        for (int index = 0; index < kTownsOfRoute; ++index) {
+            const Town& town = TownOf(route, index);
+            table.add(
+                {{u"Code"_s, Number(Text(town.zip).remove(u'-').toInt())}, {u"Addr"_s, TownAddress(town)}});
         }
     }
 }
 
 }  // namespace
 
-const Item& itemAt(int index) {
-    return items[index];
+const Item& ItemAt(int index) {
+    return kItems[index];
 }
 
-int takenTenths(const Item& item, Dice& dice) {
-    if (item.code == hoseItem) return dice.between(5, 45);
+int TakenTenths(const Item& item, Dice& dice) {
+    if (item.code == kHoseItem) return dice.between(5, 45);
     return 10 * (item.price < 10000 ? dice.between(1, 3) : 1);
 }
 
-const CollectingBank& bankAt(int index) {
-    return banks[index];
+const CollectingBank& BankAt(int index) {
+    return kBanks[index];
 }
 
-void fillMasters() {
-    fillRoutes();
-    fillTariffs();
-    fillCapacityPrices();
-    fillItems();
-    fillConsignors();
-    fillPostalCodes();
+void FillMasters() {
+    FillRoutes();
+    FillTariffs();
+    FillCapacityPrices();
+    FillItems();
+    FillConsignors();
+    FillPostalCodes();
 }
 
 }  // namespace akarix::sample

@@ -7,9 +7,9 @@ namespace akarix::sample {
 /// Tariff patterns of the sample dealer.
 enum Tariff { HouseTariff = 1, ApartmentTariff = 2, BusinessTariff = 3, BulkTariff = 4, PublicTariff = 5 };
 
-constexpr int taxItem = 90;
-constexpr int hoseItem = 20;  ///< sold by the metre
-constexpr int taxPercent = 10;
+constexpr int kTaxItem = 90;
+constexpr int kHoseItem = 20;  ///< sold by the metre
+constexpr int kTaxPercent = 10;
 
 struct Item {
     int code;
@@ -19,20 +19,20 @@ struct Item {
 };
 
 /// The goods of the sample dealer; the tax line item is the last.
-constexpr int itemCount = 12;
-const Item& itemAt(int index);
+constexpr int kItemCount = 12;
+const Item& ItemAt(int index);
 /// How much of it a customer takes, in tenths.
-int takenTenths(const Item& item, Dice& dice);
+int TakenTenths(const Item& item, Dice& dice);
 
 struct CollectingBank {
     int code;
     int branches[3];
 };
-constexpr int bankCount = 3;
-constexpr int postOffice = 9900;
-const CollectingBank& bankAt(int index);
+constexpr int kBankCount = 3;
+constexpr int kPostOffice = 9900;
+const CollectingBank& BankAt(int index);
 
 /// Routes, tariffs, capacity prices, goods, consignors and the postal codes of the sample towns.
-void fillMasters();
+void FillMasters();
 
 }  // namespace akarix::sample

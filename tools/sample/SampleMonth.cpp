@@ -10,6 +10,7 @@
 #include "platform/runtime/DateSerial.h"
 #include "platform/runtime/Fix.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "sample/SampleMasters.h"
 #include "sample/Season.h"
 #include "store/FieldValue.h"
@@ -21,38 +22,34 @@ namespace akarix::sample {
 
 namespace {
 
-constexpr int readingDays[] = {20, 21, 22, 23, 24, 25};
+constexpr int kReadingDays[] = {20, 21, 22, 23, 24, 25};
 
-Variant number(int value) {
+Variant Number(int value) {
     return std::int32_t{value};
 }
 
-Currency tenths(int value) {
+Currency Tenths(int value) {
     return Currency::FromScaled(std::int64_t{value} * (Currency::kScale / 10));
 }
 
-int daysIn(int year, int month) {
+int DaysIn(int year, int month) {
     return Day(DateSerial(year, month + 1, 0));
 }
 
 }  // namespace
 
 MonthMaker::MonthMaker(std::vector<Customer>& customers, Dice& dice)
-    : customers_(customers),
-      dice_(dice),
-      readings_(QStringLiteral("Dgd")),
-      slips_(QStringLiteral("Dud")),
-      payments_(QStringLiteral("Dny")) {}
+    : customers_(customers), dice_(dice), readings_(u"Dgd"_s), slips_(u"Dud"_s), payments_(u"Dny"_s) {}
 
 void MonthMaker::openBalances(int year, int month) {
-    RowWriter ledger(QStringLiteral("TtoD"));
+    RowWriter ledger(u"TtoD"_s);
     for (const Customer& customer : customers_) {
         if (customer.openingYen == 0) continue;
-        ledger.add({{QStringLiteral("Deal"), customer.code},
-                    {QStringLiteral("Nendo"), number(year)},
-                    {QStringLiteral("Getudo"), number(month)},
-                    {QStringLiteral("ZenkaiGaku"), Currency(customer.openingYen)},
-                    {QStringLiteral("SyokiFlg"), std::int16_t{1}}});
+        ledger.add({{u"Deal"_s, customer.code},
+                    {u"Nendo"_s, Number(year)},
+                    {u"Getudo"_s, Number(month)},
+                    {u"ZenkaiGaku"_s, Currency(customer.openingYen)},
+                    {u"SyokiFlg"_s, std::int16_t{1}}});
         owed_[customer.code] = Currency(customer.openingYen);
     }
 }
@@ -63,20 +60,19 @@ void MonthMaker::make(int year, int month) {
     nextSlip_ = NextDudNo();
     writeSlips(year, month);
     writePayments(year, month);
-    BuildMonthLedger(year, month, DateSerial(year, month, daysIn(year, month)));
+    BuildMonthLedger(year, month, DateSerial(year, month, DaysIn(year, month)));
     CarryForwardMonth(year, month);
     readBalances(year, month);
 }
 
 void MonthMaker::writeReadings(int year, int month) {
-    for (Customer& customer : customers_) {
+    for (Customer& customer : customers_)
         if (customer.takesGas) writeReading(customer, year, month);
-    }
 }
 
 void MonthMaker::writeReading(Customer& customer, int year, int month) {
     constexpr int meterEnd = 99999;
-    int use = customer.usualTenths * season[month - 1] * dice_.between(80, 120) / 10000;
+    int use = customer.usualTenths * kSeason[month - 1] * dice_.between(80, 120) / 10000;
     if (dice_.permille(12)) use = 0;  // nobody at home
     const int before = customer.meterTenths;
     int exchangedAt = 0;
@@ -94,25 +90,23 @@ void MonthMaker::writeReading(Customer& customer, int year, int month) {
         customer.meterTenths = before + use;
     }
     const Currency usage =
-        CalcGasUsage(tenths(before), tenths(exchangedAt), tenths(after), tenths(customer.meterTenths));
-    readings_.add({{QStringLiteral("Nendo"), number(year)},
-                   {QStringLiteral("Getudo"), number(month)},
-                   {QStringLiteral("Deal"), customer.code},
-                   {QStringLiteral("ZenkaiMeter"), tenths(before)},
-                   {QStringLiteral("KoukanMeter"), tenths(exchangedAt)},
-                   {QStringLiteral("KoukanGoMeter"), tenths(after)},
-                   {QStringLiteral("KonkaiMeter"), tenths(customer.meterTenths)},
-                   {QStringLiteral("Suu"), usage},
-                   {QStringLiteral("Gaku"), charge(customer, usage)},
-                   {QStringLiteral("Hi"), number(readingDays[customer.route])}});
+        CalcGasUsage(Tenths(before), Tenths(exchangedAt), Tenths(after), Tenths(customer.meterTenths));
+    readings_.add({{u"Nendo"_s, Number(year)},
+                   {u"Getudo"_s, Number(month)},
+                   {u"Deal"_s, customer.code},
+                   {u"ZenkaiMeter"_s, Tenths(before)},
+                   {u"KoukanMeter"_s, Tenths(exchangedAt)},
+                   {u"KoukanGoMeter"_s, Tenths(after)},
+                   {u"KonkaiMeter"_s, Tenths(customer.meterTenths)},
+                   {u"Suu"_s, usage},
+                   {u"Gaku"_s, charge(customer, usage)},
+                   {u"Hi"_s, Number(kReadingDays[customer.route])}});
 }
 
 /// The charge as the reading sheet shows and stores it, asked once for each use of a tariff.
 Currency MonthMaker::charge(const Customer& customer, Currency usage) {
     const auto [place, isNew] = charges_.try_emplace({customer.tariff, usage.Scaled()});
-    if (isNew) {
-        place->second = ToCurrency(Format(CalcGasCharge(customer.code, usage), QStringLiteral("###,##0")));
-    }
+    if (isNew) place->second = ToCurrency(Format(CalcGasCharge(customer.code, usage), u"###,##0"_s));
     return place->second;
 }
 
@@ -120,7 +114,7 @@ void MonthMaker::writeSlips(int year, int month) {
     for (const Customer& customer : customers_) {
         const int chance = customer.takesGas ? 11 : 60;
         if (!dice_.percent(chance)) continue;
-        writeSlip(customer, DateSerial(year, month, dice_.between(1, daysIn(year, month))));
+        writeSlip(customer, DateSerial(year, month, dice_.between(1, DaysIn(year, month))));
     }
 }
 
@@ -131,28 +125,28 @@ void MonthMaker::writeSlip(const Customer& customer, Date day) {
     const std::int32_t dno = nextSlip_++;
     int eda = 0;
     const auto add = [&](int code, const QString& name, Currency amount, Currency count, Currency price) {
-        slips_.add({{QStringLiteral("Dno"), dno},
-                    {QStringLiteral("Eda"), number(++eda)},
-                    {QStringLiteral("Hizuke"), day},
-                    {QStringLiteral("Deal"), customer.code},
-                    {QStringLiteral("HinCode"), number(code)},
-                    {QStringLiteral("HinNamae"), name},
-                    {QStringLiteral("Suu"), count},
-                    {QStringLiteral("Tanka"), price},
-                    {QStringLiteral("Gaku"), amount},
-                    {QStringLiteral("Nendo"), number(nendo)},
-                    {QStringLiteral("Getudo"), number(getudo)},
-                    {QStringLiteral("CreateAuto"), std::int16_t{0}}});
+        slips_.add({{u"Dno"_s, dno},
+                    {u"Eda"_s, Number(++eda)},
+                    {u"Hizuke"_s, day},
+                    {u"Deal"_s, customer.code},
+                    {u"HinCode"_s, Number(code)},
+                    {u"HinNamae"_s, name},
+                    {u"Suu"_s, count},
+                    {u"Tanka"_s, price},
+                    {u"Gaku"_s, amount},
+                    {u"Nendo"_s, Number(nendo)},
+                    {u"Getudo"_s, Number(getudo)},
+                    {u"CreateAuto"_s, std::int16_t{0}}});
     };
     const int goods = dice_.percent(75) ? 1 : dice_.between(2, 3);
     for (int i = 0; i < goods; ++i) {
-        const Item& item = itemAt(dice_.below(itemCount - 1));  // the last is the tax line
+        const Item& item = ItemAt(dice_.below(kItemCount - 1));  // the last is the tax line
         const int returned = dice_.percent(3) ? -1 : 1;
-        const Currency count = tenths(returned * takenTenths(item, dice_));
+        const Currency count = Tenths(returned * TakenTenths(item, dice_));
         const Currency amount = Fix(count * Currency(item.price));
         add(item.code, QString::fromUtf16(item.name), amount, count, Currency(item.price));
-        const Currency rate = Currency(taxPercent) / Currency(100);
-        add(taxItem, QStringLiteral("消費税"), Fix(amount * rate), Currency(), Currency());
+        const Currency rate = Currency(kTaxPercent) / Currency(100);
+        add(kTaxItem, u"消費税"_s, Fix(amount * rate), Currency(), Currency());
     }
 }
 
@@ -185,20 +179,20 @@ void MonthMaker::writePayment(const Customer& customer, int year, int month, Cur
     const std::int32_t dno = nextPayment_++;
     int eda = 0;
     const auto add = [&](int paymentClass, Currency part, const QString& memo) {
-        payments_.add({{QStringLiteral("Dno"), dno},
-                       {QStringLiteral("Eda"), number(++eda)},
-                       {QStringLiteral("Hizuke"), date},
-                       {QStringLiteral("Deal"), customer.code},
-                       {QStringLiteral("Kubun"), number(paymentClass)},
-                       {QStringLiteral("Gaku"), part},
-                       {QStringLiteral("Naiyo"), memo},
-                       {QStringLiteral("Nendo"), number(nendo)},
-                       {QStringLiteral("Getudo"), number(getudo)}});
+        payments_.add({{u"Dno"_s, dno},
+                       {u"Eda"_s, Number(++eda)},
+                       {u"Hizuke"_s, date},
+                       {u"Deal"_s, customer.code},
+                       {u"Kubun"_s, Number(paymentClass)},
+                       {u"Gaku"_s, part},
+                       {u"Naiyo"_s, memo},
+                       {u"Nendo"_s, Number(nendo)},
+                       {u"Getudo"_s, Number(getudo)}});
     };
     const Currency fee = Currency(440);
     if (customer.paymentClass == 3 && amount > fee && dice_.percent(10)) {
         add(3, amount - fee, QString());
-        add(4, fee, QStringLiteral("振込手数料"));
+        add(4, fee, u"振込手数料"_s);
     } else {
         add(customer.paymentClass, amount, QString());
     }
@@ -207,7 +201,7 @@ void MonthMaker::writePayment(const Customer& customer, int year, int month, Cur
 /// Most pay up to their closing day, so that it counts for this month; a few after it.
 Date MonthMaker::paymentDay(const Customer& customer, int year, int month) {
     if (customer.bank != 0) return DateSerial(year, month, 5);
-    const int end = daysIn(year, month);
+    const int end = DaysIn(year, month);
     const int closing = std::min(customer.closingDay, end);
     const bool isLate = closing < end && dice_.percent(8);
     return DateSerial(year, month, isLate ? dice_.between(closing + 1, end) : dice_.between(1, closing));
@@ -217,13 +211,10 @@ Date MonthMaker::paymentDay(const Customer& customer, int year, int month) {
 void MonthMaker::readBalances(int year, int month) {
     owed_.clear();
     Recordset ledger = gDb->OpenRecordset(
-        QStringLiteral("SELECT Deal,ZenkaiGaku,Gaku,NGaku FROM TtoD WHERE Nendo=%1 AND Getudo=%2")
-            .arg(year)
-            .arg(month));
+        u"SELECT Deal,ZenkaiGaku,Gaku,NGaku FROM TtoD WHERE Nendo=%1 AND Getudo=%2"_s.arg(year).arg(month));
     for (; !ledger.Eof(); ledger.MoveNext()) {
-        owed_[longOf(ledger[QStringLiteral("Deal")])] = moneyOf(ledger[QStringLiteral("ZenkaiGaku")]) +
-                                                        moneyOf(ledger[QStringLiteral("Gaku")]) -
-                                                        moneyOf(ledger[QStringLiteral("NGaku")]);
+        owed_[LongOf(ledger[u"Deal"_s])] =
+            MoneyOf(ledger[u"ZenkaiGaku"_s]) + MoneyOf(ledger[u"Gaku"_s]) - MoneyOf(ledger[u"NGaku"_s]);
     }
     ledger.Close();
     for (const auto& [deal, amount] : std::exchange(paidAhead_, {}))

@@ -1,13 +1,14 @@
 #include "TemplateBook.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
 namespace {
 
-constexpr int headRow = 4, firstDetail = 5, lastDetail = 24, noteRow = 25;
-constexpr int labelColumn = 2, firstPrice = 3, prices = 10;
-constexpr int rowsOfABand = 5;  // a rule after every five rows guides the eye to its row label
-constexpr uint32_t shade = 0xE4EAF0;
+constexpr int kHeadRow = 4, kFirstDetail = 5, kLastDetail = 24, kNoteRow = 25;
+constexpr int kLabelColumn = 2, kFirstPrice = 3, kPrices = 10;
+constexpr int kRowsOfABand = 5;  // a rule after every five rows guides the eye to its row label
+constexpr uint32_t kShade = 0xE4EAF0;
 
 }  // namespace
 
@@ -17,16 +18,16 @@ bool WritePriceListTemplate(const QString& path) {
     constexpr int labelWidth = 54;
     constexpr int priceWidth = 64;
     std::vector<int> widths{unused, labelWidth};
-    widths.insert(widths.end(), prices, priceWidth);
+    widths.insert(widths.end(), kPrices, priceWidth);
     book.columns(widths);
     book.rows(1, 2, 21);
     book.rows(3, 3, 15);
-    book.rows(headRow, headRow, 24);
-    book.rows(firstDetail, lastDetail, 32.5);
-    book.rows(noteRow, noteRow, 20);
+    book.rows(kHeadRow, kHeadRow, 24);
+    book.rows(kFirstDetail, kLastDetail, 32.5);
+    book.rows(kNoteRow, kNoteRow, 20);
 
-    book.merged("B1:E2", QStringLiteral("価 格 表"), book.look({.size = 22, .bold = true}));
-    book.merged("F2:G2", QStringLiteral("パターン"), book.look({.size = 11, .align = LXW_ALIGN_RIGHT}));
+    book.merged("B1:E2", u"価 格 表"_s, book.look({.size = 22, .bold = true}));
+    book.merged("F2:G2", u"パターン"_s, book.look({.size = 11, .align = LXW_ALIGN_RIGHT}));
     book.text("H2", {},
               book.look({.size = 14,
                          .bold = true,
@@ -37,20 +38,22 @@ bool WritePriceListTemplate(const QString& path) {
                 book.look({.size = 11, .align = LXW_ALIGN_RIGHT, .shrink = true}));
     book.merged("I2:L2", DealerBlock::contact(),
                 book.look({.size = 8, .align = LXW_ALIGN_RIGHT, .shrink = true}));
-    book.text("L3", QStringLiteral("（単位：円）"), book.look({.align = LXW_ALIGN_RIGHT}));
+    book.text("L3", u"（単位：円）"_s, book.look({.align = LXW_ALIGN_RIGHT}));
 
-    const TemplateBook::Look head{.size = 11, .align = LXW_ALIGN_CENTER, .framed = true, .fill = shade};
-    book.block(headRow, labelColumn, headRow, labelColumn, QStringLiteral("容 量"), book.look(head));
-    for (int i = 0; i < prices; ++i)
-        book.block(headRow, firstPrice + i, headRow, firstPrice + i, QString::number(i), book.look(head));
-    for (int row = firstDetail; row <= lastDetail; ++row) {
-        const bool bandEnds = (row - firstDetail + 1) % rowsOfABand == 0;
-        book.blank(
-            row, labelColumn,
-            book.look(
-                {.size = 11, .align = LXW_ALIGN_CENTER, .numberFormat = "0", .framed = true, .fill = shade}));
-        for (int i = 0; i < prices; ++i) {
-            book.blank(row, firstPrice + i,
+    const TemplateBook::Look head{.size = 11, .align = LXW_ALIGN_CENTER, .framed = true, .fill = kShade};
+    book.block(kHeadRow, kLabelColumn, kHeadRow, kLabelColumn, u"容 量"_s, book.look(head));
+    for (int i = 0; i < kPrices; ++i)
+        book.block(kHeadRow, kFirstPrice + i, kHeadRow, kFirstPrice + i, QString::number(i), book.look(head));
+    for (int row = kFirstDetail; row <= kLastDetail; ++row) {
+        const bool bandEnds = (row - kFirstDetail + 1) % kRowsOfABand == 0;
+        book.blank(row, kLabelColumn,
+                   book.look({.size = 11,
+                              .align = LXW_ALIGN_CENTER,
+                              .numberFormat = "0",
+                              .framed = true,
+                              .fill = kShade}));
+        for (int i = 0; i < kPrices; ++i) {
+            book.blank(row, kFirstPrice + i,
                        book.look({.size = 11,
                                   .align = LXW_ALIGN_RIGHT,
                                   .numberFormat = "#,##0_ ",
@@ -61,8 +64,8 @@ bool WritePriceListTemplate(const QString& path) {
     }
     // One sheet serves both kinds of price, so its heads name the step and not the capacity.
     book.merged("B25:L25",
-                QStringLiteral("上の見出しは容量の端数です。法人向けは左の容量に 0 ～ 9 を、"
-                               "個人向けは 0.0 ～ 0.9 を足して下さい。"),
+                u"上の見出しは容量の端数です。法人向けは左の容量に 0 ～ 9 を、"
+                "個人向けは 0.0 ～ 0.9 を足して下さい。"_s,
                 book.look({.size = 9}));
     book.page("A1:L25", 0.6, 0.5);
     return book.save();

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "TemplateBook.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -18,9 +19,7 @@ struct StatementBlock {
 };
 
 inline QString RangeOf(const StatementBlock& block, int row) {
-    return QStringLiteral("%1%3:%2%3")
-        .arg(QString::fromUtf16(block.first), QString::fromUtf16(block.last))
-        .arg(row);
+    return u"%1%3:%2%3"_s.arg(QString::fromUtf16(block.first), QString::fromUtf16(block.last)).arg(row);
 }
 
 /// Gives the sheet the columns of its blocks and the table its head.

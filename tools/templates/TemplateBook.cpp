@@ -8,9 +8,8 @@ TemplateBook::TemplateBook(const QString& path)
 }
 
 lxw_format* TemplateBook::look(const Look& look) {
-    for (const auto& [known, made] : looks_) {
+    for (const auto& [known, made] : looks_)
         if (known == look) return made;
-    }
     lxw_format* format = writer_.newFormat();
     format_set_font_size(format, look.size);
     if (look.bold) format_set_bold(format);
@@ -48,9 +47,8 @@ void TemplateBook::columns(const std::vector<int>& pixels) {
 }
 
 void TemplateBook::rows(int first, int last, double points) {
-    for (int row = first; row <= last; ++row) {
+    for (int row = first; row <= last; ++row)
         worksheet_set_row(sheet_, static_cast<lxw_row_t>(row - 1), points, nullptr);
-    }
 }
 
 void TemplateBook::text(const char* address, const QString& text, lxw_format* format) {
@@ -90,26 +88,23 @@ void TemplateBook::framed(const QString& range, const QString& text, const Look&
     for (lxw_col_t column = first; column <= last; ++column) {
         part.openLeft = column != first;
         part.openRight = column != last;
-        for (lxw_row_t row = firstRow; row <= lastRow; ++row) {
+        for (lxw_row_t row = firstRow; row <= lastRow; ++row)
             worksheet_write_blank(sheet_, row, column, this->look(part));
-        }
     }
     part = look;
     part.openRight = first != last;
-    if (!text.isEmpty()) {
+    if (!text.isEmpty())
         worksheet_write_string(sheet_, firstRow, first, text.toUtf8().constData(), this->look(part));
-    }
 }
 
 void TemplateBook::page(const char* area, double topInches, double bottomInches, Paper paper) {
     constexpr uint8_t a4 = 9;
     constexpr double sideInches = 0.35;
     worksheet_set_paper(sheet_, a4);
-    if (paper == Paper::Wide) {
+    if (paper == Paper::Wide)
         worksheet_set_landscape(sheet_);
-    } else {
+    else
         worksheet_set_portrait(sheet_);
-    }
     worksheet_set_margins(sheet_, sideInches, sideInches, topInches, bottomInches);
     worksheet_center_horizontally(sheet_);
     worksheet_fit_to_pages(sheet_, 1, 1);

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/WorkbookWriter.h"
 
 namespace akarix {
@@ -59,8 +60,8 @@ class TemplateBook {
 
 /// The dealer's own name and address, a placeholder until the dealer has typed it.
 struct DealerBlock {
-    static QString name() { return QStringLiteral("株式会社 サンプルガス"); }
-    static QString contact() { return QStringLiteral("TEL 000-000-0000  FAX 000-000-0000"); }
+    static QString name() { return u"株式会社 サンプルガス"_s; }
+    static QString contact() { return u"TEL 000-000-0000  FAX 000-000-0000"_s; }
 };
 
 bool WriteBillingListTemplate(const QString& path);

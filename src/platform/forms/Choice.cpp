@@ -3,22 +3,23 @@
 #include <QKeyEvent>
 
 #include "platform/forms/Control.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
 
-bool isEnter(const QKeyEvent* event) {
+bool IsEnter(const QKeyEvent* event) {
     return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
 
 /// Captions may carry what the operator has typed; an ampersand there is no shortcut.
-QString literal(const QString& caption) {
-    return QString(caption).replace(u'&', QStringLiteral("&&"));
+QString Literal(const QString& caption) {
+    return QString(caption).replace(u'&', u"&&"_s);
 }
 
 }  // namespace
 
-OptionButton::OptionButton(const QString& caption, QWidget* parent) : QRadioButton(literal(caption), parent) {
+OptionButton::OptionButton(const QString& caption, QWidget* parent) : QRadioButton(Literal(caption), parent) {
     RegisterControl(this);
     connect(this, &QRadioButton::toggled, this, [this](bool chosen) {
         if (chosen) emit Click();
@@ -26,11 +27,11 @@ OptionButton::OptionButton(const QString& caption, QWidget* parent) : QRadioButt
 }
 
 void OptionButton::SetCaption(const QString& caption) {
-    setText(literal(caption));
+    setText(Literal(caption));
 }
 
 void OptionButton::keyPressEvent(QKeyEvent* event) {
-    if (isEnter(event)) {
+    if (IsEnter(event)) {
         focusNextPrevChild(true);
         event->accept();
         return;
@@ -38,13 +39,13 @@ void OptionButton::keyPressEvent(QKeyEvent* event) {
     QRadioButton::keyPressEvent(event);
 }
 
-CheckBox::CheckBox(const QString& caption, QWidget* parent) : QCheckBox(literal(caption), parent) {
+CheckBox::CheckBox(const QString& caption, QWidget* parent) : QCheckBox(Literal(caption), parent) {
     RegisterControl(this);
     connect(this, &QCheckBox::toggled, this, &CheckBox::Click);
 }
 
 void CheckBox::keyPressEvent(QKeyEvent* event) {
-    if (isEnter(event)) {
+    if (IsEnter(event)) {
         focusNextPrevChild(true);
         event->accept();
         return;
@@ -59,7 +60,7 @@ Frame::Frame(const QString& caption, QWidget* parent) : QGroupBox(parent) {
 
 void Frame::SetCaption(const QString& caption) {
     caption_ = caption;
-    setTitle(literal(caption));
+    setTitle(Literal(caption));
 }
 
 }  // namespace akarix

@@ -36,11 +36,10 @@ void ComboBox::RemoveItem(int index) {
     const int selected = currentIndex();
     const QSignalBlocker quiet(this);
     removeItem(index);
-    if (selected == index) {
+    if (selected == index)
         setCurrentIndex(-1);
-    } else {
+    else
         setCurrentIndex(selected > index ? selected - 1 : selected);
-    }
 }
 
 int ComboBox::ItemData(int index) const {

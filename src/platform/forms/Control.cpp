@@ -9,21 +9,21 @@
 namespace akarix {
 namespace {
 
-constexpr char tabIndexProperty[] = "TabIndex";
-constexpr char serialProperty[] = "controlSerial";
+constexpr char kTabIndexProperty[] = "TabIndex";
+constexpr char kSerialProperty[] = "controlSerial";
 
-int serial(const QWidget* control) {
-    return control->property(serialProperty).toInt();
+int Serial(const QWidget* control) {
+    return control->property(kSerialProperty).toInt();
 }
 
 }  // namespace
 
 void SetTabIndex(QWidget* control, int tabIndex) {
-    control->setProperty(tabIndexProperty, tabIndex);
+    control->setProperty(kTabIndexProperty, tabIndex);
 }
 
 int TabIndex(const QWidget* control) {
-    const QVariant value = control->property(tabIndexProperty);
+    const QVariant value = control->property(kTabIndexProperty);
     return value.isValid() ? value.toInt() : -1;
 }
 
@@ -31,22 +31,21 @@ void SetFocus(QWidget* control) {
     QWidget* form = control->window();
     if (!control->isEnabled() || !control->isVisibleTo(form)) throw RuntimeError(5);
     const QWidget* modal = QApplication::activeModalWidget();
-    if (form->isVisible() && !form->isActiveWindow() && (modal == nullptr || modal == form)) {
+    if (form->isVisible() && !form->isActiveWindow() && (modal == nullptr || modal == form))
         form->activateWindow();
-    }
     control->setFocus(Qt::OtherFocusReason);
 }
 
 void RegisterControl(QWidget* control) {
     static int made = 0;
-    control->setProperty(serialProperty, ++made);
+    control->setProperty(kSerialProperty, ++made);
 }
 
 QList<QWidget*> ControlsOf(const QWidget* parent) {
     QList<QWidget*> controls = parent->findChildren<QWidget*>();
-    controls.removeIf([](const QWidget* widget) { return serial(widget) == 0; });
+    controls.removeIf([](const QWidget* widget) { return Serial(widget) == 0; });
     std::sort(controls.begin(), controls.end(),
-              [](const QWidget* a, const QWidget* b) { return serial(a) < serial(b); });
+              [](const QWidget* a, const QWidget* b) { return Serial(a) < Serial(b); });
     return controls;
 }
 

@@ -4,6 +4,7 @@
 #include <map>
 #include <utility>
 
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -18,7 +19,7 @@ class ControlArray {
 
     T& add(int index, T* control) {
         controls_[index] = control;
-        if (!name_.isEmpty()) control->setObjectName(QStringLiteral("%1(%2)").arg(name_).arg(index));
+        if (!name_.isEmpty()) control->setObjectName(u"%1(%2)"_s.arg(name_).arg(index));
         return *control;
     }
     /// Raises 340 when there is no control of that index.

@@ -4,23 +4,24 @@
 
 #include "platform/forms/Icons.h"
 #include "platform/forms/Style.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
 
-constexpr int columnsPerBlock = 3;  // caption, fields, the room between two blocks
-constexpr int blockGap = 24;
-constexpr int lookupIconSize = 16;
+constexpr int kColumnsPerBlock = 3;  // caption, fields, the room between two blocks
+constexpr int kBlockGap = 24;
+constexpr int kLookupIconSize = 16;
 
 /// A line whose fields keep to the left.
-QHBoxLayout* fieldRow() {
+QHBoxLayout* FieldRow() {
     auto* line = new QHBoxLayout;
     line->setSpacing(6);
     line->addStretch();
     return line;
 }
 
-QGridLayout* fieldGrid() {
+QGridLayout* FieldGrid() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(5);
@@ -44,9 +45,9 @@ FieldLine& FieldLine::combo(ComboBox& box, int shownBytes) {
 }
 
 FieldLine& FieldLine::lookup(Image& picture) {
-    picture.setPixmap(DrawIcon(Icon::Lookup, lookupIconSize, &form_));
+    picture.setPixmap(DrawIcon(Icon::Lookup, kLookupIconSize, &form_));
     picture.setCursor(Qt::PointingHandCursor);
-    picture.setToolTip(QStringLiteral("さがす"));
+    picture.setToolTip(u"さがす"_s);
     return widget(&picture);
 }
 
@@ -71,12 +72,12 @@ FieldLine& FieldLine::widget(QWidget* widget) {
     return *this;
 }
 
-FieldLayout::FieldLayout(Form& form) : form_(form), grid_(fieldGrid()) {}
+FieldLayout::FieldLayout(Form& form) : form_(form), grid_(FieldGrid()) {}
 
 FieldLine FieldLayout::row(const QString& caption) {
     auto* label = new Label(caption);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    QHBoxLayout* line = fieldRow();
+    QHBoxLayout* line = FieldRow();
     grid_->addWidget(label, line_, column_);
     grid_->addLayout(line, line_, column_ + 1);
     ++line_;
@@ -84,12 +85,12 @@ FieldLine FieldLayout::row(const QString& caption) {
 }
 
 void FieldLayout::nextColumn() {
-    grid_->setColumnMinimumWidth(column_ + 2, blockGap);
-    column_ += columnsPerBlock;
+    grid_->setColumnMinimumWidth(column_ + 2, kBlockGap);
+    column_ += kColumnsPerBlock;
     line_ = 0;
 }
 
-LineLayout::LineLayout(Form& form) : form_(form), grid_(fieldGrid()) {}
+LineLayout::LineLayout(Form& form) : form_(form), grid_(FieldGrid()) {}
 
 void LineLayout::head(const QString& caption, Qt::Alignment alignment) {
     auto* label = new Label(caption);
@@ -100,7 +101,7 @@ void LineLayout::head(const QString& caption, Qt::Alignment alignment) {
 }
 
 FieldLine LineLayout::cell(int line, int column) {
-    QHBoxLayout* row = fieldRow();
+    QHBoxLayout* row = FieldRow();
     grid_->addLayout(row, line + 1, column);
     return FieldLine(form_, row);
 }

@@ -26,9 +26,8 @@ class ScrollingBody : public QScrollArea {
         form.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
         widget()->setLayout(layout);  // and with it the controls that it lays out
         // Those that stand over others, as a box over a grid's cell, belong to no layout.
-        for (QWidget* other : form.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        for (QWidget* other : form.findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
             if (other != this && !other->isWindow()) other->setParent(widget());
-        }
         auto* whole = new QVBoxLayout(&form);
         whole->setContentsMargins({});
         whole->addWidget(this);
@@ -44,23 +43,22 @@ class ScrollingBody : public QScrollArea {
     }
 };
 
-void moveCloser(QLayout& layout) {
+void MoveCloser(QLayout& layout) {
     constexpr int leastMargin = 4;
     constexpr int betweenGroups = 4;
     constexpr int betweenLines = 1;
     const QMargins margins = layout.contentsMargins();
     layout.setContentsMargins(margins.left(), std::min(margins.top(), leastMargin), margins.right(),
                               std::min(margins.bottom(), leastMargin));
-    if (auto* grid = qobject_cast<QGridLayout*>(&layout)) {
+    if (auto* grid = qobject_cast<QGridLayout*>(&layout))
         grid->setVerticalSpacing(std::min(grid->verticalSpacing(), betweenLines));
-    } else if (auto* column = qobject_cast<QVBoxLayout*>(&layout)) {
+    else if (auto* column = qobject_cast<QVBoxLayout*>(&layout))
         column->setSpacing(std::min(column->spacing(), betweenGroups));
-    }
     for (int i = 0; i < layout.count(); ++i) {
         const QLayoutItem* item = layout.itemAt(i);
         QLayout* inner = layout.itemAt(i)->layout();
         if (inner == nullptr && item->widget() != nullptr) inner = item->widget()->layout();
-        if (inner != nullptr) moveCloser(*inner);
+        if (inner != nullptr) MoveCloser(*inner);
     }
 }
 
@@ -75,7 +73,7 @@ void FitToRoom(QWidget& form, QSize room) {
         return least.boundedTo(room) == least;
     };
     if (fits()) return;
-    moveCloser(*form.layout());
+    MoveCloser(*form.layout());
     if (!fits()) new ScrollingBody(form);
 }
 

@@ -16,11 +16,11 @@
 namespace akarix {
 namespace {
 
-constexpr int defaultColumnTwips = 960;
-constexpr int cellMargin = 4;
-constexpr int tightMargin = 1;
+constexpr int kDefaultColumnTwips = 960;
+constexpr int kCellMargin = 4;
+constexpr int kTightMargin = 1;
 
-int qtAlignment(int alignment) {
+int QtAlignment(int alignment) {
     switch (alignment) {
         case AlignLeftCenter:
             return Qt::AlignLeft | Qt::AlignVCenter;
@@ -45,7 +45,7 @@ class FlexGrid::Model : public QAbstractTableModel {
 
     QVariant data(const QModelIndex& index, int role) const override {
         if (role == Qt::DisplayRole) return text(index.row() + fixed_, index.column());
-        if (role == Qt::TextAlignmentRole) return qtAlignment(alignment(index.column()));
+        if (role == Qt::TextAlignmentRole) return QtAlignment(alignment(index.column()));
         return {};
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
@@ -121,10 +121,10 @@ class FlexGrid::CellPainter : public QStyledItemDelegate {
         if (!text.isEmpty()) {
             painter->setPen(option.palette.color(QPalette::Text));
             // Columns have the widths they were given; a text that just fits gets its margin's room too.
-            const bool tight = option.fontMetrics.horizontalAdvance(text) > cell.width() - 2 * cellMargin;
-            const int margin = tight ? tightMargin : cellMargin;
+            const bool tight = option.fontMetrics.horizontalAdvance(text) > cell.width() - 2 * kCellMargin;
+            const int margin = tight ? kTightMargin : kCellMargin;
             const QRect room = cell.adjusted(margin, 0, -margin, 0);
-            painter->drawText(room, qtAlignment(model_->alignment(index.column())) | Qt::TextSingleLine,
+            painter->drawText(room, QtAlignment(model_->alignment(index.column())) | Qt::TextSingleLine,
                               option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
         }
         if (presentRow && index.column() == grid_->col_) {
@@ -140,7 +140,7 @@ class FlexGrid::CellPainter : public QStyledItemDelegate {
 
 FlexGrid::FlexGrid(QWidget* parent) : QTableView(parent), model_(new Model(this)) {
     RegisterControl(this);
-    widths_.assign(2, defaultColumnTwips);
+    widths_.assign(2, kDefaultColumnTwips);
     setModel(model_);
     setItemDelegate(new CellPainter(this, model_));
     setSelectionMode(SingleSelection);
@@ -198,7 +198,7 @@ void FlexGrid::SetCols(int cols) {
     if (cols == model_->cols()) return;
     const int before = model_->cols();
     settling_ = true;
-    widths_.resize(static_cast<std::size_t>(std::max(cols, before)), defaultColumnTwips);
+    widths_.resize(static_cast<std::size_t>(std::max(cols, before)), kDefaultColumnTwips);
     model_->setCols(cols);
     widths_.resize(static_cast<std::size_t>(cols));
     settling_ = false;
@@ -257,7 +257,7 @@ int FlexGrid::ColWidth(int col) const {
 
 void FlexGrid::SetColWidth(int col, int twips) {
     if (col < 0 || col >= Cols()) throw RuntimeError(9);
-    const int width = twips < 0 ? defaultColumnTwips : twips;
+    const int width = twips < 0 ? kDefaultColumnTwips : twips;
     widths_[static_cast<std::size_t>(col)] = width;
     setColumnHidden(col, width == 0);
     if (width > 0) setColumnWidth(col, Twips(width));

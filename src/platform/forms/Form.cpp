@@ -21,11 +21,12 @@
 #include "platform/forms/Notice.h"
 #include "platform/forms/PressGuard.h"
 #include "platform/forms/SessionEnd.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
 
-int classicButton(Qt::MouseButton button) {
+int ClassicButton(Qt::MouseButton button) {
     switch (button) {
         case Qt::LeftButton:
             return 1;
@@ -38,21 +39,21 @@ int classicButton(Qt::MouseButton button) {
     }
 }
 
-QList<QPointer<Form>>& instances() {
+QList<QPointer<Form>>& Instances() {
     static QList<QPointer<Form>> all;
     return all;
 }
 
 /// What the keyboard has been given back to while the desk has not yet said so.
-QPointer<QWidget>& keyboardDue() {
+QPointer<QWidget>& KeyboardDue() {
     static QPointer<QWidget> control;
     return control;
 }
 
-void giveKeyboardBack(QWidget& control) {
+void GiveKeyboardBack(QWidget& control) {
     control.window()->activateWindow();
-    keyboardDue() = &control;
-    QTimer::singleShot(0, qApp, [] { keyboardDue().clear(); });
+    KeyboardDue() = &control;
+    QTimer::singleShot(0, qApp, [] { KeyboardDue().clear(); });
 }
 
 std::function<void(const Form&)>& helpStep() {
@@ -60,7 +61,7 @@ std::function<void(const Form&)>& helpStep() {
     return step;
 }
 
-bool hasGrowingChild(const QWidget* form) {
+bool HasGrowingChild(const QWidget* form) {
     const auto areas = form->findChildren<QAbstractScrollArea*>();
     return std::any_of(areas.begin(), areas.end(), [](const QAbstractScrollArea* area) {
         return !area->isWindow() && area->sizePolicy().expandingDirections().testFlag(Qt::Vertical) &&
@@ -69,7 +70,7 @@ bool hasGrowingChild(const QWidget* form) {
 }
 
 /// What the desk draws around a window, told by one that stands already; else what most desks draw.
-QMargins frameAround(const QWidget& form) {
+QMargins FrameAround(const QWidget& form) {
     if (form.windowFlags().testFlag(Qt::FramelessWindowHint)) return {};
     for (const QWindow* window : QGuiApplication::topLevelWindows()) {
         const bool framed = window->isVisible() && !window->flags().testFlag(Qt::FramelessWindowHint);
@@ -93,7 +94,7 @@ void Form::Show() {
 
 void Form::ShowModal() {
     const LongRun::Pause pause;
-    const QPointer<QWidget> due = keyboardDue();
+    const QPointer<QWidget> due = KeyboardDue();
     QWidget* owner = PresentWindow();
     if (owner == this) owner = nullptr;
     if (isVisible()) hide();
@@ -116,9 +117,8 @@ void Form::ShowModal() {
         setWindowModality(Qt::NonModal);
     }
     // Without a window manager nobody gives the keyboard back to the window below.
-    if (before && before->window()->isVisible() && !before->window()->isActiveWindow()) {
-        giveKeyboardBack(*before);
-    }
+    if (before && before->window()->isVisible() && !before->window()->isActiveWindow())
+        GiveKeyboardBack(*before);
 }
 
 void Form::Hide() {
@@ -140,7 +140,7 @@ void Form::Unload() {
 QWidget* Form::PresentWindow() {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     // Right behind a dialog the desk is still between two windows.
-    const QPointer<QWidget> due = keyboardDue();
+    const QPointer<QWidget> due = KeyboardDue();
     return due ? due->window() : QApplication::activeWindow();
 }
 
@@ -154,7 +154,7 @@ int Form::takeTabIndex() {
 
 void Form::DropInstances() {
     ForgetNotices();
-    for (const QPointer<Form>& form : std::exchange(instances(), {}))
+    for (const QPointer<Form>& form : std::exchange(Instances(), {}))
         delete form.data();
 }
 
@@ -163,8 +163,8 @@ void Form::SetHelp(std::function<void(const Form& asking)> help) {
 }
 
 Form* Form::adopt(Form* instance) {
-    instances().removeIf([](const QPointer<Form>& form) { return form.isNull(); });
-    instances().append(instance);
+    Instances().removeIf([](const QPointer<Form>& form) { return form.isNull(); });
+    Instances().append(instance);
     return instance;
 }
 
@@ -185,7 +185,7 @@ void Form::hideEvent(QHideEvent* event) {
 void Form::mousePressEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
     RunGuarded([&] {
-        MouseDown(classicButton(event->button()), ToShift(event->modifiers()), at.x() * TwipsPerPixel,
+        MouseDown(ClassicButton(event->button()), ToShift(event->modifiers()), at.x() * TwipsPerPixel,
                   at.y() * TwipsPerPixel);
     });
 }
@@ -197,9 +197,11 @@ void Form::addKeys() {
         shortcut->setAutoRepeat(false);
         on(shortcut, &QShortcut::activated, action);
     };
-    add(Qt::Key_F1, [this] {
-        if (helpStep()) helpStep()(*this);
-    });
+    add(
+        Qt::Key_F1,
+        [this] {
+            if (helpStep()) helpStep()(*this);
+        });
     add(Qt::CTRL | Qt::Key_S, [this] { pressKeep(); });
 }
 
@@ -223,11 +225,10 @@ void Form::pressKeep() {
     }
     if (first == nullptr || !first->isVisible() || !first->isEnabled()) return;
     // A second stroke would store the emptied screen over what the first one has kept.
-    if (!holdsWork()) return ShowNotice(QStringLiteral("打ったものがないので、保存しませんでした。"));
+    if (!holdsWork()) return ShowNotice(u"打ったものがないので、保存しませんでした。"_s);
     const auto* box = qobject_cast<QLineEdit*>(focusWidget());
-    if (box != nullptr && TabIndex(box) < 0 && box->isModified()) {
-        return ShowNotice(QStringLiteral("打ちかけの欄を Enter で確定してから、保存して下さい。"));
-    }
+    if (box != nullptr && TabIndex(box) < 0 && box->isModified())
+        return ShowNotice(u"打ちかけの欄を Enter で確定してから、保存して下さい。"_s);
     // The keyboard goes to the button, as under the mouse, so that the field it was in is left by its rules.
     first->setFocus(Qt::ShortcutFocusReason);
     if (focusWidget() == first) first->click();
@@ -236,11 +237,10 @@ void Form::pressKeep() {
 void Form::present(QWidget* owner) {
     if (!arranged_) arrange();
     if (!isVisible()) place(owner);
-    if (isMinimized()) {
+    if (isMinimized())
         showNormal();
-    } else {
+    else
         show();
-    }
     raise();
     activateWindow();
 }
@@ -260,23 +260,20 @@ void Form::arrange() {
     watchEdits();
     // A new form's keyboard starts at the head of the walk unless its code has chosen otherwise.
     if (focusWidget() == nullptr && !walk.isEmpty()) walk.front()->setFocus();
-    if (layout() != nullptr && !hasGrowingChild(this)) {
-        layout()->setSizeConstraint(QLayout::SetFixedSize);
-    }
+    if (layout() != nullptr && !HasGrowingChild(this)) layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void Form::place(QWidget* owner) {
     const QScreen* screen = owner != nullptr ? owner->screen() : QWidget::screen();
     const QRect room = screen->availableGeometry();
-    const QMargins frame = frameAround(*this);
+    const QMargins frame = FrameAround(*this);
     fit(room.marginsRemoved(frame).size());
     const QRect around = owner != nullptr ? owner->frameGeometry() : room;
     QRect wanted = QRect(QPoint(), size()).marginsAdded(frame);
-    if (owner != nullptr || !placed_) {
+    if (owner != nullptr || !placed_)
         wanted.moveCenter(around.center());
-    } else {
+    else
         wanted.moveTopLeft(pos());
-    }
     wanted.moveLeft(
         std::clamp(wanted.left(), room.left(), std::max(room.left(), room.right() + 1 - wanted.width())));
     wanted.moveTop(

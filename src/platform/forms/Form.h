@@ -49,15 +49,16 @@ class Form : public QWidget {
     /// Attaches a handler: run inside an action, an escaping error shown in the run time's box.
     template <class Sender, class Signal, class Handler>
     void on(Sender* sender, Signal signal, Handler handler) {
-        QObject::connect(sender, signal, this, [handler = std::move(handler)](auto&&... arguments) mutable {
-            RunGuarded([&] {
-                if constexpr (std::is_invocable_v<Handler&, decltype(arguments)...>) {
-                    handler(arguments...);
-                } else {
-                    handler();  // a handler may leave out what the signal tells
-                }
+        QObject::connect(
+            sender, signal, this,
+            [handler = std::move(handler)](auto&&... arguments) mutable {
+                RunGuarded([&] {
+                    if constexpr (std::is_invocable_v<Handler&, decltype(arguments)...>)
+                        handler(arguments...);
+                    else
+                        handler();  // a handler may leave out what the signal tells
+                });
             });
-        });
     }
     /// The same for every control of an array; the handler gets the index first.
     template <class T, class Signal, class Handler>
@@ -74,9 +75,7 @@ class Form : public QWidget {
     template <class F>
     static F& Instance() {
         static QPointer<QWidget> instance;
-        if (instance.isNull() || static_cast<Form*>(instance.data())->unloaded_) {
-            instance = adopt(new F);
-        }
+        if (instance.isNull() || static_cast<Form*>(instance.data())->unloaded_) instance = adopt(new F);
         return *static_cast<F*>(instance.data());
     }
     /// What F1 does; nothing until it has been said.

@@ -21,9 +21,8 @@ void SetHeads(FlexGrid& grid, std::span<const GridHead> heads) {
 void ReserveRoom(FlexGrid& grid, int height) {
     constexpr int kScrollBar = 24;
     int width = kScrollBar;
-    for (int column = 0; column < grid.Cols(); ++column) {
+    for (int column = 0; column < grid.Cols(); ++column)
         width += Twips(grid.ColWidth(column));
-    }
     grid.SetRoom({width, height});
 }
 

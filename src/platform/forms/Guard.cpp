@@ -64,7 +64,7 @@ class Action {
     bool open_ = true;
 };
 
-bool showAndFail(const RuntimeError& error) {
+bool ShowAndFail(const RuntimeError& error) {
     ShowRuntimeError(error);
     return false;
 }
@@ -83,12 +83,12 @@ bool RunGuarded(const std::function<void()>& handler) {
         action.finish();
         return true;
     } catch (const RuntimeError& error) {
-        return showAndFail(error);
+        return ShowAndFail(error);
     } catch (const std::bad_alloc&) {
-        return showAndFail(RuntimeError(7));
+        return ShowAndFail(RuntimeError(7));
     } catch (const std::exception& error) {
         qWarning("%s", error.what());  // words for a programmer, not for the clerk
-        return showAndFail(RuntimeError(51));
+        return ShowAndFail(RuntimeError(51));
     }
 }
 
@@ -97,11 +97,10 @@ bool ActionUnderWay() {
 }
 
 void AfterAction(std::function<void()> step) {
-    if (!ActionUnderWay()) {
+    if (!ActionUnderWay())
         step();
-    } else {
+    else
         afterwards.push_back(std::move(step));
-    }
 }
 
 }  // namespace akarix

@@ -51,9 +51,8 @@ bool OfferKey(const QKeyEvent& press, std::initializer_list<int> handlersOwn, Em
     const int pressed = event.KeyCode;
     emitKeyDown(event);
     if (event.KeyCode == 0) return true;
-    for (const int own : handlersOwn) {
+    for (const int own : handlersOwn)
         if (own == pressed) return true;
-    }
     return false;
 }
 

@@ -13,15 +13,16 @@
 #include "platform/forms/Form.h"
 #include "platform/forms/Label.h"
 #include "platform/forms/SessionEnd.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
 namespace {
 
-constexpr qint64 quietMilliseconds = 1000;
-constexpr qint64 breathMilliseconds = 50;
+constexpr qint64 kQuietMilliseconds = 1000;
+constexpr qint64 kBreathMilliseconds = 50;
 
-bool isInput(QEvent::Type type) {
+bool IsInput(QEvent::Type type) {
     switch (type) {
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
@@ -51,13 +52,13 @@ class LongRun::Window : public QFrame {
           what_(new Label({}, this)),
           count_(new Label({}, this)),
           bar_(new QProgressBar(this)),
-          stop_(new CommandButton(QStringLiteral("中止"), this)),
+          stop_(new CommandButton(u"中止"_s, this)),
           hint_(new Label({}, this)) {
-        setObjectName(QStringLiteral("LongRun"));
+        setObjectName(u"LongRun"_s);
         setFrameStyle(QFrame::Box | QFrame::Plain);
         setAttribute(Qt::WA_ShowWithoutActivating);
-        count_->setObjectName(QStringLiteral("Count"));
-        stop_->setObjectName(QStringLiteral("Stop"));
+        count_->setObjectName(u"Count"_s);
+        stop_->setObjectName(u"Stop"_s);
         stop_->setFocusPolicy(Qt::NoFocus);
         bar_->setTextVisible(false);
         constexpr int width = 340;
@@ -81,12 +82,11 @@ class LongRun::Window : public QFrame {
 
     void tell(const QString& what, int done, int total, bool mayStop) {
         what_->SetCaption(what);
-        count_->SetCaption(QStringLiteral("%1 / %2").arg(done).arg(total));
+        count_->SetCaption(u"%1 / %2"_s.arg(done).arg(total));
         bar_->setRange(0, total);
         bar_->setValue(done);
         stop_->setEnabled(mayStop);
-        hint_->SetCaption(mayStop ? QStringLiteral("Esc でも中止できます。")
-                                  : QStringLiteral("終わるまでお待ちください。"));
+        hint_->SetCaption(mayStop ? u"Esc でも中止できます。"_s : u"終わるまでお待ちください。"_s);
         if (isVisible()) return;
         adjustSize();
         const QWidget* owner = parentWidget() != nullptr ? parentWidget()->window() : nullptr;
@@ -127,8 +127,8 @@ void LongRun::stage(const QString& what, bool mayStop) {
 }
 
 void LongRun::step(int done, int total) {
-    if (sinceBreath_.elapsed() >= breathMilliseconds) {
-        if (sinceStart_.elapsed() >= quietMilliseconds) show(done, total);
+    if (sinceBreath_.elapsed() >= kBreathMilliseconds) {
+        if (sinceStart_.elapsed() >= kQuietMilliseconds) show(done, total);
         breathe();
     }
     if (mayStop_ && (stopWanted_ || (endsWithSession_ && SessionEnd::Requested()))) {
@@ -142,7 +142,7 @@ void LongRun::show(int done, int total) {
         window_ = new Window(Form::PresentWindow());
         connect(window_->stop(), &CommandButton::Click, this, [this] { stopWanted_ = true; });
     }
-    const QString what = stage_.isEmpty() ? what_ : what_ + QStringLiteral("： ") + stage_;
+    const QString what = stage_.isEmpty() ? what_ : what_ + u"： "_s + stage_;
     window_->tell(what, done, total, mayStop_);
 }
 
@@ -152,11 +152,10 @@ void LongRun::breathe() {
 }
 
 void LongRun::setBusy(bool busy) {
-    if (busy) {
+    if (busy)
         QApplication::setOverrideCursor(Qt::WaitCursor);
-    } else {
+    else
         QApplication::restoreOverrideCursor();
-    }
 }
 
 bool LongRun::isOwn(const QObject* watched) const {
@@ -172,7 +171,7 @@ bool LongRun::eventFilter(QObject* watched, QEvent* event) {
         event->ignore();
         return true;
     }
-    if (!isInput(event->type())) return false;
+    if (!IsInput(event->type())) return false;
     if (event->type() == QEvent::KeyPress) {
         const auto& press = static_cast<const QKeyEvent&>(*event);
         // What was typed before the window stood there was not meant for it.

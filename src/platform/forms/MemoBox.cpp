@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 
 #include "platform/forms/Control.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -13,11 +14,11 @@ MemoBox::MemoBox(QWidget* parent) : QPlainTextEdit(parent) {
 }
 
 QString MemoBox::Text() const {
-    return toPlainText().replace(u'\n', QStringLiteral("\r\n"));
+    return toPlainText().replace(u'\n', u"\r\n"_s);
 }
 
 void MemoBox::SetText(const QString& text) {
-    setPlainText(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    setPlainText(QString(text).replace(u"\r\n"_s, u"\n"_s));
 }
 
 bool MemoBox::event(QEvent* event) {

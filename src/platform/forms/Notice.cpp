@@ -12,13 +12,14 @@
 
 #include "platform/forms/Form.h"
 #include "platform/forms/Guard.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
 
-constexpr int shownMilliseconds = 5000;
-constexpr int mostLines = 3;
-constexpr int mostTries = 10;
+constexpr int kShownMilliseconds = 5000;
+constexpr int kMostLines = 3;
+constexpr int kMostTries = 10;
 
 QStringList pending;
 
@@ -26,7 +27,7 @@ QStringList pending;
 class NoticeLine : public QLabel {
  public:
     NoticeLine(const QString& text, QWidget& over) : QLabel(text, &over) {
-        setObjectName(QStringLiteral("Notice"));
+        setObjectName(u"Notice"_s);
         // As a tip: above its window, outside the keyboard's and the window manager's business.
         setWindowFlags(Qt::ToolTip | Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
         setAttribute(Qt::WA_ShowWithoutActivating);
@@ -38,7 +39,7 @@ class NoticeLine : public QLabel {
         setForegroundRole(QPalette::ToolTipText);
         setAutoFillBackground(true);
         over.installEventFilter(this);
-        QTimer::singleShot(shownMilliseconds, this, &QWidget::close);
+        QTimer::singleShot(kShownMilliseconds, this, &QWidget::close);
     }
 
     /// Below the window where the screen has room there, else along its lower edge.
@@ -63,20 +64,20 @@ class NoticeLine : public QLabel {
     }
 };
 
-void showPending(int tries) {
+void ShowPending(int tries) {
     static QPointer<NoticeLine> shown;
     if (pending.isEmpty()) return;
     QWidget* over = Form::PresentWindow();
     if (over == nullptr && tries > 0) {  // a window has just gone; the next is still to take the keyboard
         constexpr int milliseconds = 50;
-        QTimer::singleShot(milliseconds, qApp, [tries] { AfterAction([tries] { showPending(tries - 1); }); });
+        QTimer::singleShot(milliseconds, qApp, [tries] { AfterAction([tries] { ShowPending(tries - 1); }); });
         return;
     }
     QStringList lines = std::exchange(pending, {});
     if (over == nullptr) return;
-    if (const auto more = lines.size() - mostLines; more > 0) {
-        lines.resize(mostLines);
-        lines += QStringLiteral("ほか %1 件").arg(more);
+    if (const auto more = lines.size() - kMostLines; more > 0) {
+        lines.resize(kMostLines);
+        lines += u"ほか %1 件"_s.arg(more);
     }
     delete shown.data();
     shown = new NoticeLine(lines.join(u'\n'), *over);
@@ -88,7 +89,7 @@ void showPending(int tries) {
 
 void ShowNotice(const QString& text) {
     pending += text;
-    if (pending.size() == 1) AfterAction([] { showPending(mostTries); });
+    if (pending.size() == 1) AfterAction([] { ShowPending(kMostTries); });
 }
 
 void ForgetNotices() {
@@ -96,11 +97,11 @@ void ForgetNotices() {
 }
 
 void NoticeSaved() {
-    ShowNotice(QStringLiteral("保存しました。"));
+    ShowNotice(u"保存しました。"_s);
 }
 
 void NoticeWritten(const QString& path) {
-    ShowNotice(QStringLiteral("%1 に書きました。").arg(QDir::toNativeSeparators(path)));
+    ShowNotice(u"%1 に書きました。"_s.arg(QDir::toNativeSeparators(path)));
 }
 
 }  // namespace akarix

@@ -18,7 +18,7 @@ namespace {
 
 /// The control a press is about to reach. On the desk it comes by the window, and is judged there: a press
 /// that has got as far as its control has already moved the keyboard.
-QWidget* controlUnder(QObject* receiver, const QMouseEvent& press) {
+QWidget* ControlUnder(QObject* receiver, const QMouseEvent& press) {
     if (auto* control = qobject_cast<QWidget*>(receiver)) return control;
     for (QWidget* top : QApplication::topLevelWidgets()) {
         if (top->windowHandle() != receiver) continue;
@@ -28,17 +28,17 @@ QWidget* controlUnder(QObject* receiver, const QMouseEvent& press) {
     return nullptr;
 }
 
-bool isButton(const QWidget* control) {
+bool IsButton(const QWidget* control) {
     return qobject_cast<const QAbstractButton*>(control) != nullptr ||
            qobject_cast<const Image*>(control) != nullptr;
 }
 
-bool isCell(const QWidget* control) {
+bool IsCell(const QWidget* control) {
     const auto* grid = control != nullptr ? qobject_cast<const FlexGrid*>(control->parentWidget()) : nullptr;
     return grid != nullptr && grid->viewport() == control;
 }
 
-bool isNear(const QPointF& a, const QPointF& b) {
+bool IsNear(const QPointF& a, const QPointF& b) {
     const int distance = QGuiApplication::styleHints()->mouseDoubleClickDistance();
     return std::abs(a.x() - b.x()) <= distance && std::abs(a.y() - b.y()) <= distance;
 }
@@ -97,11 +97,11 @@ class PressGuard : public QObject {
         if (std::exchange(seen_, press.timestamp()) == press.timestamp())
             return swallowing_;  // window, then control
         const auto interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
-        const QWidget* control = controlUnder(watched, press);
+        const QWidget* control = ControlUnder(watched, press);
         const bool soon = press.timestamp() - time_ < interval;
         const bool same = control != nullptr && control == control_;
-        const bool near = isNear(press.globalPosition(), place_);
-        swallowing_ = soon && (same ? isButton(control) || (near && isCell(control)) : near);
+        const bool near = IsNear(press.globalPosition(), place_);
+        swallowing_ = soon && (same ? IsButton(control) || (near && IsCell(control)) : near);
         if (swallowing_)
             return true;  // time and place stay: who goes on clicking is heard after the interval
         raised_.clear();

@@ -17,14 +17,15 @@ std::function<void()> leaveStep;
 bool requested = false;
 
 // Through the event loop each time: what waits in a closed dialog has to come to its end first.
-void leaveWhenIdle() {
-    QTimer::singleShot(0, qApp, [] {
-        if (ActionUnderWay()) {
-            AfterAction(leaveWhenIdle);
-        } else if (const auto leave = std::exchange(leaveStep, nullptr)) {
-            leave();
-        }
-    });
+void LeaveWhenIdle() {
+    QTimer::singleShot(
+        0, qApp,
+        [] {
+            if (ActionUnderWay())
+                AfterAction(LeaveWhenIdle);
+            else if (const auto leave = std::exchange(leaveStep, nullptr))
+                leave();
+        });
 }
 
 }  // namespace
@@ -46,10 +47,9 @@ void Await(std::function<void()> leave) {
 
 void Request() {
     if (std::exchange(requested, true)) return;
-    for (QWidget* window : QApplication::topLevelWidgets()) {
+    for (QWidget* window : QApplication::topLevelWidgets())
         if (window->isVisible() && window->isModal()) Dismiss(*window);
-    }
-    leaveWhenIdle();
+    LeaveWhenIdle();
 }
 
 bool Requested() {

@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/MachineMark.h"
 
 namespace akarix {
@@ -9,20 +10,20 @@ namespace {
 
 QString guardFolder;  ///< empty: the machine's own
 
-QString guardPath() {
-    return (guardFolder.isEmpty() ? MachineMarkFolder() : guardFolder) + QStringLiteral("/akarix.lock");
+QString GuardPath() {
+    return (guardFolder.isEmpty() ? MachineMarkFolder() : guardFolder) + u"/akarix.lock"_s;
 }
 
 }  // namespace
 
-SingleInstance::SingleInstance() : mark_(std::make_unique<MachineMark>(guardPath())) {
+SingleInstance::SingleInstance() : mark_(std::make_unique<MachineMark>(GuardPath())) {
     previous_ = !mark_->take(QDir::current().canonicalPath());
 }
 
 SingleInstance::~SingleInstance() = default;
 
 std::optional<QString> SingleInstance::RunningIn() {
-    return MachineMark::wordOf(guardPath());
+    return MachineMark::wordOf(GuardPath());
 }
 
 void SingleInstance::KeepIn(const QString& folder) {

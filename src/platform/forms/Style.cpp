@@ -10,34 +10,33 @@
 #include "platform/forms/Colours.h"
 #include "platform/forms/Icons.h"
 #include "platform/forms/ScreenStyle.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
 
-QPalette screenPalette() {
+QPalette ScreenPalette() {
     QPalette p;
-    p.setColor(QPalette::Window, colours::window);
-    p.setColor(QPalette::WindowText, colours::ink);
+    p.setColor(QPalette::Window, colours::kWindow);
+    p.setColor(QPalette::WindowText, colours::kInk);
     p.setColor(QPalette::Base, Qt::white);
-    p.setColor(QPalette::AlternateBase, colours::card);
-    p.setColor(QPalette::Text, colours::ink);
-    p.setColor(QPalette::Button, colours::button);
-    p.setColor(QPalette::ButtonText, colours::ink);
-    p.setColor(QPalette::Highlight, colours::accent);
+    p.setColor(QPalette::AlternateBase, colours::kCard);
+    p.setColor(QPalette::Text, colours::kInk);
+    p.setColor(QPalette::Button, colours::kButton);
+    p.setColor(QPalette::ButtonText, colours::kInk);
+    p.setColor(QPalette::Highlight, colours::kAccent);
     p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::PlaceholderText, colours::quiet);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        p.setColor(QPalette::Disabled, role, colours::faint);
-    }
-    p.setColor(QPalette::Disabled, QPalette::Base, colours::window);
-    p.setColor(QPalette::Inactive, QPalette::Highlight, colours::accent.lighter(130));
+    p.setColor(QPalette::PlaceholderText, colours::kQuiet);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, role, colours::kFaint);
+    p.setColor(QPalette::Disabled, QPalette::Base, colours::kWindow);
+    p.setColor(QPalette::Inactive, QPalette::Highlight, colours::kAccent.lighter(130));
     return p;
 }
 
-QString firstFamily(const QStringList& wanted) {
-    for (const QString& family : wanted) {
+QString FirstFamily(const QStringList& wanted) {
+    for (const QString& family : wanted)
         if (QFontDatabase::hasFamily(family)) return family;
-    }
     return wanted.back();
 }
 
@@ -45,21 +44,20 @@ QString firstFamily(const QStringList& wanted) {
 
 void ApplyStyle(QApplication& application) {
     QApplication::setStyle(new ScreenStyle);
-    QApplication::setPalette(screenPalette());
+    QApplication::setPalette(ScreenPalette());
     QApplication::setFont(ScreenFont());
     QApplication::setWindowIcon(ProgramIcon());
-    QGuiApplication::setDesktopFileName(QStringLiteral("akarix"));  // a desk that asks the entry for the icon
+    QGuiApplication::setDesktopFileName(u"akarix"_s);  // a desk that asks the entry for the icon
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
     // The words of Qt's own menus and dialogs.
     auto* words = new QTranslator(&application);
-    if (words->load(QStringLiteral("qtbase_ja"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    if (words->load(u"qtbase_ja"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(words);
-    }
 }
 
 QFont ScreenFont() {
-    static const QString family = firstFamily({QStringLiteral("ＭＳ ゴシック"), QStringLiteral("MS Gothic"),
-                                               QStringLiteral("IPAGothic"), QStringLiteral("IPAゴシック")});
+    static const QString family =
+        FirstFamily({u"ＭＳ ゴシック"_s, u"MS Gothic"_s, u"IPAGothic"_s, u"IPAゴシック"_s});
     QFont font(family);
     font.setPixelSize(14);
     font.setStyleHint(QFont::Monospace);
@@ -73,7 +71,7 @@ int BoxWidth(int bytes) {
 }
 
 QColor PresentRowColour() {
-    return colours::rowTint;
+    return colours::kRowTint;
 }
 
 }  // namespace akarix

@@ -16,14 +16,14 @@ namespace {
 
 /// Some input methods hand on the Enter that committed a composition, a moment after the commit. Nobody
 /// presses Enter twice within this time.
-constexpr int commitKeyMilliseconds = 50;
+constexpr int kCommitKeyMilliseconds = 50;
 
-QString toHalfKatakana(const QString& text) {
+QString ToHalfKatakana(const QString& text) {
     return StrConv(StrConv(text, Katakana), NarrowChars);
 }
 
 /// Figures, signs, points and letters; kana stay, since a file may be called so.
-QString narrowed(QString text) {
+QString Narrowed(QString text) {
     constexpr char16_t firstWide = u'！';
     constexpr char16_t lastWide = u'～';
     constexpr int apart = firstWide - u'!';
@@ -37,7 +37,7 @@ QString narrowed(QString text) {
     return text;
 }
 
-bool types(const QKeyEvent& press) {
+bool Types(const QKeyEvent& press) {
     return !press.text().isEmpty() && press.text().front().isPrint() &&
            !(press.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
 }
@@ -114,9 +114,8 @@ bool TextBox::belongsToInputMethod(const QKeyEvent& press) {
 void TextBox::inputMethodEvent(QInputMethodEvent* event) {
     const bool wasComposing = composing_;
     composing_ = !event->preeditString().isEmpty();
-    if (wasComposing && !composing_ && !event->commitString().isEmpty()) {
-        commitKey_.setRemainingTime(commitKeyMilliseconds);
-    }
+    if (wasComposing && !composing_ && !event->commitString().isEmpty())
+        commitKey_.setRemainingTime(kCommitKeyMilliseconds);
     const QString& commit = event->commitString();
     const QString kept = fitting(
         taken(commit), restOf(cursorPosition() + event->replacementStart(), event->replacementLength()));
@@ -133,7 +132,7 @@ void TextBox::inputMethodEvent(QInputMethodEvent* event) {
 // Pastes and drops come in by Qt's own ways and are made fit behind them; a key that is refused here leaves
 // nothing to undo.
 void TextBox::keyPressEvent(QKeyEvent* event) {
-    if (types(*event)) {
+    if (Types(*event)) {
         const QString kept = fitting(taken(event->text()), restOf(0, 0));
         if (kept != event->text()) {
             if (!kept.isEmpty()) insert(kept);
@@ -148,9 +147,9 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
 QString TextBox::taken(const QString& coming) const {
     switch (imeMode_) {
         case ImeMode::Off:
-            return narrowed(coming);
+            return Narrowed(coming);
         case ImeMode::KatakanaHalf:
-            return toHalfKatakana(coming);
+            return ToHalfKatakana(coming);
         default:
             return coming;
     }

@@ -12,6 +12,7 @@
 #include "platform/print/EscapableForm.h"
 #include "platform/print/FileField.h"
 #include "platform/print/FileName.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
@@ -19,30 +20,34 @@ namespace {
 class SaveAs_frm : public EscapableForm {
  public:
     SaveAs_frm(const QString& caption, const QString& path, std::shared_ptr<QString> answer)
-        : EscapableForm(QStringLiteral("SaveAs_frm"), caption), answer_(std::move(answer)) {
+        : EscapableForm(u"SaveAs_frm"_s, caption), answer_(std::move(answer)) {
         file_ = new FileField(path, QFileInfo(path).suffix(), this);
-        auto* save = new CommandButton(QStringLiteral("保存"), this);
-        auto* cancel = new CommandButton(QStringLiteral("キャンセル"), this);
-        save->setObjectName(QStringLiteral("Save"));
-        cancel->setObjectName(QStringLiteral("Cancel"));
+        auto* save = new CommandButton(u"保存"_s, this);
+        auto* cancel = new CommandButton(u"キャンセル"_s, this);
+        save->setObjectName(u"Save"_s);
+        cancel->setObjectName(u"Cancel"_s);
 
         auto* buttons = new QHBoxLayout;
         buttons->addStretch();
         buttons->addWidget(save);
         buttons->addWidget(cancel);
         auto* layout = new QVBoxLayout(this);
-        layout->addWidget(new Label(QStringLiteral("保存するファイル"), this));
+        layout->addWidget(new Label(u"保存するファイル"_s, this));
         layout->addWidget(file_);
         layout->addLayout(buttons);
 
-        on(file_->box(), &TextBox::KeyDown, [this](KeyEvent& event) {
-            if (event.KeyCode == key::Return) {
-                event.KeyCode = 0;
-                this->save();
-            }
-        });
-        on(file_->browse(), &CommandButton::Click, [this] { file_->chooseFile(); });
-        on(save, &CommandButton::Click, [this] { this->save(); });
+        on(
+            file_->box(), &TextBox::KeyDown,
+            [this](KeyEvent& event) {
+                if (event.KeyCode == key::Return) {
+                    event.KeyCode = 0;
+                    this->save();
+                }
+            });
+        on(
+            file_->browse(), &CommandButton::Click, [this] { file_->chooseFile(); });
+        on(
+            save, &CommandButton::Click, [this] { this->save(); });
         on(cancel, &CommandButton::Click, [this] { Unload(); });
         file_->box()->setFocus();
         file_->box()->selectAll();

@@ -14,11 +14,10 @@ class EscapableForm : public Form {
 
  protected:
     void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Escape) {
+        if (event->key() == Qt::Key_Escape)
             Unload();
-        } else {
+        else
             Form::keyPressEvent(event);
-        }
     }
 };
 

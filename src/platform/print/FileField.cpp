@@ -10,6 +10,7 @@
 #include "platform/forms/Label.h"
 #include "platform/forms/TextBox.h"
 #include "platform/print/FileName.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -17,13 +18,13 @@ FileField::FileField(const QString& path, const QString& suffix, QWidget* parent
     : QWidget(parent),
       suffix_(suffix),
       path_(new TextBox(this)),
-      browse_(new CommandButton(QStringLiteral("参照..."), this)),
+      browse_(new CommandButton(u"参照..."_s, this)),
       message_(new Label(QString(), this)) {
-    path_->setObjectName(QStringLiteral("Path"));
+    path_->setObjectName(u"Path"_s);
     path_->SetText(QDir::toNativeSeparators(path));
     path_->setMinimumWidth(Twips(6600));
-    browse_->setObjectName(QStringLiteral("Browse"));
-    message_->setObjectName(QStringLiteral("Message"));
+    browse_->setObjectName(u"Browse"_s);
+    message_->setObjectName(u"Message"_s);
     message_->setWordWrap(true);
     QPalette red = message_->palette();
     red.setColor(QPalette::WindowText, QColor(176, 0, 0));
@@ -50,9 +51,8 @@ FileField::FileField(const QString& path, const QString& suffix, QWidget* parent
 QString FileField::absolutePath() const {
     QString typed = QDir::fromNativeSeparators(path_->Text().trimmed());
     if (typed.isEmpty() || typed.endsWith(QLatin1Char('/'))) return typed;
-    if (QFileInfo(typed).suffix().compare(suffix_, Qt::CaseInsensitive) != 0) {
+    if (QFileInfo(typed).suffix().compare(suffix_, Qt::CaseInsensitive) != 0)
         typed += QLatin1Char('.') + suffix_;
-    }
     return QDir::cleanPath(QDir(DocumentFolder()).absoluteFilePath(typed));
 }
 
@@ -65,8 +65,7 @@ QString FileField::accepted() {
     }
     if (QFileInfo::exists(path) && path != mayOverwrite_) {
         mayOverwrite_ = path;
-        message_->SetCaption(
-            QStringLiteral("同じ名前のファイルがあります。上書きするときは、もう一度押して下さい。"));
+        message_->SetCaption(u"同じ名前のファイルがあります。上書きするときは、もう一度押して下さい。"_s);
         return {};
     }
     return path;
@@ -74,8 +73,8 @@ QString FileField::accepted() {
 
 void FileField::chooseFile() {
     const QString chosen =
-        QFileDialog::getSaveFileName(window(), QStringLiteral("ファイルの保存先"), absolutePath(),
-                                     QStringLiteral("%1 ファイル (*.%2)").arg(suffix_.toUpper(), suffix_));
+        QFileDialog::getSaveFileName(window(), u"ファイルの保存先"_s, absolutePath(),
+                                     u"%1 ファイル (*.%2)"_s.arg(suffix_.toUpper(), suffix_));
     if (chosen.isEmpty()) return;
     clearMessage();
     path_->SetText(QDir::toNativeSeparators(chosen));

@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -22,10 +23,8 @@ QStringList LinesOf(const QString& text) {
 }  // namespace
 
 void PageSurface::SetArea(int width, int height) {
-    if (width <= 0 || height <= 0) {
-        throw RuntimeError(InvalidProperty,
-                           QStringLiteral("用紙の大きさが不正です (%1 x %2)。").arg(width).arg(height));
-    }
+    if (width <= 0 || height <= 0)
+        throw RuntimeError(InvalidProperty, u"用紙の大きさが不正です (%1 x %2)。"_s.arg(width).arg(height));
     paper_ = QSizeF(width, height) / TwipsPerPoint;
 }
 
@@ -38,24 +37,21 @@ void PageSurface::SetFontName(const QString& name) {
     wanted.name = name;
     const int charset = std::exchange(charset_, JapaneseCharset);
     // Another font would print readable letters where bars belong, and nobody would notice.
-    if (charset == AnsiCharset && FontOnPaper(wanted).substituted()) {
-        throw RuntimeError(InvalidProperty, QStringLiteral("フォント '%1' がありません。").arg(name));
-    }
+    if (charset == AnsiCharset && FontOnPaper(wanted).substituted())
+        throw RuntimeError(InvalidProperty, u"フォント '%1' がありません。"_s.arg(name));
     fontKey_ = wanted;
 }
 
 void PageSurface::SetFontSize(int points) {
-    if (points < 1 || points > LargestFont) {
-        throw RuntimeError(InvalidProperty, QStringLiteral("文字の大きさが不正です (%1)。").arg(points));
-    }
+    if (points < 1 || points > LargestFont)
+        throw RuntimeError(InvalidProperty, u"文字の大きさが不正です (%1)。"_s.arg(points));
     fontKey_.size = points;
 }
 
 double PageSurface::TextWidth(const QString& text) {
     double widest = 0;
-    for (const QString& line : LinesOf(text)) {
+    for (const QString& line : LinesOf(text))
         widest = std::max(widest, font().width(line));
-    }
     return widest;
 }
 
@@ -78,9 +74,8 @@ void PageSurface::Cls() {
 PrintPage PageSurface::takePage() {
     const auto marks = std::make_shared<const std::vector<Mark>>(std::exchange(marks_, {}));
     return {paper_, [marks](QPainter& painter) {
-                for (const Mark& mark : *marks) {
+                for (const Mark& mark : *marks)
                     draw(painter, mark);
-                }
             }};
 }
 

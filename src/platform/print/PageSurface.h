@@ -8,6 +8,7 @@
 #include "platform/print/PaperFont.h"
 #include "platform/print/PrintJob.h"
 #include "platform/print/PrintSurface.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -46,7 +47,7 @@ class PageSurface : public PrintSurface {
     PaperFont& font() const { return FontOnPaper(fontKey_); }
 
     QSizeF paper_ = PrintPage().paper;
-    PaperFontKey fontKey_{QStringLiteral("ＭＳ 明朝"), 10};
+    PaperFontKey fontKey_{u"ＭＳ 明朝"_s, 10};
     int charset_ = JapaneseCharset;  ///< for the font named next
     std::vector<Mark> marks_;
 };

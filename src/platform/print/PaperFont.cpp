@@ -9,6 +9,8 @@
 #include <deque>
 #include <vector>
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix {
 namespace {
 
@@ -41,18 +43,16 @@ struct Choice {
 const Family* KnownFamily(const QString& name) {
     QString plain = name.normalized(QString::NormalizationForm_KC).toLower();
     plain.remove(QLatin1Char(' '));
-    for (const Family& family : KnownFamilies()) {
+    for (const Family& family : KnownFamilies())
         if (family.spellings.contains(plain)) return &family;
-    }
     return nullptr;
 }
 
 Choice ChooseFamily(const QString& name) {
     const Family* family = KnownFamily(name);
     if (!family) return {name, !QFontDatabase::hasFamily(name)};
-    for (const QString& installed : family->installed) {
+    for (const QString& installed : family->installed)
         if (QFontDatabase::hasFamily(installed)) return {installed, false};
-    }
     return {family->substitute, true};
 }
 
@@ -69,7 +69,7 @@ PaperFont::PaperFont(const PaperFontKey& key) : em_(key.size * TwipsPerPoint) {
     const Choice choice = ChooseFamily(key.name);
     substituted_ = choice.substituted;
     // Letters that a western font lacks come from the Japanese one.
-    font_.setFamilies({choice.family, QStringLiteral("IPAPGothic")});
+    font_.setFamilies({choice.family, u"IPAPGothic"_s});
     font_.setPixelSize(std::max(1, qRound(em_)));
     font_.setBold(key.bold);
     font_.setItalic(key.italic);
@@ -85,9 +85,8 @@ void PaperFont::draw(QPainter& painter, QPointF base, const QString& text) const
     painter.drawText(base, text);
     // A face without a bold cut is struck twice in a PDF file. A screen makes such letters bolder by itself,
     // but only small ones, and in twips none is small.
-    if (secondStrike_ > 0 && painter.paintEngine()->type() == QPaintEngine::Raster) {
+    if (secondStrike_ > 0 && painter.paintEngine()->type() == QPaintEngine::Raster)
         painter.drawText(base - QPointF(secondStrike_, 0), text);
-    }
 }
 
 double PaperFont::width(const QString& text) {

@@ -6,6 +6,7 @@
 #include "platform/forms/Label.h"
 #include "platform/print/PreviewForm.h"
 #include "platform/print/PreviewPages.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
@@ -13,19 +14,19 @@ namespace {
 class Preview_frm : public PreviewForm {
  public:
     Preview_frm(const QString& title, const std::vector<PrintPage>& pages, const PreviewPlace& place)
-        : PreviewForm(QStringLiteral("Preview_frm"),
-                      (QStringLiteral("印刷プレビュー - ") + title + u' ' + place.page).trimmed(), place) {
+        : PreviewForm(u"Preview_frm"_s, (u"印刷プレビュー - "_s + title + u' ' + place.page).trimmed(),
+                      place) {
         pages_ = new PreviewPages(pages, this);
-        pages_->setObjectName(QStringLiteral("Pages"));
-        previous_ = button(QStringLiteral("前頁"), QStringLiteral("Previous"));
-        next_ = button(QStringLiteral("次頁"), QStringLiteral("Next"));
+        pages_->setObjectName(u"Pages"_s);
+        previous_ = button(u"前頁"_s, u"Previous"_s);
+        next_ = button(u"次頁"_s, u"Next"_s);
         place_ = new Label(QString(), this);
-        place_->setObjectName(QStringLiteral("Place"));
+        place_->setObjectName(u"Place"_s);
         auto* zoom = new ComboBox(this);
-        zoom->setObjectName(QStringLiteral("Zoom"));
-        zoom->AddItem(QStringLiteral("幅に合わせる"), 0);
-        zoom->AddItem(QStringLiteral("100%"), 100);
-        zoom->AddItem(QStringLiteral("150%"), 150);
+        zoom->setObjectName(u"Zoom"_s);
+        zoom->AddItem(u"幅に合わせる"_s, 0);
+        zoom->AddItem(u"100%"_s, 100);
+        zoom->AddItem(u"150%"_s, 150);
         zoom->SetListIndex(0);
 
         auto* bar = new QHBoxLayout;
@@ -41,9 +42,12 @@ class Preview_frm : public PreviewForm {
         layout->addWidget(pages_, 1);
         resize(Twips(13200), Twips(11400));
 
-        on(previous_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() - 1); });
-        on(next_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() + 1); });
-        on(zoom, &ComboBox::Click, [this, zoom] { pages_->setZoom(zoom->ItemData(zoom->ListIndex())); });
+        on(
+            previous_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() - 1); });
+        on(
+            next_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() + 1); });
+        on(
+            zoom, &ComboBox::Click, [this, zoom] { pages_->setZoom(zoom->ItemData(zoom->ListIndex())); });
         on(pages_, &PreviewPages::currentPageChanged, [this](int page) { showPlace(page); });
         showPlace(0);
         pages_->setFocus();
@@ -58,8 +62,7 @@ class Preview_frm : public PreviewForm {
 
     void showPlace(int page) {
         const bool alone = pages_->pageCount() == 1 && !place().page.isEmpty();
-        place_->SetCaption(alone ? place().page
-                                 : QStringLiteral("%1 / %2 頁").arg(page + 1).arg(pages_->pageCount()));
+        place_->SetCaption(alone ? place().page : u"%1 / %2 頁"_s.arg(page + 1).arg(pages_->pageCount()));
         previous_->setEnabled(page > 0);
         next_->setEnabled(page + 1 < pages_->pageCount());
     }

@@ -1,18 +1,17 @@
 #include "platform/print/PreviewForm.h"
 
 #include "platform/forms/CommandButton.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
 PreviewForm::PreviewForm(const QString& name, const QString& caption, PreviewPlace place)
     : EscapableForm(name, caption),
       place_(std::move(place)),
-      close_(&Named(
-          new CommandButton(place_.moreMayFollow ? QStringLiteral("次へ") : QStringLiteral("閉じる"), this),
-          QStringLiteral("Close"))) {
+      close_(&Named(new CommandButton(place_.moreMayFollow ? u"次へ"_s : u"閉じる"_s, this), u"Close"_s)) {
     on(close_, &CommandButton::Click, [this] { Unload(); });
     if (!place_.moreMayFollow) return;
-    stop_ = &Named(new CommandButton(QStringLiteral("中止"), this), QStringLiteral("Stop"));
+    stop_ = &Named(new CommandButton(u"中止"_s, this), u"Stop"_s);
     on(stop_, &CommandButton::Click, [this] { stop(); });
 }
 

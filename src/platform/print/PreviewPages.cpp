@@ -25,9 +25,8 @@ PreviewPages::PreviewPages(std::vector<PrintPage> pages, QWidget* parent)
 double PreviewPages::pixelsPerPoint() const {
     if (zoom_ > 0) return logicalDpiX() / PointsPerInch * zoom_ / 100.0;
     double widest = 1;
-    for (const PrintPage& page : pages_) {
+    for (const PrintPage& page : pages_)
         widest = std::max(widest, page.paper.width());
-    }
     return std::max(0.05, (viewport()->width() - 2.0 * Gap) / widest);
 }
 

@@ -34,9 +34,8 @@ void Printer::UsePdf(const QString& absolutePath) {
 
 QString Printer::NextPdfPath() {
     if (++pdfDocuments_ == 1) return pdfPath_;
-    while (QFileInfo::exists(NumberedPath(pdfPath_, pdfDocuments_))) {
+    while (QFileInfo::exists(NumberedPath(pdfPath_, pdfDocuments_)))
         ++pdfDocuments_;
-    }
     return NumberedPath(pdfPath_, pdfDocuments_);
 }
 

@@ -15,6 +15,7 @@
 #include "platform/print/FileField.h"
 #include "platform/print/FileName.h"
 #include "platform/print/Printer.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -23,15 +24,19 @@ namespace {
 class Printer_frm : public EscapableForm {
  public:
     Printer_frm(const QString& document, std::shared_ptr<bool> accepted)
-        : EscapableForm(QStringLiteral("Printer_frm"), QStringLiteral("印刷")),
-          accepted_(std::move(accepted)) {
-        build(SafeFileName(document) + QStringLiteral(".pdf"));
+        : EscapableForm(u"Printer_frm"_s, u"印刷"_s), accepted_(std::move(accepted)) {
+        build(SafeFileName(document) + u".pdf"_s);
         fill();
-        on(printers_, &QListWidget::currentRowChanged, [this](int) { showChoice(); });
-        on(printers_, &QListWidget::itemActivated, [this](QListWidgetItem*) { print(); });
-        on(file_->box(), &TextBox::KeyDown, [this](KeyEvent& event) { pathKey(event); });
-        on(file_->browse(), &CommandButton::Click, [this] { file_->chooseFile(); });
-        on(print_, &CommandButton::Click, [this] { print(); });
+        on(
+            printers_, &QListWidget::currentRowChanged, [this](int) { showChoice(); });
+        on(
+            printers_, &QListWidget::itemActivated, [this](QListWidgetItem*) { print(); });
+        on(
+            file_->box(), &TextBox::KeyDown, [this](KeyEvent& event) { pathKey(event); });
+        on(
+            file_->browse(), &CommandButton::Click, [this] { file_->chooseFile(); });
+        on(
+            print_, &CommandButton::Click, [this] { print(); });
         on(cancel_, &CommandButton::Click, [this] { Unload(); });
         showChoice();
         printers_->setFocus();
@@ -39,37 +44,36 @@ class Printer_frm : public EscapableForm {
 
  protected:
     void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
             print();
-        } else {
+        else
             EscapableForm::keyPressEvent(event);
-        }
     }
 
  private:
     void build(const QString& fileName) {
         printers_ = new QListWidget(this);
-        printers_->setObjectName(QStringLiteral("Printers"));
+        printers_->setObjectName(u"Printers"_s);
         printers_->setMinimumHeight(Twips(1800));
         copies_ = new QSpinBox(this);
-        copies_->setObjectName(QStringLiteral("Copies"));
+        copies_->setObjectName(u"Copies"_s);
         copies_->setRange(1, 99);
         const Printer& current = Printer::Current();
         copies_->setValue(current.Copies());
         const QString folder =
             current.IsPdf() ? QFileInfo(current.PdfPath()).absolutePath() : DocumentFolder();
-        file_ = new FileField(FreePath(QDir(folder).filePath(fileName)), QStringLiteral("pdf"), this);
-        print_ = new CommandButton(QStringLiteral("印刷"), this);
-        print_->setObjectName(QStringLiteral("Print"));
-        cancel_ = new CommandButton(QStringLiteral("キャンセル"), this);
-        cancel_->setObjectName(QStringLiteral("Cancel"));
+        file_ = new FileField(FreePath(QDir(folder).filePath(fileName)), u"pdf"_s, this);
+        print_ = new CommandButton(u"印刷"_s, this);
+        print_->setObjectName(u"Print"_s);
+        cancel_ = new CommandButton(u"キャンセル"_s, this);
+        cancel_->setObjectName(u"Cancel"_s);
 
         auto* layout = new QGridLayout(this);
-        layout->addWidget(new Label(QStringLiteral("プリンタ"), this), 0, 0, Qt::AlignTop);
+        layout->addWidget(new Label(u"プリンタ"_s, this), 0, 0, Qt::AlignTop);
         layout->addWidget(printers_, 0, 1);
-        layout->addWidget(new Label(QStringLiteral("部数"), this), 1, 0);
+        layout->addWidget(new Label(u"部数"_s, this), 1, 0);
         layout->addWidget(copies_, 1, 1, Qt::AlignLeft);
-        layout->addWidget(new Label(QStringLiteral("ファイル"), this), 2, 0, Qt::AlignTop);
+        layout->addWidget(new Label(u"ファイル"_s, this), 2, 0, Qt::AlignTop);
         layout->addWidget(file_, 2, 1);
         auto* buttons = new QHBoxLayout;
         buttons->addStretch();
@@ -83,7 +87,7 @@ class Printer_frm : public EscapableForm {
         const Printer& current = Printer::Current();
         const QStringList names = Printer::Names();
         printers_->addItems(names);
-        printers_->addItem(QStringLiteral("PDF ファイル"));
+        printers_->addItem(u"PDF ファイル"_s);
         const auto row = current.IsPdf() ? -1 : names.indexOf(current.Name());
         printers_->setCurrentRow(row < 0 ? pdfRow() : static_cast<int>(row));
     }

@@ -8,6 +8,7 @@
 #include "platform/print/FileName.h"
 #include "platform/print/PrintJob.h"
 #include "platform/print/Printer.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -60,18 +61,17 @@ class QueueSink : public PrintSink {
     QueueSink(const Printer& target, const QString& documentName)
         : printer_(QPrinter::HighResolution), pages_(printer_) {
         const QString name = target.Name();
-        if (name.isEmpty()) RaisePrinterError(QStringLiteral("プリンタがありません。"));
+        if (name.isEmpty()) RaisePrinterError(u"プリンタがありません。"_s);
         // An unknown name is not refused but silently answered with another queue.
         printer_.setPrinterName(name);
-        if (printer_.printerName() != name || !printer_.isValid()) {
-            RaisePrinterError(QStringLiteral("プリンタ '%1' が見つかりません。").arg(name));
-        }
+        if (printer_.printerName() != name || !printer_.isValid())
+            RaisePrinterError(u"プリンタ '%1' が見つかりません。"_s.arg(name));
         printer_.setDocName(documentName);
-        printer_.setCreator(QStringLiteral("Akarix"));
+        printer_.setCreator(u"Akarix"_s);
         printer_.setResolution(TwipsPerInch);
         printer_.setFullPage(true);
         printer_.setCopyCount(target.Copies());
-        failure_ = QStringLiteral("プリンタ '%1' に印刷できません。").arg(name);
+        failure_ = u"プリンタ '%1' に印刷できません。"_s.arg(name);
     }
     ~QueueSink() override {
         if (pages_.begun()) printer_.abort();
@@ -95,10 +95,10 @@ class PdfSink : public PrintSink {
     PdfSink(const QString& path, const QString& documentName)
         : path_(path), file_(path), writer_(&file_), pages_(writer_) {
         const QString reason = WhyNotWritable(path);
-        failure_ = QStringLiteral("PDF ファイル '%1' に書き込めません。").arg(path) + reason;
+        failure_ = u"PDF ファイル '%1' に書き込めません。"_s.arg(path) + reason;
         if (!reason.isEmpty() || !file_.open(QIODevice::WriteOnly)) RaisePrinterError(failure_);
         writer_.setTitle(documentName);
-        writer_.setCreator(QStringLiteral("Akarix"));
+        writer_.setCreator(u"Akarix"_s);
         writer_.setResolution(TwipsPerInch);
     }
     ~PdfSink() override {

@@ -1,5 +1,7 @@
 #include "platform/print/PrinterSurface.h"
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix {
 
 PrinterSurface& PrinterSurface::Current() {
@@ -11,7 +13,7 @@ void PrinterSurface::EndDoc() {
     if (blank()) return;
     PrintPage page = takePage();
     page.insideMargins = true;  // scripts are laid out for the printer's own origin
-    const auto job = OpenPrinterSink(QStringLiteral("Akarix"));
+    const auto job = OpenPrinterSink(u"Akarix"_s);
     job->add({std::move(page)});
     job->finish();
 }

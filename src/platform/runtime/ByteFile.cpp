@@ -18,10 +18,10 @@ namespace akarix {
 namespace {
 
 [[noreturn]] void raiseErrno() {
-    throw RuntimeError(fileErrorNumber(errno));
+    throw RuntimeError(FileErrorNumber(errno));
 }
 
-std::FILE* openFile(const QString& path, ByteFile::Mode mode) {
+std::FILE* OpenFile(const QString& path, ByteFile::Mode mode) {
 #ifdef Q_OS_WIN
     const wchar_t* flags = mode == ByteFile::Mode::Read    ? L"rb"
                            : mode == ByteFile::Mode::Write ? L"wb"
@@ -34,7 +34,7 @@ std::FILE* openFile(const QString& path, ByteFile::Mode mode) {
 }
 
 /// False, with errno set, when the disk did not take what was written.
-bool syncToDisk(std::FILE* file) {
+bool SyncToDisk(std::FILE* file) {
 #ifdef Q_OS_WIN
     return _commit(_fileno(file)) == 0;
 #else
@@ -45,7 +45,7 @@ bool syncToDisk(std::FILE* file) {
 
 }  // namespace
 
-ByteFile::ByteFile(const QString& localPath, Mode mode) : file_(openFile(localPath, mode)) {
+ByteFile::ByteFile(const QString& localPath, Mode mode) : file_(OpenFile(localPath, mode)) {
     if (!file_) raiseErrno();
 }
 
@@ -71,7 +71,7 @@ void ByteFile::write(const QByteArray& bytes) {
 }
 
 void ByteFile::commit() {
-    if (std::fflush(file_.get()) != 0 || !syncToDisk(file_.get())) raiseErrno();
+    if (std::fflush(file_.get()) != 0 || !SyncToDisk(file_.get())) raiseErrno();
     if (std::fclose(file_.release()) != 0) raiseErrno();
 }
 

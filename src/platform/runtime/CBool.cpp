@@ -9,7 +9,7 @@ bool CBool(const Variant& value) {
         if (text->compare(u"True", Qt::CaseInsensitive) == 0) return true;
         if (text->compare(u"False", Qt::CaseInsensitive) == 0) return false;
     }
-    return !numberOf(value).isZero();
+    return !NumberOf(value).isZero();
 }
 
 }  // namespace akarix

@@ -5,7 +5,7 @@
 namespace akarix {
 
 Currency CCur(const Variant& value) {
-    return Currency::FromScaled(numberOf(value).scaled(4));
+    return Currency::FromScaled(NumberOf(value).scaled(4));
 }
 
 }  // namespace akarix

@@ -10,7 +10,7 @@ namespace akarix {
 
 namespace {
 
-bool inRange(double serial) {
+bool InRange(double serial) {
     return serial > -657435.0 && serial < 2958466.0;
 }
 
@@ -19,13 +19,13 @@ bool inRange(double serial) {
 Date CDate(const Variant& value) {
     if (const Date* date = value.If<Date>()) return *date;
     if (const QString* text = value.If<QString>()) {
-        if (const auto date = readDateText(*text)) return *date;
-        const auto serial = readNumberText(*text);
-        if (!serial || !inRange(serial->toDouble())) throw RuntimeError(13);
+        if (const auto date = ReadDateText(*text)) return *date;
+        const auto serial = ReadNumberText(*text);
+        if (!serial || !InRange(serial->toDouble())) throw RuntimeError(13);
         return Date(serial->toDouble());
     }
     const double serial = CDbl(value);
-    if (!inRange(serial)) throw RuntimeError(6);
+    if (!InRange(serial)) throw RuntimeError(6);
     return Date(serial);
 }
 

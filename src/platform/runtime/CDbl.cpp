@@ -7,7 +7,7 @@ namespace akarix {
 double CDbl(const Variant& value) {
     if (const double* number = value.If<double>()) return *number;
     if (const Date* date = value.If<Date>()) return date->Serial();
-    return numberOf(value).toDouble();
+    return NumberOf(value).toDouble();
 }
 
 }  // namespace akarix

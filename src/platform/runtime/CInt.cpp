@@ -8,7 +8,7 @@
 namespace akarix {
 
 std::int16_t CInt(const Variant& value) {
-    std::int64_t whole = numberOf(value).scaled(0);
+    std::int64_t whole = NumberOf(value).scaled(0);
     const QString* text = value.If<QString>();
     const bool pattern = text && text->contains(u'&') && whole >= 0 && whole <= 0xFFFF;
     if (pattern) whole = static_cast<std::int16_t>(whole);  // "&HFFFF" is a pattern of 16 bits here

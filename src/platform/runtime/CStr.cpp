@@ -1,6 +1,7 @@
 #include "platform/runtime/CStr.h"
 
 #include "platform/runtime/DateFormat.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/NumberOf.h"
 #include "platform/runtime/RuntimeError.h"
 
@@ -15,13 +16,13 @@ QString CStr(const Variant& value) {
         case VarType::String:
             return value.As<QString>();
         case VarType::Boolean:
-            return value.As<bool>() ? QStringLiteral("True") : QStringLiteral("False");
+            return value.As<bool>() ? u"True"_s : u"False"_s;
         case VarType::Date:
-            return generalDateText(value.As<Date>());
+            return GeneralDateText(value.As<Date>());
         case VarType::Currency:
             return value.As<Currency>().ToText();
         default:
-            return shownNumberOf(value).generalText(significantDigits(value.Type()));
+            return ShownNumberOf(value).generalText(SignificantDigits(value.Type()));
     }
 }
 

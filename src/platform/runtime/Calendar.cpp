@@ -37,7 +37,7 @@ Date Moment::date() const {
 }
 
 // The year is taken to begin in March, so that the leap day ends it.
-std::int64_t dayNumber(std::int64_t year, int month, std::int64_t day) {
+std::int64_t DayNumber(std::int64_t year, int month, std::int64_t day) {
     const std::int64_t y = month <= 2 ? year - 1 : year;
     const std::int64_t cycle = (y >= 0 ? y : y - 399) / 400;
     const std::int64_t yearOfCycle = y - cycle * 400;
@@ -59,16 +59,16 @@ CivilDay Moment::civil() const {
             static_cast<int>(dayOfYear - (153 * m + 2) / 5 + 1)};
 }
 
-bool isLeapYear(int year) {
+bool IsLeapYear(int year) {
     return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
 }
 
-int daysInMonth(int year, int month) {
-    if (month == 2) return isLeapYear(year) ? 29 : 28;
+int DaysInMonth(int year, int month) {
+    if (month == 2) return IsLeapYear(year) ? 29 : 28;
     return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
 }
 
-int fullYear(int year) {
+int FullYear(int year) {
     if (year < 0 || year > 99) return year;
     return year < 30 ? 2000 + year : 1900 + year;
 }

@@ -26,11 +26,11 @@ struct Moment {
     bool hasTime() const { return second != 0; }
 };
 
-bool isLeapYear(int year);
-int daysInMonth(int year, int month);
+bool IsLeapYear(int year);
+int DaysInMonth(int year, int month);
 /// Days since 1899-12-30 in the Gregorian calendar; month 1 to 12, any day.
-std::int64_t dayNumber(std::int64_t year, int month, std::int64_t day);
+std::int64_t DayNumber(std::int64_t year, int month, std::int64_t day);
 /// 0 to 29 mean 2000 to 2029, 30 to 99 mean 1930 to 1999; others stay.
-int fullYear(int year);
+int FullYear(int year);
 
 }  // namespace akarix

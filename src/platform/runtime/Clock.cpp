@@ -9,7 +9,7 @@ namespace akarix {
 
 namespace {
 
-Date& replacedClock() {
+Date& ReplacedClock() {
     static Date moment;
     return moment;
 }
@@ -17,10 +17,10 @@ Date& replacedClock() {
 }  // namespace
 
 Date Now() {
-    if (!replacedClock().IsZero()) return replacedClock();
+    if (!ReplacedClock().IsZero()) return ReplacedClock();
     const QDateTime now = QDateTime::currentDateTime();
     const QDate day = now.date();
-    return Moment{dayNumber(day.year(), day.month(), day.day()), now.time().msecsSinceStartOfDay() / 1000}
+    return Moment{DayNumber(day.year(), day.month(), day.day()), now.time().msecsSinceStartOfDay() / 1000}
         .date();
 }
 
@@ -29,7 +29,7 @@ Date Today() {
 }
 
 void SetClock(Date moment) {
-    replacedClock() = moment;
+    ReplacedClock() = moment;
 }
 
 }  // namespace akarix

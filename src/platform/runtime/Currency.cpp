@@ -11,14 +11,14 @@ namespace {
 
 __extension__ using Wide = __int128;
 
-Currency checked(Wide scaled) {
+Currency Checked(Wide scaled) {
     if (scaled > std::numeric_limits<std::int64_t>::max() ||
         scaled < std::numeric_limits<std::int64_t>::min())
         throw RuntimeError(6);
     return Currency::FromScaled(static_cast<std::int64_t>(scaled));
 }
 
-Wide divideHalfEven(Wide dividend, Wide divisor) {
+Wide DivideHalfEven(Wide dividend, Wide divisor) {
     if (divisor < 0) {
         dividend = -dividend;
         divisor = -divisor;
@@ -36,7 +36,7 @@ Wide divideHalfEven(Wide dividend, Wide divisor) {
 }  // namespace
 
 Currency::Currency(std::int64_t value) {
-    *this = checked(Wide{value} * kScale);
+    *this = Checked(Wide{value} * kScale);
 }
 
 Currency Currency::FromText(const QString& text) {
@@ -50,24 +50,24 @@ QString Currency::ToText() const {
 }
 
 Currency Currency::operator-() const {
-    return checked(-Wide{scaled_});
+    return Checked(-Wide{scaled_});
 }
 
 Currency operator+(Currency a, Currency b) {
-    return checked(Wide{a.scaled_} + b.scaled_);
+    return Checked(Wide{a.scaled_} + b.scaled_);
 }
 
 Currency operator-(Currency a, Currency b) {
-    return checked(Wide{a.scaled_} - b.scaled_);
+    return Checked(Wide{a.scaled_} - b.scaled_);
 }
 
 Currency operator*(Currency a, Currency b) {
-    return checked(divideHalfEven(Wide{a.scaled_} * b.scaled_, Currency::kScale));
+    return Checked(DivideHalfEven(Wide{a.scaled_} * b.scaled_, Currency::kScale));
 }
 
 Currency operator/(Currency a, Currency b) {
     if (b.IsZero()) throw RuntimeError(11);
-    return checked(divideHalfEven(Wide{a.scaled_} * Currency::kScale, b.scaled_));
+    return Checked(DivideHalfEven(Wide{a.scaled_} * Currency::kScale, b.scaled_));
 }
 
 }  // namespace akarix

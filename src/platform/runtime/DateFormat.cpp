@@ -3,12 +3,13 @@
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Era.h"
 #include "platform/runtime/FormatMask.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
 namespace {
 
-QString number(int value, int width = 1) {
+QString Number(int value, int width = 1) {
     return QString::number(value).rightJustified(width, u'0');
 }
 
@@ -18,13 +19,11 @@ class DateMask {
         : moment_(Moment::of(date)), day_(moment_.civil()), mask_(mask) {}
 
     QString text() {
-        while (at_ < mask_.size()) {
-            if (const auto literal = takeQuoted(mask_, at_)) {
+        while (at_ < mask_.size())
+            if (const auto literal = TakeQuoted(mask_, at_))
                 out_ += *literal;
-            } else {
+            else
                 takeCode();
-            }
-        }
         return out_;
     }
 
@@ -64,13 +63,13 @@ class DateMask {
         }
     }
 
-    void write(int value, int width) { out_ += number(value, width); }
+    void write(int value, int width) { out_ += Number(value, width); }
     int eraYear() const {
-        const Era* era = eraOfDay(moment_.day);
+        const Era* era = EraOfDay(moment_.day);
         return era ? day_.year - era->firstYear + 1 : day_.year;
     }
     void writeEra(int run) {
-        const Era* era = eraOfDay(moment_.day);
+        const Era* era = EraOfDay(moment_.day);
         if (!era) return;
         out_ += run == 1 ? QString(QChar(era->letter)) : QString::fromUtf16(era->name).left(run - 1);
     }
@@ -85,18 +84,18 @@ class DateMask {
 
 }  // namespace
 
-QString formatDate(Date date, const QString& mask) {
+QString FormatDate(Date date, const QString& mask) {
     return DateMask(date, mask).text();
 }
 
-QString generalDateText(Date date) {
+QString GeneralDateText(Date date) {
     const Moment moment = Moment::of(date);
     const CivilDay day = moment.civil();
     QString text;
-    if (moment.hasDay()) text = number(day.year) + u'/' + number(day.month, 2) + u'/' + number(day.day, 2);
+    if (moment.hasDay()) text = Number(day.year) + u'/' + Number(day.month, 2) + u'/' + Number(day.day, 2);
     if (moment.hasDay() && !moment.hasTime()) return text;
     if (moment.hasDay()) text += u' ';
-    return text + formatDate(date, QStringLiteral("h:nn:ss"));
+    return text + FormatDate(date, u"h:nn:ss"_s);
 }
 
 }  // namespace akarix

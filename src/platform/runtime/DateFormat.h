@@ -7,9 +7,9 @@
 namespace akarix {
 
 /// A date under a date mask.
-QString formatDate(Date date, const QString& mask);
+QString FormatDate(Date date, const QString& mask);
 
 /// The date, the time or both, as far as there is one: yyyy/mm/dd h:nn:ss.
-QString generalDateText(Date date);
+QString GeneralDateText(Date date);
 
 }  // namespace akarix

@@ -6,6 +6,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/DatePart.h"
 #include "platform/runtime/Era.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/StrConv.h"
 
 namespace akarix {
@@ -14,98 +15,93 @@ namespace {
 
 using Day = std::optional<std::int64_t>;
 
-Day makeDay(int year, int month, int day) {
-    const int full = fullYear(year);
+Day MakeDay(int year, int month, int day) {
+    const int full = FullYear(year);
     if (full < 100 || full > 9999 || month < 1 || month > 12) return std::nullopt;
-    if (day < 1 || day > daysInMonth(full, month)) return std::nullopt;
-    return dayNumber(full, month, day);
+    if (day < 1 || day > DaysInMonth(full, month)) return std::nullopt;
+    return DayNumber(full, month, day);
 }
 
-Day firstOf(std::initializer_list<Day> candidates) {
-    for (const Day& day : candidates) {
+Day FirstOf(std::initializer_list<Day> candidates) {
+    for (const Day& day : candidates)
         if (day) return day;
-    }
     return std::nullopt;
 }
 
 /// The number of an English month name or its first three letters, else 0.
-int monthOfName(const QString& name) {
-    static const QStringList names{
-        QStringLiteral("january"), QStringLiteral("february"), QStringLiteral("march"),
-        QStringLiteral("april"),   QStringLiteral("may"),      QStringLiteral("june"),
-        QStringLiteral("july"),    QStringLiteral("august"),   QStringLiteral("september"),
-        QStringLiteral("october"), QStringLiteral("november"), QStringLiteral("december")};
+int MonthOfName(const QString& name) {
+    static const QStringList names{u"january"_s,   u"february"_s, u"march"_s,    u"april"_s,
+                                   u"may"_s,       u"june"_s,     u"july"_s,     u"august"_s,
+                                   u"september"_s, u"october"_s,  u"november"_s, u"december"_s};
     const QString lower = name.toLower();
-    for (qsizetype i = 0; i < names.size(); ++i) {
+    for (qsizetype i = 0; i < names.size(); ++i)
         if (lower == names[i] || lower == names[i].left(3)) return static_cast<int>(i) + 1;
-    }
     return 0;
 }
 
-QRegularExpression wholeOf(const QString& form) {
+QRegularExpression WholeOf(const QString& form) {
     return QRegularExpression(QRegularExpression::anchoredPattern(form),
                               QRegularExpression::CaseInsensitiveOption);
 }
 
-int numberOr(const QRegularExpressionMatch& m, const QString& group, int otherwise) {
+int NumberOr(const QRegularExpressionMatch& m, const QString& group, int otherwise) {
     const QString text = m.captured(group);
     return text.isEmpty() ? otherwise : text.toInt();
 }
 
-Day readEraDay(const QString& text) {
-    static const QRegularExpression form = wholeOf(QStringLiteral(
-        R"((?<era>明治|大正|昭和|平成|令和|[明大昭平令MTSHR])\s*(?<y>\d{1,2}|元)\s*)"
-        R"((?:年\s*(?<m>\d{1,2})月(?:\s*(?<d>\d{1,2})日)?|(?<sep>[/.-])(?<m2>\d{1,2})\k<sep>(?<d2>\d{1,2})))"));
+Day ReadEraDay(const QString& text) {
+    static const QRegularExpression form = WholeOf(
+        uR"((?<era>明治|大正|昭和|平成|令和|[明大昭平令MTSHR])\s*(?<y>\d{1,2}|元)\s*)"
+        R"((?:年\s*(?<m>\d{1,2})月(?:\s*(?<d>\d{1,2})日)?|(?<sep>[/.-])(?<m2>\d{1,2})\k<sep>(?<d2>\d{1,2})))"_s);
     const auto m = form.match(text);
     if (!m.hasMatch()) return std::nullopt;
     const int eraYear = m.captured(u"y") == u'元' ? 1 : m.captured(u"y").toInt();
     if (eraYear == 0) return std::nullopt;
-    const int month = numberOr(m, QStringLiteral("m"), numberOr(m, QStringLiteral("m2"), 0));
-    const int day = numberOr(m, QStringLiteral("d"), numberOr(m, QStringLiteral("d2"), 1));
-    return makeDay(eraOfName(m.captured(u"era"))->firstYear + eraYear - 1, month, day);
+    const int month = NumberOr(m, u"m"_s, NumberOr(m, u"m2"_s, 0));
+    const int day = NumberOr(m, u"d"_s, NumberOr(m, u"d2"_s, 1));
+    return MakeDay(EraOfName(m.captured(u"era"))->firstYear + eraYear - 1, month, day);
 }
 
-Day readKanjiDay(const QString& text) {
+Day ReadKanjiDay(const QString& text) {
     static const QRegularExpression form =
-        wholeOf(QStringLiteral(R"((?:(?<y>\d{1,4})年\s*)?(?<m>\d{1,2})月(?:\s*(?<d>\d{1,2})日)?)"));
+        WholeOf(uR"((?:(?<y>\d{1,4})年\s*)?(?<m>\d{1,2})月(?:\s*(?<d>\d{1,2})日)?)"_s);
     const auto m = form.match(text);
     if (!m.hasMatch() || (m.captured(u"y").isEmpty() && m.captured(u"d").isEmpty())) return std::nullopt;
-    return makeDay(numberOr(m, QStringLiteral("y"), Year(Today())), numberOr(m, QStringLiteral("m"), 0),
-                   numberOr(m, QStringLiteral("d"), 1));
+    return MakeDay(NumberOr(m, u"y"_s, Year(Today())), NumberOr(m, u"m"_s, 0), NumberOr(m, u"d"_s, 1));
 }
 
 /// Two or three parts, the first or the second of which may be the name of a month.
-Day readPartedDay(const QString& text) {
-    static const QRegularExpression form = wholeOf(QStringLiteral(
-        R"((\d{1,4}|[a-z]{3,9})(?:\s*[/,-]\s*|\s+)(\d{1,4}|[a-z]{3,9})(?:(?:\s*[/,-]\s*|\s+)(\d{1,4}))?)"));
+Day ReadPartedDay(const QString& text) {
+    static const QRegularExpression form = WholeOf(
+        uR"((\d{1,4}|[a-z]{3,9})(?:\s*[/,-]\s*|\s+)(\d{1,4}|[a-z]{3,9})(?:(?:\s*[/,-]\s*|\s+)(\d{1,4}))?)"_s);
     const auto match = form.match(text);
     if (!match.hasMatch()) return std::nullopt;
     const bool named1 = match.captured(1)[0].isLetter();
     const bool named2 = match.captured(2)[0].isLetter();
     const bool three = !match.captured(3).isEmpty();
-    const int a = named1 ? monthOfName(match.captured(1)) : match.captured(1).toInt();
-    const int b = named2 ? monthOfName(match.captured(2)) : match.captured(2).toInt();
+    const int a = named1 ? MonthOfName(match.captured(1)) : match.captured(1).toInt();
+    const int b = named2 ? MonthOfName(match.captured(2)) : match.captured(2).toInt();
     const int c = match.captured(3).toInt();
     const int thisYear = Year(Today());
     if (named1 && named2) return std::nullopt;
-    if (named1 && three) return firstOf({makeDay(c, a, b), makeDay(b, a, c)});
-    if (named2 && three) return firstOf({makeDay(c, b, a), makeDay(a, b, c)});
-    if (named1) return firstOf({makeDay(thisYear, a, b), makeDay(b, a, 1)});
-    if (named2) return firstOf({makeDay(thisYear, b, a), makeDay(a, b, 1)});
-    if (three) return firstOf({makeDay(a, b, c), makeDay(c, a, b), makeDay(c, b, a)});
-    return firstOf({makeDay(thisYear, a, b), makeDay(thisYear, b, a), makeDay(a, b, 1), makeDay(b, a, 1)});
+    if (named1 && three) return FirstOf({MakeDay(c, a, b), MakeDay(b, a, c)});
+    if (named2 && three) return FirstOf({MakeDay(c, b, a), MakeDay(a, b, c)});
+    if (named1) return FirstOf({MakeDay(thisYear, a, b), MakeDay(b, a, 1)});
+    if (named2) return FirstOf({MakeDay(thisYear, b, a), MakeDay(a, b, 1)});
+    if (three) return FirstOf({MakeDay(a, b, c), MakeDay(c, a, b), MakeDay(c, b, a)});
+    return FirstOf({MakeDay(thisYear, a, b), MakeDay(thisYear, b, a), MakeDay(a, b, 1), MakeDay(b, a, 1)});
 }
 
-Day readDay(const QString& text) {
-    return firstOf({readEraDay(text), readKanjiDay(text), readPartedDay(text)});
+Day ReadDay(const QString& text) {
+    return FirstOf({ReadEraDay(text), ReadKanjiDay(text), ReadPartedDay(text)});
 }
 
 /// Seconds since midnight.
-std::optional<int> readTime(const QString& text) {
-    static const QRegularExpression form = wholeOf(QStringLiteral(
-        R"((?<before>午前|午後|[ap]m?)?\s*)"
+std::optional<int> ReadTime(const QString& text) {
+    static const QRegularExpression form = WholeOf(
+        uR"((?<before>午前|午後|[ap]m?)?\s*)"
         R"((?:(?<h>\d{1,2})(?:\s*[:.]\s*(?<n>\d{1,2})(?:\s*[:.]\s*(?<s>\d{1,2}))?)?|)"
-        R"((?<kanji>(?<h2>\d{1,2})時(?:\s*(?<n2>\d{1,2})分(?:\s*(?<s2>\d{1,2})秒)?)?))\s*(?<behind>午前|午後|[ap]m?)?)"));
+        R"((?<kanji>(?<h2>\d{1,2})時(?:\s*(?<n2>\d{1,2})分(?:\s*(?<s2>\d{1,2})秒)?)?))\s*(?<behind>午前|午後|[ap]m?)?)"_s);
     const auto m = form.match(text);
     if (!m.hasMatch()) return std::nullopt;
     const QString before = m.captured(u"before");
@@ -114,10 +110,10 @@ std::optional<int> readTime(const QString& text) {
     const QString half = (before + behind).toLower();
     const bool bareNumber = m.captured(u"n").isEmpty() && m.captured(u"kanji").isEmpty();
     if (half.isEmpty() && bareNumber) return std::nullopt;
-    int hour = numberOr(m, QStringLiteral("h"), numberOr(m, QStringLiteral("h2"), 0));
-    const int minute = numberOr(m, QStringLiteral("n"), numberOr(m, QStringLiteral("n2"), 0));
-    const int second = numberOr(m, QStringLiteral("s"), numberOr(m, QStringLiteral("s2"), 0));
-    const bool morning = half.startsWith(u'a') || half == QStringLiteral("午前");
+    int hour = NumberOr(m, u"h"_s, NumberOr(m, u"h2"_s, 0));
+    const int minute = NumberOr(m, u"n"_s, NumberOr(m, u"n2"_s, 0));
+    const int second = NumberOr(m, u"s"_s, NumberOr(m, u"s2"_s, 0));
+    const bool morning = half.startsWith(u'a') || half == u"午前"_s;
     if (hour > 23 || minute > 59 || second > 59 || (morning && hour > 12)) return std::nullopt;
     if (morning && hour == 12) hour = 0;
     if (!half.isEmpty() && !morning && hour < 12) hour += 12;
@@ -126,10 +122,10 @@ std::optional<int> readTime(const QString& text) {
 
 }  // namespace
 
-std::optional<Date> readDateText(const QString& text) {
+std::optional<Date> ReadDateText(const QString& text) {
     const QString s = StrConv(text, NarrowChars).trimmed();
-    if (const auto time = readTime(s)) return Moment{0, *time}.date();
-    if (const auto day = readDay(s)) return Moment{*day, 0}.date();
+    if (const auto time = ReadTime(s)) return Moment{0, *time}.date();
+    if (const auto day = ReadDay(s)) return Moment{*day, 0}.date();
     // A date and a time, or a time and a date, parted by a blank; the kanji need none.
     for (qsizetype at = 1; at < s.size(); ++at) {
         const bool parted = s[at].isSpace() || s[at - 1] == u'日';
@@ -137,9 +133,9 @@ std::optional<Date> readDateText(const QString& text) {
         const QString first = s.left(at).trimmed();
         const QString second = s.mid(at).trimmed();
         for (const auto& [dayText, timeText] : {std::pair(first, second), std::pair(second, first)}) {
-            const auto time = readTime(timeText);
+            const auto time = ReadTime(timeText);
             if (!time) continue;
-            if (const auto day = readDay(dayText)) return Moment{*day, *time}.date();
+            if (const auto day = ReadDay(dayText)) return Moment{*day, *time}.date();
         }
     }
     return std::nullopt;

@@ -11,6 +11,6 @@ namespace akarix {
 /// then day, month, year, the first that makes a day; two numbers are month and day of this year, else day
 /// and month, else a month of some year. "/", "-", "," and blanks part a date, ":" and "." a time; 年月日,
 /// 時分秒, 午前 and 午後, era names and English month names are known, all in any width.
-std::optional<Date> readDateText(const QString& text);
+std::optional<Date> ReadDateText(const QString& text);
 
 }  // namespace akarix

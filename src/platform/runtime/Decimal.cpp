@@ -8,13 +8,14 @@
 #include <cmath>
 #include <limits>
 
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
 
 namespace {
 
-Decimal ofScientific(const QByteArray& text) {
+Decimal OfScientific(const QByteArray& text) {
     Decimal d;
     const auto e = text.indexOf('e');
     for (char c : text.left(e)) {
@@ -26,7 +27,7 @@ Decimal ofScientific(const QByteArray& text) {
     return d;
 }
 
-int length(const std::string& s) {
+int Length(const std::string& s) {
     return static_cast<int>(s.size());
 }
 
@@ -34,12 +35,12 @@ int length(const std::string& s) {
 
 Decimal Decimal::of(double value, int significant) {
     if (!std::isfinite(value)) throw RuntimeError(6);
-    return ofScientific(QByteArray::number(value, 'e', significant - 1));
+    return OfScientific(QByteArray::number(value, 'e', significant - 1));
 }
 
 Decimal Decimal::shortest(double value) {
     if (!std::isfinite(value)) throw RuntimeError(6);
-    return ofScientific(QString::number(value, 'e', QLocale::FloatingPointShortest).toLatin1());
+    return OfScientific(QString::number(value, 'e', QLocale::FloatingPointShortest).toLatin1());
 }
 
 Decimal Decimal::of(std::int64_t value) {
@@ -50,7 +51,7 @@ Decimal Decimal::of(std::int64_t value) {
     Decimal d;
     d.negative = value < 0;
     d.digits.assign(text.begin(), written.ptr);
-    d.point = length(d.digits);
+    d.point = Length(d.digits);
     d.normalise();
     return d;
 }
@@ -66,15 +67,14 @@ std::optional<Decimal> Decimal::fromDigits(const QString& text) {
     if (text.isEmpty() || !std::all_of(text.begin(), text.end(), isDigit)) return std::nullopt;
     Decimal d;
     d.digits = text.toStdString();
-    d.point = length(d.digits);
+    d.point = Length(d.digits);
     d.normalise();
     return d;
 }
 
 std::optional<Decimal> Decimal::fromPlain(const QString& text) {
     if (auto whole = fromDigits(text)) return whole;
-    static const QRegularExpression form(
-        QStringLiteral(R"(\A([+-]?)([0-9]*)(?:\.([0-9]*))?(?:[EeDd]([+-]?[0-9]+))?\z)"));
+    static const QRegularExpression form(uR"(\A([+-]?)([0-9]*)(?:\.([0-9]*))?(?:[EeDd]([+-]?[0-9]+))?\z)"_s);
     const auto m = form.match(text);
     if (!m.hasMatch()) return std::nullopt;
     const QString whole = m.captured(2);
@@ -108,7 +108,7 @@ void Decimal::normalise() {
 
 void Decimal::roundTo(int places) {
     const int keep = point + places;
-    if (keep >= length(digits)) return;
+    if (keep >= Length(digits)) return;
     if (keep < 0) {
         digits.clear();
     } else {
@@ -135,12 +135,11 @@ std::int64_t Decimal::scaled(int places) const {
     if (keep < 0) return 0;
     __extension__ using Wide = __int128;
     Wide value = 0;
-    for (int i = 0; i < keep; ++i) {
-        value = value * 10 + (i < length(digits) ? digits[static_cast<std::size_t>(i)] - '0' : 0);
-    }
-    if (keep < length(digits)) {
+    for (int i = 0; i < keep; ++i)
+        value = value * 10 + (i < Length(digits) ? digits[static_cast<std::size_t>(i)] - '0' : 0);
+    if (keep < Length(digits)) {
         const char next = digits[static_cast<std::size_t>(keep)];
-        const bool exactHalf = next == '5' && keep + 1 == length(digits);
+        const bool exactHalf = next == '5' && keep + 1 == Length(digits);
         if (next > '5' || (next == '5' && !exactHalf) || (exactHalf && value % 2 != 0)) ++value;
     }
     if (negative) value = -value;
@@ -162,13 +161,13 @@ double Decimal::toDouble() const {
 
 QString Decimal::plainText() const {
     const int whole = std::max(point, 0);
-    const int given = std::min(whole, length(digits));
+    const int given = std::min(whole, Length(digits));
     std::string text;
     if (negative) text += '-';
     text.append(digits, 0, static_cast<std::size_t>(given));
     text.append(static_cast<std::size_t>(whole - given), '0');
     if (whole == 0) text += '0';
-    if (length(digits) > point) {
+    if (Length(digits) > point) {
         text += '.';
         text.append(static_cast<std::size_t>(whole - point), '0');
         text.append(digits, static_cast<std::size_t>(given));
@@ -177,14 +176,14 @@ QString Decimal::plainText() const {
 }
 
 QString Decimal::generalText(int significant) const {
-    const int placesBehind = length(digits) - point;
+    const int placesBehind = Length(digits) - point;
     if (isZero() || (point > 0 && point <= significant) || (point <= 0 && placesBehind <= significant))
         return plainText();
     const int exponent = point - 1;
-    QString text = negative ? QStringLiteral("-") : QString();
+    QString text = negative ? u"-"_s : QString();
     text += QLatin1Char(digits[0]);
-    if (length(digits) > 1) text += u'.' + QString::fromStdString(digits.substr(1));
-    text += exponent < 0 ? QStringLiteral("E-") : QStringLiteral("E+");
+    if (Length(digits) > 1) text += u'.' + QString::fromStdString(digits.substr(1));
+    text += exponent < 0 ? u"E-"_s : u"E+"_s;
     return text + QString::number(std::abs(exponent)).rightJustified(2, u'0');
 }
 

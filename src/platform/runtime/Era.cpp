@@ -16,14 +16,13 @@ constexpr std::array kEras{
 
 }  // namespace
 
-const Era* eraOfDay(std::int64_t day) {
-    for (const Era& era : kEras) {
+const Era* EraOfDay(std::int64_t day) {
+    for (const Era& era : kEras)
         if (day >= era.firstDay) return &era;
-    }
     return nullptr;
 }
 
-const Era* eraOfName(const QString& name) {
+const Era* EraOfName(const QString& name) {
     for (const Era& era : kEras) {
         const QString full = QString::fromUtf16(era.name);
         if (name == full || name == full.left(1) || name.toUpper() == QChar(era.letter)) return &era;

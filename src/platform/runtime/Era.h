@@ -14,8 +14,8 @@ struct Era {
 };
 
 /// The era of a day; null before Meiji.
-const Era* eraOfDay(std::int64_t day);
+const Era* EraOfDay(std::int64_t day);
 /// The era of a letter, of the first character of a name or of a whole name; null for anything else.
-const Era* eraOfName(const QString& name);
+const Era* EraOfName(const QString& name);
 
 }  // namespace akarix

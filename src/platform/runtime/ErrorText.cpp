@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -67,7 +68,7 @@ QString ErrorText(int number) {
     const auto* found = std::lower_bound(kTexts.begin(), kTexts.end(), number,
                                          [](const Entry& e, int n) { return e.number < n; });
     if (found != kTexts.end() && found->number == number) return QString::fromUtf16(found->text);
-    return QStringLiteral("アプリケーション定義またはオブジェクト定義のエラーです。");
+    return u"アプリケーション定義またはオブジェクト定義のエラーです。"_s;
 }
 
 }  // namespace akarix

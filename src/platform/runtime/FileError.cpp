@@ -8,7 +8,7 @@
 
 namespace akarix {
 
-int fileErrorNumber(int systemError) {
+int FileErrorNumber(int systemError) {
     switch (systemError) {
         case ENOENT:
             return 53;
@@ -45,13 +45,13 @@ int fileErrorNumber(int systemError) {
     }
 }
 
-void requireDrive(const QString& path) {
+void RequireDrive(const QString& path) {
     const QString root = DriveRoot(path);
     if (!root.isEmpty() && !QFileInfo(root).isDir()) throw RuntimeError(71);
 }
 
-void requireFolder(const QString& path) {
-    requireDrive(path);
+void RequireFolder(const QString& path) {
+    RequireDrive(path);
     if (!QFileInfo(QFileInfo(LocalPath(path)).path()).isDir()) throw RuntimeError(76);
 }
 

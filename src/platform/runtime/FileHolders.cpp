@@ -5,6 +5,8 @@
 #ifdef Q_OS_LINUX
 #include <QFile>
 #include <filesystem>
+
+#include "platform/runtime/Literals.h"
 #endif
 
 namespace akarix {
@@ -15,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool holds(const fs::path& process, const fs::path& file) {
+bool Holds(const fs::path& process, const fs::path& file) {
     std::error_code closed;
     for (fs::directory_iterator entry(process / "fd", closed), end; !closed && entry != end;
          entry.increment(closed)) {
@@ -25,12 +27,11 @@ bool holds(const fs::path& process, const fs::path& file) {
     return false;
 }
 
-QString nameOf(const fs::path& process) {
+QString NameOf(const fs::path& process) {
     QFile name(QString::fromStdString((process / "comm").string()));
     const bool isTold = name.open(QFile::ReadOnly);
     const QString number = QString::fromStdString(process.filename().string());
-    return QStringLiteral("%1 (%2)").arg(
-        isTold ? QString::fromLocal8Bit(name.readAll()).trimmed() : QString(), number);
+    return u"%1 (%2)"_s.arg(isTold ? QString::fromLocal8Bit(name.readAll()).trimmed() : QString(), number);
 }
 
 }  // namespace
@@ -45,8 +46,8 @@ std::optional<QStringList> FileHolders(const QString& localPath) {
          entry.increment(problem)) {
         const std::string name = entry->path().filename().string();
         const bool isProcess = name.find_first_not_of("0123456789") == std::string::npos;
-        if (isProcess && name != self.string() && holds(entry->path(), file))
-            holders += nameOf(entry->path());
+        if (isProcess && name != self.string() && Holds(entry->path(), file))
+            holders += NameOf(entry->path());
     }
     return holders;
 }

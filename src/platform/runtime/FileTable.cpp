@@ -14,14 +14,14 @@ namespace {
 
 constexpr int kHighestNumber = 511;
 
-QString locationOf(const QString& localPath) {
+QString LocationOf(const QString& localPath) {
     const QFileInfo info(localPath);
     const QString canonical = info.canonicalFilePath();
     return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
 }
 
 /// The old end-of-file mark still ends a text file that another machine wrote.
-QByteArray upToEndMark(QByteArray bytes) {
+QByteArray UpToEndMark(QByteArray bytes) {
     const qsizetype mark = bytes.indexOf('\x1a');
     if (mark >= 0) bytes.truncate(mark);
     return bytes;
@@ -38,20 +38,20 @@ void FileTable::open(const QString& path, OpenMode mode, int number) {
     if (number < 1 || number > kHighestNumber) throw RuntimeError(52);
     if (files_.contains(number)) throw RuntimeError(55);
     if (path.isEmpty()) throw RuntimeError(75);
-    requireFolder(path);
+    RequireFolder(path);
     const QString local = LocalPath(path);
     if (QFileInfo(local).isDir()) throw RuntimeError(75);
-    const QString location = locationOf(local);
+    const QString location = LocationOf(local);
     for (const auto& [other, file] : files_) {
         const bool bothRead = mode == OpenMode::Input && file.mode == OpenMode::Input;
         if (file.location == location && !bothRead) throw RuntimeError(55);
     }
     OpenFile file{mode, location, {}, 0, std::nullopt};
     if (mode == OpenMode::Input) {
-        file.input = upToEndMark(ByteFile(local, ByteFile::Mode::Read).readAll());
+        file.input = UpToEndMark(ByteFile(local, ByteFile::Mode::Read).readAll());
     } else {
         file.output.emplace(local, mode == OpenMode::Output ? ByteFile::Mode::Write : ByteFile::Mode::Append);
-        file.location = locationOf(local);
+        file.location = LocationOf(local);
     }
     files_.emplace(number, std::move(file));
 }
@@ -62,9 +62,8 @@ void FileTable::close(int number) {
 }
 
 int FileTable::lowestFree() const {
-    for (int number = 1; number <= kHighestNumber; ++number) {
+    for (int number = 1; number <= kHighestNumber; ++number)
         if (!files_.contains(number)) return number;
-    }
     throw RuntimeError(67);
 }
 

@@ -15,7 +15,8 @@ double Fix(double value) {
 }
 
 Variant Fix(const Variant& value) {
-    return wholePart(value, [](auto number) { return Fix(number); });
+    return WholePart(
+        value, [](auto number) { return Fix(number); });
 }
 
 }  // namespace akarix

@@ -18,29 +18,29 @@ namespace akarix {
 
 namespace {
 
-bool isMissing(const Variant& value) {
+bool IsMissing(const Variant& value) {
     return value.IsNull() || value.IsEmpty();
 }
 
-QString underNumberMask(const Variant& value, const QString& mask) {
-    if (isMissing(value)) {
-        const QString forNull = maskSections(mask).value(3);
-        return forNull.isEmpty() ? QString() : formatNumber({}, forNull);
+QString UnderNumberMask(const Variant& value, const QString& mask) {
+    if (IsMissing(value)) {
+        const QString forNull = MaskSections(mask).value(3);
+        return forNull.isEmpty() ? QString() : FormatDecimal({}, forNull);
     }
     if (value.IsText() && !IsNumeric(value)) return value.As<QString>();
-    return formatNumber(shownNumberOf(value), mask);
+    return FormatDecimal(ShownNumberOf(value), mask);
 }
 
-QString underDateMask(const Variant& value, const QString& mask) {
-    if (isMissing(value)) return {};
-    const QString section = maskSections(mask).first();
-    if (!value.IsText() || IsDate(value)) return formatDate(CDate(value), section);
+QString UnderDateMask(const Variant& value, const QString& mask) {
+    if (IsMissing(value)) return {};
+    const QString section = MaskSections(mask).first();
+    if (!value.IsText() || IsDate(value)) return FormatDate(CDate(value), section);
     // The text of a number is a serial, and too great a one overflows as the number itself does.
-    return IsNumeric(value) ? formatDate(CDate(CDbl(value)), section) : value.As<QString>();
+    return IsNumeric(value) ? FormatDate(CDate(CDbl(value)), section) : value.As<QString>();
 }
 
 /// A value that is whole for certain, and short enough to be shown digit by digit.
-std::optional<std::int64_t> wholeOf(const Variant& value) {
+std::optional<std::int64_t> WholeOf(const Variant& value) {
     switch (value.Type()) {
         case VarType::Byte:
             return value.As<std::uint8_t>();
@@ -67,9 +67,9 @@ std::optional<std::int64_t> wholeOf(const Variant& value) {
 }
 
 /// Codes, dates and the fields of a record: a whole number under zeros alone needs no reading of the mask.
-std::optional<QString> zeroFilled(const Variant& value, const QString& mask) {
+std::optional<QString> ZeroFilled(const Variant& value, const QString& mask) {
     if (!std::all_of(mask.begin(), mask.end(), [](QChar c) { return c == u'0'; })) return std::nullopt;
-    const std::optional<std::int64_t> whole = wholeOf(value);
+    const std::optional<std::int64_t> whole = WholeOf(value);
     if (!whole) return std::nullopt;
     const QString digits = QString::number(std::abs(*whole)).rightJustified(mask.size(), u'0');
     return *whole < 0 ? u'-' + digits : digits;
@@ -78,13 +78,13 @@ std::optional<QString> zeroFilled(const Variant& value, const QString& mask) {
 }  // namespace
 
 QString Format(const Variant& value) {
-    return isMissing(value) ? QString() : CStr(value);
+    return IsMissing(value) ? QString() : CStr(value);
 }
 
 QString Format(const Variant& value, const QString& mask) {
     if (mask.isEmpty()) return Format(value);
-    if (auto filled = zeroFilled(value, mask)) return *std::move(filled);
-    return maskKind(mask) == MaskKind::Date ? underDateMask(value, mask) : underNumberMask(value, mask);
+    if (auto filled = ZeroFilled(value, mask)) return *std::move(filled);
+    return MaskKindOf(mask) == MaskKind::Date ? UnderDateMask(value, mask) : UnderNumberMask(value, mask);
 }
 
 }  // namespace akarix

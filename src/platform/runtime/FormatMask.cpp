@@ -4,13 +4,13 @@ namespace akarix {
 
 namespace {
 
-bool isDateMark(QChar c) {
+bool IsDateMark(QChar c) {
     return QStringView(u"deghmnsy").contains(c.toLower());
 }
 
 }  // namespace
 
-std::optional<QString> takeQuoted(const QString& mask, qsizetype& at) {
+std::optional<QString> TakeQuoted(const QString& mask, qsizetype& at) {
     if (mask[at] == u'\\') {
         const QString literal = mask.mid(at + 1, 1);
         at += 2;
@@ -26,11 +26,11 @@ std::optional<QString> takeQuoted(const QString& mask, qsizetype& at) {
     return std::nullopt;
 }
 
-QStringList maskSections(const QString& mask) {
+QStringList MaskSections(const QString& mask) {
     QStringList sections;
     qsizetype from = 0;
     for (qsizetype at = 0; at < mask.size();) {
-        if (takeQuoted(mask, at)) continue;
+        if (TakeQuoted(mask, at)) continue;
         if (mask[at] == u';') {
             sections += mask.mid(from, at - from);
             from = at + 1;
@@ -41,14 +41,14 @@ QStringList maskSections(const QString& mask) {
     return sections;
 }
 
-MaskKind maskKind(const QString& mask) {
+MaskKind MaskKindOf(const QString& mask) {
     bool separatesDates = false;
     bool separatesNumbers = false;
     for (qsizetype at = 0; at < mask.size();) {
-        if (takeQuoted(mask, at)) continue;
+        if (TakeQuoted(mask, at)) continue;
         const QChar c = mask[at];
         if (QStringView(u"0#").contains(c)) return MaskKind::Number;
-        if (isDateMark(c)) return MaskKind::Date;
+        if (IsDateMark(c)) return MaskKind::Date;
         separatesDates = separatesDates || c == u'/' || c == u':';
         separatesNumbers = separatesNumbers || c == u'.' || c == u',';
         ++at;

@@ -9,13 +9,13 @@ namespace akarix {
 enum class MaskKind { Number, Date };
 
 /// The sections of a mask, parted by semicolons outside of quoted characters.
-QStringList maskSections(const QString& mask);
+QStringList MaskSections(const QString& mask);
 
 /// The first character with a meaning of its own decides; separators only when no other does.
-MaskKind maskKind(const QString& mask);
+MaskKind MaskKindOf(const QString& mask);
 
 /// Takes a backslash with its character or a text in quotes off the mask at `at`; nothing when neither is
 /// there.
-std::optional<QString> takeQuoted(const QString& mask, qsizetype& at);
+std::optional<QString> TakeQuoted(const QString& mask, qsizetype& at);
 
 }  // namespace akarix

@@ -11,7 +11,7 @@ namespace akarix {
 namespace {
 
 // All marks are single bytes that never are the second half of a character.
-bool isLineEnd(char c) {
+bool IsLineEnd(char c) {
     return c == '\r' || c == '\n';
 }
 
@@ -38,7 +38,7 @@ class Reader {
     }
     /// CR LF, a lone CR and a lone LF each end one line.
     void skipLineEnd() {
-        if (atEnd() || !isLineEnd(next())) return;
+        if (atEnd() || !IsLineEnd(next())) return;
         const bool carriageReturn = next() == '\r';
         step();
         if (carriageReturn && !atEnd() && next() == '\n') step();
@@ -54,7 +54,7 @@ QString Input(int number) {
     Reader reader(number);
     reader.skipBlanks();
     QByteArray item;
-    const auto endsItem = [](char c) { return c == ',' || isLineEnd(c); };
+    const auto endsItem = [](char c) { return c == ',' || IsLineEnd(c); };
     if (!reader.atEnd() && reader.next() == '"') {
         reader.step();
         item = reader.takeUntil([](char c) { return c == '"'; });
@@ -63,11 +63,10 @@ QString Input(int number) {
     } else {
         item = reader.takeUntil(endsItem);
     }
-    if (!reader.atEnd() && reader.next() == ',') {
+    if (!reader.atEnd() && reader.next() == ',')
         reader.step();
-    } else {
+    else
         reader.skipLineEnd();
-    }
     return FromCodePage932(item);
 }
 

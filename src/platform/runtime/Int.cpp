@@ -17,7 +17,8 @@ double Int(double value) {
 }
 
 Variant Int(const Variant& value) {
-    return wholePart(value, [](auto number) { return Int(number); });
+    return WholePart(
+        value, [](auto number) { return Int(number); });
 }
 
 }  // namespace akarix

@@ -5,7 +5,7 @@
 namespace akarix {
 
 bool IsDate(const Variant& value) {
-    if (const QString* text = value.If<QString>()) return readDateText(*text).has_value();
+    if (const QString* text = value.If<QString>()) return ReadDateText(*text).has_value();
     return value.Type() == VarType::Date;
 }
 

@@ -8,7 +8,7 @@ namespace akarix {
 bool IsNumeric(const Variant& value) {
     if (const QString* text = value.If<QString>()) {
         try {
-            const auto number = readNumberText(*text);
+            const auto number = ReadNumberText(*text);
             if (number) number->toDouble();
             return number.has_value();
         } catch (const RuntimeError&) {

@@ -2,6 +2,8 @@
 
 #include <QtGlobal>
 
+#include "platform/runtime/Literals.h"
+
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <sys/file.h>
@@ -23,7 +25,7 @@ namespace akarix {
 namespace {
 
 /// Of a user who may not write it, too: looking is enough to lock.
-int openMark(const QByteArray& path, bool make) {
+int OpenMark(const QByteArray& path, bool make) {
     constexpr mode_t forAll = 0666;
     for (const int access : {O_RDWR, O_RDONLY}) {
         const int file = ::open(path.constData(), access | O_CLOEXEC | O_NOFOLLOW);
@@ -31,17 +33,17 @@ int openMark(const QByteArray& path, bool make) {
     }
     if (!make) return -1;
     const int file = ::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, forAll);
-    if (file < 0) return errno == EEXIST ? openMark(path, false) : -1;  // another one was quicker to make it
+    if (file < 0) return errno == EEXIST ? OpenMark(path, false) : -1;  // another one was quicker to make it
     ::fchmod(file, forAll);  // past the mask, which is the user's own
     return file;
 }
 
-bool isHeldByAnother(int file, int kind) {
+bool IsHeldByAnother(int file, int kind) {
     return ::flock(file, kind | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
 /// The mark holds without its word, too.
-void writeWord(int file, const QByteArray& word) {
+void WriteWord(int file, const QByteArray& word) {
     const bool isEmpty = ::ftruncate(file, 0) == 0;
     [[maybe_unused]] const ssize_t written =
         isEmpty ? ::pwrite(file, word.constData(), static_cast<size_t>(word.size()), 0) : 0;
@@ -65,21 +67,21 @@ MachineMark::~MachineMark() {
 bool MachineMark::take(const QString& word) {
     constexpr int mostTries = 20;
     constexpr useconds_t pause = 5000;
-    if (impl_->file < 0) impl_->file = openMark(impl_->path, true);
+    if (impl_->file < 0) impl_->file = OpenMark(impl_->path, true);
     if (impl_->file < 0) return true;  // a machine without a place for it is no reason to stay shut
     // Somebody who asks for the word holds the mark for a moment.
-    for (int i = 0; isHeldByAnother(impl_->file, LOCK_EX); ++i) {
+    for (int i = 0; IsHeldByAnother(impl_->file, LOCK_EX); ++i) {
         if (i == mostTries) return false;
         ::usleep(pause);
     }
-    writeWord(impl_->file, word.toUtf8());
+    WriteWord(impl_->file, word.toUtf8());
     return true;
 }
 
 std::optional<QString> MachineMark::wordOf(const QString& localPath) {
-    const int file = openMark(QFile::encodeName(localPath), false);
+    const int file = OpenMark(QFile::encodeName(localPath), false);
     if (file < 0) return std::nullopt;
-    const bool isHeld = isHeldByAnother(file, LOCK_SH);
+    const bool isHeld = IsHeldByAnother(file, LOCK_SH);
     QByteArray text(4096, '\0');
     const ssize_t length = isHeld ? ::pread(file, text.data(), static_cast<size_t>(text.size()), 0) : 0;
     ::close(file);
@@ -93,7 +95,7 @@ QString MachineMarkFolder() {
         if (::stat(folder, &found) == 0 && S_ISDIR(found.st_mode) && (found.st_mode & S_IWOTH) != 0)
             return QString::fromLatin1(folder);
     }
-    return QStringLiteral("/tmp");  // not the user's own, which TMPDIR may name
+    return u"/tmp"_s;  // not the user's own, which TMPDIR may name
 }
 
 #else

@@ -10,12 +10,12 @@
 namespace akarix {
 
 void MkDir(const QString& path) {
-    requireFolder(path);
+    RequireFolder(path);
     const QString local = LocalPath(path);
     if (local.isEmpty() || QFileInfo::exists(local)) throw RuntimeError(75);
     std::error_code error;
     std::filesystem::create_directory(std::filesystem::path(local.toStdU16String()), error);
-    if (error) throw RuntimeError(fileErrorNumber(error.default_error_condition().value()));
+    if (error) throw RuntimeError(FileErrorNumber(error.default_error_condition().value()));
 }
 
 }  // namespace akarix

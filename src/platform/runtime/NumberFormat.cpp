@@ -15,13 +15,11 @@ namespace {
 class NumberMask {
  public:
     explicit NumberMask(const QString& section) {
-        for (qsizetype at = 0; at < section.size();) {
-            if (const auto literal = takeQuoted(section, at)) {
+        for (qsizetype at = 0; at < section.size();)
+            if (const auto literal = TakeQuoted(section, at))
                 add(Part::Literal, *literal);
-            } else {
+            else
                 readCharacter(section, at);
-            }
-        }
     }
 
     /// The text of a number that is not negative; `isZero` tells whether rounding left nothing of it.
@@ -84,11 +82,10 @@ class NumberMask {
                         inFraction_ = true;
                         break;
                     case Part::Digit:
-                        if (inFraction_) {
+                        if (inFraction_)
                             writeDecimal(part.zero);
-                        } else {
+                        else
                             writeWholeDigit(part.zero);
-                        }
                         break;
                 }
             }
@@ -116,11 +113,10 @@ class NumberMask {
         }
         void writeDecimal(bool zero) {
             const int place = decimal_++;
-            if (place < fraction_.size()) {
+            if (place < fraction_.size())
                 out_ += fraction_[place];
-            } else if (zero || zeroFollows(place)) {
+            else if (zero || zeroFollows(place))
                 out_ += u'0';
-            }
         }
         bool zeroFollows(int place) const {
             int at = 0;
@@ -152,7 +148,7 @@ class NumberMask {
 /// A mask taken apart: one entry for each section that says something of its own.
 struct MaskParts {
     explicit MaskParts(const QString& mask) {
-        for (const QString& section : maskSections(mask)) {
+        for (const QString& section : MaskSections(mask)) {
             sections.push_back(section.isEmpty() && !sections.empty() ? std::nullopt
                                                                       : std::optional<NumberMask>(section));
         }
@@ -161,7 +157,7 @@ struct MaskParts {
 };
 
 /// The program's masks are few and each is used for thousands of cells.
-const MaskParts& partsOf(const QString& mask) {
+const MaskParts& PartsOf(const QString& mask) {
     constexpr std::size_t kMost = 200;
     static std::unordered_map<QString, MaskParts> known;
     const auto found = known.find(mask);
@@ -172,8 +168,8 @@ const MaskParts& partsOf(const QString& mask) {
 
 }  // namespace
 
-QString formatNumber(const Decimal& number, const QString& mask) {
-    const auto& sections = partsOf(mask).sections;
+QString FormatDecimal(const Decimal& number, const QString& mask) {
+    const auto& sections = PartsOf(mask).sections;
     const std::size_t wanted = number.negative ? 1 : number.isZero() ? 2 : 0;
     const bool own = wanted > 0 && wanted < sections.size() && sections[wanted];
     Decimal magnitude = number;

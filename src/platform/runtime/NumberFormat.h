@@ -7,6 +7,6 @@
 namespace akarix {
 
 /// A number under a mask of up to three sections: positive, negative, zero. Rounds half away from zero.
-QString formatNumber(const Decimal& number, const QString& mask);
+QString FormatDecimal(const Decimal& number, const QString& mask);
 
 }  // namespace akarix

@@ -5,11 +5,11 @@
 
 namespace akarix {
 
-int significantDigits(VarType type) {
+int SignificantDigits(VarType type) {
     return type == VarType::Single ? 7 : 15;
 }
 
-Decimal numberOf(const Variant& value) {
+Decimal NumberOf(const Variant& value) {
     switch (value.Type()) {
         case VarType::Empty:
             return {};
@@ -34,12 +34,12 @@ Decimal numberOf(const Variant& value) {
         case VarType::String:
             break;
     }
-    const auto decimal = readNumberText(value.As<QString>());
+    const auto decimal = ReadNumberText(value.As<QString>());
     if (!decimal) throw RuntimeError(13);
     return *decimal;
 }
 
-Decimal shownNumberOf(const Variant& value) {
+Decimal ShownNumberOf(const Variant& value) {
     switch (value.Type()) {
         case VarType::Single:
             return Decimal::of(static_cast<double>(value.As<float>()), 7);
@@ -48,9 +48,9 @@ Decimal shownNumberOf(const Variant& value) {
         case VarType::Date:
             return Decimal::of(value.As<Date>().Serial());
         case VarType::String:
-            return Decimal::of(numberOf(value).toDouble());
+            return Decimal::of(NumberOf(value).toDouble());
         default:
-            return numberOf(value);
+            return NumberOf(value);
     }
 }
 

@@ -7,12 +7,12 @@ namespace akarix {
 
 /// The exact number behind a value, without a detour through a double where it has none: Empty is 0, True -1,
 /// a date its serial. Raises 94 for Null, 13 for text that is no number.
-Decimal numberOf(const Variant& value);
+Decimal NumberOf(const Variant& value);
 
 /// Digits that the classic texts show for the kind: 7 for a Single, else 15.
-int significantDigits(VarType type);
+int SignificantDigits(VarType type);
 
 /// The number as the classic texts show it.
-Decimal shownNumberOf(const Variant& value);
+Decimal ShownNumberOf(const Variant& value);
 
 }  // namespace akarix

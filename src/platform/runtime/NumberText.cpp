@@ -64,7 +64,7 @@ class Trimmings {
 };
 
 /// Thousands marks may stand anywhere behind the first digit and before the point.
-std::optional<QString> withoutThousands(const QString& text) {
+std::optional<QString> WithoutThousands(const QString& text) {
     QString plain;
     bool marksAllowed = false;
     for (QChar c : text) {
@@ -82,13 +82,13 @@ std::optional<QString> withoutThousands(const QString& text) {
 
 }  // namespace
 
-std::optional<Decimal> readNumberText(const QString& text) {
+std::optional<Decimal> ReadNumberText(const QString& text) {
     if (auto whole = Decimal::fromDigits(text)) return whole;
     const QString s = StrConv(text, NarrowChars).trimmed();
     Trimmings trimmings(s);
     if (!trimmings.strip()) return std::nullopt;
     if (trimmings.rest().startsWith(u'+') || trimmings.rest().startsWith(u'-')) return std::nullopt;
-    const auto plain = withoutThousands(trimmings.rest());
+    const auto plain = WithoutThousands(trimmings.rest());
     if (!plain) return std::nullopt;
     auto decimal = Decimal::fromPlain(*plain);
     if (decimal && !decimal->isZero()) decimal->negative = trimmings.negative();

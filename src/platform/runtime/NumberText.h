@@ -9,6 +9,6 @@ namespace akarix {
 
 /// Reads a number the way a clerk may write it: blanks around, a sign in front or behind, thousands marks,
 /// "\" or "¥", parentheses for a negative, an exponent, all of it full-width too. Nothing else.
-std::optional<Decimal> readNumberText(const QString& text);
+std::optional<Decimal> ReadNumberText(const QString& text);
 
 }  // namespace akarix

@@ -2,28 +2,30 @@
 
 #include <QDir>
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix {
 
 namespace {
 
-bool hasDrive(const QString& path) {
+bool HasDrive(const QString& path) {
     return path.size() >= 2 && path[1] == u':' && path[0].isLetter();
 }
 
 }  // namespace
 
 QString DriveRoot(const QString& path) {
-    if (!hasDrive(path)) return {};
+    if (!HasDrive(path)) return {};
 #ifdef Q_OS_WIN
     return path.left(2) + u'/';
 #else
-    return QStringLiteral("Drive/") + path[0].toUpper();
+    return u"Drive/"_s + path[0].toUpper();
 #endif
 }
 
 QString BaseFolder() {
 #ifdef Q_OS_WIN
-    return QStringLiteral("c:\\");
+    return u"c:\\"_s;
 #else
     return QDir::homePath() + u'/';
 #endif
@@ -33,7 +35,7 @@ QString LocalPath(const QString& path) {
     QString local = path;
     local.replace(u'\\', u'/');
 #ifndef Q_OS_WIN
-    if (hasDrive(local)) {
+    if (HasDrive(local)) {
         QString below = local.mid(2);
         if (!below.startsWith(u'/')) below.prepend(u'/');
         local = DriveRoot(local) + below;

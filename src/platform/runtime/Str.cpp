@@ -11,7 +11,7 @@ namespace akarix {
 namespace {
 
 /// The kinds that most texts are made of, written without a detour through their digits. Scaled by 10,000.
-QString ofScaled(std::int64_t scaled, bool blank) {
+QString OfScaled(std::int64_t scaled, bool blank) {
     constexpr int kPlaces = 4;
     std::array<QChar, 24> text{};
     auto from = text.end();
@@ -29,15 +29,14 @@ QString ofScaled(std::int64_t scaled, bool blank) {
     // In front of a fraction alone stands no zero.
     for (; rest != 0 || (!shown && from == text.end()); rest /= 10)
         *--from = QChar(static_cast<char16_t>(u'0' + rest % 10));
-    if (scaled < 0) {
+    if (scaled < 0)
         *--from = u'-';
-    } else if (blank) {
+    else if (blank)
         *--from = u' ';
-    }
     return QString(from, text.end() - from);
 }
 
-std::optional<std::int64_t> scaledOf(const Variant& value) {
+std::optional<std::int64_t> ScaledOf(const Variant& value) {
     if (const auto* number = value.If<std::int32_t>()) return *number * Currency::kScale;
     if (const auto* number = value.If<std::int16_t>()) return *number * Currency::kScale;
     if (const auto* number = value.If<Currency>()) return number->Scaled();
@@ -47,18 +46,18 @@ std::optional<std::int64_t> scaledOf(const Variant& value) {
 }  // namespace
 
 QString Str(const Variant& value) {
-    if (const auto scaled = scaledOf(value)) return ofScaled(*scaled, true);
+    if (const auto scaled = ScaledOf(value)) return OfScaled(*scaled, true);
     const VarType type = value.Type();
     if (type == VarType::Boolean || type == VarType::Date) return CStr(value);
-    const Decimal number = shownNumberOf(value);
-    QString text = number.generalText(significantDigits(type));
+    const Decimal number = ShownNumberOf(value);
+    QString text = number.generalText(SignificantDigits(type));
     if (text.startsWith(QLatin1String("0."))) text.remove(0, 1);
     if (text.startsWith(QLatin1String("-0."))) text.remove(1, 1);
     return number.negative ? text : u' ' + text;
 }
 
 QString StrUnpadded(const Variant& value) {
-    if (const auto scaled = scaledOf(value)) return ofScaled(*scaled, false);
+    if (const auto scaled = ScaledOf(value)) return OfScaled(*scaled, false);
     QString text = Str(value);
     if (text.startsWith(u' ')) text.remove(0, 1);
     return text;

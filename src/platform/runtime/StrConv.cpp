@@ -1,5 +1,6 @@
 #include "platform/runtime/StrConv.h"
 
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
@@ -7,39 +8,39 @@ namespace akarix {
 namespace {
 
 // Half-width katakana from U+FF61 on, and the same signs in full width.
-const QString kWideKana = QStringLiteral(
-    "。「」、・ヲァィゥェォャュョッーアイウエオカキクケコサシスセソタチツテトナニヌネノハヒフヘホマミムメモヤ"
+const QString kWideKana =
+    u"。「」、・ヲァィゥェォャュョッーアイウエオカキクケコサシスセソタチツテトナニヌネノハヒフヘホマミムメモ"
+    u"ヤ"
     "ユヨ"
-    "ラリルレロワン゛゜");
+    "ラリルレロワン゛゜"_s;
 constexpr char16_t kFirstHalfKana = 0xFF61;
 constexpr char16_t kVoiced = 0xFF9E;
 constexpr char16_t kHalfVoiced = 0xFF9F;
 
 // Each pair is a kana and what a mark behind it makes of it.
 const QString kVoicedPairs =
-    QStringLiteral("カガキギクグケゲコゴサザシジスズセゼソゾタダチヂツヅテデトドハバヒビフブヘベホボウヴ");
-const QString kHalfVoicedPairs = QStringLiteral("ハパヒピフプヘペホポ");
+    u"カガキギクグケゲコゴサザシジスズセゼソゾタダチヂツヅテデトドハバヒビフブヘベホボウヴ"_s;
+const QString kHalfVoicedPairs = u"ハパヒピフプヘペホポ"_s;
 
-QChar partner(const QString& pairs, QChar c, bool toMarked) {
-    for (qsizetype i = 0; i + 1 < pairs.size(); i += 2) {
+QChar Partner(const QString& pairs, QChar c, bool toMarked) {
+    for (qsizetype i = 0; i + 1 < pairs.size(); i += 2)
         if (pairs[toMarked ? i : i + 1] == c) return pairs[toMarked ? i + 1 : i];
-    }
     return {};
 }
 
-bool isHalfKana(QChar c) {
+bool IsHalfKana(QChar c) {
     return c >= QChar(kFirstHalfKana) && c <= QChar(kHalfVoiced);
 }
 
-QString toWide(const QString& text) {
+QString ToWide(const QString& text) {
     QString wide;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
-        if (isHalfKana(c)) {
+        if (IsHalfKana(c)) {
             const QChar plain = kWideKana[c.unicode() - kFirstHalfKana];
             const QChar mark = i + 1 < text.size() ? text[i + 1] : QChar();
-            const QChar joined = mark == QChar(kVoiced)       ? partner(kVoicedPairs, plain, true)
-                                 : mark == QChar(kHalfVoiced) ? partner(kHalfVoicedPairs, plain, true)
+            const QChar joined = mark == QChar(kVoiced)       ? Partner(kVoicedPairs, plain, true)
+                                 : mark == QChar(kHalfVoiced) ? Partner(kHalfVoicedPairs, plain, true)
                                                               : QChar();
             wide += joined.isNull() ? plain : joined;
             if (!joined.isNull()) ++i;
@@ -57,14 +58,14 @@ QString toWide(const QString& text) {
     return wide;
 }
 
-QString toNarrow(const QString& text) {
+QString ToNarrow(const QString& text) {
     QString narrow;
     for (QChar c : text) {
         QChar mark;
-        if (const QChar plain = partner(kVoicedPairs, c, false); !plain.isNull()) {
+        if (const QChar plain = Partner(kVoicedPairs, c, false); !plain.isNull()) {
             c = plain;
             mark = QChar(kVoiced);
-        } else if (const QChar plainHalf = partner(kHalfVoicedPairs, c, false); !plainHalf.isNull()) {
+        } else if (const QChar plainHalf = Partner(kHalfVoicedPairs, c, false); !plainHalf.isNull()) {
             c = plainHalf;
             mark = QChar(kHalfVoiced);
         }
@@ -92,10 +93,9 @@ QString toNarrow(const QString& text) {
 
 constexpr char16_t kKanaShift = 0x60;  // between the hiragana and the katakana block
 
-QString toKatakana(QString text) {
-    for (QChar& c : text) {
+QString ToKatakana(QString text) {
+    for (QChar& c : text)
         if ((c >= u'ぁ' && c <= u'ゔ') || c == u'ゝ' || c == u'ゞ') c = QChar(c.unicode() + kKanaShift);
-    }
     return text;
 }
 
@@ -106,9 +106,9 @@ QString StrConv(const QString& text, int conversion) {
     const bool contradicts = (conversion & WideChars) && (conversion & NarrowChars);
     if (contradicts || (conversion & ~kKnown)) throw RuntimeError(5);
     QString result = text;
-    if (conversion & WideChars) result = toWide(result);
-    if (conversion & Katakana) result = toKatakana(result);
-    if (conversion & NarrowChars) result = toNarrow(result);
+    if (conversion & WideChars) result = ToWide(result);
+    if (conversion & Katakana) result = ToKatakana(result);
+    if (conversion & NarrowChars) result = ToNarrow(result);
     return result;
 }
 

@@ -4,7 +4,7 @@ namespace akarix {
 
 namespace {
 
-bool isBlank(QChar c) {
+bool IsBlank(QChar c) {
     return c == u' ' || c == u'　';
 }
 
@@ -12,14 +12,14 @@ bool isBlank(QChar c) {
 
 QString LTrim(const QString& text) {
     qsizetype from = 0;
-    while (from < text.size() && isBlank(text[from]))
+    while (from < text.size() && IsBlank(text[from]))
         ++from;
     return text.sliced(from);
 }
 
 QString RTrim(const QString& text) {
     qsizetype to = text.size();
-    while (to > 0 && isBlank(text[to - 1]))
+    while (to > 0 && IsBlank(text[to - 1]))
         --to;
     return text.first(to);
 }

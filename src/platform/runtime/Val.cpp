@@ -6,7 +6,7 @@ namespace akarix {
 
 namespace {
 
-bool isDigit(QChar c) {
+bool IsDigit(QChar c) {
     return c >= u'0' && c <= u'9';
 }
 
@@ -18,7 +18,7 @@ double Val(const QString& text) {
     qsizetype end = 0;
     const auto skipDigits = [&] {
         const qsizetype from = end;
-        while (end < s.size() && isDigit(s[end]))
+        while (end < s.size() && IsDigit(s[end]))
             ++end;
         return end > from;
     };

@@ -8,7 +8,7 @@ namespace akarix {
 /// Applies `cut` (Int or Fix, on Currency and double) to a value of any kind and keeps its kind; Null stays
 /// Null, Empty and a Boolean become an Integer, text a Double.
 template <class Cut>
-Variant wholePart(const Variant& value, Cut cut) {
+Variant WholePart(const Variant& value, Cut cut) {
     switch (value.Type()) {
         case VarType::Empty:
             return std::int16_t{0};

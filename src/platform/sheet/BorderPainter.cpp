@@ -53,11 +53,10 @@ class Lines {
         if (line.style == BorderStyle::None) return;
         QList<QLineF>& own = byPen_[line];
         if (!own.isEmpty() && own.last().p2() == from &&
-            ((own.last().dx() == 0 && to.x() == from.x()) || (own.last().dy() == 0 && to.y() == from.y()))) {
+            ((own.last().dx() == 0 && to.x() == from.x()) || (own.last().dy() == 0 && to.y() == from.y())))
             own.last().setP2(to);
-        } else {
+        else
             own.append(QLineF(from, to));
-        }
     }
 
     void paint(QPainter& painter) const {

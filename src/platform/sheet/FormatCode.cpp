@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/IndexedColor.h"
 
 namespace akarix {
@@ -10,7 +11,7 @@ namespace {
 
 using Kind = FormatToken::Kind;
 
-QColor namedColor(QStringView name) {
+QColor NamedColor(QStringView name) {
     struct Named {
         const char16_t* english;
         const char16_t* japanese;
@@ -20,12 +21,10 @@ QColor namedColor(QStringView name) {
                                       {u"cyan", u"水", 0xFF00FFFF},    {u"green", u"緑", 0xFF00FF00},
                                       {u"magenta", u"紫", 0xFFFF00FF}, {u"red", u"赤", 0xFFFF0000},
                                       {u"white", u"白", 0xFFFFFFFF},   {u"yellow", u"黄", 0xFFFFFF00}};
-    for (const Named& named : names) {
+    for (const Named& named : names)
         if (name.compare(QStringView(named.english), Qt::CaseInsensitive) == 0 ||
-            name == QStringView(named.japanese)) {
+            name == QStringView(named.japanese))
             return QColor(named.color);
-        }
-    }
     for (const QStringView prefix : {QStringView(u"color"), QStringView(u"色")}) {
         if (!name.startsWith(prefix, Qt::CaseInsensitive)) continue;
         const int number = name.mid(prefix.size()).trimmed().toInt();
@@ -34,7 +33,7 @@ QColor namedColor(QStringView name) {
     return {};
 }
 
-std::optional<FormatCondition> parseCondition(QStringView text) {
+std::optional<FormatCondition> ParseCondition(QStringView text) {
     using Op = FormatCondition::Op;
     static constexpr struct {
         const char16_t* sign;
@@ -68,9 +67,7 @@ class Parser {
     FormatSection& section() { return sections_.back(); }
     void add(Kind kind, QString text = {}) { section().tokens.push_back({kind, std::move(text)}); }
     // A workbook of this country writes its yen sign as the backslash that code page 932 has at its place.
-    void addLiteral(QStringView text) {
-        add(Kind::Literal, text == u"\\" ? QStringLiteral("¥") : text.toString());
-    }
+    void addLiteral(QStringView text) { add(Kind::Literal, text == u"\\" ? u"¥"_s : text.toString()); }
     bool behindDigit() {
         const auto& tokens = section().tokens;
         return !tokens.empty() && (tokens.back().kind == Kind::Digit || tokens.back().kind == Kind::Point);
@@ -86,10 +83,10 @@ class Parser {
 
     void step() {
         if (take(u"General") || take(u"G/標準")) return add(Kind::General);
-        if (take(u"AM/PM")) return add(Kind::Date, QStringLiteral("am/pm"));
+        if (take(u"AM/PM")) return add(Kind::Date, u"am/pm"_s);
         if (take(u"午前/午後")) {
             section().japaneseHalves = true;
-            return add(Kind::Date, QStringLiteral("am/pm"));
+            return add(Kind::Date, u"am/pm"_s);
         }
         if (behindDigit() && (take(u"E+") || take(u"E-"))) return notKnown();
         if (take(u"A/P")) return notKnown();
@@ -123,7 +120,7 @@ class Parser {
             case u'.':
                 return add(Kind::Point, c);
             case u',':
-                return add(Kind::Literal, QStringLiteral(","));
+                return add(Kind::Literal, u","_s);
             case u'/':
                 if (behindDigit()) notKnown();
                 return addLiteral(QStringView(&c, 1));
@@ -160,9 +157,8 @@ class Parser {
             const QStringView symbol = inside.mid(1, dash < 0 ? -1 : dash - 1);
             if (!symbol.isEmpty()) addLiteral(symbol);
             const QStringView locale = dash < 0 ? QStringView() : inside.mid(dash + 1);
-            if (locale.endsWith(u"411") || locale.startsWith(u"ja", Qt::CaseInsensitive)) {
+            if (locale.endsWith(u"411") || locale.startsWith(u"ja", Qt::CaseInsensitive))
                 section().japaneseHalves = true;
-            }
             section().firstYearByName = section().firstYearByName || locale.contains(u"gannen");
             return;
         }
@@ -172,11 +168,10 @@ class Parser {
             section().date = true;
             return notKnown();
         }
-        if (const auto condition = parseCondition(inside)) {
+        if (const auto condition = ParseCondition(inside))
             section().condition = condition;
-        } else if (const QColor color = namedColor(inside); color.isValid()) {
+        else if (const QColor color = NamedColor(inside); color.isValid())
             section().color = color;
-        }
     }
 
     static void finish(FormatSection& section) {
@@ -186,11 +181,10 @@ class Parser {
         };
         section.date = section.date || holds(Kind::Date);
         section.known = section.known && !(section.date && holds(Kind::Digit));
-        if (section.date) {
+        if (section.date)
             findMinutes(section);
-        } else {
+        else
             takeCommas(section);
-        }
     }
 
     static bool isUnit(const FormatToken& token, QChar unit) {
@@ -201,12 +195,10 @@ class Parser {
         FormatToken* previous = nullptr;
         for (FormatToken& token : section.tokens) {
             if (token.kind != Kind::Date) continue;
-            if (isUnit(token, u'm') && token.text.size() <= 2 && previous && isUnit(*previous, u'h')) {
+            if (isUnit(token, u'm') && token.text.size() <= 2 && previous && isUnit(*previous, u'h'))
                 token.kind = Kind::Minutes;
-            } else if (isUnit(token, u's') && previous && isUnit(*previous, u'm') &&
-                       previous->text.size() <= 2) {
+            else if (isUnit(token, u's') && previous && isUnit(*previous, u'm') && previous->text.size() <= 2)
                 previous->kind = Kind::Minutes;
-            }
             previous = &token;
         }
     }
@@ -222,11 +214,10 @@ class Parser {
                 ++pending;
                 continue;
             }
-            if (pending > 0 && digit && !point) {
+            if (pending > 0 && digit && !point)
                 section.grouping = true;
-            } else {
+            else
                 section.shift -= 3 * pending;
-            }
             pending = 0;
             point = point || token.kind == Kind::Point;
             afterDigit = digit;

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/FormatCode.h"
 
 namespace akarix {
@@ -11,7 +12,7 @@ namespace {
 
 using Kind = FormatToken::Kind;
 
-constexpr qint64 msPerSecond = 1000, msPerMinute = 60'000, msPerHour = 3'600'000, msPerDay = 86'400'000;
+constexpr qint64 kMsPerSecond = 1000, msPerMinute = 60'000, msPerHour = 3'600'000, msPerDay = 86'400'000;
 
 struct Day {
     int year, month, day;
@@ -19,7 +20,7 @@ struct Day {
 };
 
 // Serial 1 is 1 January 1900; serial 60 is that year's 29 February, which never was but is counted.
-Day dayOf(qint64 serial) {
+Day DayOf(qint64 serial) {
     const int weekday = static_cast<int>((serial + 6) % 7);
     if (serial == 0) return {1900, 1, 0, weekday};
     if (serial == 60) return {1900, 2, 29, weekday};
@@ -33,56 +34,55 @@ struct Era {
     char16_t letter;
 };
 
-const Era& eraOf(const Day& day) {
+const Era& EraOf(const Day& day) {
     static constexpr Era eras[] = {{2019, 5, 1, u"令和", u'R'},
                                    {1989, 1, 8, u"平成", u'H'},
                                    {1926, 12, 25, u"昭和", u'S'},
                                    {1912, 7, 30, u"大正", u'T'},
                                    {1868, 1, 25, u"明治", u'M'}};
-    for (const Era& era : eras) {
+    for (const Era& era : eras)
         if (std::tie(era.year, era.month, era.day) <= std::tie(day.year, day.month, day.day)) return era;
-    }
     return eras[std::size(eras) - 1];
 }
 
-QString padded(qint64 number, qsizetype width) {
-    return QStringLiteral("%1").arg(number, static_cast<int>(width), 10, QLatin1Char('0'));
+QString Padded(qint64 number, qsizetype width) {
+    return u"%1"_s.arg(number, static_cast<int>(width), 10, QLatin1Char('0'));
 }
 
-QString eraName(const Era& era, qsizetype letters) {
+QString EraName(const Era& era, qsizetype letters) {
     const QString name(reinterpret_cast<const QChar*>(era.name), 2);
     return letters == 1 ? QString(QChar(era.letter)) : name.left(letters == 2 ? 1 : 2);
 }
 
-QString dayText(QStringView code, const Day& day, bool firstYearByName) {
+QString DayText(QStringView code, const Day& day, bool firstYearByName) {
     static const QStringView months[] = {u"January",   u"February", u"March",    u"April",
                                          u"May",       u"June",     u"July",     u"August",
                                          u"September", u"October",  u"November", u"December"};
     static const QStringView weekdays[] = {u"Sunday",   u"Monday", u"Tuesday", u"Wednesday",
                                            u"Thursday", u"Friday", u"Saturday"};
     const QStringView month = months[day.month - 1], weekday = weekdays[day.weekday];
-    const Era& era = eraOf(day);
+    const Era& era = EraOf(day);
     const int eraYear = day.year - era.year + 1;
     const qsizetype length = code.size();
     switch (code[0].unicode()) {
         case u'y':
-            return length <= 2 ? padded(day.year % 100, 2) : padded(day.year, 4);
+            return length <= 2 ? Padded(day.year % 100, 2) : Padded(day.year, 4);
         case u'm':
-            if (length <= 2) return padded(day.month, length);
+            if (length <= 2) return Padded(day.month, length);
             return (length == 3 ? month.left(3) : length == 4 ? month : month.left(1)).toString();
         case u'd':
-            if (length <= 2) return padded(day.day, length);
+            if (length <= 2) return Padded(day.day, length);
             return (length == 3 ? weekday.left(3) : weekday).toString();
         case u'a': {
-            const QString kanji = QStringLiteral("日月火水木金土").mid(day.weekday, 1);
-            return length == 3 ? kanji : kanji + QStringLiteral("曜日");
+            const QString kanji = u"日月火水木金土"_s.mid(day.weekday, 1);
+            return length == 3 ? kanji : kanji + u"曜日"_s;
         }
         case u'g':
-            return eraName(era, length);
+            return EraName(era, length);
         case u'e':
-            return firstYearByName && eraYear == 1 ? QStringLiteral("元") : padded(eraYear, length);
+            return firstYearByName && eraYear == 1 ? u"元"_s : Padded(eraYear, length);
         case u'r':
-            return (length == 1 ? QString() : eraName(era, 3)) + padded(eraYear, 2);
+            return (length == 1 ? QString() : EraName(era, 3)) + Padded(eraYear, 2);
         default:
             return {};
     }
@@ -94,7 +94,7 @@ struct Clockwork {
 
     qint64 hour() const { return ms % msPerDay / msPerHour; }
     qint64 minute() const { return ms % msPerHour / msPerMinute; }
-    qint64 second() const { return ms % msPerMinute / msPerSecond; }
+    qint64 second() const { return ms % msPerMinute / kMsPerSecond; }
     bool afternoon() const { return hour() >= 12; }
     qint64 shownHour() const { return twelveHours ? (hour() + 11) % 12 + 1 : hour(); }
 };
@@ -103,7 +103,7 @@ struct Clockwork {
 
 QString FormatSerial(double serial, const FormatSection& section) {
     constexpr double firstBeyondYear9999 = 2958466;
-    if (!(serial >= 0 && serial < firstBeyondYear9999)) return QStringLiteral("########");
+    if (!(serial >= 0 && serial < firstBeyondYear9999)) return u"########"_s;
 
     const auto& tokens = section.tokens;
     const auto has = [&tokens](const auto& what) { return std::any_of(tokens.begin(), tokens.end(), what); };
@@ -112,27 +112,26 @@ QString FormatSerial(double serial, const FormatSection& section) {
     Clockwork clock{std::llround(serial * static_cast<double>(msPerDay)), twelveHours};
     if (has([&](const auto& t) { return isDate(t) && t.text[0] == u's'; })) {
         // A shown second is rounded, and carries; minutes and hours are not.
-        clock.ms = (clock.ms + msPerSecond / 2) / msPerSecond * msPerSecond;
+        clock.ms = (clock.ms + kMsPerSecond / 2) / kMsPerSecond * kMsPerSecond;
     }
-    const Day day = dayOf(clock.ms / msPerDay);
+    const Day day = DayOf(clock.ms / msPerDay);
 
     QString out;
     for (const FormatToken& token : tokens) {
         switch (token.kind) {
             case Kind::Minutes:
-                out += padded(clock.minute(), token.text.size());
+                out += Padded(clock.minute(), token.text.size());
                 break;
             case Kind::Date:
                 if (token.text == u"am/pm") {
-                    out += section.japaneseHalves
-                               ? (clock.afternoon() ? QStringLiteral("午後") : QStringLiteral("午前"))
-                               : (clock.afternoon() ? QStringLiteral("PM") : QStringLiteral("AM"));
+                    out += section.japaneseHalves ? (clock.afternoon() ? u"午後"_s : u"午前"_s)
+                                                  : (clock.afternoon() ? u"PM"_s : u"AM"_s);
                 } else if (token.text[0] == u'h') {
-                    out += padded(clock.shownHour(), qMin<qsizetype>(token.text.size(), 2));
+                    out += Padded(clock.shownHour(), qMin<qsizetype>(token.text.size(), 2));
                 } else if (token.text[0] == u's') {
-                    out += padded(clock.second(), qMin<qsizetype>(token.text.size(), 2));
+                    out += Padded(clock.second(), qMin<qsizetype>(token.text.size(), 2));
                 } else {
-                    out += dayText(token.text, day, section.firstYearByName);
+                    out += DayText(token.text, day, section.firstYearByName);
                 }
                 break;
             default:

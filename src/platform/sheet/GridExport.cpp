@@ -11,17 +11,16 @@ namespace akarix {
 
 namespace {
 
-constexpr int hiddenWidth = 10, rightAligned = 7, firstCentered = 3, lastCentered = 5;
-constexpr int twipsPerPixel = 15;
-constexpr lxw_row_t headRow = 5;
+constexpr int kHiddenWidth = 10, kRightAligned = 7, kFirstCentered = 3, kLastCentered = 5;
+constexpr int kTwipsPerPixel = 15;
+constexpr lxw_row_t kHeadRow = 5;
 
 class Export {
  public:
     Export(WorkbookWriter& writer, const GridSource& grid)
         : writer_(writer), grid_(grid), sheet_(workbook_add_worksheet(writer.book(), nullptr)) {
-        for (int c = 0; c < static_cast<int>(grid.widths.size()); ++c) {
-            if (grid.widths[static_cast<size_t>(c)] > hiddenWidth) shown_.push_back(c);
-        }
+        for (int c = 0; c < static_cast<int>(grid.widths.size()); ++c)
+            if (grid.widths[static_cast<size_t>(c)] > kHiddenWidth) shown_.push_back(c);
         text_ = cellFormat("@", LXW_ALIGN_LEFT);
         centered_ = cellFormat("@", LXW_ALIGN_CENTER);
         rightText_ = cellFormat("General", LXW_ALIGN_RIGHT);
@@ -33,9 +32,8 @@ class Export {
         writeTop(title, subtitle, created);
         for (int row = 0; row < grid_.rows; ++row) {
             progress.step(row, grid_.rows);
-            for (size_t k = 0; k < shown_.size(); ++k) {
+            for (size_t k = 0; k < shown_.size(); ++k)
                 writeCell(row, static_cast<lxw_col_t>(k), shown_[k]);
-            }
         }
         setUpPage();
     }
@@ -65,10 +63,10 @@ class Export {
     }
 
     void writeCell(int row, lxw_col_t at, int column) {
-        const auto line = headRow + static_cast<lxw_row_t>(row);
+        const auto line = kHeadRow + static_cast<lxw_row_t>(row);
         const QString text = grid_.text(row, column);
         const int alignment = grid_.alignments[static_cast<size_t>(column)];
-        if (row > 0 && alignment == rightAligned) {
+        if (row > 0 && alignment == kRightAligned) {
             constexpr int longestNumber = 15;
             const auto number = ParseTypedNumber(text);
             if (number && number->integerDigits + number->decimals <= longestNumber) {
@@ -76,15 +74,14 @@ class Export {
                 return;
             }
         }
-        lxw_format* format = row == 0                                                  ? head_
-                             : alignment == rightAligned                               ? rightText_
-                             : alignment >= firstCentered && alignment <= lastCentered ? centered_
-                                                                                       : text_;
-        if (text.isEmpty()) {
+        lxw_format* format = row == 0                                                    ? head_
+                             : alignment == kRightAligned                                ? rightText_
+                             : alignment >= kFirstCentered && alignment <= kLastCentered ? centered_
+                                                                                         : text_;
+        if (text.isEmpty())
             worksheet_write_blank(sheet_, line, at, format);
-        } else {
+        else
             worksheet_write_string(sheet_, line, at, text.toUtf8().constData(), format);
-        }
     }
 
     void writeTop(const QString& title, const QString& subtitle, const QString& created) {
@@ -100,14 +97,13 @@ class Export {
                                    title.toUtf8().constData(), large);
         }
         worksheet_write_string(sheet_, 3, 0, subtitle.toUtf8().constData(), nullptr);
-        for (lxw_col_t k = 0; k < columns; ++k) {
+        for (lxw_col_t k = 0; k < columns; ++k)
             WorkbookWriter::setColumnWidth(sheet_, k, k, pixels(k));
-        }
         constexpr int createdPixels = 150;
         WorkbookWriter::setColumnWidth(sheet_, columns, columns, createdPixels);
     }
 
-    int pixels(size_t k) const { return grid_.widths[static_cast<size_t>(shown_[k])] / twipsPerPixel; }
+    int pixels(size_t k) const { return grid_.widths[static_cast<size_t>(shown_[k])] / kTwipsPerPixel; }
 
     void setUpPage() {
         int width = 0;
@@ -118,8 +114,8 @@ class Export {
         worksheet_set_paper(sheet_, 9);
         worksheet_set_margins(sheet_, 0.5, 0.5, 0.6, 0.6);
         worksheet_fit_to_pages(sheet_, 1, 0);
-        worksheet_repeat_rows(sheet_, headRow, headRow);
-        worksheet_freeze_panes(sheet_, headRow + 1, 0);
+        worksheet_repeat_rows(sheet_, kHeadRow, kHeadRow);
+        worksheet_freeze_panes(sheet_, kHeadRow + 1, 0);
         worksheet_set_footer(sheet_, "&C&P / &N");
     }
 

@@ -6,6 +6,7 @@
 #include "platform/print/PaperFont.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Format.h"
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/SheetLayout.h"
 
 namespace akarix {
@@ -71,16 +72,16 @@ class CodeReader {
                 add(QString::number(pageCount_));
                 break;
             case 'D':
-                add(Format(Today(), QStringLiteral("yyyy/mm/dd")));
+                add(Format(Today(), u"yyyy/mm/dd"_s));
                 break;
             case 'T':
-                add(Format(Now(), QStringLiteral("h:nn")));
+                add(Format(Now(), u"h:nn"_s));
                 break;
             case 'A':
                 add(sheet_.name);
                 break;
             case '&':
-                add(QStringLiteral("&"));
+                add(u"&"_s);
                 break;
             case 'B':
                 font_.bold = !font_.bold;
@@ -107,9 +108,8 @@ class CodeReader {
 
     qsizetype fontSize(const QString& codes, qsizetype at) {
         qsizetype end = at;
-        while (end < codes.size() && codes.at(end).isDigit()) {
+        while (end < codes.size() && codes.at(end).isDigit())
             ++end;
-        }
         font_.size = std::max(1, codes.mid(at, end - at).toInt()) * scale_;
         return end - 1;
     }
@@ -120,9 +120,9 @@ class CodeReader {
         const QString named = codes.mid(at + 1, end - at - 1);
         const QString name = named.section(QLatin1Char(','), 0, 0);
         const QString weight = named.section(QLatin1Char(','), 1);
-        if (!name.isEmpty() && name != QStringLiteral("-")) font_.name = name;
-        font_.bold = weight.contains(QStringLiteral("Bold")) || weight.contains(QStringLiteral("太字"));
-        font_.italic = weight.contains(QStringLiteral("Italic")) || weight.contains(QStringLiteral("斜体"));
+        if (!name.isEmpty() && name != u"-"_s) font_.name = name;
+        font_.bold = weight.contains(u"Bold"_s) || weight.contains(u"太字"_s);
+        font_.italic = weight.contains(u"Italic"_s) || weight.contains(u"斜体"_s);
         return end;
     }
 
@@ -161,9 +161,8 @@ void PaintSection(QPainter& painter, const Runs& runs, Section section, const Pa
                   bool atBottom) {
     const std::vector<PlacedLine> lines = LinesOf(runs);
     double height = 0;
-    for (const PlacedLine& line : lines) {
+    for (const PlacedLine& line : lines)
         height += line.em;
-    }
     double top =
         atBottom ? (page.paperHeight - page.footer) * TwipsPerPoint - height : page.header * TwipsPerPoint;
     const double left = page.left * TwipsPerPoint;
@@ -189,9 +188,8 @@ void PaintHeaderFooter(QPainter& painter, const Sheet& sheet, double scale, int 
         const QString& codes = atBottom ? sheet.page.footerText : sheet.page.headerText;
         if (codes.isEmpty()) continue;
         const std::array<Runs, 3> sections = CodeReader(sheet, scale, pageNumber, pageCount).read(codes);
-        for (const Section section : {Left, Center, Right}) {
+        for (const Section section : {Left, Center, Right})
             PaintSection(painter, sections[static_cast<size_t>(section)], section, sheet.page, atBottom);
-        }
     }
 }
 

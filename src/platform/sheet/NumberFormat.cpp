@@ -4,6 +4,7 @@
 #include <cmath>
 #include <unordered_map>
 
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/FormatCode.h"
 
 namespace akarix {
@@ -58,13 +59,11 @@ struct Decimal {
     }
 };
 
-QString exponentText(int exponent) {
-    return QStringLiteral("E%1%2")
-        .arg(QChar(exponent < 0 ? u'-' : u'+'))
-        .arg(std::abs(exponent), 2, 10, QLatin1Char('0'));
+QString ExponentText(int exponent) {
+    return u"E%1%2"_s.arg(QChar(exponent < 0 ? u'-' : u'+')).arg(std::abs(exponent), 2, 10, QLatin1Char('0'));
 }
 
-QString withoutTrailingZeros(const Decimal::Parts& parts) {
+QString WithoutTrailingZeros(const Decimal::Parts& parts) {
     QByteArray fraction = parts.fraction;
     while (fraction.endsWith('0'))
         fraction.chop(1);
@@ -74,26 +73,24 @@ QString withoutTrailingZeros(const Decimal::Parts& parts) {
 }
 
 // As much of a number as eleven characters hold.
-QString generalText(double magnitude) {
+QString GeneralText(double magnitude) {
     const Decimal decimal = Decimal::of(magnitude);
     constexpr int widest = 11, mantissaPlaces = 5;
     const auto plain = decimal.rounded(std::max(0, widest - 1 - std::max(decimal.point, 1)));
     const bool tooSmall = decimal.point < -3 && decimal.digits.size() - decimal.point > widest - 2;
     if (decimal.digits.isEmpty() || (plain.integer.size() <= widest && !tooSmall))
-        return withoutTrailingZeros(plain);
+        return WithoutTrailingZeros(plain);
     int exponent = decimal.point - 1;
     auto mantissa = Decimal{decimal.digits, 1}.rounded(mantissaPlaces);
     if (mantissa.integer.size() > 1) {
         ++exponent;
         mantissa = {QByteArrayLiteral("1"), QByteArray()};
     }
-    return withoutTrailingZeros(mantissa) + exponentText(exponent);
+    return WithoutTrailingZeros(mantissa) + ExponentText(exponent);
 }
 
-QString blankFor(const FormatToken& placeholder) {
-    return placeholder.text == u"0"   ? QStringLiteral("0")
-           : placeholder.text == u"?" ? QStringLiteral(" ")
-                                      : QString();
+QString BlankFor(const FormatToken& placeholder) {
+    return placeholder.text == u"0" ? u"0"_s : placeholder.text == u"?" ? u" "_s : QString();
 }
 
 /// Writes a magnitude into the tokens of a section that shows numbers.
@@ -105,7 +102,7 @@ class NumberWriter {
     QString write() {
         for (size_t i = 0; i < tokens_.size(); ++i) {
             const Kind kind = tokens_[i].kind;
-            out_[i] = kind == Kind::General || kind == Kind::Text ? generalText(magnitude_)
+            out_[i] = kind == Kind::General || kind == Kind::Text ? GeneralText(magnitude_)
                       : kind == Kind::Digit                       ? QString()
                                                                   : tokens_[i].text;
             if (kind == Kind::General || kind == Kind::Text) zero_ = magnitude_ == 0;
@@ -123,7 +120,8 @@ class NumberWriter {
     bool isDigit(size_t i) const { return i < tokens_.size() && tokens_[i].kind == Kind::Digit; }
     size_t find(Kind kind) const {
         return static_cast<size_t>(
-            std::find_if(tokens_.begin(), tokens_.end(), [kind](const auto& t) { return t.kind == kind; }) -
+            std::find_if(
+                tokens_.begin(), tokens_.end(), [kind](const auto& t) { return t.kind == kind; }) -
             tokens_.begin());
     }
     int digitsBetween(size_t from, size_t to) const {
@@ -150,9 +148,8 @@ class NumberWriter {
     // From the right; the leftmost placeholder takes all the digits that are left.
     void writeInteger(const QByteArray& digits, size_t to) {
         size_t leftmost = to;
-        for (size_t i = to; i-- > 0;) {
+        for (size_t i = to; i-- > 0;)
             if (isDigit(i)) leftmost = i;
-        }
         qsizetype left = digits.size();
         int written = 0;
         const auto prepend = [&](QString& out, QChar digit) {
@@ -163,11 +160,10 @@ class NumberWriter {
         };
         for (size_t i = to; i-- > 0;) {
             if (!isDigit(i)) continue;
-            if (left > 0) {
+            if (left > 0)
                 prepend(out_[i], QLatin1Char(digits[--left]));
-            } else if (const QString blank = blankFor(tokens_[i]); !blank.isEmpty()) {
+            else if (const QString blank = BlankFor(tokens_[i]); !blank.isEmpty())
                 prepend(out_[i], blank[0]);
-            }
             while (i == leftmost && left > 0)
                 prepend(out_[i], QLatin1Char(digits[--left]));
         }
@@ -180,7 +176,7 @@ class NumberWriter {
         qsizetype place = 0;
         for (size_t i = from; i < to; ++i) {
             if (!isDigit(i)) continue;
-            out_[i] = place < significant ? QString(QLatin1Char(digits[place])) : blankFor(tokens_[i]);
+            out_[i] = place < significant ? QString(QLatin1Char(digits[place])) : BlankFor(tokens_[i]);
             ++place;
         }
     }
@@ -192,12 +188,12 @@ class NumberWriter {
     bool zero_ = false;
 };
 
-bool isGeneral(const QString& code) {
+bool IsGeneral(const QString& code) {
     return code.isEmpty() || code.compare(u"General", Qt::CaseInsensitive) == 0;
 }
 
 // The sections that are for numbers: the fourth, or a last one that shows text, is for text alone.
-size_t numberSections(const std::vector<FormatSection>& sections) {
+size_t NumberSections(const std::vector<FormatSection>& sections) {
     if (sections.size() >= 4) return 3;
     return sections.size() > 1 && sections.back().text ? sections.size() - 1 : sections.size();
 }
@@ -207,8 +203,8 @@ struct Chosen {
     bool bare;  ///< the section says itself how a negative looks
 };
 
-Chosen chooseSection(const std::vector<FormatSection>& sections, double value) {
-    const size_t count = numberSections(sections);
+Chosen ChooseSection(const std::vector<FormatSection>& sections, double value) {
+    const size_t count = NumberSections(sections);
     if (count == 1 && !sections[0].condition) return {&sections[0], false};
     const bool conditions = sections[0].condition || (count > 1 && sections[1].condition);
     if (!conditions) {
@@ -227,7 +223,7 @@ Chosen chooseSection(const std::vector<FormatSection>& sections, double value) {
 }
 
 /// A sheet has few codes and many cells: each code is taken apart once.
-const std::vector<FormatSection>& sectionsOf(const QString& code) {
+const std::vector<FormatSection>& SectionsOf(const QString& code) {
     constexpr std::size_t most = 500;
     static std::unordered_map<QString, std::vector<FormatSection>> known;
     const auto found = known.find(code);
@@ -239,19 +235,19 @@ const std::vector<FormatSection>& sectionsOf(const QString& code) {
 }  // namespace
 
 FormattedNumber FormatNumber(double value, const QString& code) {
-    if (!std::isfinite(value)) return {QStringLiteral("#NUM!"), {}};
+    if (!std::isfinite(value)) return {u"#NUM!"_s, {}};
     const double magnitude = std::abs(value);
-    const QString minus = value < 0 ? QStringLiteral("-") : QString();
-    if (isGeneral(code)) return {minus + generalText(magnitude), {}};
+    const QString minus = value < 0 ? u"-"_s : QString();
+    if (IsGeneral(code)) return {minus + GeneralText(magnitude), {}};
 
-    const auto& sections = sectionsOf(code);
-    const auto [section, bare] = chooseSection(sections, value);
-    if (!section) return {QStringLiteral("########"), {}};
-    if (!section->known) return {minus + generalText(magnitude), section->color};
+    const auto& sections = SectionsOf(code);
+    const auto [section, bare] = ChooseSection(sections, value);
+    if (!section) return {u"########"_s, {}};
+    if (!section->known) return {minus + GeneralText(magnitude), section->color};
     if (section->date) return {FormatSerial(value, *section), section->color};
     if (section->tokens.empty()) {
         // A colour alone leaves the number as it is; an empty section hides it.
-        return {section->color.isValid() && sections.size() == 1 ? minus + generalText(magnitude) : QString(),
+        return {section->color.isValid() && sections.size() == 1 ? minus + GeneralText(magnitude) : QString(),
                 section->color};
     }
     NumberWriter writer(*section, magnitude);
@@ -260,26 +256,25 @@ FormattedNumber FormatNumber(double value, const QString& code) {
 }
 
 QString FormatText(const QString& text, const QString& code) {
-    if (text.isEmpty() || isGeneral(code) || code == u"@") return text;
-    const auto& sections = sectionsOf(code);
+    if (text.isEmpty() || IsGeneral(code) || code == u"@") return text;
+    const auto& sections = SectionsOf(code);
     const bool hasTextSection = sections.size() >= 4 || sections.back().text;
     if (!hasTextSection) return text;
     const FormatSection& section = sections.size() >= 4 ? sections[3] : sections.back();
     QString out;
-    for (const FormatToken& token : section.tokens) {
+    for (const FormatToken& token : section.tokens)
         out += token.kind == Kind::Text || token.kind == Kind::General ? text : token.text;
-    }
     return out;
 }
 
 bool IsKnownFormat(const QString& code) {
-    const auto& sections = sectionsOf(code);
+    const auto& sections = SectionsOf(code);
     return std::all_of(sections.begin(), sections.end(), [](const auto& section) { return section.known; });
 }
 
 bool IsDateFormat(const QString& code) {
-    if (isGeneral(code) || code == u"@") return false;
-    const FormatSection& section = sectionsOf(code).front();
+    if (IsGeneral(code) || code == u"@") return false;
+    const FormatSection& section = SectionsOf(code).front();
     return section.date && section.known;
 }
 

@@ -24,11 +24,9 @@ PageCells::PageCells(const Sheet& sheet, const PageGrid& grid) : sheet_(sheet), 
         const CellRange& merge = sheet.merges[i];
         const auto [top, bottom] = grid.rowsBetween(merge.first.row, merge.last.row);
         const auto [left, right] = grid.columnsBetween(merge.first.column, merge.last.column);
-        for (int r = top; r < bottom; ++r) {
-            for (int c = left; c < right; ++c) {
+        for (int r = top; r < bottom; ++r)
+            for (int c = left; c < right; ++c)
                 merges_[grid.index(r, c)] = static_cast<int>(i);
-            }
-        }
     }
 }
 

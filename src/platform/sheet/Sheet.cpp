@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "platform/sheet/NumberFormat.h"
 #include "platform/sheet/TypedValue.h"
@@ -11,9 +12,9 @@ namespace akarix {
 namespace {
 
 // A written block larger than this is a mistake, not a report.
-constexpr long long largestWrittenBlock = 1'000'000;
+constexpr long long kLargestWrittenBlock = 1'000'000;
 
-std::optional<CellAddress> parseAddress(QStringView text) {
+std::optional<CellAddress> ParseAddress(QStringView text) {
     CellAddress address;
     qsizetype at = 0;
     if (at < text.size() && text[at] == u'$') ++at;
@@ -21,29 +22,29 @@ std::optional<CellAddress> parseAddress(QStringView text) {
         const char16_t letter = text[at].toUpper().unicode();
         if (letter < u'A' || letter > u'Z') break;
         address.column = address.column * 26 + (letter - u'A' + 1);
-        if (address.column > lastSheetColumn) return std::nullopt;
+        if (address.column > kLastSheetColumn) return std::nullopt;
     }
     if (at < text.size() && text[at] == u'$') ++at;
     for (; at < text.size(); ++at) {
         const char16_t digit = text[at].unicode();
         if (digit < u'0' || digit > u'9') return std::nullopt;
         address.row = address.row * 10 + (digit - u'0');
-        if (address.row > lastSheetRow) return std::nullopt;
+        if (address.row > kLastSheetRow) return std::nullopt;
     }
     if (address.row < 1 || address.column < 1) return std::nullopt;
     return address;
 }
 
-bool intersects(const CellRange& a, const CellRange& b) {
+bool Intersects(const CellRange& a, const CellRange& b) {
     return a.first.row <= b.last.row && b.first.row <= a.last.row && a.first.column <= b.last.column &&
            b.first.column <= a.last.column;
 }
 
-bool isBlank(const Cell& cell) {
+bool IsBlank(const Cell& cell) {
     return cell.text.isEmpty() && !cell.number;
 }
 
-bool isPainted(const CellStyle& style) {
+bool IsPainted(const CellStyle& style) {
     return style.fill.isValid() || style.left.style != BorderStyle::None ||
            style.right.style != BorderStyle::None || style.top.style != BorderStyle::None ||
            style.bottom.style != BorderStyle::None || style.falling.style != BorderStyle::None ||
@@ -55,11 +56,9 @@ bool isPainted(const CellStyle& style) {
 CellRange ParseRange(const QString& address) {
     const QStringView text(address);
     const qsizetype colon = text.indexOf(u':');
-    const auto first = parseAddress(colon < 0 ? text : text.left(colon));
-    const auto last = colon < 0 ? first : parseAddress(text.mid(colon + 1));
-    if (!first || !last) {
-        throw RuntimeError(1004, QStringLiteral("セルの番地が正しくありません: %1").arg(address));
-    }
+    const auto first = ParseAddress(colon < 0 ? text : text.left(colon));
+    const auto last = colon < 0 ? first : ParseAddress(text.mid(colon + 1));
+    if (!first || !last) throw RuntimeError(1004, u"セルの番地が正しくありません: %1"_s.arg(address));
     return {{std::min(first->row, last->row), std::min(first->column, last->column)},
             {std::max(first->row, last->row), std::max(first->column, last->column)}};
 }
@@ -75,9 +74,8 @@ void Sheet::setValue(const QString& address, const QString& text) {
         return;
     }
     if ((block.last.row - block.first.row + 1LL) * (block.last.column - block.first.column + 1LL) >
-        largestWrittenBlock) {
-        throw RuntimeError(1004, QStringLiteral("書き込む範囲が大きすぎます: %1").arg(address));
-    }
+        kLargestWrittenBlock)
+        throw RuntimeError(1004, u"書き込む範囲が大きすぎます: %1"_s.arg(address));
     const auto number = ParseTypedNumber(text);
     const auto date = number ? std::nullopt : ParseTypedDate(text);
     for (int row = block.first.row; row <= block.last.row; ++row) {
@@ -88,20 +86,19 @@ void Sheet::setValue(const QString& address, const QString& text) {
             const QString& format = styles[static_cast<size_t>(style)].numberFormat;
             Cell& cell = cells[at];
             cell = {{}, {}, style};
-            if (number && format != QLatin1String("@")) {
+            if (number && format != QLatin1String("@"))
                 cell.number = number->value;
-            } else if (date && IsDateFormat(format)) {
+            else if (date && IsDateFormat(format))
                 cell.number = date;
-            } else {
+            else
                 cell.text = text;
-            }
         }
     }
 }
 
 void Sheet::setMerged(const QString& address, bool merged) {
     CellRange block = ParseRange(address);
-    const auto touching = [&block](const CellRange& merge) { return intersects(merge, block); };
+    const auto touching = [&block](const CellRange& merge) { return Intersects(merge, block); };
     if (!merged) {
         std::erase_if(merges, touching);
         return;
@@ -119,7 +116,7 @@ void Sheet::setMerged(const QString& address, bool merged) {
     std::optional<Cell> kept;
     for (auto it = cells.lower_bound(block.first); it != cells.end() && it->first.row <= block.last.row;
          ++it) {
-        if (!block.contains(it->first) || isBlank(it->second)) continue;
+        if (!block.contains(it->first) || IsBlank(it->second)) continue;
         if (!kept) kept = it->second;
         it->second.blank();
     }
@@ -154,20 +151,19 @@ const CellStyle& Sheet::styleAt(CellAddress address) const {
 
 int Sheet::styleIndexAt(CellAddress address) const {
     int style = 0;
-    if (const auto cell = cells.find(address); cell != cells.end()) {
+    if (const auto cell = cells.find(address); cell != cells.end())
         style = cell->second.style;
-    } else if (const auto row = rowStyles.find(address.row); row != rowStyles.end()) {
+    else if (const auto row = rowStyles.find(address.row); row != rowStyles.end())
         style = row->second;
-    } else if (const auto column = columnStyles.find(address.column); column != columnStyles.end()) {
+    else if (const auto column = columnStyles.find(address.column); column != columnStyles.end())
         style = column->second;
-    }
     return style >= 0 && style < static_cast<int>(styles.size()) ? style : 0;
 }
 
 bool Sheet::hiddenByMerge(CellAddress address) const {
-    return std::any_of(merges.begin(), merges.end(), [address](const CellRange& merge) {
-        return merge.contains(address) && merge.first != address;
-    });
+    return std::any_of(
+        merges.begin(), merges.end(),
+        [address](const CellRange& merge) { return merge.contains(address) && merge.first != address; });
 }
 
 bool Sheet::prints(const QString& address) const {
@@ -180,11 +176,11 @@ CellAddress Sheet::extent() const {
     std::vector<bool> painted;
     painted.reserve(styles.size());
     for (const CellStyle& style : styles)
-        painted.push_back(isPainted(style));
+        painted.push_back(IsPainted(style));
     CellAddress last;
     for (const auto& [address, cell] : cells) {
         const auto style = static_cast<size_t>(cell.style);
-        if (isBlank(cell) && !(style < painted.size() && painted[style])) continue;
+        if (IsBlank(cell) && !(style < painted.size() && painted[style])) continue;
         last.row = std::max(last.row, address.row);
         last.column = std::max(last.column, address.column);
     }

@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix {
 
 /// One sheet of a workbook in memory: what a template says and what a report writes into it. Rows and columns
@@ -36,7 +38,7 @@ struct Border {
 };
 
 struct SheetFont {
-    QString name = QStringLiteral("ＭＳ Ｐゴシック");
+    QString name = u"ＭＳ Ｐゴシック"_s;
     double size = 11;
     bool bold = false;
     bool italic = false;
@@ -57,7 +59,7 @@ struct CellStyle {
     bool shrink = false;
     int indent = 0;
     int rotation = 0;  ///< degrees counter-clockwise; 255 is upright letters from top to bottom
-    QString numberFormat = QStringLiteral("General");
+    QString numberFormat = u"General"_s;
 };
 
 struct CellAddress {
@@ -77,8 +79,8 @@ struct CellRange {
 /// "B5", "$B$5" or "B5:K61"; letters without case. Not an address: RuntimeError 1004.
 CellRange ParseRange(const QString& address);
 
-inline constexpr int lastSheetRow = 1048576;
-inline constexpr int lastSheetColumn = 16384;
+inline constexpr int kLastSheetRow = 1048576;
+inline constexpr int kLastSheetColumn = 16384;
 
 /// A stretch of a template's text.
 struct TextRun {

@@ -36,9 +36,8 @@ struct Lengths {
     std::vector<double> of;
     double between(const Span& span) const {
         double sum = 0;
-        for (int i = span.first; i <= span.last; ++i) {
+        for (int i = span.first; i <= span.last; ++i)
             sum += of[static_cast<size_t>(i - first)];
-        }
         return sum;
     }
 };
@@ -47,23 +46,21 @@ class Breaker {
  public:
     explicit Breaker(const Sheet& sheet) : setup_(sheet.page), area_(PrintedArea(sheet)) {
         rows_.first = area_.first.row;
-        for (int row = area_.first.row; row <= area_.last.row; ++row) {
+        for (int row = area_.first.row; row <= area_.last.row; ++row)
             rows_.of.push_back(sheet.rowHeight(row));
-        }
         columns_.first = area_.first.column;
-        for (int column = area_.first.column; column <= area_.last.column; ++column) {
+        for (int column = area_.first.column; column <= area_.last.column; ++column)
             columns_.of.push_back(sheet.columnWidth(column));
-        }
-        for (const int row : RepeatedRows(sheet, setup_.titleLastRow + 1)) {
+        for (const int row : RepeatedRows(sheet, setup_.titleLastRow + 1))
             titleHeight_ += sheet.rowHeight(row);
-        }
     }
 
     double roomWidth() const { return std::max(1.0, setup_.paperWidth - setup_.left - setup_.right); }
     double roomHeight() const { return std::max(1.0, setup_.paperHeight - setup_.top - setup_.bottom); }
 
     std::vector<Span> columnSpans(double scale) const {
-        return spans(columns_, area_.last.column, [&](int) { return roomWidth() / scale; }, {});
+        return spans(
+            columns_, area_.last.column, [&](int) { return roomWidth() / scale; }, {});
     }
     std::vector<Span> rowSpans(double scale) const {
         // Manual breaks and a wanted number of pages contradict each other; the wanted number wins.
@@ -76,9 +73,8 @@ class Breaker {
     double scale() const {
         if (!setup_.fitToPage) return std::clamp(setup_.scalePercent, SmallestPercent, 400) / 100.0;
         int percent = 100;
-        while (percent > SmallestPercent && !fits(percent / 100.0)) {
+        while (percent > SmallestPercent && !fits(percent / 100.0))
             --percent;
-        }
         return percent / 100.0;
     }
 
@@ -114,9 +110,8 @@ class Breaker {
         };
         // One page across must hold the width itself: a single column wider than the paper is no break.
         if (setup_.fitWidth == 1 &&
-            width({area_.first.column, area_.last.column}) * scale > roomWidth() + Tolerance) {
+            width({area_.first.column, area_.last.column}) * scale > roomWidth() + Tolerance)
             return false;
-        }
         return within(columnSpans(scale).size(), setup_.fitWidth) &&
                within(rowSpans(scale).size(), setup_.fitHeight);
     }
@@ -138,9 +133,8 @@ std::pair<int, int> Between(const std::vector<int>& numbers, int first, int last
 std::vector<int> RepeatedRows(const Sheet& sheet, int firstRow) {
     std::vector<int> rows;
     if (sheet.page.titleFirstRow <= 0 || firstRow <= sheet.page.titleLastRow) return rows;
-    for (int row = sheet.page.titleFirstRow; row <= sheet.page.titleLastRow; ++row) {
+    for (int row = sheet.page.titleFirstRow; row <= sheet.page.titleLastRow; ++row)
         rows.push_back(row);
-    }
     return rows;
 }
 
@@ -153,12 +147,10 @@ std::vector<SheetPage> LayOutSheet(const Sheet& sheet) {
         for (const Span& rows : rowSpans) {
             SheetPage page{rows.first, rows.last,       columns.first, columns.last,
                            scale,      sheet.page.left, sheet.page.top};
-            if (sheet.page.centerHorizontally) {
+            if (sheet.page.centerHorizontally)
                 page.originX += std::max(0.0, breaker.roomWidth() - breaker.width(columns) * scale) / 2;
-            }
-            if (sheet.page.centerVertically) {
+            if (sheet.page.centerVertically)
                 page.originY += std::max(0.0, breaker.roomHeight() - breaker.height(rows) * scale) / 2;
-            }
             pages.push_back(page);
         }
     }
@@ -173,15 +165,12 @@ PageGrid::PageGrid(const Sheet& sheet, const SheetPage& page) {
     };
     x.push_back(0);
     y.push_back(0);
-    for (const int row : RepeatedRows(sheet, page.firstRow)) {
+    for (const int row : RepeatedRows(sheet, page.firstRow))
         add(rows, y, row, sheet.rowHeight(row));
-    }
-    for (int row = page.firstRow; row <= page.lastRow; ++row) {
+    for (int row = page.firstRow; row <= page.lastRow; ++row)
         add(rows, y, row, sheet.rowHeight(row));
-    }
-    for (int column = page.firstColumn; column <= page.lastColumn; ++column) {
+    for (int column = page.firstColumn; column <= page.lastColumn; ++column)
         add(columns, x, column, sheet.columnWidth(column));
-    }
 }
 
 QRectF PageGrid::cell(int r, int c) const {

@@ -59,12 +59,10 @@ class PagePainter {
 
     void paintGridLines() {
         painter_.setPen(QPen(QColor(128, 128, 128), 0.3 * TwipsPerPoint));
-        for (const double y : grid_.y) {
+        for (const double y : grid_.y)
             painter_.drawLine(QPointF(0, y), QPointF(grid_.x.back(), y));
-        }
-        for (const double x : grid_.x) {
+        for (const double x : grid_.x)
             painter_.drawLine(QPointF(x, 0), QPointF(x, grid_.y.back()));
-        }
     }
 
     void paintText(const Place& place) {
@@ -82,9 +80,8 @@ class PagePainter {
             if (shown.text.size() == place.cell->text.size()) shown.runs = place.cell->runs;
         }
         const bool merged = cells_.merge(place.r, place.c) != PageCells::NoMerge;
-        if (!merged && place.style.horizontal == HorizontalAlign::CenterAcross) {
+        if (!merged && place.style.horizontal == HorizontalAlign::CenterAcross)
             shown.box.setRight(acrossEdge(place));
-        }
         shown.spillLeft = shown.box.left();
         shown.spillRight = shown.box.right();
         if (!merged && MaySpill(place.style, shown.number)) {
@@ -102,18 +99,16 @@ class PagePainter {
 
     double spillEdge(const Place& place, int step) const {
         int c = place.c + step;
-        while (c >= 0 && c < grid_.columnCount() && cells_.blank(place.r, c)) {
+        while (c >= 0 && c < grid_.columnCount() && cells_.blank(place.r, c))
             c += step;
-        }
         return grid_.x[static_cast<size_t>(step > 0 ? c : c + 1)];
     }
 
     double acrossEdge(const Place& place) const {
         int c = place.c + 1;
         while (c < grid_.columnCount() && cells_.blank(place.r, c) &&
-               cells_.style(place.r, c).horizontal == HorizontalAlign::CenterAcross) {
+               cells_.style(place.r, c).horizontal == HorizontalAlign::CenterAcross)
             ++c;
-        }
         return grid_.x[static_cast<size_t>(c)];
     }
 

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/ColumnWidth.h"
 #include "platform/sheet/NumberFormat.h"
 #include "platform/sheet/StyleReader.h"
@@ -14,14 +15,14 @@ namespace akarix {
 
 namespace {
 
-constexpr double pointsPerInch = 72, pointsPerMillimetre = 72 / 25.4;
+constexpr double kPointsPerInch = 72, pointsPerMillimetre = 72 / 25.4;
 
-QString text(const pugi::xml_attribute& attribute) {
+QString Text(const pugi::xml_attribute& attribute) {
     return QString::fromUtf8(attribute.value());
 }
 
 // Characters that XML cannot hold are written _x000D_.
-QString unescaped(QString value) {
+QString Unescaped(QString value) {
     for (qsizetype at = value.indexOf(u"_x"); at >= 0; at = value.indexOf(u"_x", at + 1)) {
         if (at + 6 >= value.size() || value[at + 6] != u'_') continue;
         bool ok = false;
@@ -36,18 +37,18 @@ struct Paper {
     double width, height;  ///< millimetres
 };
 
-constexpr Paper papers[] = {{1, 215.9, 279.4}, {3, 279.4, 431.8}, {4, 431.8, 279.4}, {5, 215.9, 355.6},
-                            {6, 139.7, 215.9}, {7, 184.2, 266.7}, {8, 297, 420},     {9, 210, 297},
-                            {10, 210, 297},    {11, 148, 210},    {12, 257, 364},    {13, 182, 257},
-                            {28, 162, 229},    {27, 110, 220},    {43, 100, 148},    {66, 420, 594},
-                            {69, 200, 148},    {70, 105, 148},    {88, 128, 182}};
+constexpr Paper kPapers[] = {{1, 215.9, 279.4}, {3, 279.4, 431.8}, {4, 431.8, 279.4}, {5, 215.9, 355.6},
+                             {6, 139.7, 215.9}, {7, 184.2, 266.7}, {8, 297, 420},     {9, 210, 297},
+                             {10, 210, 297},    {11, 148, 210},    {12, 257, 364},    {13, 182, 257},
+                             {28, 162, 229},    {27, 110, 220},    {43, 100, 148},    {66, 420, 594},
+                             {69, 200, 148},    {70, 105, 148},    {88, 128, 182}};
 
 // "210mm", "8.5in"
-double measure(const QString& value) {
+double Measure(const QString& value) {
     const double number = value.left(value.size() - 2).toDouble();
     if (value.endsWith(u"mm")) return number * pointsPerMillimetre;
     if (value.endsWith(u"cm")) return number * pointsPerMillimetre * 10;
-    if (value.endsWith(u"in")) return number * pointsPerInch;
+    if (value.endsWith(u"in")) return number * kPointsPerInch;
     return value.endsWith(u"pt") ? number : 0;
 }
 
@@ -61,13 +62,13 @@ class Reader {
         openWorkbook();
         readStyles();
         pugi::xml_document document;
-        if (!parts_.load(sheetPart_, document) || !isNamed(document.document_element(), "worksheet"))
+        if (!parts_.load(sheetPart_, document) || !IsNamed(document.document_element(), "worksheet"))
             noSheet();
         const auto root = document.document_element();
         readFormat(root);
-        readColumns(childNamed(root, "cols"));
-        readRows(childNamed(root, "sheetData"));
-        readMerges(childNamed(root, "mergeCells"));
+        readColumns(ChildNamed(root, "cols"));
+        readRows(ChildNamed(root, "sheetData"));
+        readMerges(ChildNamed(root, "mergeCells"));
         readPage(root);
         readNames();
         warn(root);
@@ -76,28 +77,25 @@ class Reader {
 
  private:
     [[noreturn]] void noSheet() const {
-        throw MissingSheet(1004, QStringLiteral("'%1': シート '%2' がありません。").arg(file_, sheet_.name));
+        throw MissingSheet(1004, u"'%1': シート '%2' がありません。"_s.arg(file_, sheet_.name));
     }
 
     void openWorkbook() {
-        workbookPart_ = QStringLiteral("xl/workbook.xml");
-        for (const auto& relation : parts_.relations(QString())) {
+        workbookPart_ = u"xl/workbook.xml"_s;
+        for (const auto& relation : parts_.relations(QString()))
             if (relation.type == u"officeDocument") workbookPart_ = relation.part;
-        }
-        if (!parts_.load(workbookPart_, workbook_))
-            parts_.fail(QStringLiteral("ブック (.xlsx) の形式ではありません。"));
+        if (!parts_.load(workbookPart_, workbook_)) parts_.fail(u"ブック (.xlsx) の形式ではありません。"_s);
         relations_ = parts_.relations(workbookPart_);
 
         const auto root = workbook_.document_element();
-        from1904_ = isOn(childNamed(root, "workbookPr").attribute("date1904"));
+        from1904_ = IsOn(ChildNamed(root, "workbookPr").attribute("date1904"));
         int index = 0;
-        for (const auto& node : childNamed(root, "sheets")) {
-            if (text(node.attribute("name")).compare(sheet_.name, Qt::CaseInsensitive) == 0) {
+        for (const auto& node : ChildNamed(root, "sheets")) {
+            if (Text(node.attribute("name")).compare(sheet_.name, Qt::CaseInsensitive) == 0) {
                 sheetIndex_ = index;
-                const QString id = text(prefixedAttribute(node, "id"));
-                for (const auto& relation : relations_) {
+                const QString id = Text(PrefixedAttribute(node, "id"));
+                for (const auto& relation : relations_)
                     if (relation.id == id) sheetPart_ = relation.part;
-                }
                 break;
             }
             ++index;
@@ -111,13 +109,13 @@ class Reader {
         Cell held;
         bool plain = true;
         for (const auto& child : item) {
-            const bool run = isNamed(child, "r");
-            if (!run && !isNamed(child, "t")) continue;
+            const bool run = IsNamed(child, "r");
+            if (!run && !IsNamed(child, "t")) continue;
             const QString value =
-                unescaped(QString::fromUtf8((run ? childNamed(child, "t") : child).text().get()));
+                Unescaped(QString::fromUtf8((run ? ChildNamed(child, "t") : child).text().get()));
             held.text += value;
             held.runs.push_back({value.size(), {}});
-            if (const auto look = childNamed(child, "rPr")) {
+            if (const auto look = ChildNamed(child, "rPr")) {
                 held.runs.back().font = readFont_(look);
                 plain = false;
             }
@@ -147,20 +145,19 @@ class Reader {
         digitPixels_ = DigitPixels(normal_);
         for (const CellStyle& style : sheet_.styles)
             isDate_.push_back(IsDateFormat(style.numberFormat));
-        for (const auto& item : strings.document_element()) {
-            if (isNamed(item, "si")) strings_.push_back(stringItem(item));
-        }
+        for (const auto& item : strings.document_element())
+            if (IsNamed(item, "si")) strings_.push_back(stringItem(item));
     }
 
     void readFormat(const pugi::xml_node& root) {
-        const auto node = childNamed(root, "sheetFormatPr");
+        const auto node = ChildNamed(root, "sheetFormatPr");
         const auto width = node.attribute("defaultColWidth");
         const int base = std::clamp(node.attribute("baseColWidth").as_int(8), 0, 255);
         sheet_.defaultColumnWidth =
             width ? ColumnPoints(length(width, 255), digitPixels_) : DefaultColumnPoints(base, digitPixels_);
         if (const auto height = node.attribute("defaultRowHeight"))
             sheet_.defaultRowHeight = length(height, 409.5);
-        if (isOn(node.attribute("zeroHeight"))) sheet_.defaultRowHeight = 0;
+        if (IsOn(node.attribute("zeroHeight"))) sheet_.defaultRowHeight = 0;
     }
 
     static double length(const pugi::xml_attribute& attribute, double largest, double otherwise = 0) {
@@ -173,9 +170,9 @@ class Reader {
         bool thin = false;
         for (const auto& node : cols) {
             const int first = std::max(node.attribute("min").as_int(), done + 1);
-            const int last = std::min(node.attribute("max").as_int(), lastSheetColumn);
+            const int last = std::min(node.attribute("max").as_int(), kLastSheetColumn);
             const auto width = node.attribute("width");
-            const bool hidden = isOn(node.attribute("hidden"));
+            const bool hidden = IsOn(node.attribute("hidden"));
             const int style = node.attribute("style").as_int();
             for (int column = first; column <= last; ++column) {
                 if (hidden) {
@@ -189,21 +186,21 @@ class Reader {
             done = std::max(done, last);
         }
         if (thin) {
-            sheet_.warnings += QStringLiteral(
-                "幅 0 の列は、ほかの表計算ソフトでは見えてしまいます。隠すには「非表示」にします。");
+            sheet_.warnings +=
+                u"幅 0 の列は、ほかの表計算ソフトでは見えてしまいます。隠すには「非表示」にします。"_s;
         }
     }
 
     void readRows(const pugi::xml_node& data) {
         int row = 0;
         for (const auto& node : data) {
-            if (!isNamed(node, "row")) continue;
+            if (!IsNamed(node, "row")) continue;
             row = node.attribute("r").as_int(row + 1);
-            if (row < 1 || row > lastSheetRow) parts_.fail(QStringLiteral("行の番号が正しくありません。"));
+            if (row < 1 || row > kLastSheetRow) parts_.fail(u"行の番号が正しくありません。"_s);
             const int style = node.attribute("s").as_int();
-            if (style > 0 && isOn(node.attribute("customFormat"))) sheet_.rowStyles[row] = style;
+            if (style > 0 && IsOn(node.attribute("customFormat"))) sheet_.rowStyles[row] = style;
             const double tallestFont = readCells(node, row);
-            if (isOn(node.attribute("hidden"))) {
+            if (IsOn(node.attribute("hidden"))) {
                 sheet_.rowHeights[row] = 0;
             } else if (const auto height = node.attribute("ht")) {
                 sheet_.rowHeights[row] = length(height, 409.5);
@@ -219,26 +216,24 @@ class Reader {
         double tallestFont = 0;
         CellAddress at{rowNumber, 0};
         for (const auto& node : row) {
-            if (!isNamed(node, "c")) continue;
-            if (const auto address = node.attribute("r")) {
-                at = ParseRange(text(address)).first;
-            } else {
+            if (!IsNamed(node, "c")) continue;
+            if (const auto address = node.attribute("r"))
+                at = ParseRange(Text(address)).first;
+            else
                 ++at.column;
-            }
-            if (at.column > lastSheetColumn) parts_.fail(QStringLiteral("列の番号が正しくありません。"));
+            if (at.column > kLastSheetColumn) parts_.fail(u"列の番号が正しくありません。"_s);
             Cell cell;
             const auto style = static_cast<size_t>(node.attribute("s").as_uint());
             if (style < sheet_.styles.size()) cell.style = static_cast<int>(style);
             const QString& format = sheet_.styles[static_cast<size_t>(cell.style)].numberFormat;
             if (!IsKnownFormat(format) && !unknownFormats_.contains(format)) unknownFormats_ += format;
             readValue(node, cell);
-            if (childNamed(node, "f")) {
+            if (ChildNamed(node, "f")) {
                 ++formulas_;
-                if (formulas_ == 1) firstFormula_ = text(node.attribute("r"));
+                if (formulas_ == 1) firstFormula_ = Text(node.attribute("r"));
             }
-            if (!cell.text.isEmpty() || cell.number) {
+            if (!cell.text.isEmpty() || cell.number)
                 tallestFont = std::max(tallestFont, sheet_.styles[static_cast<size_t>(cell.style)].font.size);
-            }
             sheet_.cells.insert_or_assign(at, std::move(cell));
         }
         return tallestFont;
@@ -249,11 +244,11 @@ class Reader {
         const auto is = [type](const char* name) { return std::strcmp(type, name) == 0; };
         if (is("inlineStr")) {
             const int style = cell.style;
-            cell = stringItem(childNamed(node, "is"));
+            cell = stringItem(ChildNamed(node, "is"));
             cell.style = style;
             return;
         }
-        const auto valueNode = childNamed(node, "v");
+        const auto valueNode = ChildNamed(node, "v");
         if (!valueNode) return;
         const QByteArray value = valueNode.text().get();
         if (is("s")) {
@@ -263,9 +258,9 @@ class Reader {
             cell.text = strings_[index].text;
             cell.runs = strings_[index].runs;
         } else if (is("b")) {
-            cell.text = value.trimmed() == "1" ? QStringLiteral("TRUE") : QStringLiteral("FALSE");
+            cell.text = value.trimmed() == "1" ? u"TRUE"_s : u"FALSE"_s;
         } else if (is("str") || is("e") || is("d")) {
-            cell.text = unescaped(QString::fromUtf8(value));
+            cell.text = Unescaped(QString::fromUtf8(value));
         } else {
             bool ok = false;
             double number = value.trimmed().toDouble(&ok);
@@ -281,23 +276,23 @@ class Reader {
 
     void readMerges(const pugi::xml_node& merges) {
         for (const auto& node : merges) {
-            if (!isNamed(node, "mergeCell")) continue;
-            const CellRange range = ParseRange(text(node.attribute("ref")));
+            if (!IsNamed(node, "mergeCell")) continue;
+            const CellRange range = ParseRange(Text(node.attribute("ref")));
             if (range.first != range.last) sheet_.merges.push_back(range);
         }
     }
 
     void readPage(const pugi::xml_node& root) {
         PageSetup& page = sheet_.page;
-        const auto setup = childNamed(root, "pageSetup");
+        const auto setup = ChildNamed(root, "pageSetup");
         const int code = setup.attribute("paperSize").as_int(9);
-        for (const Paper& paper : papers) {
+        for (const Paper& paper : kPapers) {
             if (paper.code != code) continue;
             page.paperWidth = paper.width * pointsPerMillimetre;
             page.paperHeight = paper.height * pointsPerMillimetre;
         }
-        const double ownWidth = measure(text(setup.attribute("paperWidth")));
-        const double ownHeight = measure(text(setup.attribute("paperHeight")));
+        const double ownWidth = Measure(Text(setup.attribute("paperWidth")));
+        const double ownHeight = Measure(Text(setup.attribute("paperHeight")));
         constexpr double smallestPaper = 36, largestPaper = 4000;
         if (std::min(ownWidth, ownHeight) >= smallestPaper && std::max(ownWidth, ownHeight) <= largestPaper) {
             page.paperWidth = ownWidth;
@@ -306,16 +301,16 @@ class Reader {
         page.landscape = std::strcmp(setup.attribute("orientation").value(), "landscape") == 0;
         if (page.landscape) std::swap(page.paperWidth, page.paperHeight);
         page.scalePercent = std::clamp(setup.attribute("scale").as_int(100), 10, 400);
-        page.fitToPage = isOn(childNamed(childNamed(root, "sheetPr"), "pageSetUpPr").attribute("fitToPage"));
+        page.fitToPage = IsOn(ChildNamed(ChildNamed(root, "sheetPr"), "pageSetUpPr").attribute("fitToPage"));
         page.fitWidth = std::clamp(setup.attribute("fitToWidth").as_int(1), 0, 32767);
         page.fitHeight = std::clamp(setup.attribute("fitToHeight").as_int(1), 0, 32767);
 
-        if (const auto margins = childNamed(root, "pageMargins")) {
+        if (const auto margins = ChildNamed(root, "pageMargins")) {
             // Margins that meet would leave nothing to print on.
             const double widest = page.paperWidth * 0.45, tallest = page.paperHeight * 0.45;
             const auto margin = [&](const char* name, double largest, double otherwise) {
-                return length(margins.attribute(name), largest / pointsPerInch, otherwise / pointsPerInch) *
-                       pointsPerInch;
+                return length(margins.attribute(name), largest / kPointsPerInch, otherwise / kPointsPerInch) *
+                       kPointsPerInch;
             };
             page.left = margin("left", widest, page.left);
             page.right = margin("right", widest, page.right);
@@ -324,25 +319,25 @@ class Reader {
             page.header = margin("header", tallest, page.header);
             page.footer = margin("footer", tallest, page.footer);
         }
-        const auto options = childNamed(root, "printOptions");
-        page.centerHorizontally = isOn(options.attribute("horizontalCentered"));
-        page.centerVertically = isOn(options.attribute("verticalCentered"));
-        page.gridLines = isOn(options.attribute("gridLines"));
-        const auto texts = childNamed(root, "headerFooter");
-        page.headerText = unescaped(QString::fromUtf8(childNamed(texts, "oddHeader").text().get()));
-        page.footerText = unescaped(QString::fromUtf8(childNamed(texts, "oddFooter").text().get()));
-        page.headersScale = isOn(texts.attribute("scaleWithDoc"), true);
-        for (const auto& node : childNamed(root, "rowBreaks")) {
+        const auto options = ChildNamed(root, "printOptions");
+        page.centerHorizontally = IsOn(options.attribute("horizontalCentered"));
+        page.centerVertically = IsOn(options.attribute("verticalCentered"));
+        page.gridLines = IsOn(options.attribute("gridLines"));
+        const auto texts = ChildNamed(root, "headerFooter");
+        page.headerText = Unescaped(QString::fromUtf8(ChildNamed(texts, "oddHeader").text().get()));
+        page.footerText = Unescaped(QString::fromUtf8(ChildNamed(texts, "oddFooter").text().get()));
+        page.headersScale = IsOn(texts.attribute("scaleWithDoc"), true);
+        for (const auto& node : ChildNamed(root, "rowBreaks")) {
             const int row = node.attribute("id").as_int();
-            if (row >= 1 && row < lastSheetRow) page.rowBreaks.push_back(row);
+            if (row >= 1 && row < kLastSheetRow) page.rowBreaks.push_back(row);
         }
         std::sort(page.rowBreaks.begin(), page.rowBreaks.end());
     }
 
     void readNames() {
-        for (const auto& node : childNamed(workbook_.document_element(), "definedNames")) {
+        for (const auto& node : ChildNamed(workbook_.document_element(), "definedNames")) {
             if (node.attribute("localSheetId").as_int(-1) != sheetIndex_) continue;
-            const QString name = text(node.attribute("name"));
+            const QString name = Text(node.attribute("name"));
             const QString value = QString::fromUtf8(node.text().get());
             if (name == u"_xlnm.Print_Area") readPrintArea(value);
             if (name == u"_xlnm.Print_Titles") readPrintTitles(value);
@@ -353,29 +348,27 @@ class Reader {
     static QStringList ranges(const QString& value) {
         QStringList found{QString()};
         bool quoted = false;
-        for (const QChar c : value) {
-            if (c == u'\'') {
+        for (const QChar c : value)
+            if (c == u'\'')
                 quoted = !quoted;
-            } else if (quoted || c == u'$') {
+            else if (quoted || c == u'$')
                 continue;
-            } else if (c == u'!') {
+            else if (c == u'!')
                 found.last().clear();
-            } else if (c == u',') {
+            else if (c == u',')
                 found += QString();
-            } else {
+            else
                 found.last() += c;
-            }
-        }
         return found;
     }
 
     void readPrintArea(const QString& value) {
         const QStringList areas = ranges(value);
-        if (areas.size() > 1) sheet_.warnings += QStringLiteral("印刷範囲は最初の1つだけが使われます。");
+        if (areas.size() > 1) sheet_.warnings += u"印刷範囲は最初の1つだけが使われます。"_s;
         try {
             sheet_.page.printArea = ParseRange(areas.first());
         } catch (const RuntimeError&) {
-            sheet_.warnings += QStringLiteral("印刷範囲 '%1' は使えません。").arg(value);
+            sheet_.warnings += u"印刷範囲 '%1' は使えません。"_s.arg(value);
         }
     }
 
@@ -384,9 +377,8 @@ class Reader {
             const QStringList ends = range.split(u':');
             bool first = false, last = false;
             const int from = ends.first().toInt(&first), to = ends.last().toInt(&last);
-            if (!first || !last || from < 1 || to < from || to > lastSheetRow) {
-                sheet_.warnings +=
-                    QStringLiteral("印刷タイトル '%1' は使えません(行だけが使えます)。").arg(range);
+            if (!first || !last || from < 1 || to < from || to > kLastSheetRow) {
+                sheet_.warnings += u"印刷タイトル '%1' は使えません(行だけが使えます)。"_s.arg(range);
                 continue;
             }
             sheet_.page.titleFirstRow = from;
@@ -397,13 +389,12 @@ class Reader {
     void warn(const pugi::xml_node& root) {
         if (formulas_ > 0) {
             sheet_.warnings +=
-                QStringLiteral("数式は計算されず、保存された値が印刷されます (%1 など %2 個)。")
-                    .arg(firstFormula_)
+                u"数式は計算されず、保存された値が印刷されます (%1 など %2 個)。"_s.arg(firstFormula_)
                     .arg(formulas_);
         }
         if (!unknownFormats_.isEmpty()) {
-            sheet_.warnings += QStringLiteral("表示形式 %1 は使えません。数値は「標準」で印刷されます。")
-                                   .arg(unknownFormats_.join(QStringLiteral("、")));
+            sheet_.warnings += u"表示形式 %1 は使えません。数値は「標準」で印刷されます。"_s.arg(
+                unknownFormats_.join(u"、"_s));
         }
         static constexpr struct {
             const char* element;
@@ -412,9 +403,8 @@ class Reader {
                        {"drawing", u"図・図形・テキスト ボックスは印刷されません。"},
                        {"picture", u"シートの背景は印刷されません。"},
                        {"colBreaks", u"列の改ページは使われません。"}};
-        for (const auto& [element, what] : unshown) {
-            if (childNamed(root, element)) sheet_.warnings += QString::fromUtf16(what);
-        }
+        for (const auto& [element, what] : unshown)
+            if (ChildNamed(root, element)) sheet_.warnings += QString::fromUtf16(what);
     }
 
     WorkbookParts parts_;

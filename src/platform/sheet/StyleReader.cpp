@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/IndexedColor.h"
 #include "platform/sheet/WorkbookParts.h"
 
@@ -12,18 +13,18 @@ namespace akarix {
 
 namespace {
 
-QString text(const pugi::xml_attribute& attribute) {
+QString Text(const pugi::xml_attribute& attribute) {
     return QString::fromUtf8(attribute.value());
 }
 
 template <class T>
-T at(const std::vector<T>& list, const pugi::xml_attribute& index) {
+T At(const std::vector<T>& list, const pugi::xml_attribute& index) {
     const auto i = static_cast<size_t>(index.as_uint());
     return i < list.size() ? list[i] : T{};
 }
 
 // The formats that a workbook names by number alone, as a Japanese spreadsheet has them.
-QString builtInFormat(int id) {
+QString BuiltInFormat(int id) {
     static constexpr const char16_t *eraDots = u"[$-411]ge.m.d",
                                     *eraLong = u"[$-411]ggge\"年\"m\"月\"d\"日\"",
                                     *yearMonth = u"yyyy\"年\"m\"月\"", *monthDay = u"m\"月\"d\"日\"";
@@ -84,10 +85,9 @@ QString builtInFormat(int id) {
                    {56, monthDay},
                    {57, eraDots},
                    {58, eraLong}};
-    for (const auto& format : formats) {
+    for (const auto& format : formats)
         if (format.id == id) return QString::fromUtf16(format.code);
-    }
-    return QStringLiteral("General");
+    return u"General"_s;
 }
 
 class Reader {
@@ -96,24 +96,22 @@ class Reader {
         : root_(styles.document_element()) {
         readTheme(theme.document_element());
         int index = 0;
-        for (const auto& node : childNamed(childNamed(root_, "colors"), "indexedColors")) {
-            palette_[index++] = argb(text(node.attribute("rgb")));
-        }
+        for (const auto& node : ChildNamed(ChildNamed(root_, "colors"), "indexedColors"))
+            palette_[index++] = argb(Text(node.attribute("rgb")));
     }
 
     WorkbookStyles read() {
-        for (const auto& node : childNamed(root_, "numFmts")) {
-            formats_[node.attribute("numFmtId").as_int()] = text(node.attribute("formatCode"));
-        }
-        for (const auto& node : childNamed(root_, "fonts"))
+        for (const auto& node : ChildNamed(root_, "numFmts"))
+            formats_[node.attribute("numFmtId").as_int()] = Text(node.attribute("formatCode"));
+        for (const auto& node : ChildNamed(root_, "fonts"))
             fonts_.push_back(font(node));
-        for (const auto& node : childNamed(root_, "fills"))
-            fills_.push_back(fill(childNamed(node, "patternFill")));
-        for (const auto& node : childNamed(root_, "borders"))
+        for (const auto& node : ChildNamed(root_, "fills"))
+            fills_.push_back(fill(ChildNamed(node, "patternFill")));
+        for (const auto& node : ChildNamed(root_, "borders"))
             borders_.push_back(borders(node));
 
         WorkbookStyles styles;
-        for (const auto& node : childNamed(root_, "cellXfs"))
+        for (const auto& node : ChildNamed(root_, "cellXfs"))
             styles.cells.push_back(cellStyle(node));
         if (styles.cells.empty()) styles.cells.emplace_back();
         styles.normal = normalFont(styles.cells.front().font);
@@ -131,10 +129,10 @@ class Reader {
         static const char* const order[] = {"lt1",     "dk1",     "lt2",     "dk2",
                                             "accent1", "accent2", "accent3", "accent4",
                                             "accent5", "accent6", "hlink",   "folHlink"};
-        const auto scheme = childNamed(childNamed(theme, "themeElements"), "clrScheme");
+        const auto scheme = ChildNamed(ChildNamed(theme, "themeElements"), "clrScheme");
         for (const char* name : order) {
-            const auto color = childNamed(scheme, name).first_child();
-            theme_.push_back(argb(text(color.attribute(isNamed(color, "sysClr") ? "lastClr" : "val"))));
+            const auto color = ChildNamed(scheme, name).first_child();
+            theme_.push_back(argb(Text(color.attribute(IsNamed(color, "sysClr") ? "lastClr" : "val"))));
         }
     }
 
@@ -142,13 +140,12 @@ class Reader {
 
     QColor color(const pugi::xml_node& node, const QColor& automatic) const {
         QColor found;
-        if (const auto rgb = node.attribute("rgb")) {
-            found = argb(text(rgb));
-        } else if (const auto theme = node.attribute("theme")) {
-            found = at(theme_, theme);
-        } else if (const auto index = node.attribute("indexed")) {
+        if (const auto rgb = node.attribute("rgb"))
+            found = argb(Text(rgb));
+        else if (const auto theme = node.attribute("theme"))
+            found = At(theme_, theme);
+        else if (const auto index = node.attribute("indexed"))
             found = palette_.value(index.as_int(), IndexedColor(index.as_int()));
-        }
         if (!found.isValid()) return automatic;
         const double tint = std::clamp(node.attribute("tint").as_double(), -1.0, 1.0);
         if (tint == 0 || std::isnan(tint)) return found;
@@ -160,26 +157,24 @@ class Reader {
     }
 
     static bool flag(const pugi::xml_node& parent, const char* name) {
-        const auto node = childNamed(parent, name);
-        return node && isOn(node.attribute("val"), true);
+        const auto node = ChildNamed(parent, name);
+        return node && IsOn(node.attribute("val"), true);
     }
 
     SheetFont font(const pugi::xml_node& node) const {
         SheetFont font;
-        for (const char* tag : {"name", "rFont"}) {
-            if (const auto name = childNamed(node, tag)) font.name = text(name.attribute("val"));
-        }
-        if (const auto size = childNamed(node, "sz")) {
+        for (const char* tag : {"name", "rFont"})
+            if (const auto name = ChildNamed(node, tag)) font.name = Text(name.attribute("val"));
+        if (const auto size = ChildNamed(node, "sz"))
             font.size = std::clamp(size.attribute("val").as_double(font.size), 1.0, 409.0);
-        }
         font.bold = flag(node, "b");
         font.italic = flag(node, "i");
         font.strikeout = flag(node, "strike");
-        const auto underline = childNamed(node, "u");
+        const auto underline = ChildNamed(node, "u");
         font.underline = underline && std::strcmp(underline.attribute("val").value(), "none") != 0;
-        const QByteArray place = childNamed(node, "vertAlign").attribute("val").value();
+        const QByteArray place = ChildNamed(node, "vertAlign").attribute("val").value();
         font.raised = place == "superscript" ? 1 : place == "subscript" ? -1 : 0;
-        font.color = color(childNamed(node, "color"), Qt::black);
+        font.color = color(ChildNamed(node, "color"), Qt::black);
         return font;
     }
 
@@ -196,9 +191,9 @@ class Reader {
         const auto density = densities.find(type);
         if (density == densities.end()) return {};
         const bool solid = *density >= 1;
-        const QColor front = color(childNamed(node, "fgColor"), solid ? QColor() : QColor(Qt::black));
+        const QColor front = color(ChildNamed(node, "fgColor"), solid ? QColor() : QColor(Qt::black));
         if (solid || !front.isValid()) return front;
-        const QColor back = color(childNamed(node, "bgColor"), Qt::white);
+        const QColor back = color(ChildNamed(node, "bgColor"), Qt::white);
         const auto mixed = [&](float a, float b) {
             return a * static_cast<float>(*density) + b * static_cast<float>(1 - *density);
         };
@@ -222,28 +217,28 @@ class Reader {
             {"dashDotDot", BorderStyle::DashDotDot},
             {"mediumDashDotDot", BorderStyle::MediumDashDotDot}};
         return {styles.value(node.attribute("style").value(), BorderStyle::None),
-                color(childNamed(node, "color"), Qt::black)};
+                color(ChildNamed(node, "color"), Qt::black)};
     }
 
     Borders borders(const pugi::xml_node& node) const {
         const auto side = [&](const char* name, const char* other) {
-            const auto found = childNamed(node, name);
-            return border(found ? found : childNamed(node, other));
+            const auto found = ChildNamed(node, name);
+            return border(found ? found : ChildNamed(node, other));
         };
-        const Border diagonal = border(childNamed(node, "diagonal"));
+        const Border diagonal = border(ChildNamed(node, "diagonal"));
         return {side("left", "start"),
                 side("right", "end"),
                 side("top", "top"),
                 side("bottom", "bottom"),
-                isOn(node.attribute("diagonalDown")) ? diagonal : Border(),
-                isOn(node.attribute("diagonalUp")) ? diagonal : Border()};
+                IsOn(node.attribute("diagonalDown")) ? diagonal : Border(),
+                IsOn(node.attribute("diagonalUp")) ? diagonal : Border()};
     }
 
     CellStyle cellStyle(const pugi::xml_node& node) const {
         CellStyle style;
-        style.font = at(fonts_, node.attribute("fontId"));
-        style.fill = at(fills_, node.attribute("fillId"));
-        const Borders lines = at(borders_, node.attribute("borderId"));
+        style.font = At(fonts_, node.attribute("fontId"));
+        style.fill = At(fills_, node.attribute("fillId"));
+        const Borders lines = At(borders_, node.attribute("borderId"));
         style.left = lines.left;
         style.right = lines.right;
         style.top = lines.top;
@@ -251,8 +246,8 @@ class Reader {
         style.falling = lines.falling;
         style.rising = lines.rising;
         const int format = node.attribute("numFmtId").as_int();
-        style.numberFormat = formats_.contains(format) ? formats_[format] : builtInFormat(format);
-        align(style, childNamed(node, "alignment"));
+        style.numberFormat = formats_.contains(format) ? formats_[format] : BuiltInFormat(format);
+        align(style, ChildNamed(node, "alignment"));
         return style;
     }
 
@@ -271,8 +266,8 @@ class Reader {
                                                                 {"distributed", VerticalAlign::Distributed}};
         style.horizontal = horizontals.value(node.attribute("horizontal").value(), HorizontalAlign::General);
         style.vertical = verticals.value(node.attribute("vertical").value(), VerticalAlign::Bottom);
-        style.wrap = isOn(node.attribute("wrapText"));
-        style.shrink = isOn(node.attribute("shrinkToFit"));
+        style.wrap = IsOn(node.attribute("wrapText"));
+        style.shrink = IsOn(node.attribute("shrinkToFit"));
         style.indent = std::clamp(node.attribute("indent").as_int(), 0, 250);
         const int rotation = node.attribute("textRotation").as_int();
         // Angles below the horizontal are written as 91 to 180.
@@ -283,12 +278,12 @@ class Reader {
 
     SheetFont normalFont(const SheetFont& otherwise) const {
         unsigned index = 0;
-        for (const auto& style : childNamed(root_, "cellStyles")) {
+        for (const auto& style : ChildNamed(root_, "cellStyles")) {
             const auto builtIn = style.attribute("builtinId");
             if (builtIn && builtIn.as_int() == 0) index = style.attribute("xfId").as_uint();
         }
         unsigned at = 0;
-        for (const auto& xf : childNamed(root_, "cellStyleXfs")) {
+        for (const auto& xf : ChildNamed(root_, "cellStyleXfs")) {
             if (at++ != index) continue;
             const auto font = static_cast<size_t>(xf.attribute("fontId").as_uint());
             if (font < fonts_.size()) return fonts_[font];

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "platform/print/PaperFont.h"
+#include "platform/runtime/Literals.h"
 #include "platform/sheet/SheetLayout.h"
 
 namespace akarix {
@@ -71,11 +72,10 @@ QStringList Pieces(const QString& text) {
     for (qsizetype from = 0, to = finder.toNextBoundary(); to > 0; from = to, to = finder.toNextBoundary()) {
         const QString piece = text.mid(from, to - from);
         const bool word = IsWordLetter(piece.front());
-        if (word && from > 0 && IsWordLetter(text.at(from - 1))) {
+        if (word && from > 0 && IsWordLetter(text.at(from - 1)))
             pieces.last() += piece;
-        } else if (!piece.front().isSpace()) {
+        else if (!piece.front().isSpace())
             pieces += piece;
-        }
     }
     return pieces;
 }
@@ -100,9 +100,8 @@ QStringList Wrapped(const QString& text, double room, Measure measure) {
             // As many letters as fit, at least one.
             while (measure(start + to - piece.size(), piece.trimmed()) > room && piece.size() > 1) {
                 qsizetype length = 1;
-                while (measure(start + to - piece.size(), piece.left(length + 1)) <= room) {
+                while (measure(start + to - piece.size(), piece.left(length + 1)) <= room)
                     ++length;
-                }
                 lines += piece.left(length);
                 piece.remove(0, length);
             }
@@ -131,13 +130,12 @@ class TextSetter {
 
     void paint() {
         painter_.setPen(shown_.color.isValid() ? shown_.color : style_.font.color);
-        if (style_.rotation == Upright) {
+        if (style_.rotation == Upright)
             paintUpright();
-        } else if (style_.rotation != 0) {
+        else if (style_.rotation != 0)
             paintRotated();
-        } else {
+        else
             paintLines();
-        }
     }
 
  private:
@@ -150,8 +148,9 @@ class TextSetter {
     void paintLines() {
         QStringList lines;
         if (!shown_.number && (Wraps(style_) || align_ == HorizontalAlign::Distributed)) {
-            lines = Wrapped(shown_.text, room(),
-                            [this](qsizetype from, const QString& part) { return width(from, part); });
+            lines = Wrapped(
+                shown_.text, room(),
+                [this](qsizetype from, const QString& part) { return width(from, part); });
         } else {
             QString line = shown_.text;
             lines += line.remove(QLatin1Char('\n'));
@@ -208,7 +207,7 @@ class TextSetter {
         if (width <= most) return 1;
         if (font_->substituted() && width * NarrowestLetters <= most) return most / width;
         if (!shown_.number) return 1;
-        const double mark = font_->width(QStringLiteral("#"));
+        const double mark = font_->width(u"#"_s);
         line = QString(std::max(1, static_cast<int>(most / mark)), QLatin1Char('#'));
         return 1;
     }
@@ -244,9 +243,8 @@ class TextSetter {
     void paintSpread(const QString& line, double baseline) {
         const QStringList pieces = Pieces(line);
         double total = 0;
-        for (const QString& piece : pieces) {
+        for (const QString& piece : pieces)
             total += font_->width(piece);
-        }
         if (pieces.size() < 2 || total > room()) {
             font_->draw(painter_, {box_.center().x() - font_->width(line) / 2, baseline}, line);
             return;
@@ -412,9 +410,8 @@ class TextSetter {
     }
 
     void paintUprightLetter(QChar letter, const QRectF& square) {
-        static const QString turned =
-            QStringLiteral("（）「」『』［］｛｝〈〉《》【】〔〕()[]{}<>ー～－―…‥-~=＝：；｜");
-        static const QString cornered = QStringLiteral("、。，．");
+        static const QString turned = u"（）「」『』［］｛｝〈〉《》【】〔〕()[]{}<>ー～－―…‥-~=＝：；｜"_s;
+        static const QString cornered = u"、。，．"_s;
         const QString text(letter);
         const double width = font_->width(text);
         if (turned.contains(letter)) {

@@ -56,10 +56,9 @@ std::optional<double> ParseTypedDate(QStringView text) {
     }
     if (numbers.size() == 2) {
         int year = Year(Today());
-        if (numbers == QList<int>{2, 29}) {
+        if (numbers == QList<int>{2, 29})
             while (!QDate::isLeapYear(year))
                 --year;
-        }
         numbers.prepend(year);
     }
     const QDate date(numbers[0], numbers[1], numbers[2]);

@@ -2,15 +2,17 @@
 
 #include <cstring>
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix {
 
 namespace {
 
 // A report's template is some dozen kilobytes; these bounds are for files made to exhaust the machine.
-constexpr qint64 largestFile = 32LL << 20;
-constexpr qint64 largestUnpacked = 128LL << 20;
+constexpr qint64 kLargestFile = 32LL << 20;
+constexpr qint64 kLargestUnpacked = 128LL << 20;
 
-QString resolved(const QString& base, const QString& target) {
+QString Resolved(const QString& base, const QString& target) {
     QStringList names = target.startsWith(u'/') ? QStringList() : base.split(u'/').mid(0, base.count(u'/'));
     for (const QString& name : target.split(u'/', Qt::SkipEmptyParts)) {
         if (name == u"..") {
@@ -22,15 +24,15 @@ QString resolved(const QString& base, const QString& target) {
     return names.join(u'/');
 }
 
-const char* localName(const char* name) {
+const char* LocalName(const char* name) {
     const char* colon = std::strchr(name, ':');
     return colon ? colon + 1 : name;
 }
 
 }  // namespace
 
-WorkbookParts::WorkbookParts(const QString& path) : archive_(path, {largestFile, largestUnpacked}) {
-    if (!archive_.isArchive()) fail(QStringLiteral("ブック (.xlsx) の形式ではありません。"));
+WorkbookParts::WorkbookParts(const QString& path) : archive_(path, {kLargestFile, kLargestUnpacked}) {
+    if (!archive_.isArchive()) fail(u"ブック (.xlsx) の形式ではありません。"_s);
 }
 
 void WorkbookParts::fail(const QString& reason) const {
@@ -42,49 +44,46 @@ bool WorkbookParts::load(const QString& part, pugi::xml_document& document) {
     if (!data) return false;
     const auto result = document.load_buffer(data->constData(), static_cast<size_t>(data->size()),
                                              pugi::parse_default | pugi::parse_ws_pcdata_single);
-    if (!result) fail(QStringLiteral("'%1' が壊れています。").arg(part));
+    if (!result) fail(u"'%1' が壊れています。"_s.arg(part));
     return true;
 }
 
 std::vector<WorkbookParts::Relation> WorkbookParts::relations(const QString& part) {
     const qsizetype slash = part.lastIndexOf(u'/');
-    const QString listed =
-        part.left(slash + 1) + QStringLiteral("_rels/") + part.mid(slash + 1) + QStringLiteral(".rels");
+    const QString listed = part.left(slash + 1) + u"_rels/"_s + part.mid(slash + 1) + u".rels"_s;
     std::vector<Relation> found;
     pugi::xml_document document;
     if (!load(listed, document)) return found;
     for (const pugi::xml_node& node : document.document_element()) {
-        if (!isNamed(node, "Relationship") ||
+        if (!IsNamed(node, "Relationship") ||
             std::strcmp(node.attribute("TargetMode").value(), "External") == 0)
             continue;
         const QString type = QString::fromUtf8(node.attribute("Type").value());
         found.push_back({QString::fromUtf8(node.attribute("Id").value()),
                          type.mid(type.lastIndexOf(u'/') + 1),
-                         resolved(part, QString::fromUtf8(node.attribute("Target").value()))});
+                         Resolved(part, QString::fromUtf8(node.attribute("Target").value()))});
     }
     return found;
 }
 
-bool isNamed(const pugi::xml_node& node, const char* name) {
-    return std::strcmp(localName(node.name()), name) == 0;
+bool IsNamed(const pugi::xml_node& node, const char* name) {
+    return std::strcmp(LocalName(node.name()), name) == 0;
 }
 
-pugi::xml_node childNamed(const pugi::xml_node& parent, const char* name) {
-    for (const pugi::xml_node& child : parent) {
-        if (isNamed(child, name)) return child;
-    }
+pugi::xml_node ChildNamed(const pugi::xml_node& parent, const char* name) {
+    for (const pugi::xml_node& child : parent)
+        if (IsNamed(child, name)) return child;
     return {};
 }
 
-pugi::xml_attribute prefixedAttribute(const pugi::xml_node& node, const char* name) {
-    for (const pugi::xml_attribute& attribute : node.attributes()) {
-        if (std::strchr(attribute.name(), ':') && std::strcmp(localName(attribute.name()), name) == 0)
+pugi::xml_attribute PrefixedAttribute(const pugi::xml_node& node, const char* name) {
+    for (const pugi::xml_attribute& attribute : node.attributes())
+        if (std::strchr(attribute.name(), ':') && std::strcmp(LocalName(attribute.name()), name) == 0)
             return attribute;
-    }
     return {};
 }
 
-bool isOn(const pugi::xml_attribute& attribute, bool otherwise) {
+bool IsOn(const pugi::xml_attribute& attribute, bool otherwise) {
     if (!attribute) return otherwise;
     return std::strcmp(attribute.value(), "1") == 0 || std::strcmp(attribute.value(), "true") == 0 ||
            std::strcmp(attribute.value(), "on") == 0;

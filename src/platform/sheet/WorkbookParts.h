@@ -31,10 +31,10 @@ class WorkbookParts {
 };
 
 /// Names without their prefix: which one a namespace got is the writer's whim.
-bool isNamed(const pugi::xml_node& node, const char* name);
-pugi::xml_node childNamed(const pugi::xml_node& parent, const char* name);
-pugi::xml_attribute prefixedAttribute(const pugi::xml_node& node, const char* name);
+bool IsNamed(const pugi::xml_node& node, const char* name);
+pugi::xml_node ChildNamed(const pugi::xml_node& parent, const char* name);
+pugi::xml_attribute PrefixedAttribute(const pugi::xml_node& node, const char* name);
 /// An on/off attribute or element value as SpreadsheetML writes it.
-bool isOn(const pugi::xml_attribute& attribute, bool otherwise = false);
+bool IsOn(const pugi::xml_attribute& attribute, bool otherwise = false);
 
 }  // namespace akarix

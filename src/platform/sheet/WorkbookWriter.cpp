@@ -6,21 +6,23 @@
 #include <filesystem>
 #include <utility>
 
+#include "platform/runtime/Literals.h"
+
 namespace akarix {
 
 namespace {
 
-constexpr const char* normalFont = "ＭＳ Ｐゴシック";
-constexpr double normalDigitPixels = 8;
+constexpr const char* kNormalFont = "ＭＳ Ｐゴシック";
+constexpr double kNormalDigitPixels = 8;
 
 }  // namespace
 
 WorkbookWriter::WorkbookWriter(const QString& path)
     : path_(path),
-      temporary_(path + QStringLiteral(".tmp")),
+      temporary_(path + u".tmp"_s),
       book_(workbook_new(QFile::encodeName(temporary_).constData())) {
     // The library's first format is the workbook's Normal style.
-    format_set_font_name(STAILQ_FIRST(book_->formats), normalFont);
+    format_set_font_name(STAILQ_FIRST(book_->formats), kNormalFont);
 }
 
 WorkbookWriter::~WorkbookWriter() {
@@ -29,7 +31,7 @@ WorkbookWriter::~WorkbookWriter() {
 
 lxw_format* WorkbookWriter::newFormat() const {
     lxw_format* format = workbook_add_format(book_);
-    format_set_font_name(format, normalFont);
+    format_set_font_name(format, kNormalFont);
     return format;
 }
 
@@ -37,7 +39,7 @@ void WorkbookWriter::setColumnWidth(lxw_worksheet* sheet, uint16_t first, uint16
                                     lxw_format* format) {
     // The library adds the padding of its own default font, whose digits are 7 pixels wide.
     constexpr double libraryPadding = 5.0 / 7;
-    worksheet_set_column(sheet, first, last, pixels / normalDigitPixels - libraryPadding, format);
+    worksheet_set_column(sheet, first, last, pixels / kNormalDigitPixels - libraryPadding, format);
 }
 
 bool WorkbookWriter::save() {

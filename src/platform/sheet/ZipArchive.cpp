@@ -5,14 +5,15 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
 
 ZipArchive::ZipArchive(const QString& path, Bounds bounds) : path_(path), bounds_(bounds) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) fail(QStringLiteral("ファイルが見つからないか、開けません。"));
-    if (file.size() > bounds_.file) fail(QStringLiteral("ファイルが大きすぎます。"));
+    if (!file.open(QIODevice::ReadOnly)) fail(u"ファイルが見つからないか、開けません。"_s);
+    if (file.size() > bounds_.file) fail(u"ファイルが大きすぎます。"_s);
     file_ = file.readAll();
     zip_error_t error;
     zip_error_init(&error);
@@ -38,7 +39,7 @@ QStringList ZipArchive::names() const {
 }
 
 void ZipArchive::fail(const QString& reason) const {
-    throw RuntimeError(1004, QStringLiteral("'%1': %2").arg(QFileInfo(path_).fileName(), reason));
+    throw RuntimeError(1004, u"'%1': %2"_s.arg(QFileInfo(path_).fileName(), reason));
 }
 
 std::optional<QByteArray> ZipArchive::bytes(const QString& name) {
@@ -46,7 +47,7 @@ std::optional<QByteArray> ZipArchive::bytes(const QString& name) {
         zip_name_locate(archive_, name.toUtf8().constData(), ZIP_FL_NOCASE | ZIP_FL_ENC_UTF_8);
     if (index < 0) return std::nullopt;
     zip_file_t* file = zip_fopen_index(archive_, static_cast<zip_uint64_t>(index), 0);
-    if (!file) fail(QStringLiteral("'%1' を読めません。").arg(name));
+    if (!file) fail(u"'%1' を読めません。"_s.arg(name));
     // The size that the archive claims is not to be trusted: read until the end or the bound.
     QByteArray data, chunk(1 << 16, Qt::Uninitialized);
     zip_int64_t got = 0;
@@ -56,8 +57,8 @@ std::optional<QByteArray> ZipArchive::bytes(const QString& name) {
         if (unpacked_ > bounds_.unpacked) break;
     }
     zip_fclose(file);
-    if (unpacked_ > bounds_.unpacked) fail(QStringLiteral("ファイルが大きすぎます。"));
-    if (got < 0) fail(QStringLiteral("'%1' が壊れています。").arg(name));
+    if (unpacked_ > bounds_.unpacked) fail(u"ファイルが大きすぎます。"_s);
+    if (got < 0) fail(u"'%1' が壊れています。"_s.arg(name));
     return data;
 }
 

@@ -16,8 +16,9 @@ class Grid : public ScreenTest {
         auto* whole = new QVBoxLayout(&form);
         whole->addWidget(&grid);
         form.resize(400, 300);
-        form.on(&grid, &FlexGrid::RowColChange,
-                [this] { log << QString("%1,%2").arg(grid.Row()).arg(grid.Col()); });
+        form.on(
+            &grid, &FlexGrid::RowColChange,
+            [this] { log << QString("%1,%2").arg(grid.Row()).arg(grid.Col()); });
         form.on(&grid, &FlexGrid::Click,
                 [this] { log << QString("click %1,%2").arg(grid.MouseRow()).arg(grid.MouseCol()); });
     }
@@ -25,10 +26,9 @@ class Grid : public ScreenTest {
     void fill(int rows, int cols) {
         grid.SetCols(cols);
         grid.SetRows(rows);
-        for (int row = 0; row < rows; ++row) {
+        for (int row = 0; row < rows; ++row)
             for (int col = 0; col < cols; ++col)
                 grid.SetTextMatrix(row, col, cellText(row, col));
-        }
         form.Show();
         SetFocus(&grid);
         clerk.settle();

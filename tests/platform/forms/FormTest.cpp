@@ -99,20 +99,22 @@ TEST_F(Forms, HelpAndKeepHaveAKeyOnEveryForm) {
     QStringList pressed;
     Form::SetHelp([&](const Form& asking) { pressed << "help of " + asking.objectName(); });
     Sample_frm& form = sample();
-    form.on(&form.Btn(0), &CommandButton::Click, [&] {
-        pressed << "kept";
-        form.ForgetEdits();
-    });
+    form.on(
+        &form.Btn(0), &CommandButton::Click,
+        [&] {
+            pressed << "kept";
+            form.ForgetEdits();
+        });
     form.on(&form.ebox(0), &TextBox::LostFocus, [&] { pressed << "left"; });
     clerk.press(Qt::Key_F1);
     clerk.press(Qt::Key_S, Qt::ControlModifier);  // nothing typed yet
-    clerk.type(u"5"_qs);
+    clerk.type(u"5"_s);
     clerk.press(Qt::Key_S, Qt::ControlModifier);
     clerk.press(Qt::Key_S, Qt::ControlModifier);  // nothing typed since
     EXPECT_EQ(pressed, QStringList({"help of Sample_frm", "left", "kept"}));
     pressed.clear();
     form.ebox(0).setFocus();
-    clerk.type(u"5"_qs);
+    clerk.type(u"5"_s);
     form.Btn(0).setEnabled(false);
     clerk.press(Qt::Key_S, Qt::ControlModifier);
     form.Btn(0).setEnabled(true);
@@ -187,7 +189,8 @@ TEST_F(Forms, TheSecondOfADoubleClickDoesNothingToWhatHasComeUnderTheMouse) {
     auto& other = Form::Instance<Other_frm>();
     auto& ok = *other.findChild<CommandButton*>("Btn");
     int pressed = 0;
-    form.on(&ok, &CommandButton::Click, [&] { ++pressed; });
+    form.on(
+        &ok, &CommandButton::Click, [&] { ++pressed; });
     form.on(&form.Btn(0), &CommandButton::Click, [&] { SetFocus(&form.ebox(0)); });
     clerk.doubleClick("Btn(0)");
     EXPECT_EQ(clerk.focusedName(), u"ebox(0)") << "nor does it take the keyboard back";
@@ -237,10 +240,12 @@ TEST_F(Forms, ActionHooksWrapEveryHandlerAndMayFailThemselves) {
     EXPECT_EQ(log.join(u' '), u"begin begin inner end end");
 
     log.clear();
-    clerk.expect("MsgBox", [&](QWidget&) {
-        log << "shown";
-        clerk.enter();
-    });
+    clerk.expect(
+        "MsgBox",
+        [&](QWidget&) {
+            log << "shown";
+            clerk.enter();
+        });
     EXPECT_FALSE(RunGuarded([] { throw RuntimeError(3022); }));
     EXPECT_EQ(log.join(u' '), u"begin end shown");
 
@@ -315,3 +320,4 @@ TEST(ClerkAlone, DialogsNobodyExpectedAreReportedAndClosed) {
 }  // namespace akarix
 
 #include "FormTest.moc"
+#include "platform/runtime/Literals.h"

@@ -94,9 +94,8 @@ TEST_F(LongRunTest, ADialogInItsMidstHasTheKeyboard) {
 
 TEST_F(LongRunTest, ANoticeGathersWhatAnActionTellsAndTakesNothing) {
     RunGuarded([] {
-        for (int i = 1; i <= 5; ++i) {
+        for (int i = 1; i <= 5; ++i)
             ShowNotice(QString("%1 枚").arg(i));
-        }
     });
     EXPECT_EQ(clerk.text("Notice"), "1 枚\n2 枚\n3 枚\nほか 2 件");
     EXPECT_EQ(clerk.focusedName(), "Box");

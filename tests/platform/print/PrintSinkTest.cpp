@@ -6,6 +6,7 @@
 #include "platform/print/PdfText.h"
 #include "platform/print/PrintJob.h"
 #include "platform/print/Printer.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "support/ScreenTest.h"
 
@@ -13,8 +14,9 @@ namespace akarix {
 namespace {
 
 PrintPage PageSaying(const QString& text, QSizeF paper = QSizeF(595.276, 841.89)) {
-    return {paper, [text](QPainter& painter) {
-                painter.setFont(FontOnPaper({QStringLiteral("ＭＳ 明朝"), 12}).font());
+    return {paper,
+            [text](QPainter& painter) {
+                painter.setFont(FontOnPaper({u"ＭＳ 明朝"_s, 12}).font());
                 painter.drawText(QPointF(1000, 1000), text);
             }};
 }

@@ -122,9 +122,8 @@ TEST_F(PrinterDialogTest, NumberedFilesPassOverThoseThatAreThere) {
     QFile(folder.filePath("a (2).pdf")).open(QIODevice::WriteOnly);
     Printer::Current().UsePdf(folder.filePath("a.pdf"));
     QStringList names;
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 3; ++i)
         names += QFileInfo(Printer::Current().NextPdfPath()).fileName();
-    }
     EXPECT_EQ(names.join(u'|'), "a.pdf|a (3).pdf|a (4).pdf");
 }
 
@@ -177,9 +176,8 @@ TEST_F(PreviewTest, APageThatMoreMayFollowCanBeTheLast) {
 TEST_F(PreviewTest, DrawsOnlyWhatIsSeenAndWalksByKeys) {
     std::set<int> drawn;
     std::vector<PrintPage> pages;
-    for (int i = 0; i < 100; ++i) {
+    for (int i = 0; i < 100; ++i)
         pages.push_back({QSizeF(595, 842), [i, &drawn](QPainter&) { drawn.insert(i); }});
-    }
     clerk.expect("Preview_frm", [&](QWidget&) {
         auto& view = clerk.find<PreviewPages>("Pages");
         view.viewport()->grab();

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/runtime/CodePage932.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -30,22 +31,22 @@ TEST(CodePage932, KnowsTheWindowsCharacters) {
 }
 
 TEST(CodePage932, TakesTheSignsOfOtherKeyboards) {
-    EXPECT_EQ(ToCodePage932(QStringLiteral("¥〜−—‖")).toHex(), "5c8160817c815c8161");
+    EXPECT_EQ(ToCodePage932(u"¥〜−—‖"_s).toHex(), "5c8160817c815c8161");
 }
 
 TEST(CodePage932, DropsAHalfCharacterAtTheEnd) {
-    const QByteArray bytes = ToCodePage932(QStringLiteral("aソ表"));
-    EXPECT_EQ(FromCodePage932(bytes.left(2)), QStringLiteral("a"));
-    EXPECT_EQ(FromCodePage932(bytes.left(3)), QStringLiteral("aソ"));
-    EXPECT_EQ(FromCodePage932(bytes.left(4)), QStringLiteral("aソ"));
+    const QByteArray bytes = ToCodePage932(u"aソ表"_s);
+    EXPECT_EQ(FromCodePage932(bytes.left(2)), u"a"_s);
+    EXPECT_EQ(FromCodePage932(bytes.left(3)), u"aソ"_s);
+    EXPECT_EQ(FromCodePage932(bytes.left(4)), u"aソ"_s);
 }
 
 TEST(CodePage932, PutsAQuestionMarkForWhatHasNoPlace) {
-    EXPECT_EQ(ToCodePage932(QStringLiteral("a😀b\uFE0F")), "a??b?") << "as many as it takes in a text";
-    EXPECT_EQ(ToCodePage932(QStringLiteral("ไ한")), "??");
+    EXPECT_EQ(ToCodePage932(u"a😀b\uFE0F"_s), "a??b?") << "as many as it takes in a text";
+    EXPECT_EQ(ToCodePage932(u"ไ한"_s), "??");
     EXPECT_EQ(FromCodePage932(QByteArray("a\x80\xff"
                                          "b")),
-              QStringLiteral("a・・b"));
+              u"a・・b"_s);
     EXPECT_TRUE(ToCodePage932(QString()).isEmpty());
     EXPECT_TRUE(FromCodePage932(QByteArray()).isEmpty());
 }

@@ -42,10 +42,10 @@ TEST(Dates, CarriesMonthsAndDays) {
     EXPECT_EQ(DateSerial(2011, 2, 31), DateSerial(2011, 3, 3));
     EXPECT_EQ(DateSerial(29, 1, 1), DateSerial(2029, 1, 1));
     EXPECT_EQ(DateSerial(30, 1, 1), DateSerial(1930, 1, 1));
-    EXPECT_EQ(raised([] { return DateSerial(9999, 13, 1); }), 5);
-    EXPECT_EQ(raised([] { return DateSerial(100, 1, 0); }), 5);
-    EXPECT_EQ(raised([] { return DateSerial(10000, 1, 1); }), 5);
-    EXPECT_EQ(raised([] { return Year(Date(3000000)); }), 5);
+    EXPECT_EQ(Raised([] { return DateSerial(9999, 13, 1); }), 5);
+    EXPECT_EQ(Raised([] { return DateSerial(100, 1, 0); }), 5);
+    EXPECT_EQ(Raised([] { return DateSerial(10000, 1, 1); }), 5);
+    EXPECT_EQ(Raised([] { return Year(Date(3000000)); }), 5);
 }
 
 TEST(Dates, TimesRoundToTheSecond) {
@@ -97,9 +97,8 @@ TEST(DateText, ReadsWhatAClerkMayWrite) {
     }
     for (const char* text : {"", "abc", "2011/2/30", "2011/2/29", "2011/13/1", "2011.3.25", "20110325",
                              "25:00", "12:60", "3", "3月", "平成0年1月1日", "13:00 am", "2011/3/25 x",
-                             "2011/3/25 25:00", "Foo 3", "/3/25", "2011/3/", "99999/1/1"}) {
+                             "2011/3/25 25:00", "Foo 3", "/3/25", "2011/3/", "99999/1/1"})
         EXPECT_FALSE(IsDate(text)) << text;
-    }
     SetClock(Date());
 }
 
@@ -110,10 +109,10 @@ TEST(DateText, NumbersAreSerialsButNoDates) {
     EXPECT_EQ(CDate(40627), Date(40627));
     EXPECT_EQ(CDate("40627.5"), Date(40627.5));
     EXPECT_EQ(CDate(Variant()), Date());
-    EXPECT_EQ(raised([] { return CDate("20110325"); }), 13);
-    EXPECT_EQ(raised([] { return CDate("abc"); }), 13);
-    EXPECT_EQ(raised([] { return CDate(1e7); }), 6);
-    EXPECT_EQ(raised([] { return CDate(NullValue{}); }), 94);
+    EXPECT_EQ(Raised([] { return CDate("20110325"); }), 13);
+    EXPECT_EQ(Raised([] { return CDate("abc"); }), 13);
+    EXPECT_EQ(Raised([] { return CDate(1e7); }), 6);
+    EXPECT_EQ(Raised([] { return CDate(NullValue{}); }), 94);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "platform/runtime/Dir.h"
 #include "platform/runtime/Input.h"
+#include "platform/runtime/Literals.h"
 #include "platform/runtime/MkDir.h"
 #include "platform/runtime/Open.h"
 #include "platform/runtime/Path.h"
@@ -16,12 +17,12 @@ namespace akarix {
 
 namespace {
 
-QByteArray bytesOf(const QString& path) {
+QByteArray BytesOf(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
 }
 
-void put(const QString& path, const QByteArray& bytes) {
+void Put(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
@@ -32,7 +33,7 @@ class Files : public testing::Test {
     void SetUp() override {
         ASSERT_TRUE(folder_.isValid());
         QDir::setCurrent(folder_.path());
-        QDir().mkpath(QStringLiteral("Drive/A"));
+        QDir().mkpath(u"Drive/A"_s);
     }
     void TearDown() override {
         for (const int number : {1, 2, 7})
@@ -46,38 +47,38 @@ class Files : public testing::Test {
 };
 
 TEST_F(Files, WritesAndReadsItems) {
-    Open(u"A:\\req.txt"_qs, OpenMode::Output, 1);
-    Print(1, u"1"_qs, false);
-    Print(1, u"ﾔﾏﾀﾞ髙"_qs);
-    Print(1, u"  d:\\bk,rest"_qs);
+    Open(u"A:\\req.txt"_s, OpenMode::Output, 1);
+    Print(1, u"1"_s, false);
+    Print(1, u"ﾔﾏﾀﾞ髙"_s);
+    Print(1, u"  d:\\bk,rest"_s);
     Close(1);
-    EXPECT_EQ(bytesOf(u"Drive/A/req.txt"_qs), QByteArray("1\xd4\xcf\xc0\xde\xfb\xfc\r\n  d:\\bk,rest\r\n"));
+    EXPECT_EQ(BytesOf(u"Drive/A/req.txt"_s), QByteArray("1\xd4\xcf\xc0\xde\xfb\xfc\r\n  d:\\bk,rest\r\n"));
 
-    Open(u"a:req.txt"_qs, OpenMode::Append, 2);
-    Print(2, u"\"x, y\" z,last"_qs, false);
+    Open(u"a:req.txt"_s, OpenMode::Append, 2);
+    Print(2, u"\"x, y\" z,last"_s, false);
     Close(2);
-    Open(u"A:\\req.txt"_qs, OpenMode::Input, 1);
-    EXPECT_EQ(Input(1), u"1ﾔﾏﾀﾞ髙"_qs);
-    EXPECT_EQ(Input(1), u"d:\\bk"_qs);
-    EXPECT_EQ(Input(1), u"rest"_qs);
-    EXPECT_EQ(Input(1), u"x, y"_qs);
-    EXPECT_EQ(Input(1), u"last"_qs);
-    EXPECT_EQ(raised([] { return Input(1); }), 62);
+    Open(u"A:\\req.txt"_s, OpenMode::Input, 1);
+    EXPECT_EQ(Input(1), u"1ﾔﾏﾀﾞ髙"_s);
+    EXPECT_EQ(Input(1), u"d:\\bk"_s);
+    EXPECT_EQ(Input(1), u"rest"_s);
+    EXPECT_EQ(Input(1), u"x, y"_s);
+    EXPECT_EQ(Input(1), u"last"_s);
+    EXPECT_EQ(Raised([] { return Input(1); }), 62);
 }
 
 TEST_F(Files, LinesEndInAnyCustomAndTheEndMarkEndsTheFile) {
-    put(u"in"_qs,
+    Put(u"in"_s,
         "a\r\rc\n\n  d \r\n\x1a"
         "e");
-    Open(u"in"_qs, OpenMode::Input, FreeFile());
+    Open(u"in"_s, OpenMode::Input, FreeFile());
     EXPECT_EQ(FreeFile(), 2);
     for (const char16_t* line : {u"a", u"", u"c", u"", u"d "})
         EXPECT_EQ(Input(1), QString::fromUtf16(line));
-    EXPECT_EQ(raised([] { return Input(1); }), 62);
+    EXPECT_EQ(Raised([] { return Input(1); }), 62);
 }
 
 TEST_F(Files, OpenRaisesTheClassicNumbers) {
-    put(u"there"_qs, "x");
+    Put(u"there"_s, "x");
     struct Case {
         const char16_t* path;
         OpenMode mode;
@@ -92,60 +93,59 @@ TEST_F(Files, OpenRaisesTheClassicNumbers) {
         {u"there", OpenMode::Input, 512, 52},    {u"there", OpenMode::Input, 7, 55},
         {u".\\THERE2", OpenMode::Output, 1, 55},
     };
-    Open(u"THERE2"_qs, OpenMode::Output, 7);
-    for (const Case& c : cases) {
-        EXPECT_EQ(raised([&] { return Open(QString::fromUtf16(c.path), c.mode, c.number), 0; }), c.error);
-    }
-    EXPECT_EQ(raised([] { return Input(7); }), 54);
-    EXPECT_EQ(raised([] { return Input(3); }), 52);
-    Open(u"there"_qs, OpenMode::Input, 1);
-    Open(u"there"_qs, OpenMode::Input, 2);
-    EXPECT_EQ(raised([] { return Print(1, u"x"_qs), 0; }), 54);
-    EXPECT_EQ(raised([] { return Print(3, u"x"_qs), 0; }), 52);
-    EXPECT_EQ(raised([] { return Close(99), 0; }), 0);
+    Open(u"THERE2"_s, OpenMode::Output, 7);
+    for (const Case& c : cases)
+        EXPECT_EQ(Raised([&] { return Open(QString::fromUtf16(c.path), c.mode, c.number), 0; }), c.error);
+    EXPECT_EQ(Raised([] { return Input(7); }), 54);
+    EXPECT_EQ(Raised([] { return Input(3); }), 52);
+    Open(u"there"_s, OpenMode::Input, 1);
+    Open(u"there"_s, OpenMode::Input, 2);
+    EXPECT_EQ(Raised([] { return Print(1, u"x"_s), 0; }), 54);
+    EXPECT_EQ(Raised([] { return Print(3, u"x"_s), 0; }), 52);
+    EXPECT_EQ(Raised([] { return Close(99), 0; }), 0);
 }
 
 #ifdef Q_OS_LINUX
 TEST_F(Files, AFullDiskIsNoticedAtTheLatestAtClose) {
-    QFile::link(u"/dev/full"_qs, u"Drive/A/full"_qs);
-    Open(u"A:\\full"_qs, OpenMode::Output, 1);
-    Print(1, u"short"_qs);
-    EXPECT_EQ(raised([] { return Close(1), 0; }), 61);
+    QFile::link(u"/dev/full"_s, u"Drive/A/full"_s);
+    Open(u"A:\\full"_s, OpenMode::Output, 1);
+    Print(1, u"short"_s);
+    EXPECT_EQ(Raised([] { return Close(1), 0; }), 61);
     EXPECT_EQ(FreeFile(), 1);
-    Open(u"A:\\full"_qs, OpenMode::Output, 1);
-    EXPECT_EQ(raised([] { return Print(1, QString(100000, u'x')), 0; }), 61);
+    Open(u"A:\\full"_s, OpenMode::Output, 1);
+    EXPECT_EQ(Raised([] { return Print(1, QString(100000, u'x')), 0; }), 61);
 }
 #endif
 
 TEST_F(Files, DirKnowsNamesWhateverTheirCase) {
-    put(u"BKPath"_qs, "");
-    put(u"Drive/A/b[1].TXT"_qs, "");
-    put(u"Drive/A/a.dat"_qs, "");
-    QDir().mkdir(u"sub.txt"_qs);
-    EXPECT_EQ(Dir(u"bkpath"_qs), u"BKPath"_qs);
-    EXPECT_EQ(Dir(u"BKPath2"_qs), QString());
-    EXPECT_EQ(Dir(u"a:\\*.txt"_qs), u"b[1].TXT"_qs);
-    EXPECT_EQ(Dir(u"A:B[1].t?t"_qs), u"b[1].TXT"_qs);
-    EXPECT_EQ(Dir(u"A:\\"_qs), u"a.dat"_qs);
-    EXPECT_EQ(Dir(u"A:\\*.*"_qs), u"a.dat"_qs);
-    EXPECT_EQ(Dir(u"*.txt"_qs), QString());
-    EXPECT_EQ(Dir(u"A:\\none\\*"_qs), QString());
-    EXPECT_EQ(raised([] { return Dir(u"B:\\*"_qs); }), 71);
+    Put(u"BKPath"_s, "");
+    Put(u"Drive/A/b[1].TXT"_s, "");
+    Put(u"Drive/A/a.dat"_s, "");
+    QDir().mkdir(u"sub.txt"_s);
+    EXPECT_EQ(Dir(u"bkpath"_s), u"BKPath"_s);
+    EXPECT_EQ(Dir(u"BKPath2"_s), QString());
+    EXPECT_EQ(Dir(u"a:\\*.txt"_s), u"b[1].TXT"_s);
+    EXPECT_EQ(Dir(u"A:B[1].t?t"_s), u"b[1].TXT"_s);
+    EXPECT_EQ(Dir(u"A:\\"_s), u"a.dat"_s);
+    EXPECT_EQ(Dir(u"A:\\*.*"_s), u"a.dat"_s);
+    EXPECT_EQ(Dir(u"*.txt"_s), QString());
+    EXPECT_EQ(Dir(u"A:\\none\\*"_s), QString());
+    EXPECT_EQ(Raised([] { return Dir(u"B:\\*"_s); }), 71);
 }
 
 TEST_F(Files, Folders) {
-    MkDir(u"A:\\bk\\"_qs);
-    EXPECT_TRUE(QDir(u"Drive/A/bk"_qs).exists());
-    EXPECT_EQ(raised([] { return MkDir(u"A:\\bk"_qs), 0; }), 75);
-    EXPECT_EQ(raised([] { return MkDir(u"A:\\x\\y"_qs), 0; }), 76);
-    EXPECT_EQ(raised([] { return MkDir(u"B:\\x"_qs), 0; }), 71);
+    MkDir(u"A:\\bk\\"_s);
+    EXPECT_TRUE(QDir(u"Drive/A/bk"_s).exists());
+    EXPECT_EQ(Raised([] { return MkDir(u"A:\\bk"_s), 0; }), 75);
+    EXPECT_EQ(Raised([] { return MkDir(u"A:\\x\\y"_s), 0; }), 76);
+    EXPECT_EQ(Raised([] { return MkDir(u"B:\\x"_s), 0; }), 71);
 }
 
 TEST(Path, DrivesHangBelowTheCurrentFolder) {
-    EXPECT_EQ(LocalPath(u"c:\\Backup\\x"_qs), u"Drive/C/Backup/x"_qs);
-    EXPECT_EQ(LocalPath(u"A:"_qs), u"Drive/A"_qs);
-    EXPECT_EQ(LocalPath(u"Prt\\請求書"_qs), u"Prt/請求書"_qs);
-    EXPECT_EQ(LocalPath(u"Akarix.MDB"_qs), u"Akarix.MDB"_qs);
+    EXPECT_EQ(LocalPath(u"c:\\Backup\\x"_s), u"Drive/C/Backup/x"_s);
+    EXPECT_EQ(LocalPath(u"A:"_s), u"Drive/A"_s);
+    EXPECT_EQ(LocalPath(u"Prt\\請求書"_s), u"Prt/請求書"_s);
+    EXPECT_EQ(LocalPath(u"Akarix.MDB"_s), u"Akarix.MDB"_s);
 }
 
 }  // namespace

@@ -19,10 +19,10 @@ namespace akarix {
 
 namespace {
 
-Currency money(const char* text) {
+Currency Money(const char* text) {
     return Currency::FromText(QString::fromUtf8(text));
 }
-std::string utf8(const QString& text) {
+std::string Utf8(const QString& text) {
     return text.toStdString();
 }
 
@@ -37,26 +37,26 @@ TEST(Currency, RoundsProductsAndQuotientsHalfToEven) {
         {"20", "-3", "-60", "-6.6667"},           {"303700049.9", "3037000", "922337051546300", "100"},
     };
     for (const Case& c : cases) {
-        EXPECT_EQ(utf8((money(c.a) * money(c.b)).ToText()), c.product) << c.a << " * " << c.b;
-        EXPECT_EQ(utf8((money(c.a) / money(c.b)).ToText()), c.quotient) << c.a << " / " << c.b;
+        EXPECT_EQ(Utf8((Money(c.a) * Money(c.b)).ToText()), c.product) << c.a << " * " << c.b;
+        EXPECT_EQ(Utf8((Money(c.a) / Money(c.b)).ToText()), c.quotient) << c.a << " / " << c.b;
     }
 }
 
 TEST(Currency, LeavingTheRangeOverflows) {
     const Currency top = Currency::FromScaled(std::numeric_limits<std::int64_t>::max());
     const Currency bottom = Currency::FromScaled(std::numeric_limits<std::int64_t>::min());
-    EXPECT_EQ(utf8(top.ToText()), "922337203685477.5807");
-    EXPECT_EQ(utf8(bottom.ToText()), "-922337203685477.5808");
-    EXPECT_EQ(money("922337203685477.5807"), top);
-    EXPECT_EQ(raised([&] { return top + Currency::FromScaled(1); }), 6);
-    EXPECT_EQ(raised([&] { return bottom - Currency::FromScaled(1); }), 6);
-    EXPECT_EQ(raised([&] { return -bottom; }), 6);
-    EXPECT_EQ(raised([&] { return top * Currency(2); }), 6);
-    EXPECT_EQ(raised([&] { return top / money("0.5"); }), 6);
-    EXPECT_EQ(raised([&] { return top / Currency(0); }), 11);
-    EXPECT_EQ(raised([] { return Currency(std::int64_t{922337203685478}); }), 6);
-    EXPECT_EQ(raised([] { return money("922337203685477.58075"); }), 6);
-    EXPECT_EQ(raised([] { return money("1,000"); }), 13);
+    EXPECT_EQ(Utf8(top.ToText()), "922337203685477.5807");
+    EXPECT_EQ(Utf8(bottom.ToText()), "-922337203685477.5808");
+    EXPECT_EQ(Money("922337203685477.5807"), top);
+    EXPECT_EQ(Raised([&] { return top + Currency::FromScaled(1); }), 6);
+    EXPECT_EQ(Raised([&] { return bottom - Currency::FromScaled(1); }), 6);
+    EXPECT_EQ(Raised([&] { return -bottom; }), 6);
+    EXPECT_EQ(Raised([&] { return top * Currency(2); }), 6);
+    EXPECT_EQ(Raised([&] { return top / Money("0.5"); }), 6);
+    EXPECT_EQ(Raised([&] { return top / Currency(0); }), 11);
+    EXPECT_EQ(Raised([] { return Currency(std::int64_t{922337203685478}); }), 6);
+    EXPECT_EQ(Raised([] { return Money("922337203685477.58075"); }), 6);
+    EXPECT_EQ(Raised([] { return Money("1,000"); }), 13);
 }
 
 TEST(Conversion, ReadsNumbersAsAClerkWritesThem) {
@@ -75,10 +75,10 @@ TEST(Conversion, ReadsNumbersAsAClerkWritesThem) {
     for (const char* text :
          {"",    " ", "abc", "12a", "1.2.3", "+-5", "-5-",  "(-5)", "(5",        "5)",
           "1 2", ".", "-",   ",1",  "1.2,3", "50%", "&H1F", "1E",   "2011/3/25", "\\\\5"}) {
-        EXPECT_EQ(raised([&] { return CDbl(text); }), 13) << text;
+        EXPECT_EQ(Raised([&] { return CDbl(text); }), 13) << text;
         EXPECT_FALSE(IsNumeric(text)) << text;
     }
-    EXPECT_EQ(raised([] { return CDbl("1E400"); }), 6);
+    EXPECT_EQ(Raised([] { return CDbl("1E400"); }), 6);
     EXPECT_FALSE(IsNumeric("1E400"));
     EXPECT_TRUE(IsNumeric(Variant()));
     EXPECT_TRUE(IsNumeric(true));
@@ -92,30 +92,30 @@ TEST(Conversion, WholeNumbersRoundHalfToEvenBeforeTheRangeIsTested) {
         int whole;
     };
     const Case cases[] = {{0.5, 0},           {1.5, 2},           {2.5, 2},          {-0.5, 0},
-                          {-1.5, -2},         {2.51, 3},          {money("2.5"), 2}, {money("-3.5"), -4},
+                          {-1.5, -2},         {2.51, 3},          {Money("2.5"), 2}, {Money("-3.5"), -4},
                           {"2.5", 2},         {"32767.4", 32767}, {true, -1},        {Variant(), 0},
                           {-32768.5, -32768}, {Date(2.5), 2}};
     for (const Case& c : cases)
         EXPECT_EQ(CInt(c.value), c.whole);
-    EXPECT_EQ(raised([] { return CInt(32767.5); }), 6);
-    EXPECT_EQ(raised([] { return CInt(70000); }), 6);
-    EXPECT_EQ(raised([] { return CInt(NullValue{}); }), 94);
+    EXPECT_EQ(Raised([] { return CInt(32767.5); }), 6);
+    EXPECT_EQ(Raised([] { return CInt(70000); }), 6);
+    EXPECT_EQ(Raised([] { return CInt(NullValue{}); }), 94);
     EXPECT_EQ(CLng(2147483647.4), 2147483647);
     EXPECT_EQ(CLng(-2147483648.5), std::numeric_limits<std::int32_t>::min());
-    EXPECT_EQ(raised([] { return CLng(2147483647.5); }), 6);
-    EXPECT_EQ(raised([] { return CLng("99999999999999999999"); }), 6);
-    EXPECT_EQ(raised([] { return CLng("12a"); }), 13);
+    EXPECT_EQ(Raised([] { return CLng(2147483647.5); }), 6);
+    EXPECT_EQ(Raised([] { return CLng("99999999999999999999"); }), 6);
+    EXPECT_EQ(Raised([] { return CLng("12a"); }), 13);
 }
 
 TEST(Conversion, CurrencyGoesByDecimalDigits) {
-    EXPECT_EQ(CCur("922337203685477.5807"), money("922337203685477.5807"));
-    EXPECT_EQ(CCur("0.00005"), money("0"));
-    EXPECT_EQ(CCur("0.00015"), money("0.0002"));
-    EXPECT_EQ(CCur("0.000150001"), money("0.0002"));
-    EXPECT_EQ(CCur(1.23455), money("1.2346"));
-    EXPECT_EQ(CCur(922337203685477.5), money("922337203685477.5"));
-    EXPECT_EQ(raised([] { return CCur(1e15); }), 6);
-    EXPECT_EQ(raised([] { return CCur(""); }), 13);
+    EXPECT_EQ(CCur("922337203685477.5807"), Money("922337203685477.5807"));
+    EXPECT_EQ(CCur("0.00005"), Money("0"));
+    EXPECT_EQ(CCur("0.00015"), Money("0.0002"));
+    EXPECT_EQ(CCur("0.000150001"), Money("0.0002"));
+    EXPECT_EQ(CCur(1.23455), Money("1.2346"));
+    EXPECT_EQ(CCur(922337203685477.5), Money("922337203685477.5"));
+    EXPECT_EQ(Raised([] { return CCur(1e15); }), 6);
+    EXPECT_EQ(Raised([] { return CCur(""); }), 13);
 }
 
 TEST(Val, ReadsTheNumberInFront) {
@@ -160,8 +160,8 @@ TEST(Text, OfNumbers) {
         {999999999999999.0, " 999999999999999", "999999999999999"},
         {1e15, " 1E+15", "1E+15"},
         {16777216.0f, " 1.677722E+07", "1.677722E+07"},
-        {money("-0.0005"), "-.0005", "-0.0005"},
-        {money("922337203685477.5807"), " 922337203685477.5807", "922337203685477.5807"},
+        {Money("-0.0005"), "-.0005", "-0.0005"},
+        {Money("922337203685477.5807"), " 922337203685477.5807", "922337203685477.5807"},
         {Variant(), " 0", ""},
         {" 12.50 ", " 12.5", " 12.50 "},
         {true, "True", "True"},
@@ -169,23 +169,23 @@ TEST(Text, OfNumbers) {
         {Date(), "0:00:00", "0:00:00"},
     };
     for (const Case& c : cases) {
-        EXPECT_EQ(utf8(Str(c.value)), c.str);
-        EXPECT_EQ(utf8(CStr(c.value)), c.cstr);
+        EXPECT_EQ(Utf8(Str(c.value)), c.str);
+        EXPECT_EQ(Utf8(CStr(c.value)), c.cstr);
     }
-    EXPECT_EQ(raised([] { return Str("abc"); }), 13);
-    EXPECT_EQ(raised([] { return Str(NullValue{}); }), 94);
-    EXPECT_EQ(raised([] { return CStr(NullValue{}); }), 94);
+    EXPECT_EQ(Raised([] { return Str("abc"); }), 13);
+    EXPECT_EQ(Raised([] { return Str(NullValue{}); }), 94);
+    EXPECT_EQ(Raised([] { return CStr(NullValue{}); }), 94);
 }
 
 TEST(WholePart, IntFloorsAndFixCuts) {
-    EXPECT_EQ(Int(money("-8.4")), Currency(-9));
-    EXPECT_EQ(Fix(money("-8.4")), Currency(-8));
-    EXPECT_EQ(Int(money("99.99")), Currency(99));
+    EXPECT_EQ(Int(Money("-8.4")), Currency(-9));
+    EXPECT_EQ(Fix(Money("-8.4")), Currency(-8));
+    EXPECT_EQ(Int(Money("99.99")), Currency(99));
     EXPECT_EQ(Int(Currency(-8)), Currency(-8));
-    EXPECT_EQ(raised([] { return Int(Currency::FromScaled(std::numeric_limits<std::int64_t>::min())); }), 6);
+    EXPECT_EQ(Raised([] { return Int(Currency::FromScaled(std::numeric_limits<std::int64_t>::min())); }), 6);
     EXPECT_EQ(Int(-8.4), -9.0);
     EXPECT_EQ(Fix(-8.4), -8.0);
-    EXPECT_EQ(Int(Variant(money("2.5"))), Variant(Currency(2)));
+    EXPECT_EQ(Int(Variant(Money("2.5"))), Variant(Currency(2)));
     EXPECT_EQ(Int(Variant("2.5")), Variant(2.0));
     EXPECT_EQ(Fix(Variant(Date(2.5))), Variant(Date(2)));
     EXPECT_EQ(Int(Variant(NullValue{})), Variant(NullValue{}));

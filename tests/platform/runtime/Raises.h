@@ -6,7 +6,7 @@ namespace akarix {
 
 /// The number of the RuntimeError that the action raises, or 0.
 template <class Action>
-int raised(Action action) {
+int Raised(Action action) {
     try {
         static_cast<void>(action());
     } catch (const RuntimeError& error) {

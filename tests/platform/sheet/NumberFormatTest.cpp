@@ -26,9 +26,8 @@ TEST(NumberFormat, Colors) {
 
 TEST(NumberFormat, TellsDatesFromNumbers) {
     EXPECT_TRUE(IsDateFormat("h:mm"));
-    for (const char* code : {"General", "@", "#,##0_ ;[Red]\\-#,##0\\ ", "\"day\"0", "0.0E+0"}) {
+    for (const char* code : {"General", "@", "#,##0_ ;[Red]\\-#,##0\\ ", "\"day\"0", "0.0E+0"})
         EXPECT_FALSE(IsDateFormat(QString::fromLatin1(code))) << code;
-    }
 }
 
 TEST(NumberFormat, BrokenCodesShowSomething) {

@@ -35,9 +35,8 @@ std::string Blocks(const Sheet& sheet) {
     for (const SheetPage& page : LayOutSheet(sheet)) {
         if (!text.empty()) text += ' ';
         text += std::to_string(page.firstRow) + '-' + std::to_string(page.lastRow);
-        if (page.firstColumn != 1 || page.lastColumn != 1) {
+        if (page.firstColumn != 1 || page.lastColumn != 1)
             text += '/' + std::to_string(page.firstColumn) + '-' + std::to_string(page.lastColumn);
-        }
     }
     return text;
 }
@@ -46,9 +45,8 @@ TEST(SheetLayoutTest, Breaks) {
     EXPECT_EQ(Blocks(Sheet()), "1-1");
     for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/breaks.txt")) {
         Sheet sheet = SheetOf(cells[0].toInt(), cells[1].toInt());
-        for (const QString& setting : cells[2].split(' ', Qt::SkipEmptyParts)) {
+        for (const QString& setting : cells[2].split(' ', Qt::SkipEmptyParts))
             Set(sheet, setting.section('=', 0, 0), setting.section('=', 1));
-        }
         EXPECT_EQ(Blocks(sheet), cells[3].toStdString()) << line;
     }
 }

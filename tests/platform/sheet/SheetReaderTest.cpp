@@ -68,9 +68,8 @@ class SheetReader : public testing::Test {
             const std::pair<const char*, const std::string&> blanks[] = {
                 {"$SHEET", sheet}, {"$STRINGS", strings}, {"$NAMES", names}, {"$TARGET", target}};
             QByteArray text = file.readAll();
-            for (const auto& [mark, value] : blanks) {
+            for (const auto& [mark, value] : blanks)
                 text.replace(mark, QByteArray::fromStdString(value));
-            }
             parts.emplace_back(name, text.toStdString());
         }
         return parts;
@@ -308,9 +307,8 @@ TEST_F(SheetReader, DamagedFiles) {
     for (int round = 0; round < 400; ++round) {
         QByteArray damaged = whole;
         if (round % 4 == 0) damaged.truncate(below(whole.size()));
-        for (int i = 0; i < 1 + round % 8 && !damaged.isEmpty(); ++i) {
+        for (int i = 0; i < 1 + round % 8 && !damaged.isEmpty(); ++i)
             damaged[below(damaged.size())] = static_cast<char>(random());
-        }
         QFile::remove(path());
         put(damaged);
         try {

@@ -15,9 +15,8 @@ TEST(Sheet, Addresses) {
     EXPECT_EQ(ParseRange("$K$61:B5"), (CellRange{{5, 2}, {61, 11}}));
     EXPECT_EQ(ParseRange("XFD1048576").first, (CellAddress{1048576, 16384}));
     for (const char* bad :
-         {"", "5", "B", "B0", "B-1", "5B", "A1:", ":A1", "XFE1", "A1048577", "A99999999999", "A1:B2:C3"}) {
+         {"", "5", "B", "B0", "B-1", "5B", "A1:", ":A1", "XFE1", "A1048577", "A99999999999", "A1:B2:C3"})
         EXPECT_THROW(ParseRange(QString::fromLatin1(bad)), RuntimeError) << bad;
-    }
 }
 
 TEST(Sheet, TypedValues) {
@@ -33,9 +32,8 @@ TEST(Sheet, TypedValues) {
     SetClock(DateSerial(2023, 12, 31));
     for (const auto& [cells, line] : ReadTable(AKARIX_TEST_DATA "/typed.txt")) {
         sheet.setValue("A1:D1", cells[0]);
-        for (int column = 1; column <= 4; ++column) {
+        for (int column = 1; column <= 4; ++column)
             EXPECT_EQ(sheet.shownText({1, column}), cells[column]) << line;
-        }
     }
     SetClock({});
 }

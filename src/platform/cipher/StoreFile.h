@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/cipher/Sqlite.h"
+
+namespace akarix {
+
+struct OpenMode {
+    bool exclusive = false;
+    bool readOnly = false;
+};
+
+/// Opens a file of the store and proves it sound. 3024: no such file; 3031: another password; 3343: damaged,
+/// or no file of the store; 3260 and 3051: held or closed to us. A journal left by a process that died is
+/// played back on the way.
+Connection OpenStoreFile(const QString& path, const QString& password, OpenMode mode = {});
+
+/// Makes an empty one. The path must be free.
+Connection CreateStoreFile(const QString& path, const QString& password);
+
+}  // namespace akarix

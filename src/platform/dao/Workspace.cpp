@@ -1,0 +1,73 @@
+#include "platform/dao/Workspace.h"
+
+#include <QFileInfo>
+#include <exception>
+
+#include "platform/cipher/CipherEngine.h"
+#include "platform/cipher/StoreFile.h"
+#include "platform/dao/DatabaseImpl.h"
+#include "platform/dao/LastPassword.h"
+#include "platform/dialect/StoreError.h"
+#include "platform/runtime/Literals.h"
+#include "platform/runtime/Path.h"
+
+namespace akarix {
+namespace {
+
+// "MS Access;PWD=secret;" -> "secret"
+QString PasswordOf(const QString& connect) {
+    const QString mark = u"PWD="_s;
+    for (const QString& part : connect.split(u';'))
+        if (part.trimmed().startsWith(mark, Qt::CaseInsensitive)) return part.mid(part.indexOf(u'=') + 1);
+    return {};
+}
+
+const QString& Source() {
+    static const QString source = u"DAO.Workspace"_s;
+    return source;
+}
+
+}  // namespace
+
+Database* Workspace::OpenDatabase(const QString& name, bool exclusive, bool readOnly,
+                                  const QString& connect) {
+    const QString path = LocalPath(name);
+    const QString password = PasswordOf(connect);
+    RememberPassword(path, password);
+    try {
+        return keep(name,
+                    std::make_unique<CipherEngine>(OpenStoreFile(path, password, {exclusive, readOnly})));
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(error.number(), error.description(), Source());
+    }
+}
+
+Database* Workspace::CreateDatabase(const QString& name, const QString& connect) {
+    const QString path = LocalPath(name);
+    const QString password = PasswordOf(connect);
+    if (QFileInfo::exists(path)) throw StoreError(3204, name, Source());
+    RememberPassword(path, password);
+    return keep(name, std::make_unique<CipherEngine>(CreateStoreFile(path, password)));
+}
+
+void Workspace::Close() {
+    std::exception_ptr first;
+    for (const std::unique_ptr<Database>& database : databases_) {
+        try {
+            if (database->impl_->session->isOpen()) database->Close();
+        } catch (...) {
+            if (!first) first = std::current_exception();
+        }
+    }
+    if (first) std::rethrow_exception(first);
+}
+
+Database* Workspace::keep(const QString& name, std::unique_ptr<Engine> engine) {
+    auto impl = std::make_unique<Database::Impl>();
+    impl->name = name;
+    impl->session = std::make_shared<Session>(std::move(engine));
+    databases_.push_back(std::unique_ptr<Database>(new Database(std::move(impl))));
+    return databases_.back().get();
+}
+
+}  // namespace akarix

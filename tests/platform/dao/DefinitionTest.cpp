@@ -1,0 +1,123 @@
+#include "platform/dao/StoreFixture.h"
+
+namespace akarix {
+namespace {
+
+using Kind = Plan::Definition;
+
+class DefinitionTest : public StoreTest {
+ protected:
+    void SetUp() override { database_ = &create(); }
+
+    /// 0, or the number of the error; an error must leave the file as it was.
+    int define(Kind kind, const TableDef& table, const ColumnDef& column = {}, const IndexDef& index = {}) {
+        auto plan = std::make_shared<Plan>();
+        plan->kind = Plan::Kind::Definition;
+        plan->definition = kind;
+        plan->table = table;
+        plan->column = column;
+        plan->index = index;
+        database_->engine().flush();
+        const QByteArray before = bytesOf(path());
+        const int error = ErrorOf([&] { database_->engine().define({plan, {}}); });
+        EXPECT_TRUE(error == 0 || bytesOf(path()) == before);
+        return error;
+    }
+    const TableDef& goods() { return *database_->engine().catalogue().find("GOODS"); }
+    const ColumnDef& column(const QString& name) {
+        return goods().columns[static_cast<std::size_t>(goods().indexOf(name))];
+    }
+    Variant value(const QString& name) {
+        return database_->OpenRecordset("SELECT * FROM Goods WHERE Code=3")[name];
+    }
+
+    Database* database_ = nullptr;
+};
+
+TEST_F(DefinitionTest, EveryKindIsReadBack) {
+    TableDef table{"Kinds", {}, {{"C1", "C2"}, {"C3"}}};
+    for (const int type : {1, 2, 3, 4, 5, 6, 7, 8, 10, 12}) {
+        table.columns.push_back(
+            {QString("C%1").arg(type), static_cast<FieldType>(type), type == 10 ? 30 : 0, type < 5});
+    }
+    ASSERT_EQ(define(Kind::CreateTable, table), 0);
+    database_->Close();
+    database_ = &open();
+    const TableDef* found = database_->engine().catalogue().find("kinds");
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->name, u"Kinds");
+    EXPECT_EQ(found->uniqueKeys, table.uniqueKeys);
+    ASSERT_EQ(found->columns.size(), table.columns.size());
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        EXPECT_EQ(found->columns[i].name, table.columns[i].name);
+        EXPECT_EQ(found->columns[i].type, table.columns[i].type);
+        EXPECT_EQ(found->columns[i].size, table.columns[i].size);
+        EXPECT_EQ(found->columns[i].zeroDefault, table.columns[i].zeroDefault);
+        EXPECT_EQ(found->columns[i].required, i < 2);
+    }
+}
+
+TEST_F(DefinitionTest, ASecondRunOfTheSameStepFailsAndChangesNothing) {
+    struct Step {
+        Kind kind;
+        TableDef table;
+        ColumnDef column;
+        IndexDef index;
+        int secondError;
+    };
+    const QString name = "Goods";
+    const Step steps[] = {
+        {Kind::CreateTable, GoodsTable(), {}, {}, 3010},
+        {Kind::AlterColumn, {name, {}, {}}, {"RTE", FieldType::Currency}, {}, 3380},
+        {Kind::AddColumn, {name, {}, {}}, {"Kensin", FieldType::Integer}, {}, 3380},
+        {Kind::AddColumn, {name, {}, {}}, {"Keiyaku", FieldType::Text, 30}, {}, 3380},
+        {Kind::AlterColumn, {name, {}, {}}, {"Kana", FieldType::Text, 20}, {}, 3380},
+        {Kind::CreateIndex, {name, {}, {}}, {}, {"ByKana", {"Kana"}}, 3075},
+    };
+    for (const Step& step : steps) {
+        EXPECT_EQ(define(step.kind, step.table, step.column, step.index), 0);
+        EXPECT_EQ(define(step.kind, step.table, step.column, step.index), step.secondError);
+    }
+    EXPECT_EQ(define(Kind::AlterColumn, {name, {}, {}}, {"Nix", FieldType::Long}), 3383);
+    EXPECT_EQ(define(Kind::AddColumn, {"Nix", {}, {}}, {"A"}), 3371);
+    EXPECT_EQ(column("Rte").type, FieldType::Currency);
+    EXPECT_EQ(column("Kana").size, 20);
+    EXPECT_EQ(goods().columns.size(), GoodsTable().columns.size() + 2);
+}
+
+TEST_F(DefinitionTest, AlteringConvertsTheValuesAndKeepsTheRest) {
+    MakeTable(*database_, GoodsTable());
+    const TableDef name{"Goods", {}, {}};
+    Recordset rows = database_->OpenRecordset("SELECT * FROM Goods");
+    for (const int code : {3, 1}) {
+        rows.AddNew();
+        rows.Fields("Code") = std::int32_t{code};
+        rows.Fields("Kana") = "ｱｲｳｴｵ";
+        rows.Fields("Rte") = static_cast<std::int16_t>(code * 100);
+        rows.Fields("Tanka") = Currency::FromText("2.5");
+        rows.Update();
+    }
+    ASSERT_EQ(define(Kind::AlterColumn, name, {"Rte", FieldType::Currency}), 0);
+    EXPECT_EQ(value("Rte"), Variant(Currency(300)));
+    ASSERT_EQ(define(Kind::AlterColumn, name, {"Tanka", FieldType::Integer}), 0);
+    EXPECT_EQ(value("Tanka"), Variant(std::int16_t{2}));
+    ASSERT_EQ(define(Kind::AlterColumn, name, {"Tanka", FieldType::Text, 4}), 0);
+    EXPECT_EQ(value("Tanka"), Variant(u"2"));
+    EXPECT_EQ(define(Kind::AlterColumn, name, {"Kana", FieldType::Text, 4}), 3163)
+        << "what does not fit is not cut without a word";
+    EXPECT_EQ(define(Kind::AlterColumn, name, {"Kana", FieldType::Long}), 3421);
+    EXPECT_EQ(goods().uniqueKeys, GoodsTable().uniqueKeys);
+    EXPECT_TRUE(column("Flg").zeroDefault);
+}
+
+TEST_F(DefinitionTest, IndexesOutliveAnAlteredColumn) {
+    MakeTable(*database_, GoodsTable());
+    const TableDef name{"Goods", {}, {}};
+    const IndexDef index{"ByKana", {"Kana"}};
+    ASSERT_EQ(define(Kind::CreateIndex, name, {}, index), 0);
+    ASSERT_EQ(define(Kind::AlterColumn, name, {"Rte", FieldType::Long}), 0);
+    EXPECT_EQ(define(Kind::CreateIndex, name, {}, index), 3075) << "it is there still";
+}
+
+}  // namespace
+}  // namespace akarix
