@@ -7,7 +7,7 @@
 #include "Measure.h"
 #include "PeerBilling.h"
 #include "billing/Tto.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix::bench {

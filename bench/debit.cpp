@@ -11,8 +11,7 @@
 #include "debit/DebitQuery.h"
 #include "debit/DebitReader.h"
 #include "debit/PostDebitFile.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix::bench {

@@ -1,6 +1,6 @@
 #include "billing/Sub.h"
 
-#include "platform/runtime/Int.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "platform/runtime/CInt.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "store/CustomerMonth.h"
 #include "store/FieldValue.h"

@@ -7,7 +7,7 @@
 #include "debit/TrapDebit.h"
 #include "dialogs/AskConfirm.h"
 #include "dialogs/ShowAlert.h"
-#include "platform/runtime/CInt.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "store/Consignor.h"
 #include "store/FieldValue.h"

@@ -1,7 +1,7 @@
 #include "debit/DebitPath.h"
 
+#include "platform/runtime/Files.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/MkDir.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {

@@ -1,10 +1,10 @@
 #include "debit/DebitRecords.h"
 
 #include "debit/DebitQuery.h"
-#include "platform/runtime/DatePart.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/Trim.h"
+#include "platform/runtime/Text.h"
 #include "values/NumStr.h"
 
 namespace akarix {

@@ -1,9 +1,7 @@
 #include "debit/DebitResult.h"
 
-#include "platform/runtime/CDate.h"
-#include "platform/runtime/CInt.h"
-#include "platform/runtime/CLng.h"
-#include "platform/runtime/DatePart.h"
+#include "platform/runtime/Calendar.h"
+#include "platform/runtime/Conversion.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 

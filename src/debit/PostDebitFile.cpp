@@ -6,7 +6,7 @@
 #include "debit/TrapDebit.h"
 #include "dialogs/AskConfirm.h"
 #include "dialogs/ShowAlert.h"
-#include "platform/runtime/DatePart.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/dbAccess.h"

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "billing/Sub.h"
-#include "platform/runtime/CInt.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"

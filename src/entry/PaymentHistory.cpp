@@ -7,7 +7,7 @@
 #include "billing/Tto.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/GridHead.h"
-#include "platform/runtime/DatePart.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"

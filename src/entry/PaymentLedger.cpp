@@ -1,7 +1,7 @@
 #include "entry/PaymentLedger.h"
 
 #include "billing/Tto.h"
-#include "platform/runtime/CInt.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "store/CustomerMonth.h"
 #include "store/FieldValue.h"

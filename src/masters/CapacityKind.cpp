@@ -1,7 +1,6 @@
 #include "masters/CapacityKind.h"
 
-#include "platform/runtime/CLng.h"
-#include "platform/runtime/Int.h"
+#include "platform/runtime/Conversion.h"
 
 namespace akarix {
 

@@ -9,7 +9,7 @@
 #include "output/PrintRun.h"
 #include "output/PrintTrap.h"
 #include "platform/forms/FieldLayout.h"
-#include "platform/runtime/CInt.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"

@@ -4,7 +4,7 @@
 #include "platform/forms/MsgBox.h"
 #include "platform/forms/Notice.h"
 #include "platform/print/AskSavePath.h"
-#include "platform/runtime/Clock.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"

@@ -1,7 +1,7 @@
 #include "reports/CustomerAccount.h"
 
 #include "billing/Tto.h"
-#include "platform/runtime/CLng.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"

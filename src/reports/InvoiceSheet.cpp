@@ -3,9 +3,8 @@
 #include <array>
 
 #include "output/EX.h"
-#include "platform/runtime/CDate.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/IsDate.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"

@@ -3,7 +3,7 @@
 #include <QVBoxLayout>
 
 #include "platform/forms/FieldLayout.h"
-#include "platform/runtime/CStr.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"

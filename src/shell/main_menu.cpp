@@ -23,7 +23,7 @@
 #include "platform/forms/SessionEnd.h"
 #include "platform/forms/SingleInstance.h"
 #include "platform/runtime/Action.h"
-#include "platform/runtime/CInt.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "reports/RepoDaichou_frm.h"
 #include "reports/RepoSeikyu_frm.h"

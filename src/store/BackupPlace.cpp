@@ -4,12 +4,8 @@
 #include <QFile>
 #include <QScopeGuard>
 
-#include "platform/runtime/Dir.h"
-#include "platform/runtime/Input.h"
+#include "platform/runtime/Files.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/Open.h"
-#include "platform/runtime/Path.h"
-#include "platform/runtime/Print.h"
 #include "values/NumStr.h"
 
 namespace akarix {

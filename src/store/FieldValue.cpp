@@ -1,9 +1,6 @@
 #include "store/FieldValue.h"
 
-#include "platform/runtime/CCur.h"
-#include "platform/runtime/CDate.h"
-#include "platform/runtime/CInt.h"
-#include "platform/runtime/CLng.h"
+#include "platform/runtime/Conversion.h"
 #include "values/Dates.h"
 
 namespace akarix {

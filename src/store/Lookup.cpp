@@ -1,7 +1,7 @@
 #include "store/Lookup.h"
 
-#include "platform/runtime/DatePart.h"
-#include "platform/runtime/IsDate.h"
+#include "platform/runtime/Calendar.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"

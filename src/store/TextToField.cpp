@@ -1,6 +1,6 @@
 #include "store/TextToField.h"
 
-#include "platform/runtime/CDate.h"
+#include "platform/runtime/Conversion.h"
 #include "values/NumVal.h"
 #include "values/Text.h"
 

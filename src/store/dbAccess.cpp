@@ -1,9 +1,9 @@
 #include "store/dbAccess.h"
 
 #include "platform/dao/DBEngine.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
-#include "platform/runtime/Str.h"
 #include "store/StoreClaim.h"
 
 namespace akarix {

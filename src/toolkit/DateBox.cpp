@@ -1,7 +1,6 @@
 #include "toolkit/DateBox.h"
 
-#include "platform/runtime/CDate.h"
-#include "platform/runtime/IsDate.h"
+#include "platform/runtime/Conversion.h"
 
 namespace akarix {
 

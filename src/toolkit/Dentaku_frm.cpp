@@ -8,11 +8,11 @@
 
 #include "platform/forms/FieldLayout.h"
 #include "platform/forms/MemoBox.h"
-#include "platform/runtime/CCur.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
-#include "platform/runtime/Trim.h"
+#include "platform/runtime/Text.h"
 #include "toolkit/Evaluate.h"
 #include "toolkit/FieldWalk.h"
 #include "values/NumVal.h"

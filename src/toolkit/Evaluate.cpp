@@ -2,10 +2,10 @@
 
 #include <muParser.h>
 
-#include "platform/runtime/CCur.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
-#include "platform/runtime/Trim.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix {
 

@@ -1,6 +1,6 @@
 #include "toolkit/FieldTable.h"
 
-#include "platform/runtime/CCur.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
 
 namespace akarix {

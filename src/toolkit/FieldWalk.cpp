@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/forms/CommandButton.h"
-#include "platform/runtime/CLng.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 #include "values/Text.h"

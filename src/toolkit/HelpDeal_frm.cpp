@@ -1,7 +1,7 @@
 #include "toolkit/HelpDeal_frm.h"
 
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/Trim.h"
+#include "platform/runtime/Text.h"
 #include "store/Lookup.h"
 #include "toolkit/FieldBytes.h"
 #include "toolkit/FieldWalk.h"

@@ -6,7 +6,7 @@
 #include "platform/forms/Label.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/Trim.h"
+#include "platform/runtime/Text.h"
 #include "store/dbAccess.h"
 #include "values/Text.h"
 

@@ -4,8 +4,7 @@
 
 #include "dialogs/AskConfirm.h"
 #include "platform/forms/Notice.h"
-#include "platform/runtime/CInt.h"
-#include "platform/runtime/CLng.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"

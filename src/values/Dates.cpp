@@ -2,12 +2,10 @@
 
 #include <array>
 
-#include "platform/runtime/CDate.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DatePart.h"
-#include "platform/runtime/IsDate.h"
+#include "platform/runtime/Calendar.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/Trim.h"
+#include "platform/runtime/Text.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 

@@ -1,7 +1,7 @@
 #include "values/NumStr.h"
 
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/Str.h"
 
 namespace akarix {
 

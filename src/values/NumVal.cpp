@@ -1,10 +1,7 @@
 #include "values/NumVal.h"
 
-#include "platform/runtime/CCur.h"
-#include "platform/runtime/CInt.h"
-#include "platform/runtime/CLng.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/Val.h"
 
 namespace akarix {
 

@@ -1,9 +1,8 @@
 #include "values/Text.h"
 
-#include "platform/runtime/CStr.h"
-#include "platform/runtime/CodePage932.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/Trim.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix {
 

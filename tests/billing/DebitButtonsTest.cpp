@@ -1,9 +1,8 @@
 #include "billing/Seikyu_frm.h"
 
 #include "platform/print/PdfText.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DateSerial.h"
-#include "platform/runtime/Open.h"
+#include "platform/runtime/Calendar.h"
+#include "platform/runtime/Files.h"
 #include "store/Settings.h"
 #include "support/ListScreen.h"
 #include "support/ScratchStore.h"

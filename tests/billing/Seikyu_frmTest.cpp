@@ -1,8 +1,7 @@
 #include "billing/Seikyu_frm.h"
 
 #include "platform/forms/FlexGrid.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 

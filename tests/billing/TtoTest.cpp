@@ -1,6 +1,6 @@
 #include "billing/Tto.h"
 
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "support/ScratchStore.h"

@@ -4,9 +4,8 @@
 
 #include <QFile>
 
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DateSerial.h"
-#include "platform/runtime/Open.h"
+#include "platform/runtime/Calendar.h"
+#include "platform/runtime/Files.h"
 #include "store/Settings.h"
 #include "support/ListScreen.h"
 #include "support/ScratchStore.h"

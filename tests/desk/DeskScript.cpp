@@ -9,8 +9,8 @@
 
 #include "platform/forms/Choice.h"
 #include "platform/forms/TextBox.h"
-#include "platform/runtime/CDate.h"
-#include "platform/runtime/Clock.h"
+#include "platform/runtime/Calendar.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "platform/sheet/SheetReader.h"
 #include "support/GridText.h"

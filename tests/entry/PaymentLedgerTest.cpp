@@ -3,7 +3,7 @@
 #include <initializer_list>
 
 #include "billing/Tto.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/RuntimeError.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <vector>
 
-#include "platform/runtime/CCur.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix {

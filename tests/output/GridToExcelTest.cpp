@@ -3,8 +3,7 @@
 #include <QTest>
 
 #include "output/EX.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/sheet/SheetReader.h"
 #include "support/ListScreen.h"
 #include "support/ScreenTest.h"

@@ -4,8 +4,7 @@
 #include "output/PrintReport.h"
 #include "output/ReportOwner.h"
 #include "output/RunReport.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "support/CaseFile.h"
 #include "values/Dates.h"
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "platform/print/PdfText.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/sheet/SheetReader.h"
 #include "store/Settings.h"
 #include "support/ListScreen.h"

@@ -5,7 +5,7 @@
 #include "output/PB.h"
 #include "platform/print/PdfText.h"
 #include "platform/print/Printer.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/Settings.h"
 #include "support/CaseFile.h"

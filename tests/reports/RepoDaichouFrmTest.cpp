@@ -1,7 +1,6 @@
 #include "reports/RepoDaichou_frm.h"
 
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/sheet/SheetReader.h"
 #include "support/ListScreen.h"
 #include "support/ScratchStore.h"

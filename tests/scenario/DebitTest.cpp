@@ -1,7 +1,6 @@
 #include "billing/Seikyu_frm.h"
 #include "entry/SlipN2_frm.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "support/ListScreen.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"

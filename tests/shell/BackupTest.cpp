@@ -1,7 +1,6 @@
 #include "shell/Backup.h"
 
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "support/ScratchStore.h"

@@ -1,6 +1,6 @@
 #include "store/Lookup.h"
 
-#include "platform/runtime/CDate.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/Consignor.h"
 #include "support/CaseFile.h"

@@ -8,8 +8,8 @@
 #include <QTemporaryDir>
 
 #include "platform/dao/DBEngine.h"
-#include "platform/runtime/CStr.h"
-#include "platform/runtime/Clock.h"
+#include "platform/runtime/Calendar.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "store/CreateDatabase.h"
 #include "store/Settings.h"

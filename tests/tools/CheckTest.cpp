@@ -7,7 +7,7 @@
 #include "ledger/LedgerProof.h"
 #include "ledger/ReadingCheck.h"
 #include "platform/runtime/Action.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 #include "support/ScratchStore.h"
 #include "tools/AdminRun.h"

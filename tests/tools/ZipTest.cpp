@@ -2,8 +2,8 @@
 #include <zip.h>
 
 #include "admin/PostalPlace.h"
-#include "platform/runtime/CodePage932.h"
 #include "platform/runtime/Literals.h"
+#include "platform/runtime/Text.h"
 #include "store/Lookup.h"
 #include "support/ScratchStore.h"
 #include "tools/AdminRun.h"

@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/runtime/CDate.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
+#include "platform/runtime/Conversion.h"
 #include "support/CaseFile.h"
 
 namespace akarix {

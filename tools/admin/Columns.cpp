@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/runtime/CodePage932.h"
 #include "platform/runtime/Literals.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix::admin {
 

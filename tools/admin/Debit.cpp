@@ -6,8 +6,8 @@
 #include "admin/DebitCheck.h"
 #include "admin/DebitLayout.h"
 #include "admin/Terminal.h"
-#include "platform/runtime/CodePage932.h"
 #include "platform/runtime/Literals.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix::admin {
 

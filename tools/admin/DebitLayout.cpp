@@ -4,8 +4,8 @@
 #include <QDate>
 #include <algorithm>
 
-#include "platform/runtime/CodePage932.h"
 #include "platform/runtime/Literals.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix::admin {
 

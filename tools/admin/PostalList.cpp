@@ -6,8 +6,8 @@
 #include <QStringDecoder>
 #include <optional>
 
-#include "platform/runtime/CodePage932.h"
 #include "platform/runtime/Literals.h"
+#include "platform/runtime/Text.h"
 #include "platform/sheet/ZipArchive.h"
 
 namespace akarix::admin {

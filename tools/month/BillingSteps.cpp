@@ -9,8 +9,7 @@
 #include "output/EX.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/Form.h"
-#include "platform/runtime/DatePart.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 #include "values/Dates.h"
 

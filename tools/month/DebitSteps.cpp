@@ -15,7 +15,7 @@
 #include "month/Steps.h"
 #include "month/WorkFolder.h"
 #include "platform/forms/Form.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 #include "sample/SampleMasters.h"
 #include "store/Lookup.h"

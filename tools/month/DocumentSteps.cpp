@@ -6,7 +6,7 @@
 #include "month/Options.h"
 #include "month/Steps.h"
 #include "month/Trade.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 #include "values/Dates.h"

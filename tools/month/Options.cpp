@@ -4,8 +4,7 @@
 #include <QRegularExpression>
 
 #include "month/Trade.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DatePart.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 #include "sample/SampleDealer.h"
 

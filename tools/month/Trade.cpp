@@ -5,8 +5,7 @@
 #include <utility>
 
 #include "ledger/Rows.h"
-#include "platform/runtime/DatePart.h"
-#include "platform/runtime/DateSerial.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 #include "sample/Dice.h"
 #include "sample/SampleMasters.h"

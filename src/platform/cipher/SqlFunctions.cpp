@@ -7,10 +7,7 @@
 #include "platform/dialect/ColumnKind.h"
 #include "platform/dialect/LikePattern.h"
 #include "platform/dialect/Rounding.h"
-#include "platform/runtime/CCur.h"
-#include "platform/runtime/CDate.h"
-#include "platform/runtime/CDbl.h"
-#include "platform/runtime/CStr.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {

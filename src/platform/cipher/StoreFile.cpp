@@ -97,7 +97,7 @@ void Prove(sqlite3* connection, const QString& password) {
 
 }  // namespace
 
-Connection OpenStoreFile(const QString& path, const QString& password, OpenMode mode) {
+Connection OpenStoreFile(const QString& path, const QString& password, OpenAs mode) {
     const QFileInfo file(path);
     if (!file.isFile()) throw StoreError(3024, path);
     // The engine would take a file without a page for a new one.

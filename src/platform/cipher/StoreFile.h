@@ -6,7 +6,7 @@
 
 namespace akarix {
 
-struct OpenMode {
+struct OpenAs {
     bool exclusive = false;
     bool readOnly = false;
 };
@@ -14,7 +14,7 @@ struct OpenMode {
 /// Opens a file of the store and proves it sound. 3024: no such file; 3031: another password; 3343: damaged,
 /// or no file of the store; 3260 and 3051: held or closed to us. A journal left by a process that died is
 /// played back on the way.
-Connection OpenStoreFile(const QString& path, const QString& password, OpenMode mode = {});
+Connection OpenStoreFile(const QString& path, const QString& password, OpenAs mode = {});
 
 /// Makes an empty one. The path must be free.
 Connection CreateStoreFile(const QString& path, const QString& password);

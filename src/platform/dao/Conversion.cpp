@@ -5,13 +5,7 @@
 
 #include "platform/dialect/ColumnKind.h"
 #include "platform/dialect/StoreError.h"
-#include "platform/runtime/CBool.h"
-#include "platform/runtime/CCur.h"
-#include "platform/runtime/CDate.h"
-#include "platform/runtime/CDbl.h"
-#include "platform/runtime/CInt.h"
-#include "platform/runtime/CLng.h"
-#include "platform/runtime/CStr.h"
+#include "platform/runtime/Conversion.h"
 
 namespace akarix {
 namespace {

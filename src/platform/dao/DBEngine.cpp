@@ -5,8 +5,8 @@
 #include "platform/cipher/StoreFile.h"
 #include "platform/dao/LastPassword.h"
 #include "platform/dialect/StoreError.h"
+#include "platform/runtime/Files.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/Path.h"
 
 namespace akarix {
 

@@ -8,8 +8,8 @@
 #include "platform/dao/DatabaseImpl.h"
 #include "platform/dao/LastPassword.h"
 #include "platform/dialect/StoreError.h"
+#include "platform/runtime/Files.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/Path.h"
 
 namespace akarix {
 namespace {

@@ -5,10 +5,7 @@
 #include "platform/dialect/ColumnKind.h"
 #include "platform/dialect/Rounding.h"
 #include "platform/dialect/StoreError.h"
-#include "platform/runtime/CCur.h"
-#include "platform/runtime/CDate.h"
-#include "platform/runtime/CDbl.h"
-#include "platform/runtime/CStr.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "platform/runtime/CCur.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/runtime/StrConv.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix {
 namespace {

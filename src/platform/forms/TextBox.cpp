@@ -8,8 +8,7 @@
 
 #include "platform/forms/Control.h"
 #include "platform/forms/FocusMove.h"
-#include "platform/runtime/CodePage932.h"
-#include "platform/runtime/StrConv.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix {
 namespace {

@@ -1,5 +1,6 @@
 #include "platform/runtime/Calendar.h"
 
+#include <QDateTime>
 #include <cmath>
 
 #include "platform/runtime/RuntimeError.h"
@@ -13,6 +14,11 @@ constexpr std::int64_t kFirstDay = -657434;  // 100-01-01
 constexpr std::int64_t kLastDay = 2958465;   // 9999-12-31
 constexpr std::int64_t kEpoch = 693899;      // days from 0000-03-01 to 1899-12-30
 constexpr std::int64_t kDaysPerCycle = 146097;
+
+Date& ReplacedClock() {
+    static Date moment;
+    return moment;
+}
 
 }  // namespace
 
@@ -71,6 +77,44 @@ int DaysInMonth(int year, int month) {
 int FullYear(int year) {
     if (year < 0 || year > 99) return year;
     return year < 30 ? 2000 + year : 1900 + year;
+}
+
+int Year(Date date) {
+    return Moment::of(date).civil().year;
+}
+int Month(Date date) {
+    return Moment::of(date).civil().month;
+}
+int Day(Date date) {
+    return Moment::of(date).civil().day;
+}
+
+int Weekday(Date date) {
+    const auto sinceSunday = (Moment::of(date).day - 1) % 7;  // day 1 was a Sunday
+    return static_cast<int>((sinceSunday + 7) % 7) + 1;
+}
+
+Date DateSerial(int year, int month, int day) {
+    if (year < 0 || year > 9999) throw RuntimeError(5);
+    const std::int64_t months = std::int64_t{FullYear(year)} * 12 + month - 1;
+    const std::int64_t carriedYear = (months >= 0 ? months : months - 11) / 12;
+    return Moment{DayNumber(carriedYear, static_cast<int>(months - carriedYear * 12) + 1, day), 0}.date();
+}
+
+Date Now() {
+    if (!ReplacedClock().IsZero()) return ReplacedClock();
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate day = now.date();
+    return Moment{DayNumber(day.year(), day.month(), day.day()), now.time().msecsSinceStartOfDay() / 1000}
+        .date();
+}
+
+Date Today() {
+    return Date(std::trunc(Now().Serial()));
+}
+
+void SetClock(Date moment) {
+    ReplacedClock() = moment;
 }
 
 }  // namespace akarix

@@ -33,4 +33,22 @@ std::int64_t DayNumber(std::int64_t year, int month, std::int64_t day);
 /// 0 to 29 mean 2000 to 2029, 30 to 99 mean 1930 to 1999; others stay.
 int FullYear(int year);
 
+int Year(Date date);
+int Month(Date date);
+int Day(Date date);
+/// 1 (Sunday) to 7 (Saturday).
+int Weekday(Date date);
+
+/// Builds a date; month and day outside their range carry over (month 13 is January of the next year).
+/// Years 0 to 29 mean 2000 to 2029, 30 to 99 mean 1930 to 1999. Raises 5 outside 100 to 9999.
+Date DateSerial(int year, int month, int day);
+
+/// The present moment, to the second, in the machine's time zone.
+Date Now();
+/// The present day, without a time.
+Date Today();
+
+/// Replaces the machine's clock where a day is played, not lived; a zero date gives it back.
+void SetClock(Date moment);
+
 }  // namespace akarix

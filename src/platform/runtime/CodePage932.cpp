@@ -1,4 +1,4 @@
-#include "platform/runtime/CodePage932.h"
+#include "platform/runtime/Text.h"
 
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_cb.h>

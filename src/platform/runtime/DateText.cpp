@@ -3,11 +3,9 @@
 #include <QRegularExpression>
 
 #include "platform/runtime/Calendar.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DatePart.h"
 #include "platform/runtime/Era.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/StrConv.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix {
 

@@ -3,7 +3,7 @@
 #include <QFileInfo>
 #include <cerrno>
 
-#include "platform/runtime/Path.h"
+#include "platform/runtime/Files.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "platform/runtime/FileError.h"
-#include "platform/runtime/Path.h"
+#include "platform/runtime/Files.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {

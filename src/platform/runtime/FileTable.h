@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "platform/runtime/ByteFile.h"
-#include "platform/runtime/Open.h"
+#include "platform/runtime/Files.h"
 
 namespace akarix {
 

@@ -4,13 +4,9 @@
 #include <cstdlib>
 #include <optional>
 
-#include "platform/runtime/CDate.h"
-#include "platform/runtime/CDbl.h"
-#include "platform/runtime/CStr.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/DateFormat.h"
 #include "platform/runtime/FormatMask.h"
-#include "platform/runtime/IsDate.h"
-#include "platform/runtime/IsNumeric.h"
 #include "platform/runtime/NumberFormat.h"
 #include "platform/runtime/NumberOf.h"
 

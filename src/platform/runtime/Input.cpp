@@ -1,10 +1,10 @@
-#include "platform/runtime/Input.h"
+#include "platform/runtime/Files.h"
 
 #include <algorithm>
 
-#include "platform/runtime/CodePage932.h"
 #include "platform/runtime/FileTable.h"
 #include "platform/runtime/RuntimeError.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix {
 

@@ -1,6 +1,6 @@
 #include "platform/runtime/Int16.h"
 
-#include "platform/runtime/CInt.h"
+#include "platform/runtime/Conversion.h"
 
 namespace akarix {
 

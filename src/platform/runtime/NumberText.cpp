@@ -1,6 +1,6 @@
 #include "platform/runtime/NumberText.h"
 
-#include "platform/runtime/StrConv.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix {
 

@@ -1,4 +1,4 @@
-#include "platform/runtime/Path.h"
+#include "platform/runtime/Files.h"
 
 #include <QDir>
 

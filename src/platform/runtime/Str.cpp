@@ -1,9 +1,8 @@
-#include "platform/runtime/Str.h"
+#include "platform/runtime/Conversion.h"
 
 #include <array>
 #include <optional>
 
-#include "platform/runtime/CStr.h"
 #include "platform/runtime/NumberOf.h"
 
 namespace akarix {

@@ -1,4 +1,4 @@
-#include "platform/runtime/StrConv.h"
+#include "platform/runtime/Text.h"
 
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "platform/print/PaperFont.h"
-#include "platform/runtime/Clock.h"
+#include "platform/runtime/Calendar.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
 #include "platform/sheet/SheetLayout.h"

@@ -3,8 +3,7 @@
 #include <QDate>
 #include <QList>
 
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DatePart.h"
+#include "platform/runtime/Calendar.h"
 
 namespace akarix {
 

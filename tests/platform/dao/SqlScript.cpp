@@ -7,7 +7,7 @@
 #include "platform/dialect/Engine.h"
 #include "platform/dialect/Lexer.h"
 #include "platform/dialect/Parser.h"
-#include "platform/runtime/CStr.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {

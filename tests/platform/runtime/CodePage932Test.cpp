@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/runtime/CodePage932.h"
 #include "platform/runtime/Literals.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix {
 

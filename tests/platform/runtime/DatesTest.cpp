@@ -1,12 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/runtime/CDate.h"
-#include "platform/runtime/CStr.h"
 #include "platform/runtime/Calendar.h"
-#include "platform/runtime/Clock.h"
-#include "platform/runtime/DatePart.h"
-#include "platform/runtime/DateSerial.h"
-#include "platform/runtime/IsDate.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Raises.h"
 
 namespace akarix {

@@ -4,13 +4,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "platform/runtime/Dir.h"
-#include "platform/runtime/Input.h"
+#include "platform/runtime/Files.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/MkDir.h"
-#include "platform/runtime/Open.h"
-#include "platform/runtime/Path.h"
-#include "platform/runtime/Print.h"
 #include "platform/runtime/Raises.h"
 
 namespace akarix {

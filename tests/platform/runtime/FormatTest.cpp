@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-#include "platform/runtime/CDate.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/Raises.h"

@@ -3,17 +3,8 @@
 #include <cstdint>
 #include <limits>
 
-#include "platform/runtime/CCur.h"
-#include "platform/runtime/CDbl.h"
-#include "platform/runtime/CInt.h"
-#include "platform/runtime/CLng.h"
-#include "platform/runtime/CStr.h"
-#include "platform/runtime/Fix.h"
-#include "platform/runtime/Int.h"
-#include "platform/runtime/IsNumeric.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Raises.h"
-#include "platform/runtime/Str.h"
-#include "platform/runtime/Val.h"
 
 namespace akarix {
 

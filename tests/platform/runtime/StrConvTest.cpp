@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/runtime/StrConv.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix {
 

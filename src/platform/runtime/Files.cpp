@@ -1,11 +1,15 @@
-#include "platform/runtime/Dir.h"
+#include "platform/runtime/Files.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
+#include <filesystem>
 
 #include "platform/runtime/FileError.h"
+#include "platform/runtime/FileTable.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/Path.h"
+#include "platform/runtime/RuntimeError.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix {
 
@@ -26,6 +30,25 @@ QRegularExpression NameFilter(const QString& pattern) {
 
 }  // namespace
 
+void Open(const QString& path, OpenMode mode, int number) {
+    FileTable::instance().open(path, mode, number);
+}
+
+void Close(int number) {
+    FileTable::instance().close(number);
+}
+
+int FreeFile() {
+    return FileTable::instance().lowestFree();
+}
+
+void Print(int number, const QString& text, bool lineEnd) {
+    ByteFile& file = FileTable::instance().forOutput(number);
+    QByteArray bytes = ToCodePage932(text);
+    if (lineEnd) bytes += "\r\n";
+    file.write(bytes);
+}
+
 QString Dir(const QString& pattern) {
     RequireDrive(pattern);
     QString path = pattern;
@@ -38,6 +61,15 @@ QString Dir(const QString& pattern) {
     for (const QString& candidate : names)
         if (filter.match(candidate).hasMatch()) return candidate;
     return {};
+}
+
+void MkDir(const QString& path) {
+    RequireFolder(path);
+    const QString local = LocalPath(path);
+    if (local.isEmpty() || QFileInfo::exists(local)) throw RuntimeError(75);
+    std::error_code error;
+    std::filesystem::create_directory(std::filesystem::path(local.toStdU16String()), error);
+    if (error) throw RuntimeError(FileErrorNumber(error.default_error_condition().value()));
 }
 
 }  // namespace akarix

@@ -1,4 +1,4 @@
-#include "platform/runtime/Trim.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix {
 
