@@ -52,12 +52,7 @@ class Form : public QWidget {
         QObject::connect(
             sender, signal, this,
             [handler = std::move(handler)](auto&&... arguments) mutable {
-                RunGuarded([&] {
-                    if constexpr (std::is_invocable_v<Handler&, decltype(arguments)...>)
-                        handler(arguments...);
-                    else
-                        handler();  // a handler may leave out what the signal tells
-                });
+                RunGuarded([&] { call(handler, arguments...); });
             });
     }
     /// The same for every control of an array; the handler gets the index first.
@@ -99,6 +94,15 @@ class Form : public QWidget {
     void mousePressEvent(QMouseEvent* event) override;
 
  private:
+    /// A handler may leave out what the signal tells.
+    template <class Handler, class... Arguments>
+    static void call(Handler& handler, Arguments&... arguments) {
+        if constexpr (std::is_invocable_v<Handler&, Arguments&...>)
+            handler(arguments...);
+        else
+            handler();
+    }
+
     static Form* adopt(Form* instance);
     void addKeys();
     void watchEdits();
