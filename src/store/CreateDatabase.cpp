@@ -56,11 +56,7 @@ const CodeListEntry kCodeListEntries[] = {
 
 /// Defaults have no place in the dialect, so a table's definition goes to the engine as it is.
 void Define(Database& db, const TableDef& table) {
-    auto plan = std::make_shared<Plan>();
-    plan->kind = Plan::Kind::Definition;
-    plan->definition = Plan::Definition::CreateTable;
-    plan->table = table;
-    db.engine().define({std::move(plan), {}});
+    db.engine().define({Definition::Kind::CreateTable, table});
 }
 
 void AddSetting(Database& db, const QString& table, int code, const QString& contents) {

@@ -9,7 +9,7 @@ namespace {
 
 int ErrorOf(Translator& translator, const QString& sql) {
     try {
-        if (translator.translate(sql).plan->kind == Plan::Kind::Rows)
+        if (translator.translate(sql).statement->query())
             gDb->OpenRecordset(sql).Eof();
         else
             gDb->Execute(sql);

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "platform/cipher/PageImage.h"
-#include "platform/dialect/Engine.h"
+#include "platform/dialect/StoreValue.h"
 
 namespace akarix {
 

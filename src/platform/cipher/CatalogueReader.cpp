@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/cipher/Identifier.h"
+#include "platform/cipher/ColumnDeclaration.h"
 #include "platform/cipher/Sqlite.h"
-#include "platform/dialect/ColumnKind.h"
 
 namespace akarix {
 namespace {

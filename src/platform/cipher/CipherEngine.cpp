@@ -74,11 +74,11 @@ sqlite3* CipherEngine::connection() const {
     return connection_.get();
 }
 
-std::vector<StoreRow> CipherEngine::rows(const BoundStatement& statement) {
+std::vector<StoreRow> CipherEngine::rows(const BoundText& text) {
     sqlite3* open = connection();
-    sqlite3_stmt* query = statements_->of(statement.plan);
+    sqlite3_stmt* query = statements_->of(text.statement).statement.get();
     const ResetAtEnd reset(query);
-    BindAll(query, statement.arguments);
+    BindAll(query, text.values);
     const int width = sqlite3_column_count(query);
     std::vector<StoreRow> all;
     while (Step(open, query)) {
@@ -104,29 +104,30 @@ void CipherEngine::write(sqlite3_stmt* statement, const StoreRow& values, bool m
     }
 }
 
-std::int64_t CipherEngine::change(const BoundStatement& statement) {
+std::int64_t CipherEngine::change(const BoundText& text) {
     sqlite3* open = connection();
-    write(statements_->of(statement.plan), statement.arguments, statement.plan->computes);
+    const PreparedStatement& prepared = statements_->of(text.statement);
+    write(prepared.statement.get(), text.values, prepared.computes);
     const int changed = sqlite3_changes(open);
     group_->end();
     return changed;
 }
 
-void CipherEngine::define(const BoundStatement& statement) {
+void CipherEngine::define(Definition definition) {
     sqlite3* open = connection();
+    CheckDefinition(definition, catalogue_);
     group_->commit();
     statements_->clear();
     group_->begin();
     try {
-        Define(open, catalogue_, *statement.plan);
+        Define(open, catalogue_, definition);
         RefreshSchemaCopy(open);
         group_->commit();
     } catch (...) {
         group_->rollback();
         throw;
     }
-    catalogue_ = ReadCatalogue(open);
-    ++catalogueVersion_;
+    catalogue_.replace(ReadCatalogue(open));
 }
 
 std::int64_t CipherEngine::insertRow(const TableDef& table, const std::vector<QString>& columns,

@@ -14,10 +14,9 @@ class CipherEngine final : public Engine {
     ~CipherEngine() override;
 
     const Catalogue& catalogue() const override { return catalogue_; }
-    int catalogueVersion() const override { return catalogueVersion_; }
-    std::vector<StoreRow> rows(const BoundStatement& statement) override;
-    std::int64_t change(const BoundStatement& statement) override;
-    void define(const BoundStatement& statement) override;
+    std::vector<StoreRow> rows(const BoundText& text) override;
+    std::int64_t change(const BoundText& text) override;
+    void define(Definition definition) override;
     std::int64_t insertRow(const TableDef& table, const std::vector<QString>& columns,
                            const StoreRow& values) override;
     void updateRow(const TableDef& table, std::int64_t row, const std::vector<QString>& columns,
@@ -32,7 +31,6 @@ class CipherEngine final : public Engine {
 
     Connection connection_;
     Catalogue catalogue_;
-    int catalogueVersion_ = 0;
     std::unique_ptr<StatementCache> statements_;
     std::unique_ptr<WriteGroup> group_;
 };

@@ -1,10 +1,8 @@
 #include "platform/cipher/Definitions.h"
 
-#include "platform/cipher/Identifier.h"
+#include "platform/cipher/ColumnDeclaration.h"
 #include "platform/cipher/Sqlite.h"
-#include "platform/dao/Conversion.h"
-#include "platform/dialect/ColumnKind.h"
-#include "platform/dialect/StoreError.h"
+#include "platform/dialect/ColumnValue.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix {
@@ -17,24 +15,19 @@ QByteArray QuotedList(const QStringList& names) {
     return text;
 }
 
-const TableDef& Existing(const Catalogue& catalogue, const QString& name) {
-    const TableDef* table = catalogue.find(name);
-    if (!table) throw StoreError(3371, name);
-    return *table;
-}
-
-void CreateTable(sqlite3* connection, const Catalogue& catalogue, const TableDef& table) {
-    if (catalogue.find(table.name)) throw StoreError(3010, table.name);
-    Run(connection, CreateTableText(table, table.name));
-}
-
-void AddColumn(sqlite3* connection, const TableDef& table, const ColumnDef& column) {
-    if (table.indexOf(column.name) >= 0) throw StoreError(3380, column.name);
-    if (column.required) {
-        // The rows that are there would have no value for it.
-        throw StoreError(3314, column.name);
+QByteArray CreateTableText(const TableDef& table, const QString& name) {
+    QByteArray text = "CREATE TABLE " + Quoted(name) + '(';
+    const QStringList key = table.uniqueKeys.empty() ? QStringList() : table.uniqueKeys.front();
+    const char* comma = "";
+    for (const ColumnDef& column : table.columns) {
+        ColumnDef declared = column;
+        declared.required = column.required || key.contains(column.name, Qt::CaseInsensitive);
+        text += comma + ColumnDeclaration(declared);
+        comma = ",";
     }
-    Run(connection, "ALTER TABLE " + Quoted(table.name) + " ADD COLUMN " + ColumnDeclaration(column));
+    for (const QStringList& unique : table.uniqueKeys)
+        text += ",UNIQUE(" + QuotedList(unique) + ')';
+    return text + ')';
 }
 
 // The texts of the indexes that stand beside the table and go with it when it is dropped.
@@ -68,9 +61,8 @@ void CopyRows(sqlite3* connection, const TableDef& from, const TableDef& to, con
         for (std::size_t i = 0; i < to.columns.size(); ++i) {
             const int place = static_cast<int>(i) + 1;
             const ColumnDef& column = to.columns[i];
-            const FieldType present = from.columns[static_cast<std::size_t>(from.indexOf(column.name))].type;
-            const StoreValue value = ColumnValue(read.get(), place);
-            Bind(write.get(), place + 1, StoredAs(column, VariantOf(present, value)));
+            const Kind present = KindOf(from.at(from.indexOf(column.name)).type);
+            Bind(write.get(), place + 1, FittedTo(column, present, ColumnValue(read.get(), place)));
         }
         Run(connection, write.get());
     }
@@ -88,62 +80,32 @@ void Rebuild(sqlite3* connection, const TableDef& table, const TableDef& altered
         Run(connection, text);
 }
 
-int ExistingColumn(const TableDef& table, const QString& name) {
-    const int index = table.indexOf(name);
-    if (index < 0) throw StoreError(3383, name);
-    return index;
-}
-
-void AlterColumn(sqlite3* connection, const TableDef& table, ColumnDef column) {
+void AlterColumn(sqlite3* connection, const TableDef& table, const ColumnDef& column) {
     TableDef altered = table;
-    ColumnDef& present = altered.columns[static_cast<std::size_t>(ExistingColumn(table, column.name))];
-    if (present.type == column.type &&
-        (column.type != FieldType::Text || TextWidth(present) == TextWidth(column)))
-        throw StoreError(3380, column.name);
+    ColumnDef& present = altered.columns[static_cast<std::size_t>(table.indexOf(column.name))];
     present.type = column.type;
     present.size = column.size;
     Rebuild(connection, table, altered);
 }
 
-void CreateIndex(sqlite3* connection, const TableDef& table, const IndexDef& index) {
-    for (const QString& column : index.columns)
-        ExistingColumn(table, column);
-    Run(connection, "CREATE INDEX " + Quoted(index.name) + " ON " + Quoted(table.name) + '(' +
-                        QuotedList(index.columns) + ')');
-}
-
 }  // namespace
 
-QByteArray CreateTableText(const TableDef& table, const QString& name) {
-    QByteArray text = "CREATE TABLE " + Quoted(name) + '(';
-    const QStringList key = table.uniqueKeys.empty() ? QStringList() : table.uniqueKeys.front();
-    const char* comma = "";
-    for (const ColumnDef& column : table.columns) {
-        ColumnDef declared = column;
-        declared.required = column.required || key.contains(column.name, Qt::CaseInsensitive);
-        text += comma + ColumnDeclaration(declared);
-        comma = ",";
-    }
-    for (const QStringList& unique : table.uniqueKeys)
-        text += ",UNIQUE(" + QuotedList(unique) + ')';
-    return text + ')';
-}
-
-void Define(sqlite3* connection, const Catalogue& catalogue, const Plan& plan) {
-    switch (plan.definition) {
-        case Plan::Definition::None:
+void Define(sqlite3* connection, const Catalogue& catalogue, const Definition& definition) {
+    const QString& name = definition.table.name;
+    switch (definition.kind) {
+        case Definition::Kind::CreateTable:
+            Run(connection, CreateTableText(definition.table, name));
             return;
-        case Plan::Definition::CreateTable:
-            CreateTable(connection, catalogue, plan.table);
+        case Definition::Kind::AddColumn:
+            Run(connection,
+                "ALTER TABLE " + Quoted(name) + " ADD COLUMN " + ColumnDeclaration(definition.column));
             return;
-        case Plan::Definition::AddColumn:
-            AddColumn(connection, Existing(catalogue, plan.table.name), plan.column);
+        case Definition::Kind::AlterColumn:
+            AlterColumn(connection, *catalogue.find(name), definition.column);
             return;
-        case Plan::Definition::AlterColumn:
-            AlterColumn(connection, Existing(catalogue, plan.table.name), plan.column);
-            return;
-        case Plan::Definition::CreateIndex:
-            CreateIndex(connection, Existing(catalogue, plan.table.name), plan.index);
+        case Definition::Kind::CreateIndex:
+            Run(connection, "CREATE INDEX " + Quoted(definition.index) + " ON " + Quoted(name) + '(' +
+                                QuotedList(definition.indexed) + ')');
             return;
     }
 }

@@ -1,4 +1,6 @@
-#include "platform/cipher/SqlFunctions.h"
+#include <algorithm>
+
+#include "platform/cipher/Sqlite.h"
 #include "platform/cipher/Writer.h"
 #include "platform/runtime/Literals.h"
 
@@ -7,259 +9,236 @@ namespace {
 
 constexpr char kFold[] = " COLLATE AKARIX_TEXT";
 
-const char* SymbolOf(CompareOp op) {
+const char* SymbolOf(Operator op) {
     switch (op) {
-        case CompareOp::Equal:
+        case Operator::Or:
+            return " OR ";
+        case Operator::And:
+            return " AND ";
+        case Operator::Equal:
             return "=";
-        case CompareOp::NotEqual:
+        case Operator::NotEqual:
             return "<>";
-        case CompareOp::Less:
+        case Operator::Less:
             return "<";
-        case CompareOp::LessEqual:
+        case Operator::LessEqual:
             return "<=";
-        case CompareOp::Greater:
+        case Operator::Greater:
             return ">";
-        case CompareOp::GreaterEqual:
+        case Operator::GreaterEqual:
             return ">=";
-    }
-    return "=";
-}
-
-const char* SymbolOf(NativeOp op) {
-    switch (op) {
-        case NativeOp::Add:
+        case Operator::Add:
             return "+";
-        case NativeOp::Subtract:
+        case Operator::Subtract:
             return "-";
-        case NativeOp::Multiply:
+        default:
             return "*";
     }
-    return "+";
 }
 
-int RankOf(NativeOp op) {
-    return op == NativeOp::Multiply ? 1 : 0;
-}
-
-const char* NameOf(AggregateOp op) {
-    switch (op) {
-        case AggregateOp::Count:
+const char* NameOf(Aggregate which) {
+    switch (which) {
+        case Aggregate::Count:
             return "COUNT";
-        case AggregateOp::Sum:
+        case Aggregate::Sum:
             return "SUM";
-        case AggregateOp::Max:
+        case Aggregate::Max:
             return "MAX";
-        case AggregateOp::First:
+        case Aggregate::First:
             return "akarix_first";
     }
     return "COUNT";
 }
 
-struct Wrapping {
-    const char* before;
-    const char* behind;
-};
-
-Wrapping WrappingOf(Conversion conversion) {
-    switch (conversion) {
-        case Conversion::WholeToCurrency:
-            return {"(", "*10000)"};
-        case Conversion::RealToScaled:
-            return {"(", "*10000.0)"};
-        case Conversion::WholeToReal:
-            return {"CAST(", " AS REAL)"};
-        case Conversion::CurrencyToReal:
-            return {"(", "/10000.0)"};
-        case Conversion::WholeToText:
-            return {"CAST(", " AS TEXT)"};
-        case Conversion::NumberToBoolean:
-            return {"(-(", "<>0))"};
-    }
-    return {"(", ")"};
+/// The function that an operator needs where the engine's own would not do.
+const char* FunctionOf(Operator op, const BoundExpression& expression) {
+    if (op == Operator::Divide) return "akarix_divide";
+    const auto isMoney = [](const BoundPtr& operand) { return operand->kind == Kind::Currency; };
+    const bool money = std::all_of(expression.operands.begin(), expression.operands.end(), isMoney);
+    return op == Operator::Multiply && money ? "akarix_mul_currency" : nullptr;
 }
 
-/// Truth values of the engine, 1 and 0, unlike those of the dialect, -1 and 0.
-template <class Node>
-constexpr bool kIsTest = std::is_same_v<Node, BoundNot> || std::is_same_v<Node, BoundLogic> ||
-                         std::is_same_v<Node, BoundComparison> || std::is_same_v<Node, BoundIsNull> ||
-                         std::is_same_v<Node, BoundLike>;
+bool IsProduct(Operator op) {
+    return op == Operator::Multiply;
+}
 
 }  // namespace
 
+/// Truth values of the engine are 1 and 0, unlike those of the dialect, -1 and 0.
 void Writer::value(const BoundExpression& expression) {
-    std::visit(
-        [this](const auto& n) {
-            if constexpr (kIsTest<std::decay_t<decltype(n)>>) {
-                out_ += "(-(";
-                test(n);
-                out_ += "))";
-            } else {
-                node(n);
-            }
-        },
-        expression.node);
+    if (const auto* column = expression.as<BoundColumn>())
+        out_.text += columnText(*column->table, column->column);
+    else if (const auto* given = expression.as<BoundLiteral>())
+        literal(*given);
+    else if (const auto* op = expression.as<Operator>())
+        operation(*op, expression);
+    else if (const auto* converted = expression.as<BoundConversion>())
+        conversion(converted->form, *expression.operands.front());
+    else if (const auto* fitted = expression.as<BoundFit>())
+        fit(*fitted->column, *expression.operands.front());
+    else if (const auto* which = expression.as<Aggregate>())
+        aggregate(*which, expression);
+    else
+        out_.text += "NULL";
 }
 
 void Writer::condition(const BoundExpression& expression) {
-    std::visit(
-        [&](const auto& n) {
-            if constexpr (kIsTest<std::decay_t<decltype(n)>>) {
-                test(n);
-            } else {
-                node(n);
-                out_ += "<>0";
-            }
-        },
-        expression.node);
+    const auto* op = expression.as<Operator>();
+    if (op && IsTest(*op)) {
+        test(*op, expression.operands);
+    } else {
+        value(expression);
+        out_.text += "<>0";
+    }
 }
 
 QByteArray Writer::valueText(const BoundExpression& expression) {
-    QByteArray before;
-    out_.swap(before);
+    QByteArray text;
+    out_.text.swap(text);
     value(expression);
-    out_.swap(before);
-    return before;
+    out_.text.swap(text);
+    return text;
 }
 
-void Writer::list(const std::vector<BoundPtr>& expressions) {
-    bool first = true;
-    for (const BoundPtr& one : expressions) {
-        if (!first) out_ += ',';
-        first = false;
-        value(*one);
-    }
-}
-
-void Writer::node(const BoundColumn& n) {
-    out_ += columnText(*n.table, n.column);
-}
-
-void Writer::node(const BoundLiteral& n) {
-    if (n.lifted < 0) {
-        constant(LiteralFor(n.target, n.literal, n.negated, n.use));
+void Writer::literal(const BoundLiteral& literal) {
+    if (literal.place.number < 0) {
+        constant(ValueAt(literal.place, literal.literal));
         return;
     }
-    const Slot slot{n.lifted, n.negated, n.use, n.target};
-    std::size_t place = 0;
-    while (place < parameters_.size() && !(parameters_[place] == slot))
-        ++place;
-    if (place == parameters_.size()) parameters_.push_back(slot);
-    out_ += '?' + QByteArray::number(static_cast<qulonglong>(place + 1));
+    const auto place = std::find(places_.begin(), places_.end(), literal.place);
+    out_.text += '?' + QByteArray::number(place - places_.begin() + 1);
 }
 
 void Writer::constant(const StoreValue& constant) {
     if (const auto* whole = std::get_if<std::int64_t>(&constant))
-        out_ += '(' + QByteArray::number(static_cast<qlonglong>(*whole)) + ')';
+        out_.text += '(' + QByteArray::number(static_cast<qlonglong>(*whole)) + ')';
     else if (const auto* real = std::get_if<double>(&constant))
-        out_ += '(' + QByteArray::number(*real, 'e', 17) + ')';
+        out_.text += '(' + QByteArray::number(*real, 'e', 17) + ')';
     else if (const auto* text = std::get_if<QString>(&constant))
-        out_ += '\'' + QString(*text).replace(u'\'', u"''"_s).toUtf8() + '\'';
+        out_.text += '\'' + QString(*text).replace(u'\'', u"''"_s).toUtf8() + '\'';
     else
-        out_ += "NULL";
+        out_.text += "NULL";
 }
 
-void Writer::node(const BoundNull&) {
-    out_ += "NULL";
-}
-
-void Writer::node(const BoundNegation& n) {
-    out_ += "(-";
-    value(*n.operand);
-    out_ += ')';
-}
-
-void Writer::node(const BoundArithmetic& n) {
-    out_ += '(';
-    arithmetic(n);
-    out_ += ')';
-}
-
-void Writer::arithmetic(const BoundArithmetic& n) {
-    // A chain is written without parentheses, of which the engine takes a limited depth.
-    const auto* inner = std::get_if<BoundArithmetic>(&n.left->node);
-    if (inner && RankOf(inner->op) == RankOf(n.op))
-        arithmetic(*inner);
-    else
-        value(*n.left);
-    out_ += SymbolOf(n.op);
-    value(*n.right);
-}
-
-void Writer::node(const BoundConversion& n) {
-    const Wrapping wrapping = WrappingOf(n.conversion);
-    out_ += wrapping.before;
-    value(*n.operand);
-    out_ += wrapping.behind;
-}
-
-void Writer::node(const BoundCall& n) {
-    computes_ = true;
-    out_ += n.function->name;
-    out_ += '(';
-    list(n.arguments);
-    out_ += ')';
-}
-
-void Writer::node(const BoundAggregate& n) {
-    computes_ = true;
-    out_ += akarix::NameOf(n.op);
-    out_ += '(';
-    if (!n.operand) {
-        out_ += '*';
+void Writer::operation(Operator op, const BoundExpression& expression) {
+    if (IsTest(op)) {
+        out_.text += "(-(";
+        test(op, expression.operands);
+        out_.text += "))";
+    } else if (op == Operator::Negate) {
+        out_.text += "(-";
+        value(*expression.operands.front());
+        out_.text += ')';
+    } else if (const char* function = FunctionOf(op, expression)) {
+        call(function, expression.operands);
     } else {
-        value(*n.operand);
-        if (n.op == AggregateOp::Max && n.operand->kind == Kind::Text) out_ += kFold;
-        if (n.op == AggregateOp::First) {
+        out_.text += '(';
+        arithmetic(op, expression);
+        out_.text += ')';
+    }
+}
+
+void Writer::arithmetic(Operator op, const BoundExpression& expression) {
+    // A chain is written without parentheses, of which the engine takes a limited depth.
+    const BoundExpression& left = *expression.operands[0];
+    const auto* inner = left.as<Operator>();
+    const bool chain = inner && *inner >= Operator::Add && *inner <= Operator::Multiply &&
+                       IsProduct(*inner) == IsProduct(op) && !FunctionOf(*inner, left);
+    if (chain)
+        arithmetic(*inner, left);
+    else
+        value(left);
+    out_.text += SymbolOf(op);
+    value(*expression.operands[1]);
+}
+
+void Writer::test(Operator op, const std::vector<BoundPtr>& operands) {
+    const auto bracketed = [this](const BoundExpression& expression) {
+        out_.text += '(';
+        condition(expression);
+        out_.text += ')';
+    };
+    switch (op) {
+        case Operator::Not:
+            out_.text += "NOT ";
+            bracketed(*operands[0]);
+            return;
+        case Operator::Or:
+        case Operator::And: {
+            const auto* inner = operands[0]->as<Operator>();
+            if (inner && *inner == op)
+                condition(*operands[0]);
+            else
+                bracketed(*operands[0]);
+            out_.text += SymbolOf(op);
+            bracketed(*operands[1]);
+            return;
+        }
+        case Operator::IsNull:
+            value(*operands[0]);
+            out_.text += " IS NULL";
+            return;
+        case Operator::Like:
+            call("akarix_like", {operands[1], operands[0]});
+            return;
+        default:
+            break;
+    }
+    value(*operands[0]);
+    out_.text += SymbolOf(op);
+    value(*operands[1]);
+    if (operands[0]->kind == Kind::Text || operands[1]->kind == Kind::Text) out_.text += kFold;
+}
+
+void Writer::conversion(Form form, const BoundExpression& operand) {
+    const bool real = operand.kind == Kind::Double || operand.kind == Kind::Date;
+    const bool cast = form == Form::Real && operand.kind != Kind::Currency;
+    out_.text += cast ? "CAST(" : "(";
+    value(operand);
+    if (form == Form::Scaled)
+        out_.text += real ? "*10000.0)" : "*10000)";
+    else
+        out_.text += cast ? " AS REAL)" : "/10000.0)";
+}
+
+void Writer::fit(const ColumnDef& column, const BoundExpression& operand) {
+    out_.computes = true;
+    out_.text += "akarix_fit(";
+    value(operand);
+    for (const int part : {static_cast<int>(operand.kind), static_cast<int>(column.type), column.size,
+                           column.required ? 1 : 0})
+        out_.text += ',' + QByteArray::number(part);
+    out_.text += ')';
+}
+
+void Writer::call(const char* function, const std::vector<BoundPtr>& arguments) {
+    out_.computes = true;
+    out_.text += function;
+    char before = '(';
+    for (const BoundPtr& argument : arguments) {
+        out_.text += std::exchange(before, ',');
+        value(*argument);
+    }
+    out_.text += ')';
+}
+
+void Writer::aggregate(Aggregate which, const BoundExpression& expression) {
+    out_.computes = true;
+    out_.text += akarix::NameOf(which);
+    out_.text += '(';
+    if (expression.operands.empty()) {
+        out_.text += '*';
+    } else {
+        const BoundExpression& operand = *expression.operands.front();
+        value(operand);
+        if (which == Aggregate::Max && operand.kind == Kind::Text) out_.text += kFold;
+        if (which == Aggregate::First) {
             // The engine feeds groups in no settled order: the row's place comes along.
             for (const OrderTerm& term : naturalOrder(*aggregated_))
-                out_ += ',' + term.text;
+                out_.text += ',' + term.text;
         }
     }
-    out_ += ')';
-}
-
-void Writer::test(const BoundNot& n) {
-    out_ += "NOT (";
-    condition(*n.operand);
-    out_ += ')';
-}
-
-void Writer::test(const BoundLogic& n) {
-    logicOperand(n.left, n.op);
-    out_ += n.op == LogicOp::And ? " AND " : " OR ";
-    out_ += '(';
-    condition(*n.right);
-    out_ += ')';
-}
-
-void Writer::logicOperand(const BoundPtr& operand, LogicOp op) {
-    const auto* inner = std::get_if<BoundLogic>(&operand->node);
-    const bool chain = inner && inner->op == op;
-    if (!chain) out_ += '(';
-    condition(*operand);
-    if (!chain) out_ += ')';
-}
-
-void Writer::test(const BoundComparison& n) {
-    value(*n.left);
-    out_ += SymbolOf(n.op);
-    value(*n.right);
-    if (n.left->kind == Kind::Text || n.right->kind == Kind::Text) out_ += kFold;
-}
-
-void Writer::test(const BoundIsNull& n) {
-    value(*n.operand);
-    out_ += n.negated ? " IS NOT NULL" : " IS NULL";
-}
-
-void Writer::test(const BoundLike& n) {
-    computes_ = true;
-    if (n.negated) out_ += "NOT ";
-    out_ += "akarix_like(";
-    value(*n.pattern);
-    out_ += ',';
-    value(*n.operand);
-    out_ += ')';
+    out_.text += ')';
 }
 
 QByteArray Writer::nameOf(const BoundTable& table) const {
@@ -268,7 +247,7 @@ QByteArray Writer::nameOf(const BoundTable& table) const {
 }
 
 QByteArray Writer::columnText(const BoundTable& table, int column) const {
-    return nameOf(table) + '.' + Quoted(table.definition->columns[static_cast<std::size_t>(column)].name);
+    return nameOf(table) + '.' + Quoted(table.definition->at(column).name);
 }
 
 }  // namespace akarix

@@ -1,6 +1,5 @@
 #include "platform/cipher/RegisterFunctions.h"
 
-#include <sqlcipher/sqlite3.h>
 #include <unicode/ucol.h>
 
 #include <cstring>
@@ -8,29 +7,17 @@
 #include <new>
 #include <vector>
 
-#include "platform/cipher/SqlFunctions.h"
+#include "platform/cipher/Sqlite.h"
+#include "platform/dialect/ColumnValue.h"
+#include "platform/dialect/LikePattern.h"
 #include "platform/dialect/TextFold.h"
+#include "platform/runtime/Currency.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {
 namespace {
 
 constexpr char kErrorMark[] = "akarix ";
-
-StoreValue ValueOf(sqlite3_value* value) {
-    switch (sqlite3_value_type(value)) {
-        case SQLITE_INTEGER:
-            return std::int64_t{sqlite3_value_int64(value)};
-        case SQLITE_FLOAT:
-            return sqlite3_value_double(value);
-        case SQLITE_TEXT: {
-            const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(value));
-            return QString::fromUtf8(bytes, sqlite3_value_bytes(value));
-        }
-        default:
-            return std::monostate();
-    }
-}
 
 void Give(sqlite3_context* context, const StoreValue& value) {
     if (const auto* whole = std::get_if<std::int64_t>(&value))
@@ -48,9 +35,55 @@ void GiveError(sqlite3_context* context, int number) {
     sqlite3_result_error(context, message.constData(), static_cast<int>(message.size()));
 }
 
+std::int64_t Whole(const StoreValue& value) {
+    if (const auto* number = std::get_if<std::int64_t>(&value)) return *number;
+    throw RuntimeError(6);  // a whole number that left its 64 bits comes as a double
+}
+
+using Values = const StoreValue*;
+
+StoreValue Product(Values a) {
+    return (Currency::FromScaled(Whole(a[0])) * Currency::FromScaled(Whole(a[1]))).Scaled();
+}
+
+StoreValue Quotient(Values a) {
+    const double divisor = RealOf(Kind::Double, a[1]);
+    if (divisor == 0) throw RuntimeError(11);
+    return RealOf(Kind::Double, a[0]) / divisor;
+}
+
+StoreValue Liked(Values a) {
+    return std::int64_t{LikeMatches(std::get<QString>(a[0]), std::get<QString>(a[1]))};
+}
+
+/// A value with its kind, and the type, width and requirement of the column it goes into.
+StoreValue Fitted(Values a) {
+    ColumnDef column;
+    column.type = static_cast<FieldType>(Whole(a[2]));
+    column.size = static_cast<int>(Whole(a[3]));
+    column.required = Whole(a[4]) != 0;
+    return FittedTo(column, static_cast<Kind>(Whole(a[1])), a[0]);
+}
+
+/// A function that the written statements call. The same arguments always give the same value. RuntimeError
+/// leaves it where the dialect raises.
+struct SqlFunction {
+    const char* name;
+    int arguments;
+    bool takesNull;  ///< otherwise a Null argument gives Null without a call
+    StoreValue (*run)(Values arguments);
+};
+
+constexpr SqlFunction kFunctions[] = {
+    {"akarix_mul_currency", 2, false, Product},
+    {"akarix_divide", 2, false, Quotient},
+    {"akarix_like", 2, false, Liked},
+    {"akarix_fit", 5, true, Fitted},
+};
+
 void CallFunction(sqlite3_context* context, int count, sqlite3_value** values) {
     const auto* function = static_cast<const SqlFunction*>(sqlite3_user_data(context));
-    StoreValue arguments[4];
+    StoreValue arguments[5];
     for (int i = 0; i < count; ++i) {
         arguments[i] = ValueOf(values[i]);
         if (!function->takesNull && std::holds_alternative<std::monostate>(arguments[i])) return;
@@ -174,7 +207,7 @@ void Check(int result) {
 }  // namespace
 
 void RegisterSqlFunctions(sqlite3* connection) {
-    for (const SqlFunction& function : SqlFunctions()) {
+    for (const SqlFunction& function : kFunctions) {
         Check(sqlite3_create_function_v2(
             connection, function.name, function.arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
             const_cast<SqlFunction*>(&function), CallFunction, nullptr, nullptr, nullptr));

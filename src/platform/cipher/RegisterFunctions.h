@@ -6,7 +6,7 @@ struct sqlite3;
 
 namespace akarix {
 
-/// Gives a connection the functions of SqlFunctions.h, the aggregate akarix_first and the
+/// Gives a connection the functions that the written statements call, the aggregate akarix_first and the
 /// collations AKARIX_NOCASE (the keys of texts), AKARIX_TEXT (comparisons and groups of texts, see
 /// TextFold.h) and AKARIX_ORDER (the order of a Japanese list; not for the schema, since it changes with the
 /// ICU in use). To be called on every connection before its first statement.

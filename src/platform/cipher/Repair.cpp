@@ -5,7 +5,6 @@
 #include <filesystem>
 
 #include "platform/cipher/CatalogueReader.h"
-#include "platform/cipher/Identifier.h"
 #include "platform/cipher/Salvage.h"
 #include "platform/cipher/SchemaCopy.h"
 #include "platform/cipher/StoreFile.h"

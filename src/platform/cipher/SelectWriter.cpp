@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/cipher/Sqlite.h"
 #include "platform/cipher/Writer.h"
 
 // The order of rows. What ORDER BY asks for comes first; texts go by the Japanese order, then by code points.
@@ -12,8 +13,7 @@ namespace akarix {
 namespace {
 
 bool IsConstant(const BoundExpression& expression) {
-    return std::holds_alternative<BoundLiteral>(expression.node) ||
-           std::holds_alternative<BoundNull>(expression.node);
+    return expression.as<BoundLiteral>() || expression.as<BoundNull>();
 }
 
 QByteArray Numbered(char letter, std::size_t number) {
@@ -22,29 +22,39 @@ QByteArray Numbered(char letter, std::size_t number) {
 
 }  // namespace
 
-void Writer::query(const BoundQuery& query, bool rowNumber) {
+Written Write(const BoundStatement& statement) {
+    Writer writer(statement.places);
+    std::visit(writer, statement.body);
+    return std::move(writer).written();
+}
+
+void Writer::operator()(const BoundQuery& query) {
+    rowNumber_ = query.updatable();
+    select(query);
+}
+
+void Writer::select(const BoundQuery& query) {
     aggregated_ = &query.rows;
-    Shape shape;
-    shape.rowNumber = rowNumber;
     if (query.top) {
-        topSelect(query, shape);
+        topSelect(query);
     } else {
-        body(query, shape, nullptr);
+        body(query, nullptr);
         orderBy(orderOf(query).terms);
     }
 }
 
-void Writer::body(const BoundQuery& query, const Shape& shape, const Order* keys) {
-    out_ += "SELECT ";
+/// \param keys what a query around it orders by: they come as k0, k1 ... behind the items, named c0, c1 ...
+void Writer::body(const BoundQuery& query, const Order* keys) {
+    out_.text += "SELECT ";
     for (std::size_t i = 0; i < query.items.size(); ++i) {
-        if (i > 0) out_ += ',';
-        value(*query.items[i].expression);
-        if (shape.aliased) out_ += " AS " + Numbered('c', i);
+        if (i > 0) out_.text += ',';
+        value(*query.items[i]);
+        if (keys) out_.text += " AS " + Numbered('c', i);
     }
-    if (shape.rowNumber) out_ += ',' + nameOf(*query.rows.tables.front()) + "._rowid_ AS r";
+    if (rowNumber_) out_.text += ',' + nameOf(*query.rows.tables.front()) + "._rowid_ AS r";
     if (keys)
         for (std::size_t i = 0; i < keys->terms.size(); ++i)
-            out_ += ',' + keys->terms[i].text + " AS " + Numbered('k', i);
+            out_.text += ',' + keys->terms[i].text + " AS " + Numbered('k', i);
     rows(query.rows);
     groupBy(query);
 }
@@ -52,16 +62,16 @@ void Writer::body(const BoundQuery& query, const Shape& shape, const Order* keys
 void Writer::rows(const BoundRows& rows) {
     for (std::size_t i = 0; i < rows.tables.size(); ++i) {
         const BoundTable& table = *rows.tables[i];
-        out_ += i == 0 ? " FROM " : rows.joins[i - 1].outer ? " LEFT JOIN " : " INNER JOIN ";
-        out_ += Quoted(table.definition->name) + " AS " + nameOf(table);
+        out_.text += i == 0 ? " FROM " : rows.joins[i - 1].outer ? " LEFT JOIN " : " INNER JOIN ";
+        out_.text += Quoted(table.definition->name) + " AS " + nameOf(table);
         if (i == 0) continue;
-        out_ += " ON ";
+        out_.text += " ON ";
         condition(*rows.joins[i - 1].on);
     }
     if (rows.where) {
-        out_ += " WHERE (";
+        out_.text += " WHERE (";
         condition(*rows.where);
-        out_ += ')';
+        out_.text += ')';
     }
 }
 
@@ -72,15 +82,15 @@ void Writer::groupBy(const BoundQuery& query) {
         groups += (groups.isEmpty() ? "" : ",") + valueText(*group);
         if (group->kind == Kind::Text) groups += " COLLATE AKARIX_TEXT";
     }
-    if (!groups.isEmpty()) out_ += " GROUP BY " + groups;
+    if (!groups.isEmpty()) out_.text += " GROUP BY " + groups;
 }
 
 void Writer::orderBy(const std::vector<OrderTerm>& terms) {
     for (std::size_t i = 0; i < terms.size(); ++i) {
-        out_ += i == 0 ? " ORDER BY " : ",";
-        out_ += terms[i].text;
-        if (*terms[i].collation) out_ += QByteArray(" COLLATE ") + terms[i].collation;
-        if (terms[i].descending) out_ += " DESC";
+        out_.text += i == 0 ? " ORDER BY " : ",";
+        out_.text += terms[i].text;
+        if (*terms[i].collation) out_.text += QByteArray(" COLLATE ") + terms[i].collation;
+        if (terms[i].descending) out_.text += " DESC";
     }
 }
 
@@ -93,8 +103,7 @@ Writer::Order Writer::orderOf(const BoundQuery& query) {
         for (const BoundPtr& group : query.groups)
             if (!IsConstant(*group)) addTerm(order.terms, *group, false);
     } else {
-        const std::vector<OrderTerm> ties =
-            order.asked > 0 ? rowNumbers(query.rows) : naturalOrder(query.rows);
+        const std::vector<OrderTerm> ties = naturalOrder(query.rows, order.asked == 0);
         order.terms.insert(order.terms.end(), ties.begin(), ties.end());
     }
     return order;
@@ -112,10 +121,11 @@ void Writer::addTerm(std::vector<OrderTerm>& terms, const BoundExpression& expre
     }
 }
 
-std::vector<Writer::OrderTerm> Writer::naturalOrder(const BoundRows& rows) {
+/// \param byKey by the key of a table that has one, else by the numbers of its rows.
+std::vector<Writer::OrderTerm> Writer::naturalOrder(const BoundRows& rows, bool byKey) {
     std::vector<OrderTerm> terms;
     for (const auto& table : rows.tables) {
-        if (!table->definition->uniqueKeys.empty())
+        if (byKey && !table->definition->uniqueKeys.empty())
             for (const QString& column : table->definition->uniqueKeys.front())
                 terms.push_back({columnText(*table, table->definition->indexOf(column)), "", false});
         else
@@ -124,24 +134,15 @@ std::vector<Writer::OrderTerm> Writer::naturalOrder(const BoundRows& rows) {
     return terms;
 }
 
-std::vector<Writer::OrderTerm> Writer::rowNumbers(const BoundRows& rows) {
-    std::vector<OrderTerm> terms;
-    for (const auto& table : rows.tables)
-        terms.push_back({nameOf(*table) + "._rowid_", "", false});
-    return terms;
-}
-
 /// TOP keeps every row that is equal to the last one in what ORDER BY asks for. The rows (named b) are held
 /// against the last of the counted ones (named x).
-void Writer::topSelect(const BoundQuery& query, const Shape& shape) {
+void Writer::topSelect(const BoundQuery& query) {
     const QByteArray limit = " LIMIT " + QByteArray::number(static_cast<qlonglong>(*query.top));
     const Order order = orderOf(query);
-    Shape inner = shape;
-    inner.aliased = true;
     if (order.asked == 0) {
-        body(query, shape, nullptr);
+        body(query, nullptr);
         orderBy(order.terms);
-        out_ += limit;
+        out_.text += limit;
         return;
     }
     std::vector<OrderTerm> keys;
@@ -157,22 +158,22 @@ void Writer::topSelect(const BoundQuery& query, const Shape& shape) {
         term.text.prepend("b.");
         all.push_back(term);
     }
-    out_ += "SELECT ";
+    out_.text += "SELECT ";
     for (std::size_t i = 0; i < query.items.size(); ++i) {
         const QByteArray name = Numbered('c', i);
-        out_ += (i == 0 ? "b." : ",b.") + name;
+        out_.text += (i == 0 ? "b." : ",b.") + name;
     }
-    if (shape.rowNumber) out_ += ",b.r";
-    out_ += " FROM (SELECT * FROM (SELECT * FROM (";
-    body(query, inner, &order);
-    out_ += ')';
+    if (rowNumber_) out_.text += ",b.r";
+    out_.text += " FROM (SELECT * FROM (SELECT * FROM (";
+    body(query, &order);
+    out_.text += ')';
     orderBy(keys);
-    out_ += limit;
-    out_ += ')';
+    out_.text += limit;
+    out_.text += ')';
     orderBy(backwards);
-    out_ += " LIMIT 1) AS x CROSS JOIN (";
-    body(query, inner, &order);
-    out_ += ") AS b WHERE ";
+    out_.text += " LIMIT 1) AS x CROSS JOIN (";
+    body(query, &order);
+    out_.text += ") AS b WHERE ";
     for (std::size_t i = 0; i < keys.size(); ++i) {
         const QByteArray own = "b." + keys[i].text;
         const QByteArray last = "x." + keys[i].text;
@@ -180,12 +181,12 @@ void Writer::topSelect(const BoundQuery& query, const Shape& shape) {
             *keys[i].collation ? QByteArray(" COLLATE ") + keys[i].collation : QByteArray();
         const bool down = keys[i].descending;
         // Nulls stand before everything else.
-        out_ += '(' + own + (down ? '>' : '<') + last + collation + " OR " + own +
-                (down ? " IS NOT NULL" : " IS NULL") + " AND " + last + (down ? " IS NULL" : " IS NOT NULL") +
-                " OR " + own + " IS " + last + collation;
-        if (i + 1 < keys.size()) out_ += " AND ";
+        out_.text += '(' + own + (down ? '>' : '<') + last + collation + " OR " + own +
+                     (down ? " IS NOT NULL" : " IS NULL") + " AND " + last +
+                     (down ? " IS NULL" : " IS NOT NULL") + " OR " + own + " IS " + last + collation;
+        if (i + 1 < keys.size()) out_.text += " AND ";
     }
-    out_ += QByteArray(static_cast<qsizetype>(keys.size()), ')');
+    out_.text += QByteArray(static_cast<qsizetype>(keys.size()), ')');
     orderBy(all);
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/cipher/RegisterFunctions.h"
 #include "platform/dialect/StoreError.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
@@ -54,6 +55,11 @@ QString ConstrainedNames(const QByteArray& message) {
 
 }  // namespace
 
+QByteArray Quoted(const QString& name) {
+    QString inner = name;
+    return '"' + inner.replace(u'"', u"\"\""_s).toUtf8() + '"';
+}
+
 void RaiseEngineError(sqlite3* connection) {
     const int extended = sqlite3_extended_errcode(connection);
     const QByteArray message = sqlite3_errmsg(connection);
@@ -82,10 +88,7 @@ void Bind(sqlite3_stmt* statement, int index, const StoreValue& value) {
     }
 }
 
-StoreValue ColumnValue(sqlite3_stmt* statement, int index) {
-    // Asked for once: on a connection without a mutex such a value may be read like a protected one
-    // (https://sqlite.org/c3ref/value.html).
-    sqlite3_value* value = sqlite3_column_value(statement, index);
+StoreValue ValueOf(sqlite3_value* value) {
     switch (sqlite3_value_type(value)) {
         case SQLITE_INTEGER:
             return std::int64_t{sqlite3_value_int64(value)};
@@ -98,6 +101,12 @@ StoreValue ColumnValue(sqlite3_stmt* statement, int index) {
             return QString::fromUtf8(text, sqlite3_value_bytes(value));
         }
     }
+}
+
+StoreValue ColumnValue(sqlite3_stmt* statement, int index) {
+    // On a connection without a mutex such a value may be read like a protected one
+    // (https://sqlite.org/c3ref/value.html).
+    return ValueOf(sqlite3_column_value(statement, index));
 }
 
 bool Step(sqlite3* connection, sqlite3_stmt* statement) {

@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <memory>
 
-#include "platform/dialect/Plan.h"
+#include "platform/dialect/StoreValue.h"
 
 namespace akarix {
 
@@ -18,11 +18,15 @@ struct FinalizeStatement {
 using Connection = std::unique_ptr<sqlite3, CloseConnection>;
 using Statement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
+/// A name as the engine's SQL quotes it.
+QByteArray Quoted(const QString& name);
+
 /// Raises the classic error for the connection's last failure.
 [[noreturn]] void RaiseEngineError(sqlite3* connection);
 
 Statement Prepare(sqlite3* connection, const QByteArray& sql);
 void Bind(sqlite3_stmt* statement, int index, const StoreValue& value);
+StoreValue ValueOf(sqlite3_value* value);
 StoreValue ColumnValue(sqlite3_stmt* statement, int index);
 
 /// Steps to the end and resets, also when it raises.

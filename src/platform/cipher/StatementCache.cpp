@@ -2,48 +2,67 @@
 
 #include <algorithm>
 
+#include "platform/cipher/Writer.h"
+
 namespace akarix {
 namespace {
 
-constexpr std::size_t kMostPlans = 256;
 constexpr std::size_t kMostRows = 64;
+
+QByteArray Place(std::size_t index) {
+    return '?' + QByteArray::number(static_cast<int>(index) + 1);
+}
+
+QByteArray InsertText(const TableDef& table, const std::vector<QString>& columns) {
+    QByteArray text = "INSERT INTO " + Quoted(table.name);
+    if (columns.empty()) return text + " DEFAULT VALUES";
+    QByteArray names;
+    QByteArray places;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const char* comma = i == 0 ? "" : ",";
+        names += comma + Quoted(columns[i]);
+        places += comma + Place(i);
+    }
+    return text + '(' + names + ") VALUES(" + places + ')';
+}
+
+QByteArray UpdateText(const TableDef& table, const std::vector<QString>& columns) {
+    // One row is changed or none, so there is nothing to take back when a rule is broken; the engine need not
+    // keep the page as it was for that, encrypted once more.
+    QByteArray text = "UPDATE OR FAIL " + Quoted(table.name) + " SET ";
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        text += (i == 0 ? "" : ",") + Quoted(columns[i]) + '=' + Place(i);
+    return text + " WHERE rowid=" + Place(columns.size());
+}
 
 }  // namespace
 
-sqlite3_stmt* StatementCache::of(const std::shared_ptr<const Plan>& plan) {
-    auto found = byPlan_.find(plan.get());
-    if (found == byPlan_.end()) {
-        makeRoom();
-        found = byPlan_.emplace(plan.get(), Entry{plan, Prepare(connection_, plan->text), 0}).first;
-    }
-    found->second.used = ++uses_;
-    return found->second.statement.get();
+const PreparedStatement& StatementCache::of(const std::shared_ptr<const BoundStatement>& bound) {
+    if (const PreparedStatement* kept = bound_.object(bound.get())) return *kept;
+    const Written written = Write(*bound);
+    auto* made = new PreparedStatement{bound, Prepare(connection_, written.text), written.computes};
+    bound_.insert(bound.get(), made);
+    return *made;
 }
 
 sqlite3_stmt* StatementCache::of(RowWrite kind, const TableDef& table, const std::vector<QString>& columns) {
-    const auto found = std::find_if(byRow_.begin(), byRow_.end(), [&](const RowEntry& entry) {
+    const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const RowEntry& entry) {
         return entry.kind == kind && entry.table == table.name && entry.columns == columns;
     });
-    if (found != byRow_.end()) {
-        byRow_.splice(byRow_.begin(), byRow_, found);
+    if (found != rows_.end()) {
+        rows_.splice(rows_.begin(), rows_, found);
     } else {
-        byRow_.push_front(
-            {kind, table.name, columns, Prepare(connection_, RowWriteText(kind, table, columns))});
-        if (byRow_.size() > kMostRows) byRow_.pop_back();
+        const QByteArray text =
+            kind == RowWrite::Insert ? InsertText(table, columns) : UpdateText(table, columns);
+        rows_.push_front({kind, table.name, columns, Prepare(connection_, text)});
+        if (rows_.size() > kMostRows) rows_.pop_back();
     }
-    return byRow_.front().statement.get();
+    return rows_.front().statement.get();
 }
 
 void StatementCache::clear() {
-    byPlan_.clear();
-    byRow_.clear();
-}
-
-void StatementCache::makeRoom() {
-    if (byPlan_.size() < kMostPlans) return;
-    byPlan_.erase(std::min_element(byPlan_.begin(), byPlan_.end(), [](const auto& a, const auto& b) {
-        return a.second.used < b.second.used;
-    }));
+    bound_.clear();
+    rows_.clear();
 }
 
 }  // namespace akarix

@@ -1,32 +1,36 @@
 #pragma once
 
+#include <QCache>
 #include <list>
 #include <memory>
-#include <unordered_map>
 
-#include "platform/cipher/RowWrite.h"
 #include "platform/cipher/Sqlite.h"
-#include "platform/dialect/Plan.h"
+#include "platform/dialect/BoundStatement.h"
 
 namespace akarix {
 
-/// The engine's prepared statements, by plan and by row written; the least used of them is given up when
-/// there are too many.
+/// A bound statement as the engine has it ready.
+struct PreparedStatement {
+    std::shared_ptr<const BoundStatement> bound;  ///< kept, so that its address stays its own
+    Statement statement;
+    bool computes = false;  ///< as Written tells
+};
+
+/// What AddNew and Edit come to: one row, of which only the columns that were set are written.
+enum class RowWrite { Insert, Update };
+
+/// The engine's prepared statements, by bound statement and by row written; the least used of them is given
+/// up when there are too many.
 class StatementCache {
  public:
     explicit StatementCache(sqlite3* connection) : connection_(connection) {}
 
-    sqlite3_stmt* of(const std::shared_ptr<const Plan>& plan);
+    const PreparedStatement& of(const std::shared_ptr<const BoundStatement>& bound);
+    /// Takes the columns' values as ?1, ?2 ...; behind them, of an update, the row's number.
     sqlite3_stmt* of(RowWrite kind, const TableDef& table, const std::vector<QString>& columns);
     void clear();
 
  private:
-    struct Entry {
-        std::shared_ptr<const Plan> plan;  ///< kept, so that its address stays its own
-        Statement statement;
-        std::uint64_t used = 0;
-    };
-
     struct RowEntry {
         RowWrite kind;
         QString table;
@@ -34,12 +38,9 @@ class StatementCache {
         Statement statement;
     };
 
-    void makeRoom();
-
     sqlite3* connection_;
-    std::unordered_map<const Plan*, Entry> byPlan_;
-    std::list<RowEntry> byRow_;  // the one used last in front
-    std::uint64_t uses_ = 0;
+    QCache<const BoundStatement*, PreparedStatement> bound_{256};
+    std::list<RowEntry> rows_;  // the one used last in front
 };
 
 }  // namespace akarix

@@ -2,34 +2,29 @@
 
 #include <QByteArray>
 
-#include "platform/cipher/Identifier.h"
-#include "platform/dialect/BoundChange.h"
+#include "platform/dialect/BoundStatement.h"
 
 namespace akarix {
 
-/// A parameter of a written statement: which literal of the text it is and what that becomes.
-struct Slot {
-    int lifted;
-    bool negated;
-    LiteralUse use;
-    const ColumnDef* target = nullptr;  ///< the column it must fit, as the catalogue has it
-
-    friend bool operator==(const Slot&, const Slot&) = default;
+/// A statement in the engine's language, its values as ?1, ?2 ...
+struct Written {
+    QByteArray text;
+    bool computes = false;  ///< a value may turn out an error when some rows are changed already
 };
+Written Write(const BoundStatement& statement);
 
-/// Writes one bound statement in the engine's language. Rows come in a settled order, see SelectWriter.cpp.
+/// Writes one bound statement. Rows come in a settled order, see SelectWriter.cpp.
 class Writer {
  public:
-    /// \param rowNumber the number of the row of the only table comes behind the columns.
-    void query(const BoundQuery& query, bool rowNumber);
-    void insert(const BoundInsert& statement);
-    void update(const BoundUpdate& statement);
-    void remove(const BoundDelete& statement);
+    explicit Writer(const std::vector<LiteralPlace>& places) : places_(places) {}
 
-    const QByteArray& text() const { return out_; }
-    const std::vector<Slot>& parameters() const { return parameters_; }
-    /// Whether a value is computed that may turn out an error when some rows are changed already.
-    bool computes() const { return computes_; }
+    void operator()(const BoundQuery& query);
+    void operator()(const BoundInsert& statement);
+    void operator()(const BoundUpdate& statement);
+    void operator()(const BoundDelete& statement);
+    void operator()(const Definition&) {}
+
+    Written written() && { return std::move(out_); }
 
  private:
     struct OrderTerm {
@@ -41,54 +36,41 @@ class Writer {
         std::vector<OrderTerm> terms;
         std::size_t asked = 0;  // so many of them are the statement's own; the others settle ties
     };
-    struct Shape {
-        bool aliased = false;    // columns are named c0, c1 ... for the query around
-        bool rowNumber = false;  // as the last column, named r
-    };
 
     // Expressions
     void value(const BoundExpression& expression);
     void condition(const BoundExpression& expression);
     QByteArray valueText(const BoundExpression& expression);
-    void list(const std::vector<BoundPtr>& expressions);
-    void node(const BoundColumn& n);
-    void node(const BoundLiteral& n);
-    void node(const BoundNull& n);
-    void node(const BoundNegation& n);
-    void node(const BoundArithmetic& n);
-    void arithmetic(const BoundArithmetic& n);
-    void node(const BoundConversion& n);
-    void node(const BoundCall& n);
-    void node(const BoundAggregate& n);
-    void test(const BoundNot& n);
-    void test(const BoundLogic& n);
-    void test(const BoundComparison& n);
-    void test(const BoundIsNull& n);
-    void test(const BoundLike& n);
-    void logicOperand(const BoundPtr& operand, LogicOp op);
+    void literal(const BoundLiteral& literal);
     void constant(const StoreValue& constant);
+    void operation(Operator op, const BoundExpression& expression);
+    void test(Operator op, const std::vector<BoundPtr>& operands);
+    void arithmetic(Operator op, const BoundExpression& expression);
+    void conversion(Form form, const BoundExpression& operand);
+    void fit(const ColumnDef& column, const BoundExpression& operand);
+    void aggregate(Aggregate which, const BoundExpression& expression);
+    void call(const char* function, const std::vector<BoundPtr>& arguments);
 
     // Queries
-    void topSelect(const BoundQuery& query, const Shape& shape);
-    void body(const BoundQuery& query, const Shape& shape, const Order* keys);
+    void select(const BoundQuery& query);
+    void topSelect(const BoundQuery& query);
+    void body(const BoundQuery& query, const Order* keys);
     void rows(const BoundRows& rows);
     void groupBy(const BoundQuery& query);
     void orderBy(const std::vector<OrderTerm>& terms);
     Order orderOf(const BoundQuery& query);
     void addTerm(std::vector<OrderTerm>& terms, const BoundExpression& expression, bool descending);
-    std::vector<OrderTerm> naturalOrder(const BoundRows& rows);
-    std::vector<OrderTerm> rowNumbers(const BoundRows& rows);
+    std::vector<OrderTerm> naturalOrder(const BoundRows& rows, bool byKey = true);
 
     // Changes
-    void targetRows(const BoundRows& rows, const BoundTable& target);
     void assignments(const BoundUpdate& statement);
 
     QByteArray nameOf(const BoundTable& table) const;
     QByteArray columnText(const BoundTable& table, int column) const;
 
-    QByteArray out_;
-    std::vector<Slot> parameters_;
-    bool computes_ = false;
+    const std::vector<LiteralPlace>& places_;
+    Written out_;
+    bool rowNumber_ = false;                 ///< the number of the row comes behind the items
     const BoundTable* itself_ = nullptr;     ///< the table of a change, which has no other name than its own
     const BoundRows* aggregated_ = nullptr;  ///< the rows of the query being written, for First
 };

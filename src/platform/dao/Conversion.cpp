@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "platform/dialect/ColumnKind.h"
+#include "platform/dialect/ColumnValue.h"
 #include "platform/dialect/StoreError.h"
 #include "platform/runtime/Conversion.h"
 
@@ -29,30 +29,28 @@ Variant WholeVariant(const StoreValue& value) {
     return static_cast<Narrow>(number);
 }
 
-StoreValue StoredText(const ColumnDef& column, const Variant& value) {
-    StoreValue text = CStr(value);
-    if (const int misfit = MisfitOf(column, text)) throw StoreError(misfit, column.name);
-    return text;
-}
-
-StoreValue StoredNumber(FieldType type, const Variant& value) {
-    switch (type) {
-        case FieldType::Boolean:
-            return std::int64_t{CBool(value) ? -1 : 0};
-        case FieldType::Byte:
-        case FieldType::Integer:
-            return std::int64_t{CInt(value)};
-        case FieldType::Long:
-            return std::int64_t{CLng(value)};
-        case FieldType::Currency:
-            return std::int64_t{CCur(value).Scaled()};
-        case FieldType::Date:
-            return CDate(value).Serial();
-        case FieldType::Single:
-            return static_cast<double>(static_cast<float>(CDbl(value)));
-        default:
-            return CDbl(value);
+/// A value of the run time by its kind in the store.
+std::pair<Kind, StoreValue> StoreForm(const Variant& value) {
+    switch (value.Type()) {
+        case VarType::Boolean:
+        case VarType::Byte:
+        case VarType::Integer:
+        case VarType::Long:
+            return {Kind::Integer, std::int64_t{CLng(value)}};
+        case VarType::Currency:
+            return {Kind::Currency, value.As<Currency>().Scaled()};
+        case VarType::Single:
+        case VarType::Double:
+            return {Kind::Double, CDbl(value)};
+        case VarType::Date:
+            return {Kind::Date, value.As<Date>().Serial()};
+        case VarType::String:
+            return {Kind::Text, value.As<QString>()};
+        case VarType::Empty:
+        case VarType::Null:
+            break;
     }
+    return {Kind::Null, StoreValue()};
 }
 
 }  // namespace
@@ -86,16 +84,15 @@ Variant VariantOf(FieldType type, const StoreValue& value) {
 }
 
 StoreValue StoredAs(const ColumnDef& column, const Variant& value) {
-    if (value.IsNull() || value.IsEmpty()) return std::monostate{};
-    if (column.type == FieldType::Text || column.type == FieldType::Memo) return StoredText(column, value);
-    StoreValue stored;
+    const auto [kind, given] = StoreForm(value);
+    if (kind == Kind::Null) return std::monostate{};
     try {
-        stored = StoredNumber(column.type, value);
-    } catch (const RuntimeError&) {
+        return FittedTo(column, kind, given);
+    } catch (const RuntimeError& error) {
+        constexpr int kOutOfRange = 6;
+        if (error.number() != kOutOfRange) throw;
         throw StoreError(3421, column.name);
     }
-    if (!Fits(column, stored)) throw StoreError(3421, column.name);
-    return stored;
 }
 
 }  // namespace akarix

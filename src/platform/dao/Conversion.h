@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/dialect/Plan.h"
+#include "platform/dialect/ColumnValue.h"
 #include "platform/runtime/Variant.h"
 
 namespace akarix {

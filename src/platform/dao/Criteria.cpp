@@ -8,31 +8,22 @@
 #include "platform/runtime/Literals.h"
 
 namespace akarix {
-namespace {
-
-double Real(const StoreValue& value) {
-    const auto* whole = std::get_if<std::int64_t>(&value);
-    return whole ? static_cast<double>(*whole) : std::get<double>(value);
-}
-
-}  // namespace
-
 Criteria::Criteria(const QString& text, const std::vector<ResultColumn>& columns) {
     TableDef definition;  // the recordset's columns as a table of their own
     for (const ResultColumn& column : columns)
         definition.columns.push_back({column.name, column.type, column.size});
-    const BoundTable table{0, &definition};
+    const BoundTable table{0, std::make_shared<const TableDef>(std::move(definition))};
     Scope scope;
     scope.add(&table);
     const std::vector<Token> tokens = Tokenize(text);
     const BoundPtr bound = ExpressionBinder(scope).bind(*Parser(text, tokens).condition());
-    const auto* comparison = std::get_if<BoundComparison>(&bound->node);
-    if (comparison && comparison->op == CompareOp::Equal) {
-        const auto* column = std::get_if<BoundColumn>(&comparison->left->node);
-        const auto* literal = std::get_if<BoundLiteral>(&comparison->right->node);
+    const auto* op = bound->as<Operator>();
+    if (op && *op == Operator::Equal) {
+        const auto* column = bound->operands[0]->as<BoundColumn>();
+        const auto* literal = bound->operands[1]->as<BoundLiteral>();
         if (column && literal) {
             column_ = static_cast<std::size_t>(column->column);
-            wanted_ = LiteralValue(literal->literal, literal->negated, literal->use);
+            wanted_ = ValueAt(literal->place, literal->literal);
             return;
         }
     }
@@ -44,7 +35,8 @@ bool Criteria::matches(const std::vector<StoreValue>& row) const {
     if (std::holds_alternative<std::monostate>(value)) return false;
     if (const auto* text = std::get_if<QString>(&value))
         return CompareTexts(*text, std::get<QString>(wanted_)) == 0;
-    return value.index() == wanted_.index() ? value == wanted_ : Real(value) == Real(wanted_);
+    return value.index() == wanted_.index() ? value == wanted_
+                                            : RealOf(Kind::Double, value) == RealOf(Kind::Double, wanted_);
 }
 
 }  // namespace akarix

@@ -3,7 +3,7 @@
 #include <QString>
 #include <vector>
 
-#include "platform/dialect/Plan.h"
+#include "platform/dialect/BoundStatement.h"
 
 namespace akarix {
 

@@ -1,9 +1,6 @@
 #include "platform/dao/DBEngine.h"
 
-#include "platform/cipher/CipherEngine.h"
-#include "platform/cipher/Repair.h"
-#include "platform/cipher/StoreFile.h"
-#include "platform/dao/LastPassword.h"
+#include "platform/dao/Engines.h"
 #include "platform/dialect/StoreError.h"
 #include "platform/runtime/Files.h"
 #include "platform/runtime/Literals.h"
@@ -17,13 +14,11 @@ Workspace& DBEngine::Workspaces(int index) {
 }
 
 void DBEngine::RepairDatabase(const QString& name) {
-    const QString path = LocalPath(name);
-    RepairStoreFile(path, LastPassword(path));
+    RepairFile(LocalPath(name));
 }
 
 void DBEngine::CopyDatabase(const QString& name, const QString& to, Progress& progress) {
-    const QString path = LocalPath(name);
-    CipherEngine(OpenStoreFile(path, LastPassword(path))).copyTo(LocalPath(to), progress);
+    OpenEngineAgain(LocalPath(name))->copyTo(LocalPath(to), progress);
 }
 
 }  // namespace akarix

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <cstdint>
 #include <memory>
 
 #include "platform/dao/Recordset.h"
@@ -9,31 +8,28 @@
 namespace akarix {
 
 class Engine;
-class Workspace;
+class Session;
 
 /// One open file of the store. Use after Close raises 3420.
 class Database {
  public:
-    ~Database();
-
     /// Runs an action query or a definition. Rows whose key is taken are passed over; a value that does not
     /// fit its column raises (6 out of range, 3163 too long, see MisfitOf) and leaves nothing of the
     /// statement.
     void Execute(const QString& sql);
     Recordset OpenRecordset(const QString& sql);
-    /// Rows changed by the last Execute.
-    std::int64_t RecordsAffected() const;
     void Close();
 
-    const QString& Name() const;
+    const QString& Name() const { return name_; }
     /// The engine behind, for the companion programs and bench/.
     Engine& engine();
 
  private:
     friend class Workspace;
-    struct Impl;
-    explicit Database(std::unique_ptr<Impl> impl);
-    std::unique_ptr<Impl> impl_;
+    Database(const QString& name, std::shared_ptr<Session> session);
+
+    QString name_;
+    std::shared_ptr<Session> session_;
 };
 
 }  // namespace akarix

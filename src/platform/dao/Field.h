@@ -7,7 +7,7 @@
 
 namespace akarix {
 
-class Recordset;
+struct RecordsetState;
 
 /// One column of a recordset at its present row. Reading without a row raises 3021; writing outside AddNew or
 /// Edit raises 3020; a text of no length 3315, one wider than the column 3163, a value of the wrong kind
@@ -27,9 +27,9 @@ class Field {
     }
 
  private:
-    friend class Recordset;
-    Field(Recordset* owner, int index) : owner_(owner), index_(index) {}
-    Recordset* owner_;
+    friend struct RecordsetState;
+    Field(RecordsetState* of, int index) : state_(of), index_(index) {}
+    RecordsetState* state_;
     int index_;
 };
 

@@ -8,6 +8,8 @@
 namespace akarix {
 
 class Database;
+class Session;
+struct BoundText;
 
 /// The rows of a query. Nothing is read until the first need; then all rows are read and the engine is let
 /// go. A query of one table can be changed through AddNew and Edit. Use after Close raises 3420.
@@ -43,11 +45,8 @@ class Recordset {
 
  private:
     friend class Database;
-    friend class Field;
-    struct Impl;
-    explicit Recordset(std::unique_ptr<Impl> impl);
-    Field& field(int index);
-    std::unique_ptr<Impl> impl_;
+    Recordset(std::shared_ptr<Session> session, BoundText text);
+    std::unique_ptr<RecordsetState> state_;
 };
 
 }  // namespace akarix

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QString>
 #include <memory>
 
 #include "platform/dialect/Engine.h"
+#include "platform/dialect/StoreError.h"
 #include "platform/dialect/Translator.h"
 
 namespace akarix {
@@ -12,17 +12,26 @@ namespace akarix {
 /// still held of it raises 3420 from then on.
 class Session {
  public:
-    explicit Session(std::unique_ptr<Engine> engine);
+    explicit Session(std::unique_ptr<Engine> engine)
+        : engine_(std::move(engine)), translator_(engine_->catalogue()) {}
 
-    Engine& engine();
-    BoundStatement translate(const QString& sql);
     bool isOpen() const { return engine_ != nullptr; }
-    void close();
+    Engine& engine() const {
+        if (!engine_) throw StoreError(3420);
+        return *engine_;
+    }
+    BoundText translate(const QString& sql) {
+        engine();
+        return translator_.translate(sql);
+    }
+    void close() {
+        engine();
+        std::exchange(engine_, nullptr)->close();
+    }
 
  private:
     std::unique_ptr<Engine> engine_;
-    std::unique_ptr<Translator> translator_;
-    int translatedVersion_ = 0;
+    Translator translator_;
 };
 
 }  // namespace akarix

@@ -3,10 +3,8 @@
 #include <QFileInfo>
 #include <exception>
 
-#include "platform/cipher/CipherEngine.h"
-#include "platform/cipher/StoreFile.h"
-#include "platform/dao/DatabaseImpl.h"
-#include "platform/dao/LastPassword.h"
+#include "platform/dao/Engines.h"
+#include "platform/dao/Session.h"
 #include "platform/dialect/StoreError.h"
 #include "platform/runtime/Files.h"
 #include "platform/runtime/Literals.h"
@@ -31,12 +29,8 @@ const QString& Source() {
 
 Database* Workspace::OpenDatabase(const QString& name, bool exclusive, bool readOnly,
                                   const QString& connect) {
-    const QString path = LocalPath(name);
-    const QString password = PasswordOf(connect);
-    RememberPassword(path, password);
     try {
-        return keep(name,
-                    std::make_unique<CipherEngine>(OpenStoreFile(path, password, {exclusive, readOnly})));
+        return keep(name, OpenEngine(LocalPath(name), PasswordOf(connect), exclusive, readOnly));
     } catch (const RuntimeError& error) {
         throw RuntimeError(error.number(), error.description(), Source());
     }
@@ -44,17 +38,15 @@ Database* Workspace::OpenDatabase(const QString& name, bool exclusive, bool read
 
 Database* Workspace::CreateDatabase(const QString& name, const QString& connect) {
     const QString path = LocalPath(name);
-    const QString password = PasswordOf(connect);
     if (QFileInfo::exists(path)) throw StoreError(3204, name, Source());
-    RememberPassword(path, password);
-    return keep(name, std::make_unique<CipherEngine>(CreateStoreFile(path, password)));
+    return keep(name, CreateEngine(path, PasswordOf(connect)));
 }
 
 void Workspace::Close() {
     std::exception_ptr first;
     for (const std::unique_ptr<Database>& database : databases_) {
         try {
-            if (database->impl_->session->isOpen()) database->Close();
+            if (database->session_->isOpen()) database->Close();
         } catch (...) {
             if (!first) first = std::current_exception();
         }
@@ -63,10 +55,8 @@ void Workspace::Close() {
 }
 
 Database* Workspace::keep(const QString& name, std::unique_ptr<Engine> engine) {
-    auto impl = std::make_unique<Database::Impl>();
-    impl->name = name;
-    impl->session = std::make_shared<Session>(std::move(engine));
-    databases_.push_back(std::unique_ptr<Database>(new Database(std::move(impl))));
+    databases_.push_back(
+        std::unique_ptr<Database>(new Database(name, std::make_shared<Session>(std::move(engine)))));
     return databases_.back().get();
 }
 

@@ -1,124 +1,78 @@
 #pragma once
 
 #include <memory>
-#include <variant>
-#include <vector>
 
-#include "platform/dialect/Kind.h"
-#include "platform/dialect/ParsedExpression.h"
+#include "platform/dialect/Literal.h"
+#include "platform/dialect/Operator.h"
 
 namespace akarix {
 
 // The tree with every name resolved and every operand brought to the kind its operator works in.
 
 struct BoundExpression;
-struct BoundTable;
-struct SqlFunction;
 using BoundPtr = std::shared_ptr<const BoundExpression>;
+
+/// A table of FROM.
+struct BoundTable {
+    int id = 0;  ///< its number in the statement
+    TablePtr definition;
+};
 
 struct BoundColumn {
     const BoundTable* table;
     int column;
+
+    const ColumnDef& definition() const { return table->definition->at(column); }
+    friend bool operator==(const BoundColumn&, const BoundColumn&) = default;
 };
 
 struct BoundLiteral {
     Literal literal;
-    int lifted = -1;
-    bool negated = false;
-    LiteralUse use = LiteralUse::Natural;
-    const ColumnDef* target =
-        nullptr;  ///< the column it goes into; none: it is only compared or computed with
+    LiteralPlace place;
+
+    friend bool operator==(const BoundLiteral&, const BoundLiteral&) = default;
 };
 
-struct BoundNull {};
-
-struct BoundNegation {
-    BoundPtr operand;
+struct BoundNull {
+    friend bool operator==(const BoundNull&, const BoundNull&) = default;
 };
 
-/// The operators that the engine has itself.
-enum class NativeOp { Add, Subtract, Multiply };
-
-struct BoundArithmetic {
-    NativeOp op;
-    BoundPtr left;
-    BoundPtr right;
-};
-
-/// A change of the stored form that the engine can do itself.
-enum class Conversion {
-    WholeToCurrency,
-    RealToScaled,  ///< for comparisons with Currency: keeps the fraction past four decimals
-    WholeToReal,
-    CurrencyToReal,
-    WholeToText,
-    NumberToBoolean,
-};
-
+/// A number in another form, Real or Scaled.
 struct BoundConversion {
-    Conversion conversion;
-    BoundPtr operand;
+    Form form;
+
+    friend bool operator==(const BoundConversion&, const BoundConversion&) = default;
 };
 
-struct BoundCall {
-    const SqlFunction* function;
-    std::vector<BoundPtr> arguments;
+/// A computed value on its way into a column (FittedTo).
+struct BoundFit {
+    const ColumnDef* column;
+
+    friend bool operator==(const BoundFit&, const BoundFit&) = default;
 };
 
-struct BoundNot {
-    BoundPtr operand;
-};
-
-struct BoundLogic {
-    LogicOp op;
-    BoundPtr left;
-    BoundPtr right;
-};
-
-struct BoundComparison {
-    CompareOp op;
-    BoundPtr left;
-    BoundPtr right;
-};
-
-struct BoundIsNull {
-    BoundPtr operand;
-    bool negated;
-};
-
-struct BoundLike {
-    BoundPtr operand;
-    BoundPtr pattern;
-    bool negated;
-};
-
-enum class AggregateOp { Count, Sum, Max, First };
-
-struct BoundAggregate {
-    AggregateOp op;
-    BoundPtr operand;  ///< none: Count(*)
-};
-
-using BoundNode =
-    std::variant<BoundColumn, BoundLiteral, BoundNull, BoundNegation, BoundArithmetic, BoundConversion,
-                 BoundCall, BoundNot, BoundLogic, BoundComparison, BoundIsNull, BoundLike, BoundAggregate>;
+enum class Aggregate { Count, Sum, Max, First };
 
 struct BoundExpression {
-    BoundNode node;
-    Kind kind;
-    FieldType type;  ///< the column type a result of it has
+    std::variant<BoundColumn, BoundLiteral, BoundNull, Operator, BoundConversion, BoundFit, Aggregate> node;
+    std::vector<BoundPtr> operands;  ///< none of an aggregate: Count(*)
+    Kind kind = Kind::Null;
+    FieldType type = FieldType::Text;  ///< the column type a result of it has
     int size = 0;
     QString text;            ///< as the statement has it, for messages
     qsizetype position = 0;  ///< in the statement
+
+    template <class Node>
+    const Node* as() const {
+        return std::get_if<Node>(&node);
+    }
 };
 
-/// \param from gives the text and the place.
-BoundPtr MakeBound(BoundNode node, Kind kind, const BoundExpression* from = nullptr);
-/// A whole number that no text contains, such as an argument left out.
-BoundPtr MakeWhole(std::int64_t value);
+/// With the text and the place of the first operand, if there is one.
+BoundPtr MakeBound(decltype(BoundExpression::node) node, Kind kind, std::vector<BoundPtr> operands = {});
+BoundPtr MakeColumn(const BoundTable* table, int column);
 
-/// The expressions right below one.
-std::vector<BoundPtr> OperandsOf(const BoundExpression& expression);
 bool SameExpression(const BoundExpression& a, const BoundExpression& b);
+bool HasAggregate(const BoundExpression& expression);
 
 }  // namespace akarix

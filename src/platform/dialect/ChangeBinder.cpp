@@ -1,7 +1,6 @@
-#include "platform/dialect/ChangeBinder.h"
-
 #include <algorithm>
 
+#include "platform/dialect/Binder.h"
 #include "platform/dialect/Coercion.h"
 #include "platform/dialect/DialectError.h"
 #include "platform/dialect/ExpressionBinder.h"
@@ -11,37 +10,28 @@
 namespace akarix {
 namespace {
 
-RuntimeError CountsDiffer() {
-    return DialectError(3346, u"クエリの値の数とフィールドの数が一致していません。"_s);
-}
-
-/// The columns an INSERT names, all of the table when it names none.
-std::vector<int> ColumnsOf(const ParsedInsert& parsed, const TableDef& table) {
+/// The columns an INSERT names: in its list or, without one, by the names of its query's results; all of the
+/// table when it has neither.
+std::vector<int> ColumnsOf(const ParsedInsert& parsed, const BoundInsert& bound) {
+    QStringList names = parsed.columns;
+    if (names.empty() && bound.query)
+        for (const ResultColumn& result : bound.query->columns)
+            names.push_back(result.name);
+    if (names.empty())
+        for (const ColumnDef& column : bound.table->columns)
+            names.push_back(column.name);
     std::vector<int> columns;
-    if (parsed.columns.empty()) {
-        for (std::size_t i = 0; i < table.columns.size(); ++i)
-            columns.push_back(static_cast<int>(i));
-        return columns;
-    }
-    for (const ParsedName& name : parsed.columns) {
-        const int column = table.indexOf(name.column);
+    for (const QString& name : names) {
+        const int column = bound.table->indexOf(name);
         if (column < 0) {
-            throw DialectError(
-                3127, u"INSERT INTO ステートメントに不明なフィールド名 '%1' があります。"_s.arg(name.column));
+            throw RuntimeError(
+                3127, u"INSERT INTO ステートメントに不明なフィールド名 '%1' があります。"_s.arg(name));
         }
         if (std::find(columns.begin(), columns.end(), column) != columns.end())
-            throw DialectError(3063, u"出力先 '%1' が重複しています。"_s.arg(name.column));
+            throw RuntimeError(3063, u"出力先 '%1' が重複しています。"_s.arg(name));
         columns.push_back(column);
     }
     return columns;
-}
-
-const ColumnDef& ColumnAt(const TableDef& table, int index) {
-    return table.columns[static_cast<std::size_t>(index)];
-}
-
-RuntimeError NotUpdatable() {
-    return DialectError(3073, u"更新可能なクエリであることが必要です。"_s);
 }
 
 /// What a new row must have and is not given.
@@ -56,67 +46,44 @@ void CheckRequired(const BoundInsert& bound) {
 
 }  // namespace
 
-BoundInsert ChangeBinder::bind(const ParsedInsert& parsed) {
+BoundInsert Binder::bound(const ParsedInsert& parsed) const {
     BoundInsert bound;
-    bound.table = queries_.tableNamed(parsed.table);
-    bound.columns = ColumnsOf(parsed, *bound.table);
-    if (!parsed.query) {
-        CheckRequired(bound);
-        if (parsed.values.size() != bound.columns.size()) throw CountsDiffer();
-        const Scope nothing;
-        ExpressionBinder binder(nothing);
-        for (std::size_t i = 0; i < parsed.values.size(); ++i) {
-            bound.values.push_back(
-                ToColumn(binder.bind(*parsed.values[i]), ColumnAt(*bound.table, bound.columns[i])));
-        }
-        return bound;
-    }
-    BoundQuery query = queries_.bind(*parsed.query);
-    if (parsed.columns.empty()) {
-        // Without a column list the names of the results say where they go.
-        bound.columns.clear();
-        for (const BoundItem& item : query.items) {
-            const int column = bound.table->indexOf(item.column.name);
-            if (column < 0) {
-                throw DialectError(3127,
-                                   u"INSERT INTO ステートメントに不明なフィールド名 '%1' があります。"_s.arg(
-                                       item.column.name));
-            }
-            bound.columns.push_back(column);
-        }
-    }
+    bound.table = tableNamed(parsed.table);
+    if (parsed.query) bound.query = this->bound(*parsed.query);
+    bound.columns = ColumnsOf(parsed, bound);
     CheckRequired(bound);
-    if (query.items.size() != bound.columns.size()) throw CountsDiffer();
-    for (std::size_t i = 0; i < query.items.size(); ++i) {
-        BoundPtr& value = query.items[i].expression;
-        value = ToColumn(value, ColumnAt(*bound.table, bound.columns[i]));
-    }
-    bound.query = std::move(query);
+    const Scope nothing;
+    for (const ParsedPtr& value : parsed.values)
+        bound.values.push_back(ExpressionBinder(nothing).bind(*value));
+    std::vector<BoundPtr>& values = bound.query ? bound.query->items : bound.values;
+    if (values.size() != bound.columns.size())
+        throw RuntimeError(3346, u"クエリの値の数とフィールドの数が一致していません。"_s);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = ToColumn(values[i], bound.table->at(bound.columns[i]));
     return bound;
 }
 
-BoundUpdate ChangeBinder::bind(const ParsedUpdate& parsed) {
+BoundUpdate Binder::bound(const ParsedUpdate& parsed) const {
     BoundUpdate bound;
-    bound.target = nullptr;
     Scope scope;
-    bound.rows = queries_.bindRows(parsed.source, parsed.where.get(), scope);
+    bound.rows = bindRows(parsed.source, parsed.where.get(), scope);
     for (const ParsedAssignment& assignment : parsed.assignments) {
         const BoundPtr place = scope.column(assignment.column, assignment.position);
         if (!place) throw UnknownName(assignment.column.column, assignment.position);
-        const auto& column = std::get<BoundColumn>(place->node);
-        if (bound.target && bound.target != column.table) throw NotUpdatable();
+        const auto& column = *place->as<BoundColumn>();
+        if (bound.target && bound.target != column.table)
+            throw RuntimeError(3073, u"更新可能なクエリであることが必要です。"_s);
         bound.target = column.table;
-        const BoundPtr value = ExpressionBinder(scope).bind(*assignment.value);
         bound.assignments.push_back(
-            {column.column, ToColumn(value, ColumnAt(*column.table->definition, column.column))});
+            {column.column, ToColumn(ExpressionBinder(scope).bind(*assignment.value), column.definition())});
     }
     return bound;
 }
 
-BoundDelete ChangeBinder::bind(const ParsedDelete& parsed) {
+BoundDelete Binder::bound(const ParsedDelete& parsed) const {
     BoundDelete bound;
     Scope scope;
-    bound.rows = queries_.bindRows({parsed.table, {}}, parsed.where.get(), scope);
+    bound.rows = bindRows({parsed.table, {}}, parsed.where.get(), scope);
     return bound;
 }
 

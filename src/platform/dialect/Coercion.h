@@ -4,20 +4,20 @@
 
 namespace akarix {
 
-// Brings expressions to the kind that an operator, a comparison or a column needs. What is a literal is told
+// Brings expressions to the form that an operator, a comparison or a column needs. What is a literal is told
 // what to become; everything else gets a conversion around it.
 
-/// For results and operands. Text that is no number raises 13 when the statement runs.
+/// For operands, which are numbers.
 BoundPtr ToReal(const BoundPtr& expression);
-BoundPtr ToCurrency(const BoundPtr& expression);
+/// For operands beside money and, exact whatever they have behind their fourth decimal, for comparisons.
+BoundPtr ToScaled(const BoundPtr& expression);
+/// A date or what a literal says as one; 3464 for anything else.
 BoundPtr ToDate(const BoundPtr& expression);
-BoundPtr ToText(const BoundPtr& expression);
 
-/// The value of an expression as a column takes it. What cannot become the column's kind stays as it is and
-/// raises there.
+/// The value of an expression as a column takes it. What cannot become the column's kind raises there.
 BoundPtr ToColumn(const BoundPtr& expression, const ColumnDef& column);
 
-/// Brings all to forms that the engine compares by value. Raises 3464 for texts among numbers or dates.
-void MakeComparable(const std::vector<BoundPtr*>& expressions);
+/// Brings both to forms that the engine compares by value. Raises 3464 for a text beside a number or date.
+void MakeComparable(BoundPtr& left, BoundPtr& right);
 
 }  // namespace akarix

@@ -60,8 +60,8 @@ RuntimeError TooComplex() {
     return RuntimeError(3360, u"クエリが複雑すぎます。"_s);
 }
 
-RuntimeError DialectError(int number, const QString& text) {
-    return RuntimeError(number, text);
+RuntimeError TwiceInFrom(const QString& table) {
+    return RuntimeError(3012, u"'%1' は FROM 句に既にあります。"_s.arg(table));
 }
 
 }  // namespace akarix

@@ -17,6 +17,6 @@ RuntimeError UnknownFunction(const QString& name, qsizetype position);
 RuntimeError KindsDiffer(qsizetype position);
 RuntimeError OutsideAggregate(const QString& expression);
 RuntimeError TooComplex();
-RuntimeError DialectError(int number, const QString& text);
+RuntimeError TwiceInFrom(const QString& table);
 
 }  // namespace akarix

@@ -1,31 +1,24 @@
 #pragma once
 
-#include <QString>
-#include <vector>
-
-#include "platform/dialect/Plan.h"
-#include "platform/dialect/Schema.h"
+#include "platform/dialect/BoundStatement.h"
 #include "platform/runtime/Progress.h"
 
 namespace akarix {
 
-using StoreRow = std::vector<StoreValue>;
-
-/// What the store needs of an engine. There is one, on SQLCipher; a second, a database server for several
-/// desks, is to fit behind the same operations.
+/// What the store needs of an engine. An engine writes a bound statement in its own language and keeps what
+/// it has written as long as the statement is in use. There is one, on SQLCipher; a second, a database server
+/// for several desks, is to fit behind the same operations.
 class Engine {
  public:
     virtual ~Engine() = default;
 
     virtual const Catalogue& catalogue() const = 0;
-    /// Grows with every definition; what was bound to the catalogue before is void then.
-    virtual int catalogueVersion() const = 0;
     /// All rows of a query; the engine keeps nothing open behind it.
-    virtual std::vector<StoreRow> rows(const BoundStatement& statement) = 0;
-    /// Runs a change; rows that break a key, a kind or a width are left out. The count of rows changed.
-    virtual std::int64_t change(const BoundStatement& statement) = 0;
-    /// CREATE TABLE, ALTER TABLE, DROP TABLE.
-    virtual void define(const BoundStatement& statement) = 0;
+    virtual std::vector<StoreRow> rows(const BoundText& text) = 0;
+    /// Runs a change; rows whose key is taken are left out. The count of rows changed.
+    virtual std::int64_t change(const BoundText& text) = 0;
+    /// Raises what CheckDefinition does.
+    virtual void define(Definition definition) = 0;
 
     /// Row operations behind AddNew and Edit. A broken key raises 3022. insertRow gives the row's number.
     virtual std::int64_t insertRow(const TableDef& table, const std::vector<QString>& columns,

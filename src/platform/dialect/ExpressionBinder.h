@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/dialect/BoundQuery.h"
+#include "platform/dialect/BoundExpression.h"
+#include "platform/dialect/Parsed.h"
 #include "platform/dialect/Scope.h"
 
 namespace akarix {
@@ -16,20 +17,13 @@ class ExpressionBinder {
     BoundPtr bind(const ParsedExpression& parsed);
 
  private:
-    BoundPtr bindNode(const ParsedExpression& parsed);
-    BoundPtr name(const ParsedExpression& parsed, const ParsedName& node);
-    BoundPtr literal(const ParsedLiteral& node);
-    BoundPtr negation(const ParsedNegation& node);
-    BoundPtr arithmetic(const ParsedArithmetic& node);
-    BoundPtr comparison(const ParsedComparison& node);
-    BoundPtr like(const ParsedLike& node);
+    BoundPtr bound(const ParsedExpression& parsed);
+    BoundPtr operation(Operator op, const ParsedExpression& parsed);
     BoundPtr call(const ParsedExpression& parsed, const ParsedCall& node);
-    BoundPtr aggregate(const ParsedExpression& argument, AggregateOp op);
+    BoundPtr aggregate(const ParsedExpression& argument, Aggregate which);
 
     const Scope& scope_;
     bool aggregates_ = false;
 };
-
-bool HasAggregate(const BoundExpression& expression);
 
 }  // namespace akarix

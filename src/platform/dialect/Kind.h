@@ -4,7 +4,7 @@
 
 namespace akarix {
 
-/// The kinds an expression of the dialect can have. What a kind is stored as: Plan.h, StoreValue.
+/// The kinds an expression of the dialect can have. What a kind is stored as: StoreValue.h.
 enum class Kind { Null, Boolean, Integer, Currency, Double, Date, Text };
 
 Kind KindOf(FieldType type);

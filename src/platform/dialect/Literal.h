@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/dialect/Plan.h"
+#include "platform/dialect/ColumnValue.h"
 
 namespace akarix {
 
@@ -15,24 +15,26 @@ struct Literal {
     friend bool operator==(const Literal&, const Literal&) = default;
 };
 
-/// What a statement makes of a literal. Chosen once for a plan, carried out for every text that uses it.
-enum class LiteralUse {
-    Natural,         ///< in its own kind; a Decimal as a double
-    CurrencyExact,   ///< scaled; what has more than four decimals stays a fraction, for comparisons
-    CurrencyStored,  ///< scaled and rounded half to even
-    IntegerStored,   ///< rounded half to even
+/// The form in which an operator or a comparison wants a value.
+enum class Form {
+    Natural,  ///< in its own kind; a Decimal as a double
     Real,
-    DateStored,  ///< text is read as a date
-    DateAsked,   ///< as DateStored, but text that is no date raises 13
-    TextStored,
-    BooleanStored,
+    Scaled,  ///< as Currency is; what has more than four decimals stays a fraction, so that it compares
+             ///< exactly
+    Date,    ///< a text is read as one and raises 13 when it is none
 };
 
-/// The value to bind or to write. A text that cannot become what its column holds stays a text and a number
-/// too large a double.
-StoreValue LiteralValue(const Literal& literal, bool negated, LiteralUse use);
+/// What a plan makes of one of the literals: settled once, carried out for every text that uses the plan.
+struct LiteralPlace {
+    int number = -1;  ///< of the literal among those of the text; -1: it is part of the plan
+    bool negated = false;
+    Form form = Form::Natural;
+    const ColumnDef* target = nullptr;  ///< the column it goes into; none: it is compared or computed with
 
-/// The same for a literal that goes into a column, or into none: raises when it does not fit (MisfitOf).
-StoreValue LiteralFor(const ColumnDef* target, const Literal& literal, bool negated, LiteralUse use);
+    friend bool operator==(const LiteralPlace&, const LiteralPlace&) = default;
+};
+
+/// The value of a literal at its place. Raises when it does not fit its column (MisfitOf).
+StoreValue ValueAt(const LiteralPlace& place, const Literal& literal);
 
 }  // namespace akarix

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <vector>
-
-#include "platform/dialect/ParsedStatement.h"
+#include "platform/dialect/Parsed.h"
 #include "platform/dialect/TokenStream.h"
 
 namespace akarix {
@@ -20,22 +18,22 @@ class Parser {
  private:
     void finish();
 
-    // Expressions, by falling strength of their operators
+    // Expressions
+    enum class Level { Or, And, Comparison, Sum, Product };
     ParsedPtr expression();
-    ParsedPtr conjunction();
+    ParsedPtr chain(Level level);
+    ParsedPtr operand(Level level);
+    std::optional<Operator> acceptOperator(Level level);
     ParsedPtr negated();
     ParsedPtr comparison();
-    ParsedPtr sum();
-    ParsedPtr product();
     ParsedPtr signedValue();
     ParsedPtr primary();
-    ParsedPtr name();
     ParsedPtr call();
-    ParsedPtr predicate(ParsedPtr operand);
-    ParsedPtr isNull(ParsedPtr operand);
-    ParsedPtr like(ParsedPtr operand, bool negatedForm);
+    ParsedName name();
     std::vector<ParsedPtr> expressions();
-    ParsedPtr make(ParsedNode node, qsizetype position, int depth);
+    ParsedPtr make(decltype(ParsedExpression::node) node, qsizetype position,
+                   std::vector<ParsedPtr> operands = {});
+    ParsedPtr make(Operator op, qsizetype position, ParsedPtr left, ParsedPtr right = nullptr);
 
     // Queries
     ParsedQuery query();
@@ -47,15 +45,12 @@ class Parser {
     ParsedStatement insert();
     ParsedStatement update();
     ParsedStatement deletion();
-    ParsedName columnName();
 
     // Definitions
-    ParsedStatement create();
-    ParsedStatement alter();
-    Plan createTable();
-    Plan createIndex();
+    Definition create();
+    Definition alter();
     ColumnDef columnDefinition();
-    QStringList columnNames();
+    QStringList names();
 
     TokenStream in_;
     int nesting_ = 0;

@@ -21,12 +21,7 @@ ParsedStatement Parser::insert() {
     in_.expect(Keyword::Into, u"INTO");
     ParsedInsert read;
     read.table = in_.takeName();
-    if (in_.accept(u"(")) {
-        do {
-            read.columns.push_back(columnName());
-        } while (in_.accept(u","));
-        in_.expect(u")");
-    }
+    if (in_.at(u"(")) read.columns = names();
     if (in_.accept(Keyword::Values)) {
         in_.expect(u"(");
         read.values = expressions();
@@ -51,7 +46,7 @@ ParsedStatement Parser::update() {
     do {
         ParsedAssignment assignment;
         assignment.position = in_.position();
-        assignment.column = columnName();
+        assignment.column = name();
         in_.expect(u"=");
         assignment.value = expression();
         read.assignments.push_back(std::move(assignment));
@@ -67,16 +62,6 @@ ParsedStatement Parser::deletion() {
     in_.expect(Keyword::From, u"FROM");
     read.table = in_.takeName();
     if (in_.accept(Keyword::Where)) read.where = expression();
-    return read;
-}
-
-ParsedName Parser::columnName() {
-    ParsedName read;
-    read.column = in_.takeName();
-    if (in_.accept(u".")) {
-        read.table = std::move(read.column);
-        read.column = in_.takeName();
-    }
     return read;
 }
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/dialect/DialectError.h"
 #include "platform/dialect/Parser.h"
+#include "platform/dialect/StoreError.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix {
@@ -29,33 +29,28 @@ const std::array<TypeName, 10> kTypeNames = {{
     {u"YESNO", FieldType::Boolean},
 }};
 
-Plan Definition(Plan::Definition what, const QString& table) {
-    Plan plan;
-    plan.kind = Plan::Kind::Definition;
-    plan.definition = what;
-    plan.table.name = table;
-    return plan;
-}
-
 }  // namespace
 
-ParsedStatement Parser::create() {
-    if (in_.acceptWord(u"TABLE")) return ParsedDefinition{createTable()};
-    in_.expectWord(u"INDEX");
-    return ParsedDefinition{createIndex()};
-}
-
-Plan Parser::createTable() {
-    Plan plan = Definition(Plan::Definition::CreateTable, in_.takeName());
+Definition Parser::create() {
+    Definition read;
+    if (in_.acceptWord(u"INDEX")) {
+        read.kind = Definition::Kind::CreateIndex;
+        read.index = in_.takeName();
+        in_.expect(Keyword::On, u"ON");
+        read.table.name = in_.takeName();
+        read.indexed = names();
+        return read;
+    }
+    in_.expectWord(u"TABLE");
+    read.table.name = in_.takeName();
     in_.expect(u"(");
     do {
         ColumnDef column = columnDefinition();
-        if (plan.table.indexOf(column.name) >= 0)
-            throw DialectError(3380, u"フィールド '%1' は既に存在します。"_s.arg(column.name));
-        plan.table.columns.push_back(std::move(column));
+        if (read.table.indexOf(column.name) >= 0) throw StoreError(3380, column.name);
+        read.table.columns.push_back(std::move(column));
     } while (in_.accept(u","));
     in_.expect(u")");
-    return plan;
+    return read;
 }
 
 ColumnDef Parser::columnDefinition() {
@@ -80,36 +75,25 @@ ColumnDef Parser::columnDefinition() {
     return column;
 }
 
-Plan Parser::createIndex() {
-    IndexDef index;
-    index.name = in_.takeName();
-    in_.expect(Keyword::On, u"ON");
-    Plan plan = Definition(Plan::Definition::CreateIndex, in_.takeName());
-    index.columns = columnNames();
-    plan.index = std::move(index);
-    return plan;
-}
-
-QStringList Parser::columnNames() {
+QStringList Parser::names() {
     in_.expect(u"(");
-    QStringList names;
+    QStringList read;
     do {
-        names.append(in_.takeName());
+        read.append(in_.takeName());
     } while (in_.accept(u","));
     in_.expect(u")");
-    return names;
+    return read;
 }
 
-ParsedStatement Parser::alter() {
+Definition Parser::alter() {
+    Definition read;
     in_.expectWord(u"TABLE");
-    Plan plan = Definition(Plan::Definition::AddColumn, in_.takeName());
-    if (in_.acceptWord(u"ALTER"))
-        plan.definition = Plan::Definition::AlterColumn;
-    else
-        in_.expectWord(u"ADD");
+    read.table.name = in_.takeName();
+    read.kind = in_.acceptWord(u"ALTER") ? Definition::Kind::AlterColumn : Definition::Kind::AddColumn;
+    if (read.kind == Definition::Kind::AddColumn) in_.expectWord(u"ADD");
     in_.expectWord(u"COLUMN");
-    plan.column = columnDefinition();
-    return ParsedDefinition{std::move(plan)};
+    read.column = columnDefinition();
+    return read;
 }
 
 }  // namespace akarix

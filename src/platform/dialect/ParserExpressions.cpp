@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 
 #include "platform/dialect/Nesting.h"
 #include "platform/dialect/Parser.h"
@@ -7,64 +6,92 @@
 namespace akarix {
 namespace {
 
-int DepthOf(const ParsedPtr& a) {
-    return a->depth + 1;
-}
-
-int DepthOf(const ParsedPtr& a, const ParsedPtr& b) {
-    return std::max(a->depth, b->depth) + 1;
-}
-
-int DepthOf(const std::vector<ParsedPtr>& all) {
-    int most = 0;
-    for (const ParsedPtr& one : all)
-        most = std::max(most, one->depth);
-    return most + 1;
-}
-
-struct CompareSymbol {
-    QStringView symbol;
-    CompareOp op;
+struct Symbol {
+    QStringView text;
+    Operator op;
 };
 
-const std::array<CompareSymbol, 6> kCompareSymbols = {{{u"=", CompareOp::Equal},
-                                                       {u"<>", CompareOp::NotEqual},
-                                                       {u"<", CompareOp::Less},
-                                                       {u"<=", CompareOp::LessEqual},
-                                                       {u">", CompareOp::Greater},
-                                                       {u">=", CompareOp::GreaterEqual}}};
+constexpr Symbol kComparisons[] = {
+    {u"=", Operator::Equal},      {u"<>", Operator::NotEqual}, {u"<", Operator::Less},
+    {u"<=", Operator::LessEqual}, {u">", Operator::Greater},   {u">=", Operator::GreaterEqual},
+};
+constexpr Symbol kSums[] = {{u"+", Operator::Add}, {u"-", Operator::Subtract}};
+constexpr Symbol kProducts[] = {{u"*", Operator::Multiply}, {u"/", Operator::Divide}};
+
+template <std::size_t N>
+std::optional<Operator> Accepted(TokenStream& in, const Symbol (&symbols)[N]) {
+    for (const Symbol& symbol : symbols)
+        if (in.accept(symbol.text)) return symbol.op;
+    return std::nullopt;
+}
 
 }  // namespace
 
-ParsedPtr Parser::make(ParsedNode node, qsizetype position, int depth) {
-    if (depth > Nesting::kMostLevels) throw TooComplex();
-    auto made = std::make_unique<ParsedExpression>(std::move(node), position);
-    made->depth = depth;
+ParsedPtr Parser::make(decltype(ParsedExpression::node) node, qsizetype position,
+                       std::vector<ParsedPtr> operands) {
+    auto made = std::make_unique<ParsedExpression>();
+    for (const ParsedPtr& operand : operands)
+        made->depth = std::max(made->depth, operand->depth + 1);
+    if (made->depth > Nesting::kMostLevels) throw TooComplex();
+    made->node = std::move(node);
+    made->operands = std::move(operands);
+    made->position = position;
     made->text = in_.textFrom(position);
     return made;
 }
 
+ParsedPtr Parser::make(Operator op, qsizetype position, ParsedPtr left, ParsedPtr right) {
+    std::vector<ParsedPtr> operands;
+    operands.push_back(std::move(left));
+    if (right) operands.push_back(std::move(right));
+    return make(op, position, std::move(operands));
+}
+
 ParsedPtr Parser::expression() {
     const Nesting nesting(nesting_);
+    return chain(Level::Or);
+}
+
+ParsedPtr Parser::chain(Level level) {
     const qsizetype position = in_.position();
-    ParsedPtr left = conjunction();
-    while (in_.accept(Keyword::Or)) {
-        ParsedPtr right = conjunction();
-        const int depth = DepthOf(left, right);
-        left = make(ParsedLogic{LogicOp::Or, std::move(left), std::move(right)}, position, depth);
+    ParsedPtr left = operand(level);
+    while (const auto op = acceptOperator(level)) {
+        ParsedPtr right = operand(level);
+        left = make(*op, position, std::move(left), std::move(right));
     }
     return left;
 }
 
-ParsedPtr Parser::conjunction() {
-    const qsizetype position = in_.position();
-    ParsedPtr left = negated();
-    while (in_.accept(Keyword::And)) {
-        ParsedPtr right = negated();
-        const int depth = DepthOf(left, right);
-        left = make(ParsedLogic{LogicOp::And, std::move(left), std::move(right)}, position, depth);
+ParsedPtr Parser::operand(Level level) {
+    switch (level) {
+        case Level::Or:
+            return chain(Level::And);
+        case Level::And:
+            return negated();
+        case Level::Comparison:
+            return chain(Level::Sum);
+        case Level::Sum:
+            return chain(Level::Product);
+        case Level::Product:
+            break;
     }
-    return left;
+    return signedValue();
+}
+
+std::optional<Operator> Parser::acceptOperator(Level level) {
+    switch (level) {
+        case Level::Or:
+            return in_.accept(Keyword::Or) ? std::optional(Operator::Or) : std::nullopt;
+        case Level::And:
+            return in_.accept(Keyword::And) ? std::optional(Operator::And) : std::nullopt;
+        case Level::Comparison:
+            return Accepted(in_, kComparisons);
+        case Level::Sum:
+            return Accepted(in_, kSums);
+        case Level::Product:
+            break;
+    }
+    return Accepted(in_, kProducts);
 }
 
 ParsedPtr Parser::negated() {
@@ -72,51 +99,29 @@ ParsedPtr Parser::negated() {
     const qsizetype position = in_.position();
     if (!in_.accept(Keyword::Not)) return comparison();
     ParsedPtr operand = negated();
-    const int depth = DepthOf(operand);
-    return make(ParsedNot{std::move(operand)}, position, depth);
+    return make(Operator::Not, position, std::move(operand));
 }
 
 ParsedPtr Parser::comparison() {
     const qsizetype position = in_.position();
-    ParsedPtr left = sum();
+    ParsedPtr left = chain(Level::Comparison);
     for (;;) {
-        const auto symbol = std::find_if(kCompareSymbols.begin(), kCompareSymbols.end(),
-                                         [&](const CompareSymbol& one) { return in_.at(one.symbol); });
-        if (symbol != kCompareSymbols.end()) {
-            in_.take();
-            ParsedPtr right = sum();
-            const int depth = DepthOf(left, right);
-            left = make(ParsedComparison{symbol->op, std::move(left), std::move(right)}, position, depth);
-        } else if (in_.at(Keyword::Is) || in_.at(Keyword::Like) || in_.at(Keyword::Not)) {
-            left = predicate(std::move(left));
+        bool negative = false;
+        if (in_.accept(Keyword::Is)) {
+            negative = in_.accept(Keyword::Not);
+            in_.expect(Keyword::Null, u"NULL");
+            left = make(Operator::IsNull, position, std::move(left));
         } else {
-            return left;
+            negative = in_.accept(Keyword::Not);
+            if (!in_.accept(Keyword::Like)) {
+                if (negative) in_.failHere();
+                return left;
+            }
+            ParsedPtr pattern = chain(Level::Sum);
+            left = make(Operator::Like, position, std::move(left), std::move(pattern));
         }
+        if (negative) left = make(Operator::Not, position, std::move(left));
     }
-}
-
-ParsedPtr Parser::predicate(ParsedPtr operand) {
-    if (in_.at(Keyword::Is)) return isNull(std::move(operand));
-    const bool negatedForm = in_.accept(Keyword::Not);
-    if (in_.at(Keyword::Like)) return like(std::move(operand), negatedForm);
-    in_.failHere();
-}
-
-ParsedPtr Parser::isNull(ParsedPtr operand) {
-    in_.take();
-    const bool negatedForm = in_.accept(Keyword::Not);
-    in_.expect(Keyword::Null, u"NULL");
-    const qsizetype position = operand->position;
-    const int depth = DepthOf(operand);
-    return make(ParsedIsNull{std::move(operand), negatedForm}, position, depth);
-}
-
-ParsedPtr Parser::like(ParsedPtr operand, bool negatedForm) {
-    in_.take();
-    ParsedPtr pattern = sum();
-    const qsizetype position = operand->position;
-    const int depth = DepthOf(operand, pattern);
-    return make(ParsedLike{std::move(operand), std::move(pattern), negatedForm}, position, depth);
 }
 
 std::vector<ParsedPtr> Parser::expressions() {
@@ -127,45 +132,18 @@ std::vector<ParsedPtr> Parser::expressions() {
     return all;
 }
 
-ParsedPtr Parser::sum() {
-    const qsizetype position = in_.position();
-    ParsedPtr left = product();
-    while (in_.at(u"+") || in_.at(u"-")) {
-        const ArithmeticOp op = in_.take().text == u"+" ? ArithmeticOp::Add : ArithmeticOp::Subtract;
-        ParsedPtr right = product();
-        const int depth = DepthOf(left, right);
-        left = make(ParsedArithmetic{op, std::move(left), std::move(right)}, position, depth);
-    }
-    return left;
-}
-
-ParsedPtr Parser::product() {
-    const qsizetype position = in_.position();
-    ParsedPtr left = signedValue();
-    while (in_.at(u"*") || in_.at(u"/")) {
-        const ArithmeticOp op = in_.take().text == u"*" ? ArithmeticOp::Multiply : ArithmeticOp::Divide;
-        ParsedPtr right = signedValue();
-        const int depth = DepthOf(left, right);
-        left = make(ParsedArithmetic{op, std::move(left), std::move(right)}, position, depth);
-    }
-    return left;
-}
-
 ParsedPtr Parser::signedValue() {
     const Nesting nesting(nesting_);
     const qsizetype position = in_.position();
     if (in_.accept(u"+")) return signedValue();
     if (!in_.accept(u"-")) return primary();
     ParsedPtr operand = signedValue();
-    if (auto* literal = std::get_if<ParsedLiteral>(&operand->node)) {
-        if (literal->literal.kind != Literal::Kind::Text) {
-            literal->negated = !literal->negated;
-            operand->text = in_.textFrom(position);
-            return operand;
-        }
-    }
-    const int depth = DepthOf(operand);
-    return make(ParsedNegation{std::move(operand)}, position, depth);
+    auto* literal = std::get_if<ParsedLiteral>(&operand->node);
+    if (!literal || literal->literal.kind == Literal::Kind::Text)
+        return make(Operator::Negate, position, std::move(operand));
+    literal->negated = !literal->negated;
+    operand->text = in_.textFrom(position);
+    return operand;
 }
 
 ParsedPtr Parser::primary() {
@@ -173,30 +151,32 @@ ParsedPtr Parser::primary() {
     const Token& token = in_.peek();
     if (token.type == Token::Type::Literal) {
         in_.take();
-        return make(ParsedLiteral{token.literal, token.lifted, false}, token.position, 1);
+        return make(ParsedLiteral{token.literal, token.number}, token.position);
     }
     if (token.type == Token::Type::Word && token.keyword == Keyword::None &&
         TokenStream::isSymbol(in_.peek(1), u"("))
         return call();
-    if (in_.atName()) return name();
+    if (in_.atName()) {
+        ParsedName read = name();
+        return make(std::move(read), token.position);
+    }
     if (in_.accept(u"(")) {
         ParsedPtr inner = expression();
         in_.expect(u")");
         return inner;
     }
-    if (in_.accept(Keyword::Null)) return make(ParsedNull{}, token.position, 1);
+    if (in_.accept(Keyword::Null)) return make(ParsedNull{}, token.position);
     in_.failHere();
 }
 
-ParsedPtr Parser::name() {
-    const qsizetype position = in_.position();
+ParsedName Parser::name() {
     ParsedName read;
     read.column = in_.takeName();
     if (in_.accept(u".")) {
         read.table = std::move(read.column);
         read.column = in_.takeName();
     }
-    return make(std::move(read), position, 1);
+    return read;
 }
 
 ParsedPtr Parser::call() {
@@ -204,13 +184,13 @@ ParsedPtr Parser::call() {
     ParsedCall read;
     read.name = in_.take().text.toString();
     in_.expect(u"(");
+    std::vector<ParsedPtr> arguments;
     if (in_.accept(u"*"))
         read.star = true;
     else if (!in_.at(u")"))
-        read.arguments = expressions();
+        arguments = expressions();
     in_.expect(u")");
-    const int depth = DepthOf(read.arguments);
-    return make(std::move(read), position, depth);
+    return make(std::move(read), position, std::move(arguments));
 }
 
 }  // namespace akarix

@@ -1,33 +1,19 @@
-#include "platform/dialect/QueryBinder.h"
-
 #include <algorithm>
+#include <map>
 
+#include "platform/dialect/Binder.h"
 #include "platform/dialect/DialectError.h"
 #include "platform/dialect/ExpressionBinder.h"
-#include "platform/dialect/GroupCheck.h"
-#include "platform/dialect/ResultNames.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
 
-BoundItem ItemOf(BoundPtr expression) {
-    BoundItem item;
-    item.column.type = expression->type;
-    item.column.size = expression->size;
-    if (const auto* column = std::get_if<BoundColumn>(&expression->node)) {
-        const TableDef& table = *column->table->definition;
-        item.column.table = table.name;
-        item.column.column = table.columns[static_cast<std::size_t>(column->column)].name;
-    }
-    item.expression = std::move(expression);
-    return item;
-}
-
-bool AnyAggregate(const BoundQuery& query) {
-    return std::any_of(
-        query.items.begin(), query.items.end(),
-        [](const BoundItem& item) { return HasAggregate(*item.expression); });
+void AddItem(BoundPtr expression, const QString& alias, BoundQuery& query) {
+    ResultColumn column{alias, expression->type, expression->size};
+    if (const auto* stored = expression->as<BoundColumn>()) column.column = stored->definition().name;
+    query.columns.push_back(std::move(column));
+    query.items.push_back(std::move(expression));
 }
 
 void AddStar(const ParsedItem& parsed, BoundQuery& query, const Scope& scope) {
@@ -37,81 +23,75 @@ void AddStar(const ParsedItem& parsed, BoundQuery& query, const Scope& scope) {
         if (!table) throw UnknownTable(parsed.starTable);
         tables = {table};
     }
-    if (tables.empty()) throw DialectError(3067, u"クエリには少なくとも 1 つのテーブルが必要です。"_s);
+    if (tables.empty()) throw RuntimeError(3067, u"クエリには少なくとも 1 つのテーブルが必要です。"_s);
     for (const BoundTable* table : tables)
         for (std::size_t i = 0; i < table->definition->columns.size(); ++i)
-            query.items.push_back(ItemOf(MakeColumn(table, static_cast<int>(i))));
+            AddItem(MakeColumn(table, static_cast<int>(i)), QString(), query);
 }
 
-BoundPtr BoundAggregating(const ParsedExpression& parsed, const Scope& scope) {
-    ExpressionBinder binder(scope);
-    binder.allowAggregates();
-    return binder.bind(parsed);
-}
-
-void BindItems(const ParsedQuery& parsed, BoundQuery& query, const Scope& scope) {
-    for (const ParsedItem& item : parsed.items) {
-        if (!item.expression) {
-            AddStar(item, query, scope);
-            continue;
-        }
-        BoundItem bound = ItemOf(BoundAggregating(*item.expression, scope));
-        bound.column.name = item.alias;
-        query.items.push_back(std::move(bound));
+/// Names the results that have no alias: a stored column by itself, columns of one name with their tables in
+/// front, expressions Expr1000, Expr1001 and so on.
+void NameResults(BoundQuery& query) {
+    std::map<QString, int> uses;
+    for (const ResultColumn& column : query.columns)
+        if (column.name.isEmpty()) ++uses[column.column.toCaseFolded()];
+    int number = 1000;
+    for (std::size_t i = 0; i < query.items.size(); ++i) {
+        ResultColumn& result = query.columns[i];
+        if (!result.name.isEmpty()) continue;
+        const auto* column = query.items[i]->as<BoundColumn>();
+        if (!column)
+            result.name = u"Expr%1"_s.arg(number++);
+        else if (uses[result.column.toCaseFolded()] > 1)
+            result.name = column->table->definition->name + u'.' + result.column;
+        else
+            result.name = result.column;
     }
-    NameResults(query.items);
 }
 
-void BindOrder(const std::vector<ParsedOrder>& parsed, BoundQuery& query, const Scope& scope) {
-    for (const ParsedOrder& term : parsed) {
-        BoundPtr expression = BoundAggregating(*term.expression, scope);
-        if (!query.grouped && HasAggregate(*expression)) throw OutsideAggregate(expression->text);
-        query.order.push_back({std::move(expression), term.descending});
-    }
+/// Columns of a grouped query stand in its groups or in aggregates.
+void CheckGrouped(const BoundExpression& expression, const BoundQuery& query) {
+    const bool isGroup = std::any_of(query.groups.begin(), query.groups.end(), [&](const BoundPtr& group) {
+        return SameExpression(*group, expression);
+    });
+    if (isGroup || expression.as<Aggregate>()) return;
+    if (expression.as<BoundColumn>()) throw OutsideAggregate(expression.text);
+    for (const BoundPtr& operand : expression.operands)
+        CheckGrouped(*operand, query);
 }
 
 }  // namespace
 
-const TableDef* QueryBinder::tableNamed(const QString& name) const {
-    const TableDef* found = catalogue_.find(name);
-    if (!found) throw UnknownTable(name);
-    return found;
-}
-
-BoundQuery QueryBinder::bind(const ParsedQuery& parsed) const {
+BoundQuery Binder::bound(const ParsedQuery& parsed) const {
     BoundQuery query;
     query.top = parsed.top;
     Scope scope;
     if (parsed.source) query.rows = bindRows(*parsed.source, parsed.where.get(), scope);
-    BindItems(parsed, query, scope);
+    ExpressionBinder aggregating(scope);
+    aggregating.allowAggregates();
+    for (const ParsedItem& item : parsed.items)
+        if (item.expression)
+            AddItem(aggregating.bind(*item.expression), item.alias, query);
+        else
+            AddStar(item, query, scope);
+    NameResults(query);
     for (const ParsedPtr& group : parsed.groups)
         query.groups.push_back(ExpressionBinder(scope).bind(*group));
-    query.grouped = !query.groups.empty() || AnyAggregate(query);
-    BindOrder(parsed.order, query, scope);
-    CheckGroups(query);
-    return query;
-}
-
-BoundRows QueryBinder::bindRows(const ParsedSource& source, const ParsedExpression* where,
-                                Scope& scope) const {
-    BoundRows rows;
-    addTable(source.first, rows, scope);
-    for (const ParsedJoin& join : source.joins) {
-        addTable(join.table, rows, scope);
-        rows.joins.push_back({join.outer, ExpressionBinder(scope).bind(*join.on)});
+    query.grouped =
+        !query.groups.empty() || std::any_of(query.items.begin(), query.items.end(),
+                                             [](const BoundPtr& item) { return HasAggregate(*item); });
+    for (const ParsedOrder& term : parsed.order) {
+        BoundPtr expression = aggregating.bind(*term.expression);
+        if (!query.grouped && HasAggregate(*expression)) throw OutsideAggregate(expression->text);
+        query.order.push_back({std::move(expression), term.descending});
     }
-    if (where) rows.where = ExpressionBinder(scope).bind(*where);
-    return rows;
-}
-
-void QueryBinder::addTable(const QString& name, BoundRows& rows, Scope& scope) const {
-    auto table = std::make_unique<BoundTable>();
-    table->id = static_cast<int>(rows.tables.size());
-    table->definition = tableNamed(name);
-    if (scope.table(table->definition->name))
-        throw DialectError(3012, u"'%1' は FROM 句に既にあります。"_s.arg(name));
-    scope.add(table.get());
-    rows.tables.push_back(std::move(table));
+    if (query.grouped) {
+        for (const BoundPtr& item : query.items)
+            CheckGrouped(*item, query);
+        for (const BoundOrder& term : query.order)
+            CheckGrouped(*term.expression, query);
+    }
+    return query;
 }
 
 }  // namespace akarix

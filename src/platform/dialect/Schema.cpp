@@ -13,26 +13,26 @@ int TableDef::indexOf(const QString& column) const {
     return -1;
 }
 
-const TableDef* Catalogue::find(const QString& table) const {
+TablePtr Catalogue::find(const QString& table) const {
     const auto found = tables_.find(table.toCaseFolded());
-    return found == tables_.end() ? nullptr : &found->second;
+    return found == tables_.end() ? nullptr : found->second;
 }
 
 void Catalogue::put(TableDef table) {
     const QString key = table.name.toCaseFolded();
-    tables_.insert_or_assign(key, std::move(table));
+    tables_.insert_or_assign(key, std::make_shared<const TableDef>(std::move(table)));
 }
 
-void Catalogue::remove(const QString& table) {
-    tables_.erase(table.toCaseFolded());
-}
-
-std::vector<const TableDef*> Catalogue::tables() const {
-    std::vector<const TableDef*> all;
-    all.reserve(tables_.size());
+std::vector<TablePtr> Catalogue::tables() const {
+    std::vector<TablePtr> all;
     for (const auto& [name, table] : tables_)
-        all.push_back(&table);
+        all.push_back(table);
     return all;
+}
+
+void Catalogue::replace(Catalogue other) {
+    tables_ = std::move(other.tables_);
+    ++version_;
 }
 
 }  // namespace akarix

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 #include <map>
+#include <memory>
 #include <vector>
 
 namespace akarix {
@@ -36,18 +37,26 @@ struct TableDef {
 
     /// Index of a column by its name, without regard to case; -1 when there is none.
     int indexOf(const QString& column) const;
+    const ColumnDef& at(int column) const { return columns[static_cast<std::size_t>(column)]; }
 };
 
-/// The tables of one open file, by name without regard to case.
+using TablePtr = std::shared_ptr<const TableDef>;
+
+/// The tables of one open file, by name without regard to case. A table outlives its place here as long as a
+/// bound statement speaks of it.
 class Catalogue {
  public:
-    const TableDef* find(const QString& table) const;
+    TablePtr find(const QString& table) const;
     void put(TableDef table);
-    void remove(const QString& table);
-    std::vector<const TableDef*> tables() const;
+    std::vector<TablePtr> tables() const;
+
+    /// Takes the tables of another one. What was bound before is out of date then, as the version tells.
+    void replace(Catalogue other);
+    int version() const { return version_; }
 
  private:
-    std::map<QString, TableDef> tables_;  // by folded name
+    std::map<QString, TablePtr> tables_;  // by folded name
+    int version_ = 0;
 };
 
 }  // namespace akarix

@@ -4,17 +4,6 @@
 
 namespace akarix {
 
-BoundPtr MakeColumn(const BoundTable* table, int column) {
-    const ColumnDef& definition = table->definition->columns[static_cast<std::size_t>(column)];
-    auto made = std::make_shared<BoundExpression>();
-    made->node = BoundColumn{table, column};
-    made->kind = KindOf(definition.type);
-    made->type = definition.type;
-    made->size = definition.size;
-    made->text = definition.name;
-    return made;
-}
-
 BoundPtr Scope::column(const ParsedName& name, qsizetype position) const {
     BoundPtr found;
     for (const BoundTable* table : tables_) {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/dialect/BoundQuery.h"
+#include "platform/dialect/BoundExpression.h"
+#include "platform/dialect/Parsed.h"
 
 namespace akarix {
 
@@ -17,7 +18,5 @@ class Scope {
  private:
     std::vector<const BoundTable*> tables_;
 };
-
-BoundPtr MakeColumn(const BoundTable* table, int column);
 
 }  // namespace akarix

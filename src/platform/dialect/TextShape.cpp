@@ -46,32 +46,4 @@ bool TextShape::read(QStringView sql) {
     return true;
 }
 
-bool TextShape::readAs(QStringView sql, const QString& key) {
-    literals_.clear();
-    const QChar* place = sql.begin();
-    const QChar* const end = sql.end();
-    const QChar* const keyEnd = key.constData() + key.size();
-    for (const QChar* k = key.constData(); k < keyEnd; ++k) {
-        if (place == end) return false;
-        if (*k != QChar(kLiteral)) {
-            if (*place++ != *k) return false;
-            continue;
-        }
-        ++k;
-        const qsizetype from = place - sql.begin();
-        if (!BeginsLiteral(sql, from)) return false;
-        if (const auto whole = ScanWholeNumeral(sql, from)) {
-            literals_.push_back({Literal::Kind::Integer, whole->value});
-            place = sql.begin() + whole->end;
-        } else {
-            std::optional<ScannedLiteral> scanned = ScanLiteral(sql, from);
-            if (!scanned) return false;
-            literals_.push_back(std::move(scanned->literal));
-            place = sql.begin() + scanned->end;
-        }
-        if (*k != KindMark(literals_.back().kind)) return false;
-    }
-    return place == end;
-}
-
 }  // namespace akarix

@@ -14,8 +14,6 @@ class TextShape {
  public:
     /// False when the text has no shape: a literal or name in it is broken, as the lexer will say.
     bool read(QStringView sql);
-    /// Whether the text has this key; cheaper than making its own. Literals are those of the text then.
-    bool readAs(QStringView sql, const QString& key);
 
     /// The text with the kind of each literal in its place.
     const QString& key() const { return key_; }

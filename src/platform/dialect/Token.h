@@ -45,7 +45,7 @@ struct Token {
     QStringView text;                 ///< a piece of the statement, which must outlive the token
     qsizetype position = 0;
     Literal literal;
-    int lifted = -1;  ///< number of the literal among those taken out of the text; -1: it stays in
+    int number = -1;  ///< of the literal among those of the text; -1: it is part of the plan
 };
 
 }  // namespace akarix

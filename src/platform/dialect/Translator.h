@@ -1,34 +1,37 @@
 #pragma once
 
-#include <QString>
-#include <memory>
+#include <QCache>
 
-#include "platform/dialect/Plan.h"
-#include "platform/dialect/Schema.h"
+#include "platform/dialect/BoundStatement.h"
+#include "platform/dialect/TextShape.h"
 
 namespace akarix {
 
-/// Turns a text of the dialect into a bound statement of the engine: lexer, parser, binder, writer, with a
-/// cache of plans by normalised token text. The catalogue is the owner's; clear() after every change of it.
+/// Turns a text of the dialect into a bound statement: lexer, parser, binder, with a cache of the statements
+/// used last by the shape of their texts. The catalogue is the owner's.
 /// Raises RuntimeError 3075 (syntax), 3061 (a name that is no column: too few parameters), 3078 (no such
 /// table), 3464 (kinds that cannot be compared), 3346 (value count differs from column count) and others of
 /// that family; the description names the construct and its place.
 class Translator {
  public:
-    explicit Translator(const Catalogue& catalogue);
-    ~Translator();
-    Translator(const Translator&) = delete;
-    Translator& operator=(const Translator&) = delete;
+    static constexpr int kMostKept = 256;
 
-    BoundStatement translate(const QString& sql);
-    void clear();
+    explicit Translator(const Catalogue& catalogue) : catalogue_(catalogue), version_(catalogue.version()) {}
 
-    /// How many texts the cache has answered.
-    std::int64_t fromCache() const;
+    BoundText translate(const QString& sql);
 
  private:
-    struct Impl;
-    std::unique_ptr<Impl> impl_;
+    struct Kept {
+        std::shared_ptr<const BoundStatement> statement;
+        std::vector<std::pair<std::size_t, Literal>> staying;  ///< literals of the plan, by their numbers
+
+        bool holdsFor(const std::vector<Literal>& literals) const;
+    };
+
+    const Catalogue& catalogue_;
+    int version_;  ///< of the catalogue, when what is kept was bound
+    TextShape shape_;
+    QCache<QString, Kept> kept_{kMostKept};
 };
 
 }  // namespace akarix

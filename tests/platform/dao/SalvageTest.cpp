@@ -4,6 +4,7 @@
 
 #include "platform/cipher/StoreKey.h"
 #include "platform/dao/StoreFixture.h"
+#include "platform/dialect/Translator.h"
 #include "platform/runtime/Action.h"
 
 namespace akarix {
@@ -60,26 +61,25 @@ class SalvageTest : public StoreTest {
     }
 
     static void fill(Database& database, int number, int rows) {
-        const TableDef& table = *database.engine().catalogue().find(QString("T%1").arg(number));
+        const TablePtr table = database.engine().catalogue().find(QString("T%1").arg(number));
         std::vector<QString> names;
-        for (const ColumnDef& column : table.columns)
+        for (const ColumnDef& column : table->columns)
             names.push_back(column.name);
         for (int row = 1; row <= rows; ++row) {
             StoreRow values{std::int64_t{2000 + row / 100}, std::int64_t{row * 7 + number}};
-            for (std::size_t i = 2; i < table.columns.size(); ++i)
-                values.push_back(ValueFor(table.columns[i], number, row));
-            database.engine().insertRow(table, names, values);
+            for (std::size_t i = 2; i < table->columns.size(); ++i)
+                values.push_back(ValueFor(table->columns[i], number, row));
+            database.engine().insertRow(*table, names, values);
         }
     }
 
     static Contents contents(Database& database) {
         Contents all;
-        for (const TableDef* table : database.engine().catalogue().tables()) {
-            auto plan = std::make_shared<Plan>();
-            plan->text = "SELECT rowid, * FROM " + table->name.toUtf8();
-            for (Row& row : database.engine().rows({plan, {}})) {
-                const auto number = std::get<std::int64_t>(row.front());
-                row.erase(row.begin());
+        Translator translator(database.engine().catalogue());
+        for (const TablePtr& table : database.engine().catalogue().tables()) {
+            for (Row& row : database.engine().rows(translator.translate("SELECT * FROM " + table->name))) {
+                const auto number = std::get<std::int64_t>(row.back());
+                row.pop_back();
                 all[{table->name, number}] = std::move(row);
             }
         }
@@ -166,12 +166,8 @@ TEST_F(SalvageTest, DeletedRowsDoNotComeBack) {
 TEST_F(SalvageTest, RowsOlderThanAColumnGetItsDefault) {
     write(path(), sound_);
     Database& database = open();
-    auto plan = std::make_shared<Plan>();
-    plan->kind = Plan::Kind::Definition;
-    plan->definition = Plan::Definition::AddColumn;
-    plan->table.name = "T5";
-    plan->column = {"Kensin", FieldType::Integer, 0, true};
-    database.engine().define({plan, {}});
+    database.engine().define(
+        {Definition::Kind::AddColumn, {"T5", {}, {}}, {"Kensin", FieldType::Integer, 0, true}});
     written_ = contents(database);
     database.Close();
     QByteArray bytes = bytesOf(path());
@@ -184,11 +180,11 @@ TEST_F(SalvageTest, TheRepairedFileIsAFullStore) {
     garble(bytes, pages() / 2);
     repaired(bytes);
     Database& database = open();
-    const TableDef& table = *database.engine().catalogue().find("T0");
-    EXPECT_EQ(table.uniqueKeys.size(), 1U);
+    const TablePtr table = database.engine().catalogue().find("T0");
+    EXPECT_EQ(table->uniqueKeys.size(), 1U);
     const Row first = contents(database).begin()->second;
     EXPECT_EQ(ErrorOf([&] {
-                  database.engine().insertRow(table, {"Nendo", "Deal"}, {first[0], first[1]});
+                  database.engine().insertRow(*table, {"Nendo", "Deal"}, {first[0], first[1]});
               }),
               3022);
     MakeTable(database, GoodsTable());

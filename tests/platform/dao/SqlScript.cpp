@@ -7,6 +7,7 @@
 #include "platform/dialect/Engine.h"
 #include "platform/dialect/Lexer.h"
 #include "platform/dialect/Parser.h"
+#include "platform/dialect/Translator.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/RuntimeError.h"
 
@@ -47,15 +48,18 @@ QStringList Outcome(Database& database, const SqlCase& test) {
     }
     if (test.expected.value(0).startsWith(u"key ")) {
         const std::vector<Token> tokens = Tokenize(test.statement);
-        auto plan = std::make_shared<Plan>(
-            std::get<ParsedDefinition>(Parser(test.statement, tokens).statement()).plan);
-        plan->table.uniqueKeys = {test.expected.first().mid(4).split(u',')};
-        database.engine().define({plan, {}});
+        Definition table = std::get<Definition>(Parser(test.statement, tokens).statement());
+        table.table.uniqueKeys = {test.expected.first().mid(4).split(u',')};
+        database.engine().define(table);
         return test.expected;
     }
+    if (test.expected.value(0).startsWith(u"changed")) {
+        Engine& engine = database.engine();
+        return {QString("changed %1")
+                    .arg(engine.change(Translator(engine.catalogue()).translate(test.statement)))};
+    }
     database.Execute(test.statement);
-    const bool counted = test.expected.value(0).startsWith(u"changed");
-    return {counted ? QString("changed %1").arg(database.RecordsAffected()) : "ok"};
+    return {"ok"};
 }
 
 }  // namespace

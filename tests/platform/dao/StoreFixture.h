@@ -27,11 +27,7 @@ inline int ErrorOf(const std::function<void()>& step) {
 }
 
 inline void MakeTable(Database& database, TableDef table) {
-    auto plan = std::make_shared<Plan>();
-    plan->kind = Plan::Kind::Definition;
-    plan->definition = Plan::Definition::CreateTable;
-    plan->table = std::move(table);
-    database.engine().define({std::move(plan), {}});
+    database.engine().define({Definition::Kind::CreateTable, std::move(table)});
 }
 
 /// A folder of its own and files of the store in it; everything is closed at the end.
