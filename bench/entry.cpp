@@ -13,7 +13,6 @@
 #include "entry/Slip_frm.h"
 #include "entry/TorZan_frm.h"
 #include "platform/forms/FlexGrid.h"
-#include "platform/forms/Guard.h"
 #include "platform/runtime/Literals.h"
 #include "reports/RepoDaichou_frm.h"
 #include "store/FieldValue.h"
@@ -192,7 +191,6 @@ int main(int argc, char** argv) {
     using namespace akarix::bench;
     const BenchApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    akarix::SetActionHooks(&akarix::Action::Begin, &akarix::Action::End);
     PrintHead();
     BenchBooks();
     BenchBalances();

@@ -9,7 +9,6 @@
 #include "PeerSheet.h"
 #include "clerk/Clerk.h"
 #include "entry/SlipG_frm.h"
-#include "platform/forms/Guard.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix::bench {
@@ -98,7 +97,6 @@ int main(int argc, char** argv) {
     using namespace akarix::bench;
     const BenchApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    akarix::SetActionHooks(&akarix::Action::Begin, &akarix::Action::End);
     PrintHead();
     BenchOpening();
     BenchEnter(300, "Enter on a reading, sheet of 300");

@@ -9,9 +9,9 @@
 
 #include "output/PrintRun.h"
 #include "output/TemplateCache.h"
-#include "platform/forms/Guard.h"
 #include "platform/forms/MsgBox.h"
 #include "platform/print/PrintJob.h"
+#include "platform/runtime/Action.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "platform/sheet/SheetPainter.h"

@@ -22,7 +22,6 @@
 #include "platform/forms/MsgBox.h"
 #include "platform/forms/SessionEnd.h"
 #include "platform/forms/SingleInstance.h"
-#include "platform/runtime/Action.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "reports/RepoDaichou_frm.h"
@@ -127,7 +126,6 @@ bool LogIn(const QString& password) {
 bool main_menu::Start() {
     static SingleInstance guard;
     if (guard.PrevInstance()) return false;
-    SetActionHooks(&Action::Begin, &Action::End);
     Form::SetHelp(&Guide_frm::OpenFor);
 
     SessionEnd::Await([] { Form::Instance<main_menu>().Unload(); });

@@ -21,6 +21,7 @@
 #include "platform/forms/Notice.h"
 #include "platform/forms/PressGuard.h"
 #include "platform/forms/SessionEnd.h"
+#include "platform/runtime/Action.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix {

@@ -11,7 +11,7 @@
 #include <utility>
 
 #include "platform/forms/Form.h"
-#include "platform/forms/Guard.h"
+#include "platform/runtime/Action.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix {

@@ -7,7 +7,7 @@
 #include <QWidget>
 #include <utility>
 
-#include "platform/forms/Guard.h"
+#include "platform/runtime/Action.h"
 #include "platform/runtime/EndSignals.h"
 
 namespace akarix::SessionEnd {
@@ -21,7 +21,7 @@ void LeaveWhenIdle() {
     QTimer::singleShot(
         0, qApp,
         [] {
-            if (ActionUnderWay())
+            if (Action::UnderWay())
                 AfterAction(LeaveWhenIdle);
             else if (const auto leave = std::exchange(leaveStep, nullptr))
                 leave();

@@ -9,6 +9,7 @@
 #include "platform/forms/MsgBox.h"
 #include "platform/forms/Notice.h"
 #include "platform/forms/TextBox.h"
+#include "platform/runtime/ActionListener.h"
 #include "platform/runtime/RuntimeError.h"
 #include "support/ScreenTest.h"
 
@@ -228,16 +229,20 @@ TEST_F(Forms, AnEscapingErrorIsShownAndTheFormGoesOn) {
     EXPECT_EQ(clicks, 3);
 }
 
-TEST_F(Forms, ActionHooksWrapEveryHandlerAndMayFailThemselves) {
+TEST_F(Forms, EveryHandlerRunsInAnActionWhoseEndMayFail) {
+    struct Store : ActionListener {
+        explicit Store(QStringList& log) : log_(log) {}
+        void actionEnded() override {
+            log_ << "end";
+            if (std::exchange(fails, false)) throw RuntimeError(61);
+        }
+        bool fails = false;
+        QStringList& log_;
+    };
     QStringList log;
-    bool failEnd = false;
-    SetActionHooks([&] { log << "begin"; },
-                   [&] {
-                       log << "end";
-                       if (std::exchange(failEnd, false)) throw RuntimeError(61);
-                   });
+    Store store(log);
     EXPECT_TRUE(RunGuarded([&] { RunGuarded([&] { log << "inner"; }); }));
-    EXPECT_EQ(log.join(u' '), u"begin begin inner end end");
+    EXPECT_EQ(log.join(u' '), u"inner end");
 
     log.clear();
     clerk.expect(
@@ -247,10 +252,10 @@ TEST_F(Forms, ActionHooksWrapEveryHandlerAndMayFailThemselves) {
             clerk.enter();
         });
     EXPECT_FALSE(RunGuarded([] { throw RuntimeError(3022); }));
-    EXPECT_EQ(log.join(u' '), u"begin end shown");
+    EXPECT_EQ(log.join(u' '), u"end shown");
 
     sample();
-    failEnd = true;
+    store.fails = true;
     clerk.answerMsgBox();
     EXPECT_FALSE(RunGuarded([] { NoticeSaved(); }));
     EXPECT_TRUE(clerk.lastSaid().contains("'61'"));
@@ -263,7 +268,6 @@ TEST_F(Forms, ActionHooksWrapEveryHandlerAndMayFailThemselves) {
     EXPECT_FALSE(QTest::qWaitFor(told, 200)) << "what could not be stored is not called saved";
     EXPECT_TRUE(RunGuarded([] { NoticeSaved(); }));
     EXPECT_TRUE(QTest::qWaitFor(told, 2000));
-    SetActionHooks({}, {});
 }
 
 TEST_F(Forms, MouseDownTellsButtonAndShiftOnTheFormAlone) {
