@@ -6,21 +6,11 @@
 #include "platform/cipher/RawFile.h"
 #include "platform/cipher/StoreFile.h"
 #include "platform/dialect/StoreError.h"
-#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
 
 constexpr int kMostWords = 20;
-
-void PlayBackJournal(const QString& path, const QString& password) {
-    if (!QFileInfo::exists(path + u"-journal"_s)) return;
-    try {
-        OpenStoreFile(path, password);
-    } catch (const RuntimeError&) {
-        // What is wrong is found below.
-    }
-}
 
 // The engine keeps its lock bytes at this offset and writes nothing into their page.
 constexpr int kLockPage = 0x40000000 / kPageSize + 1;

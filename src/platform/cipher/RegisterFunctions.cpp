@@ -108,28 +108,6 @@ struct Kept {
     std::vector<StoreValue> place;
 };
 
-int CompareValues(const StoreValue& a, const StoreValue& b) {
-    if (a.index() != b.index()) {
-        // Null, numbers, texts, the engine's own order of kinds
-        const auto rank = [](const StoreValue& v) { return v.index() == 0 ? 0 : v.index() == 3 ? 2 : 1; };
-        if (rank(a) != rank(b)) return rank(a) < rank(b) ? -1 : 1;
-        const auto number = [](const StoreValue& v) {
-            const auto* whole = std::get_if<std::int64_t>(&v);
-            return whole ? static_cast<double>(*whole) : std::get<double>(v);
-        };
-        return number(a) < number(b) ? -1 : number(a) > number(b) ? 1 : 0;
-    }
-    return a < b ? -1 : b < a ? 1 : 0;
-}
-
-bool IsBefore(const std::vector<StoreValue>& a, const std::vector<StoreValue>& b) {
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        const int order = CompareValues(a[i], b[i]);
-        if (order != 0) return order < 0;
-    }
-    return false;
-}
-
 void KeepStep(sqlite3_context* context, int count, sqlite3_value** values) {
     auto** slot = static_cast<Kept**>(sqlite3_aggregate_context(context, sizeof(Kept*)));
     std::vector<StoreValue> place;
@@ -138,7 +116,7 @@ void KeepStep(sqlite3_context* context, int count, sqlite3_value** values) {
         place.push_back(ValueOf(values[i]));
     if (!*slot)
         *slot = new Kept;
-    else if (!IsBefore(place, (*slot)->place))
+    else if (place >= (*slot)->place)  // the values of one column are of one kind
         return;
     (*slot)->value.reset(sqlite3_value_dup(values[0]));
     (*slot)->place = std::move(place);

@@ -18,10 +18,6 @@ std::filesystem::path NativePath(const QString& path) {
     return std::filesystem::path(path.toStdU16String());
 }
 
-QString JournalOf(const QString& path) {
-    return path + u"-journal"_s;
-}
-
 void Discard(const QString& path) {
     QFile::remove(path);
     QFile::remove(JournalOf(path));
@@ -29,15 +25,6 @@ void Discard(const QString& path) {
 
 void Lock(RawFile& file, const QString& path) {
     if (!file.lock()) throw StoreError(3045, path);
-}
-
-// Lets the engine play a left journal back first: it makes whole what a dying process left half written.
-void PlayBackJournal(const QString& path, const QString& password) {
-    try {
-        OpenStoreFile(path, password);
-    } catch (const RuntimeError&) {
-        // The damage is what we are here for.
-    }
 }
 
 void CreateTables(sqlite3* connection, const Salvage& salvage) {

@@ -9,6 +9,7 @@
 #include "platform/cipher/RegisterFunctions.h"
 #include "platform/cipher/SchemaCopy.h"
 #include "platform/dialect/StoreError.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
@@ -116,6 +117,18 @@ Connection CreateStoreFile(const QString& path, const QString& password) {
     RefreshSchemaCopy(connection.get());
     Run(connection.get(), "COMMIT");
     return connection;
+}
+
+QString JournalOf(const QString& path) {
+    return path + u"-journal"_s;
+}
+
+void PlayBackJournal(const QString& path, const QString& password) {
+    if (!QFileInfo::exists(JournalOf(path))) return;
+    try {
+        OpenStoreFile(path, password);
+    } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch)
+    }
 }
 
 }  // namespace akarix

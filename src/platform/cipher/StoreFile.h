@@ -19,4 +19,9 @@ Connection OpenStoreFile(const QString& path, const QString& password, OpenAs mo
 /// Makes an empty one. The path must be free.
 Connection CreateStoreFile(const QString& path, const QString& password);
 
+QString JournalOf(const QString& path);
+/// Lets the engine play back a journal that is there, which makes whole what a dying process left half
+/// written. Other damage is left for whoever looks for it.
+void PlayBackJournal(const QString& path, const QString& password);
+
 }  // namespace akarix

@@ -20,11 +20,6 @@ QString PasswordOf(const QString& connect) {
     return {};
 }
 
-const QString& Source() {
-    static const QString source = u"DAO.Workspace"_s;
-    return source;
-}
-
 }  // namespace
 
 Database* Workspace::OpenDatabase(const QString& name, bool exclusive, bool readOnly,
@@ -32,13 +27,13 @@ Database* Workspace::OpenDatabase(const QString& name, bool exclusive, bool read
     try {
         return keep(name, OpenEngine(LocalPath(name), PasswordOf(connect), exclusive, readOnly));
     } catch (const RuntimeError& error) {
-        throw RuntimeError(error.number(), error.description(), Source());
+        throw RuntimeError(error.number(), error.description(), u"DAO.Workspace"_s);
     }
 }
 
 Database* Workspace::CreateDatabase(const QString& name, const QString& connect) {
     const QString path = LocalPath(name);
-    if (QFileInfo::exists(path)) throw StoreError(3204, name, Source());
+    if (QFileInfo::exists(path)) throw StoreError(3204, name, u"DAO.Workspace"_s);
     return keep(name, CreateEngine(path, PasswordOf(connect)));
 }
 
