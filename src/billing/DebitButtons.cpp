@@ -12,8 +12,8 @@
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "store/Consignor.h"
-#include "toolkit/DateBox.h"
 #include "toolkit/FieldWalk.h"
+#include "values/Dates.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 
@@ -60,19 +60,19 @@ void DebitButtons::writePost() {
 /// The second date stands in the month behind the first. It may not exist in a short month; the clerk mends
 /// it.
 void DebitButtons::proposeRetransfer(const QString& dayOfMonth) {
-    const Date creation = ReadDate(*on_.creation);
+    const Date creation = ParseDate(on_.creation->Text());
     const Date next = DateSerial(Year(creation), Month(creation) + 1, 1);
     again_ = {PadFormat(Month(next), kTwoDigits), PadFormat(KeepNumeric(dayOfMonth), kTwoDigits)};
     for (QWidget* part :
          std::initializer_list<QWidget*>{on_.saihiHead, on_.eSaihi, on_.lyobi2, on_.saihiHint})
         part->show();
     on_.eSaihi->SetText(NumStr(DisplayYear(next)) + u'/' + again_.month + u'/' + again_.day);
-    on_.lyobi2->SetCaption(WeekdayOf(ReadDate(*on_.eSaihi)));
+    on_.lyobi2->SetCaption(WeekdayOf(ParseDate(on_.eSaihi->Text())));
     FocusSelect(*on_.eSaihi);
 }
 
 void DebitButtons::enterRetransfer() {
-    const Date date = ReadDate(*on_.eSaihi);
+    const Date date = ParseDate(on_.eSaihi->Text());
     if (!IsDateSet(date)) return;
     on_.lyobi2->SetCaption(WeekdayOf(date));
     if (creationStands()) writePostFile();
@@ -102,14 +102,14 @@ void DebitButtons::printPost() {
 
 /// Its month and day go into the file.
 bool DebitButtons::creationStands() const {
-    if (IsDateSet(ReadDate(*on_.creation))) return true;
+    if (IsDateSet(ParseDate(on_.creation->Text()))) return true;
     ShowAlert(u"作成日を正しく入れて下さい。"_s);
     return false;
 }
 
 DebitWish DebitButtons::wish() const {
     return {CLng(KeepNumeric(on_.year->Text())), CLng(KeepNumeric(on_.month->Text())),
-            ReadDate(*on_.creation)};
+            ParseDate(on_.creation->Text())};
 }
 
 ShowProgress DebitButtons::progress() const {

@@ -6,16 +6,11 @@
 
 #include "billing/Tto.h"
 #include "dialogs/ShowAlert.h"
-#include "platform/forms/FieldLayout.h"
 #include "platform/forms/LongRun.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Conversion.h"
-#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
-#include "toolkit/DateBox.h"
-#include "toolkit/FieldBytes.h"
-#include "toolkit/FieldWalk.h"
-#include "values/NumStr.h"
+#include "values/Dates.h"
 #include "values/NumVal.h"
 
 namespace akarix {
@@ -23,45 +18,29 @@ namespace akarix {
 namespace {
 
 enum Field { kYear = 0, kMonth = 1, kCreation = 2, kBank = 5 };
-enum Action {
-    kRun,
-    kWriteBank,
-    kWritePost,
-    kReadBank,
-    kReadPost,
-    kBankStatement,
-    kPostStatement,
-};
-
-struct ActionButton {
+/// A button of the board of actions.
+struct Action {
     int index;
     int row;
     int column;
     const char16_t* caption;
+    void (DebitButtons::*press)();  ///< none: the billing run
 };
 
-constexpr std::array<ActionButton, 7> kActions{{
-    {kRun, 0, 0, u"請求データの作成"},
-    {kWriteBank, 1, 0, u"銀行ディスクの作成"},
-    {kWritePost, 1, 1, u"郵便局ディスクの作成"},
-    {kReadBank, 2, 0, u"銀行ディスクの読込"},
-    {kReadPost, 2, 1, u"郵便局ディスクの読込"},
-    {kBankStatement, 3, 0, u"銀行口座振替明細書"},
-    {kPostStatement, 3, 1, u"郵便局口座振替明細書"},
+constexpr std::array<Action, 7> kActions{{
+    {0, 0, 0, u"請求データの作成", nullptr},
+    {1, 1, 0, u"銀行ディスクの作成", &DebitButtons::writeBank},
+    {2, 1, 1, u"郵便局ディスクの作成", &DebitButtons::writePost},
+    {3, 2, 0, u"銀行ディスクの読込", &DebitButtons::readBank},
+    {4, 2, 1, u"郵便局ディスクの読込", &DebitButtons::readPost},
+    {5, 3, 0, u"銀行口座振替明細書", &DebitButtons::printBank},
+    {6, 3, 1, u"郵便局口座振替明細書", &DebitButtons::printPost},
 }};
 
 }  // namespace
 
 Seikyu_frm::Seikyu_frm() : EntryForm(u"Seikyu_frm"_s, u"請求処理"_s) {
-    layOut();
-    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
-    wireLookup(F6(0), u"Bnk"_s, {}, ebox(kBank), press, kBank);
-    on(
-        &ebox(kMonth), &TextBox::LostFocus, [this] { showClosingDate(); });
-    on(Command_, &CommandButton::Click, [this](int index) { Command_Click(index); });
-}
-
-void Seikyu_frm::layOut() {
+    Btn = ControlArray<CommandButton>(u"Command"_s);
     constexpr int kDateBytes = 10;
     constexpr int kWeekdayBytes = 4;
     const auto label = [this](const char16_t* name, const char16_t* caption = u"") {
@@ -74,18 +53,11 @@ void Seikyu_frm::layOut() {
     Label* saihiHint = label(u"Label1", u"Enterで決定");
 
     FieldLayout fields(*this);
-    fields.row(u"対象"_s)
-        .text(addBox(ebox, kYear, ImeMode::Off), 4)
-        .note(u"年"_s)
-        .text(addBox(ebox, kMonth, ImeMode::Off), 2)
-        .note(u"月分"_s);
+    addMonth(fields.row(u"対象"_s), kYear, kMonth, u"月分"_s);
+    on(&ebox(kMonth), &TextBox::LostFocus, [this] { showClosingDate(); });
     fields.row(u"集計日"_s).name(*sSyukeibi_, kDateBytes);
-    fields.row(u"作成日"_s)
-        .text(addBox(ebox, kCreation, ImeMode::Off), kDateBytes)
-        .name(*lYobi1_, kWeekdayBytes);
-    fields.row(u"銀行ｺｰﾄﾞ"_s)
-        .text(addBox(ebox, kBank, ImeMode::Off), kIntegerBytes)
-        .lookup(F6.add(0, new Image));
+    fields.row(u"作成日"_s).text(addBox(kCreation), kDateBytes).name(*lYobi1_, kWeekdayBytes);
+    fields.row(u"銀行ｺｰﾄﾞ"_s).text(addBox(kBank), kIntegerBytes).lookup(addLookup(0, u"Bnk"_s, kBank));
     TextBox& eSaihi = Named(new TextBox, u"eSaihi"_s);
     eSaihi.SetIMEMode(ImeMode::Off);
     fields.row({}).widget(saihiHead).text(eSaihi, kDateBytes).name(*lyobi2, kWeekdayBytes).widget(saihiHint);
@@ -95,13 +67,14 @@ void Seikyu_frm::layOut() {
     actions->setVerticalSpacing(8);
     constexpr int kButtonWidth = 200;
     constexpr int kButtonHeight = 36;
-    for (const ActionButton& action : kActions) {
-        CommandButton& button =
-            Command_.add(action.index, new CommandButton(QString::fromUtf16(action.caption)));
-        JoinWalk(*this, button);
+    for (const Action& action : kActions) {
+        const auto press = [this, debit = action.press] {
+            if (debit == nullptr) return runBilling();
+            (*disks_.*debit)();
+        };
+        CommandButton& button = Btn.add(action.index, newButton(QString::fromUtf16(action.caption), press));
         button.setMinimumSize(kButtonWidth, kButtonHeight);
-        const bool alone = action.index == kRun;
-        actions->addWidget(&button, action.row, action.column, 1, alone ? 2 : 1);
+        actions->addWidget(&button, action.row, action.column, 1, action.press == nullptr ? 2 : 1);
     }
     Label* progress = label(u"Progress");
     disks_.emplace(DebitButtons::Controls{&ebox(kYear), &ebox(kMonth), &ebox(kCreation), &ebox(kBank),
@@ -117,10 +90,8 @@ void Seikyu_frm::layOut() {
 }
 
 void Seikyu_frm::init() {
-    const Date today = Today();
-    ebox(kYear).SetText(NumStr(Year(today)));
-    ebox(kMonth).SetText(NumStr(Month(today)));
-    ShowDate(today, ebox(kCreation));
+    putMonth(kYear, kMonth, Today());
+    ebox(kCreation).SetText(DateText(Today()));
     ebox(kBank).SetText({});
     disks_->reset();
     showWeekday();
@@ -131,15 +102,19 @@ void Seikyu_frm::init() {
 bool Seikyu_frm::enter(int index) {
     if (index == kCreation) {
         // Text that is no date stays as typed; the run then tells it.
-        const Date date = ReadDate(ebox(kCreation));
-        if (IsDateSet(date)) ShowDate(date, ebox(kCreation));
+        const Date date = creation();
+        if (IsDateSet(date)) ebox(kCreation).SetText(DateText(date));
         showWeekday();
     }
     return true;
 }
 
+Date Seikyu_frm::creation() const {
+    return ParseDate(ebox(kCreation).Text());
+}
+
 void Seikyu_frm::showWeekday() {
-    const Date date = ReadDate(ebox(kCreation));
+    const Date date = creation();
     lYobi1_->SetCaption(IsDateSet(date) ? YobiName(date) : QString());
 }
 
@@ -161,42 +136,14 @@ void Seikyu_frm::enterRetransfer(TextBox& eSaihi, KeyEvent& event) {
     }
 }
 
-void Seikyu_frm::Command_Click(int index) {
-    switch (index) {
-        case kRun:
-            runBilling();
-            break;
-        case kWriteBank:
-            disks_->writeBank();
-            break;
-        case kWritePost:
-            disks_->writePost();
-            break;
-        case kReadBank:
-            disks_->readBank();
-            break;
-        case kReadPost:
-            disks_->readPost();
-            break;
-        case kBankStatement:
-            disks_->printBank();
-            break;
-        case kPostStatement:
-            disks_->printPost();
-            break;
-        default:
-            break;
-    }
-}
-
 void Seikyu_frm::runBilling() {
-    const Date creation = ReadDate(ebox(kCreation));
-    if (!IsDateSet(creation)) {
+    const Date day = creation();
+    if (!IsDateSet(day)) {
         ShowAlert(u"作成日を正しく入れて下さい。"_s);
         return;
     }
     // The year is left unasked: a bill made in the new year for the old one is no mistake.
-    if (Month(creation) != NumVal(ebox(kMonth).Text())) {
+    if (Month(day) != NumVal(ebox(kMonth).Text())) {
         ShowAlert(u"月度と作成日の月が違います。"_s);
         return;
     }
@@ -205,7 +152,7 @@ void Seikyu_frm::runBilling() {
     try {
         // One action to the session's end: only the operator leaves it half-way, and is told how to go on.
         LongRun run(u"請求データの作成"_s, LongRun::AtSessionEnd::GoesOn);
-        BuildMonthLedger(nendo, getudo, creation, run);
+        BuildMonthLedger(nendo, getudo, day, run);
         CarryForwardMonth(nendo, getudo, run);
     } catch (const RuntimeError& error) {
         if (error.number() != CancelledByOperator) throw;

@@ -18,7 +18,7 @@ namespace akarix {
 namespace {
 
 bool Ask(const QString& question) {
-    return AskConfirm(question, u"はい"_s, u"いいえ"_s);
+    return AskConfirm(question);
 }
 
 RetransferDay DayOf(const QString& typed) {

@@ -11,7 +11,7 @@ namespace akarix {
 Alert_frm::Alert_frm()
     : Form(u"Alert_frm"_s, u"Nagomi Systems"_s),
       Message(&Named(new Label, u"Message"_s)),
-      Btn(&Named(new CommandButton(u"OK"_s), u"Btn"_s)) {
+      Btn(&Named(new CommandButton(u"OK"_s, nullptr, ButtonWeight::Confirms), u"Btn"_s)) {
     LayOutDialog(*this, Icon::Notice, u"Image1"_s, *Message, Btn);
     SetTabIndex(Btn, 0);
     on(Btn, &CommandButton::Click, [this] { Unload(); });

@@ -1,6 +1,7 @@
 #include "dialogs/AskConfirm.h"
 
 #include "dialogs/ChoiceForm.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
@@ -17,12 +18,12 @@ bool Ask(const QString& question, const QString& first, const QString& second) {
 
 }  // namespace
 
-bool AskConfirm(const QString& question, const QString& first, const QString& second) {
-    return Ask<Confirm_frm>(question, first, second);
+bool AskConfirm(const QString& question) {
+    return Ask<Confirm_frm>(question, u"はい"_s, u"いいえ"_s);
 }
 
-bool AskConfirmRev(const QString& question, const QString& first, const QString& second) {
-    return Ask<gyakuConfirm_frm>(question, first, second);
+bool AskConfirmRev(const QString& question, const QString& goOn) {
+    return Ask<gyakuConfirm_frm>(question, u"いいえ"_s, goOn);
 }
 
 }  // namespace akarix

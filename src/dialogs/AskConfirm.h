@@ -4,10 +4,11 @@
 
 namespace akarix {
 
-/// True when the first choice, which is selected at the start, was confirmed; the close box answers with the
-/// second.
-bool AskConfirm(const QString& question, const QString& first, const QString& second);
-/// The same with the close box answering with the first, safe choice: True means refusal.
-bool AskConfirmRev(const QString& question, const QString& first, const QString& second);
+/// True when はい, which is selected at the start, was confirmed; the close box answers いいえ.
+bool AskConfirm(const QString& question);
+/// Before what cannot be undone: いいえ is selected at the start and what the close box answers. True means
+/// refusal.
+/// \param goOn the other answer
+bool AskConfirmRev(const QString& question, const QString& goOn);
 
 }  // namespace akarix

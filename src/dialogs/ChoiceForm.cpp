@@ -12,7 +12,7 @@ ChoiceForm::ChoiceForm(const QString& name, const QString& caption, int safeInde
     : Form(name, caption),
       safeIndex_(safeIndex),
       Frame1(&Named(new Frame, u"Frame1"_s)),
-      Btn(&Named(new CommandButton(u"OK"_s), u"Btn"_s)) {
+      Btn(&Named(new CommandButton(u"OK"_s, nullptr, ButtonWeight::Confirms), u"Btn"_s)) {
     auto* choices = new QVBoxLayout(Frame1);
     choices->setContentsMargins(16, 12, 16, 12);
     choices->setSpacing(10);

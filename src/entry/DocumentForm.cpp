@@ -1,10 +1,8 @@
 #include "entry/DocumentForm.h"
 
-#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "values/NumStr.h"
-#include "values/NumVal.h"
 
 namespace akarix {
 
@@ -20,10 +18,6 @@ QString DocumentForm::proposedCode() {
 void DocumentForm::showRow(Recordset& row) {
     ebox(kCode).SetText(NumStr(LongOf(row[u"Dno"_s])));
     load();
-}
-
-void DocumentForm::showCustomer(int index) {
-    nameLabel(u"sNamae"_s).SetCaption(GetDealName(NumVal(ebox(index).Text())));
 }
 
 void DocumentForm::openDocument(std::int32_t dno) {

@@ -22,9 +22,6 @@ class DocumentForm : public KeyedForm {
     /// Makes the screen ready and shows a document; a number below 1 is none and changes nothing.
     void openDocument(std::int32_t dno);
 
-    /// Shows in sNamae whose code stands in ebox(index).
-    void showCustomer(int index);
-
     QString proposedCode() override;
     void showRow(Recordset& row) override;
 

@@ -1,17 +1,14 @@
 #include "entry/PaymentHistory.h"
 
 #include <QHash>
-#include <array>
 #include <initializer_list>
 
 #include "billing/Tto.h"
-#include "platform/forms/FlexGrid.h"
-#include "platform/forms/GridHead.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
+#include "toolkit/GridColumns.h"
 #include "values/NumStr.h"
 
 namespace akarix {
@@ -20,25 +17,19 @@ namespace {
 
 enum Column { kMonth, kPrior, kGas, kSales, kPaid, kTotal };
 
-constexpr std::array<GridHead, 6> kHeads{{
+const GridColumns kColumns = {
     {u"年月", 1200, AlignLeftCenter},
     {u"前月請求", 1500},
     {u"LPガス", 1500},
     {u"売上金額", 1500},
     {u"入金額", 1500},
     {u"合計金額", 1500},
-}};
+};
 
 const QString kAmount = u"###,##0"_s;
 
 QString AmountText(Currency amount) {
     return Format(amount, kAmount);
-}
-
-int AddRow(FlexGrid& list) {
-    const int row = list.Rows();
-    list.SetRows(row + 1);
-    return row;
 }
 
 void AddCarriedIn(FlexGrid& list, Currency total) {
@@ -111,7 +102,7 @@ LedgerMonth LatestLedgerMonth() {
 }
 
 void EmptyHistory(FlexGrid& list) {
-    SetHeads(list, kHeads);
+    SetColumns(list, kColumns);
 }
 
 void ShowLedgerHistory(FlexGrid& list, std::int32_t deal, int nendo, int getudo) {

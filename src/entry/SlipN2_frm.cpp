@@ -6,20 +6,18 @@
 #include "entry/OpeningBalance.h"
 #include "entry/PaymentHistory.h"
 #include "entry/PaymentLedger.h"
-#include "platform/forms/FieldLayout.h"
-#include "platform/forms/FlexGrid.h"
-#include "platform/forms/GridHead.h"
 #include "platform/forms/Notice.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/Literals.h"
-#include "toolkit/DateBox.h"
-#include "toolkit/FieldBytes.h"
-#include "toolkit/FieldWalk.h"
+#include "store/FieldValue.h"
+#include "store/dbAccess.h"
+#include "toolkit/GridColumns.h"
 #include "toolkit/Lookups.h"
+#include "values/Dates.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
+#include "values/Text.h"
 
 namespace akarix {
 
@@ -39,8 +37,6 @@ enum Button { kClear, kDelete, kSave, kSaveOpening, kShow };
 enum Picture { kPickSlip, kPickCustomer };
 
 constexpr int kDateBytes = 10;
-constexpr int kYearBytes = 4;
-constexpr int kMonthBytes = 2;
 
 DocumentTexts Texts() {
     return {.highest = u"SELECT MAX(Dno) AS tDno FROM Dny"_s,
@@ -69,7 +65,6 @@ SlipN2_frm::SlipN2_frm() : DocumentForm(u"SlipN2_frm"_s, u"入金入力"_s, Text
     body().addLayout(columns, 1);
     // Last in the walk: its month holds the keyboard until it is one.
     body().addWidget(layOutOpening());
-    wire();
 }
 
 // ---- layout
@@ -80,21 +75,22 @@ QVBoxLayout* SlipN2_frm::layOutSlip() {
     column->setSpacing(kBetweenGroups);
     layOutHead(*column);
     layOutLines(*column);
-    addBar({{kSave, u"入金保存"_s}, {kClear, u"画面クリア"_s}, {kDelete, u"削除"_s}}, column);
+    addBar({{kSave, u"入金保存"_s, [this] { save(); }, Keeps},
+            {kClear, u"画面クリア"_s, [this] { clear(); }},
+            {kDelete, u"削除"_s, [this] { remove(); }, Removes}},
+           column);
     return column;
 }
 
 void SlipN2_frm::layOutHead(QVBoxLayout& column) {
-    constexpr int kNameBytes = 30;
     FieldLayout head(*this);
     head.row(u"伝票番号"_s)
-        .text(addBox(ebox, kNumber, ImeMode::Off), kLongKeyBytes)
-        .lookup(F6.add(kPickSlip, new Image));
-    head.row(u"得意先"_s)
-        .text(addBox(ebox, kCustomer, ImeMode::Off), kLongKeyBytes)
-        .lookup(F6.add(kPickCustomer, new Image))
-        .name(addName(u"sNamae"_s), kNameBytes);
-    head.row(u"入金日"_s).text(addBox(ebox, kDate, ImeMode::Off), kDateBytes);
+        .text(addBox(kNumber), kLongKeyBytes)
+        .lookup(addLookup(
+            kPickSlip, [this] { return requireCustomer() ? PickPayment(number(kCustomer)) : QString(); },
+            kNumber));
+    addCode(head.row(u"得意先"_s), kCustomer, {kPickCustomer, u"Deal"_s, u"sNamae"_s});
+    head.row(u"入金日"_s).text(addBox(kDate), kDateBytes);
     column.addLayout(head.layout());
 }
 
@@ -106,20 +102,21 @@ void SlipN2_frm::layOutLines(QVBoxLayout& column) {
     lines.head(u"金額"_s, Qt::AlignRight);
     lines.head(u"内容"_s);
     for (int line = 0; line < PaymentSlip::kLines; ++line) {
-        lines.cell(line, 0).combo(dKubun.add(line, new ComboBox), kClassShown);
-        TextBox& amount = addBox(eGaku, line, ImeMode::Off);
+        lines.cell(line, 0).combo(dKubun.add(line, newList()), kClassShown);
+        TextBox& amount = eGaku.add(line, newBox());
         amount.setAlignment(Qt::AlignRight);
+        on(&amount, &TextBox::LostFocus, [this] { showTotal(); });
         lines.cell(line, 1).text(amount, kCurrencyBytes, kCurrencyShown);
-        lines.cell(line, 2).text(addBox(eNaiyo, line, ImeMode::Hiragana), kTextBytes);
+        lines.cell(line, 2).text(eNaiyo.add(line, newBox(ImeMode::Hiragana)), kTextBytes);
     }
-    Label& total = addName(u"sTotal"_s);
-    total.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    total_ = &addName(u"sTotal"_s);
+    total_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     constexpr int kUnderFigures = 6;  // the amounts above stand that far from their frames
-    total.setIndent(kUnderFigures);
+    total_->setIndent(kUnderFigures);
     auto* caption = new Label(u"合計"_s);
     caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     lines.layout()->addWidget(caption, PaymentSlip::kLines + 1, 0);
-    lines.layout()->addWidget(&total, PaymentSlip::kLines + 1, 1);
+    lines.layout()->addWidget(total_, PaymentSlip::kLines + 1, 1);
     column.addLayout(lines.layout());
 }
 
@@ -127,12 +124,8 @@ QVBoxLayout* SlipN2_frm::layOutHistory() {
     FieldLayout start(*this);
     ledgerEnd_ = &Named(new Label({}, this), u"ledgerEnd"_s);
     ledgerEnd_->setForegroundRole(QPalette::PlaceholderText);
-    start.row(u"売掛表示年月"_s)
-        .text(addBox(ebox, kHistoryYear, ImeMode::Off), kYearBytes)
-        .note(u"年"_s)
-        .text(addBox(ebox, kHistoryMonth, ImeMode::Off), kMonthBytes)
-        .note(u"月から"_s)
-        .button(Btn.add(kShow, new CommandButton(u"表示"_s)));
+    addMonth(start.row(u"売掛表示年月"_s), kHistoryYear, kHistoryMonth, u"月から"_s)
+        .button(Btn.add(kShow, newButton(u"表示"_s, [this] { showHistory(); })));
     start.row({}).widget(ledgerEnd_);
 
     List_ = &Named(new FlexGrid(this), u"List"_s);
@@ -150,50 +143,29 @@ QGroupBox* SlipN2_frm::layOutOpening() {
     auto* group = new QGroupBox(u"初期繰越の作成"_s, this);
     auto* line = new QHBoxLayout(group);
     line->addStretch();
-    TextBox& amount = addBox(ebox, kOpeningAmount, ImeMode::Off);
-    amount.setAlignment(Qt::AlignRight);
-    FieldLine(*this, line)
-        .text(addBox(ebox, kOpeningYear, ImeMode::Off), kYearBytes)
-        .note(u"年"_s)
-        .text(addBox(ebox, kOpeningMonth, ImeMode::Off), kMonthBytes)
-        .note(u"月請求の前回請求額"_s)
-        .text(amount, kCurrencyBytes, kCurrencyShown)
-        .button(Btn.add(kSaveOpening, new CommandButton(u"繰越保存"_s)))
+    addMonth(FieldLine(*this, line), kOpeningYear, kOpeningMonth, u"月請求の前回請求額"_s)
+        .text(addAmount(kOpeningAmount), kCurrencyBytes, kCurrencyShown)
+        .button(Btn.add(kSaveOpening, newButton(
+                                          u"繰越保存"_s, [this] { saveOpening(); }, Keeps)))
         .note(u"初期繰り越しの削除は0でエンター"_s);
     return group;
-}
-
-void SlipN2_frm::wire() {
-    const PressEnter press = wireKeys(
-        ebox, [this](int index) { return enter(index); });
-    const auto goOn = [](int) { return true; };
-    wireKeys(eGaku, goOn);
-    wireKeys(eNaiyo, goOn);
-    wireKeys(dKubun);
-    on(
-        eGaku, &TextBox::LostFocus, [this](int) { showTotal(); });
-    WireLookup(
-        *this, F6(kPickSlip),
-        [this] { return requireCustomer() ? PickPayment(number(kCustomer)) : QString(); }, ebox(kNumber),
-        [press] { press(kNumber); });
-    wireLookup(F6(kPickCustomer), u"Deal"_s, {}, ebox(kCustomer), press, kCustomer);
-    const auto onPress = [this](Button button, void (SlipN2_frm::*action)()) {
-        on(&Btn(button), &CommandButton::Click, [this, action] { (this->*action)(); });
-    };
-    onPress(kClear, &SlipN2_frm::clear);
-    onPress(kDelete, &SlipN2_frm::remove);
-    onPress(kSave, &SlipN2_frm::save);
-    onPress(kSaveOpening, &SlipN2_frm::saveOpening);
-    onPress(kShow, &SlipN2_frm::showHistory);
 }
 
 // ---- the slip on the screen
 
 void SlipN2_frm::init() {
     for (const auto& [line, list] : dKubun)
-        FillCombo(u"SELECT Code,Namae FROM NyukinKubun ORDER BY Code"_s, *list, true);
+        fillClasses(*list);
     showLedgerEnd(LatestLedgerMonth());
     clear();
+}
+
+void SlipN2_frm::fillClasses(ComboBox& list) {
+    list.clear();
+    Recordset rows = gDb->OpenRecordset(u"SELECT Code,Namae FROM NyukinKubun ORDER BY Code"_s);
+    for (; !rows.Eof(); rows.MoveNext())
+        list.AddItem(NullToEmpty(rows[u"Namae"_s]), LongOf(rows[u"Code"_s]));
+    list.SetListIndex(-1);
 }
 
 void SlipN2_frm::fromexe(std::int32_t& Dno) {
@@ -209,39 +181,36 @@ void SlipN2_frm::load() {
     const QString typed = ebox(kNumber).Text();
     const QString customer = ebox(kCustomer).Text();
     if (slip.Dno != 0) {
-        ClearControls(*this);
+        emptyFields();
         ebox(kNumber).SetText(typed);
         return show(slip);
     }
     clear();
     ebox(kNumber).SetText(typed);
     ebox(kCustomer).SetText(customer);
-    if (number(kCustomer) != 0) showCustomer(kCustomer);
+    if (number(kCustomer) != 0) showName(kCustomer);
 }
 
 void SlipN2_frm::show(const PaymentSlip& slip) {
     ebox(kCustomer).SetText(NumStr(slip.Deal));
-    showCustomer(kCustomer);
-    ShowDate(slip.Hizuke, ebox(kDate));
+    showName(kCustomer);
+    ebox(kDate).SetText(DateText(slip.Hizuke));
     for (const auto& [line, list] : dKubun) {
         const PaymentLine& paid = slip.lines[static_cast<std::size_t>(line)];
-        ComboSelect(*list, paid.Kubun);
+        list->SetListIndex(list->findData(int{paid.Kubun}));
         eGaku(line).SetText(Yen(paid.Gaku));
         eNaiyo(line).SetText(paid.Naiyo);
     }
     showTotal();
-    const int year = Year(slip.Hizuke);
-    const int month = Month(slip.Hizuke);
-    ebox(kHistoryYear).SetText(NumStr(year));
-    ebox(kHistoryMonth).SetText(NumStr(month));
-    ShowPaymentHistory(*List_, slip.Deal, year, month);
+    putMonth(kHistoryYear, kHistoryMonth, slip.Hizuke);
+    ShowPaymentHistory(*List_, slip.Deal, Year(slip.Hizuke), Month(slip.Hizuke));
 }
 
 void SlipN2_frm::showTotal() {
     Currency total;
     for (const auto& [line, box] : eGaku)
         total += ToCurrency(box->Text());
-    nameLabel(u"sTotal"_s).SetCaption(Yen(total));
+    total_->SetCaption(Yen(total));
 }
 
 void SlipN2_frm::showLedgerEnd(LedgerMonth end) {
@@ -255,11 +224,8 @@ bool SlipN2_frm::enter(int index) {
         case kNumber:
             load();
             return true;
-        case kCustomer:
-            showCustomer(kCustomer);
-            return true;
         case kDate:
-            ShowDate(ReadDate(ebox(kDate)), ebox(kDate));
+            ebox(kDate).SetText(DateText(date()));
             return true;
         case kOpeningMonth:
             return IsMonth(NumVal(ebox(kOpeningMonth).Text()));
@@ -274,11 +240,15 @@ std::int32_t SlipN2_frm::number(int index) const {
     return CLng(NumVal(ebox(index).Text()));
 }
 
+Date SlipN2_frm::date() const {
+    return ParseDate(ebox(kDate).Text());
+}
+
 PaymentSlip SlipN2_frm::slipOnScreen() const {
-    PaymentSlip slip{number(kNumber), number(kCustomer), ReadDate(ebox(kDate)), {}};
+    PaymentSlip slip{number(kNumber), number(kCustomer), date(), {}};
     for (const auto& [line, list] : dKubun) {
-        slip.lines[static_cast<std::size_t>(line)] = {CInt(ComboValue(*list)), ToCurrency(eGaku(line).Text()),
-                                                      eNaiyo(line).Text()};
+        slip.lines[static_cast<std::size_t>(line)] = {CInt(list->currentData().toInt()),
+                                                      ToCurrency(eGaku(line).Text()), eNaiyo(line).Text()};
     }
     return slip;
 }
@@ -290,7 +260,7 @@ bool SlipN2_frm::requireCustomer() {
 bool SlipN2_frm::maySave() {
     if (number(kNumber) == 0) return refuse(u"伝票番号を入れてください。"_s, kNumber);
     if (!requireCustomer()) return false;
-    return ReadDate(ebox(kDate)) != Date() || refuse(u"入金日を入れてください。"_s, kDate);
+    return date() != Date() || refuse(u"入金日を入れてください。"_s, kDate);
 }
 
 void SlipN2_frm::save() {
@@ -306,7 +276,7 @@ void SlipN2_frm::save() {
 void SlipN2_frm::remove() {
     const std::int32_t dno = number(kNumber);
     if (dno == 0) return;
-    DeletePayment(dno, number(kCustomer), ReadDate(ebox(kDate)));
+    DeletePayment(dno, number(kCustomer), date());
     clear();
 }
 

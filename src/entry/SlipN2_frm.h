@@ -2,8 +2,6 @@
 
 #include "entry/DocumentForm.h"
 #include "entry/LedgerMonth.h"
-#include "platform/forms/ComboBox.h"
-#include "platform/runtime/Literals.h"
 
 class QGroupBox;
 class QVBoxLayout;
@@ -28,16 +26,17 @@ class SlipN2_frm : public DocumentForm {
     void layOutLines(QVBoxLayout& column);
     QVBoxLayout* layOutHistory();
     QGroupBox* layOutOpening();
-    void wire();
 
     void showDefaults() override;
     void load() override;
     void show(const PaymentSlip& slip);
     void showTotal();
     void showLedgerEnd(LedgerMonth end);
-    bool enter(int index);
+    bool enter(int index) override;
 
+    static void fillClasses(ComboBox& list);
     std::int32_t number(int index) const;
+    Date date() const;
     PaymentSlip slipOnScreen() const;
     bool maySave();
     bool requireCustomer();
@@ -51,6 +50,7 @@ class SlipN2_frm : public DocumentForm {
     ControlArray<TextBox> eGaku{u"eGaku"_s};
     ControlArray<TextBox> eNaiyo{u"eNaiyo"_s};
     FlexGrid* List_ = nullptr;
+    Label* total_ = nullptr;
     Label* ledgerEnd_ = nullptr;
     LedgerMonth end_;
 };

@@ -4,21 +4,17 @@
 
 #include "dialogs/AskConfirm.h"
 #include "dialogs/ShowAlert.h"
-#include "platform/forms/FieldLayout.h"
 #include "platform/forms/Notice.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/Literals.h"
 #include "platform/runtime/Text.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
-#include "toolkit/DateBox.h"
-#include "toolkit/FieldBytes.h"
-#include "toolkit/FieldTable.h"
-#include "toolkit/FieldWalk.h"
+#include "toolkit/DisplayRule.h"
 #include "toolkit/Lookups.h"
+#include "values/Dates.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 #include "values/Text.h"
@@ -64,8 +60,9 @@ QString SlipSql(const QString& number) {
 Slip_frm::Slip_frm() : DocumentForm(u"Slip_frm"_s, u"売上伝票"_s, Texts()) {
     layOutHead();
     layOutLines();
-    addBar({{kSave, u"保存"_s}, {kClear, u"画面クリア"_s}, {kDelete, u"削除"_s}});
-    wire();
+    addBar({{kSave, u"保存"_s, [this] { save(); }, Keeps},
+            {kClear, u"画面クリア"_s, [this] { clear(); }},
+            {kDelete, u"削除"_s, [this] { askAndRemove(); }, Removes}});
 }
 
 // ---- layout
@@ -74,15 +71,12 @@ void Slip_frm::layOutHead() {
     constexpr int kDateBytes = 10;
     FieldLayout head(*this);
     head.row(u"伝票番号"_s)
-        .text(addBox(ebox, kNumber, ImeMode::Off), kLongKeyBytes)
-        .lookup(F6.add(kPickSlip, new Image));
+        .text(addBox(kNumber), kLongKeyBytes)
+        .lookup(addLookup(kPickSlip, &PickSlip, kNumber));
     head.nextColumn();
-    head.row(u"日付"_s).text(addBox(ebox, kDate, ImeMode::Off), kDateBytes);
+    head.row(u"日付"_s).text(addBox(kDate), kDateBytes);
     head.nextColumn();
-    head.row(u"得意先"_s)
-        .text(addBox(ebox, kDeal, ImeMode::Off), kLongKeyBytes)
-        .lookup(F6.add(kPickDeal, new Image))
-        .name(addName(u"sNamae"_s), kNameBytes);
+    addCode(head.row(u"得意先"_s), kDeal, {kPickDeal, u"Deal"_s, u"sNamae"_s, kNameBytes});
     body().addLayout(head.layout());
 }
 
@@ -98,36 +92,18 @@ void Slip_frm::layOutLines() {
     for (int line = 0; line < kLines; ++line) {
         const LineBoxes boxes = BoxesOf(line);
         const auto figure = [&](int column, int index, int shownBytes) {
-            TextBox& box = addBox(ebox, index, ImeMode::Off);
-            box.setAlignment(Qt::AlignRight);
-            lines.cell(line, column).text(box, kCurrencyBytes, shownBytes);
+            lines.cell(line, column).text(addAmount(index), kCurrencyBytes, shownBytes);
         };
         lines.cell(line, 0)
-            .text(addBox(ebox, boxes.code, ImeMode::Off), kLongKeyBytes)
-            .lookup(F6.add(kPickItem + line, new Image));
-        lines.cell(line, 1).text(addBox(ebox, boxes.name, ImeMode::Hiragana), kNameBytes);
+            .text(addBox(boxes.code), kLongKeyBytes)
+            .lookup(addLookup(kPickItem + line, u"Hin"_s, boxes.code));
+        lines.cell(line, 1).text(addBox(boxes.name, ImeMode::Hiragana), kNameBytes);
         figure(2, boxes.suu, kSuuShown);
         figure(3, boxes.tanka, kTankaShown);
         figure(4, boxes.gaku, kGakuShown);
     }
     body().addLayout(lines.layout());
     body().addWidget(new Label(u"消費税 : 売上の次の行 金額欄　* 税率　Enter"_s));
-}
-
-void Slip_frm::wire() {
-    press_ = wireKeys(
-        ebox, [this](int index) { return enter(index); });
-    WireLookup(*this, F6(kPickSlip), &PickSlip, ebox(kNumber), [this] { press_(kNumber); });
-    wireLookup(F6(kPickDeal), u"Deal"_s, {}, ebox(kDeal), press_, kDeal);
-    for (int line = 0; line < kLines; ++line) {
-        const int code = BoxesOf(line).code;
-        wireLookup(F6(kPickItem + line), u"Hin"_s, {}, ebox(code), press_, code);
-    }
-    on(
-        &Btn(kClear), &CommandButton::Click, [this] { clear(); });
-    on(
-        &Btn(kDelete), &CommandButton::Click, [this] { askAndRemove(); });
-    on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
 }
 
 // ---- the slip on the screen
@@ -143,7 +119,7 @@ void Slip_frm::fromexe(std::int32_t& Dno) {
 
 void Slip_frm::showDefaults() {
     items_.fill(0);
-    ShowDate(today_, ebox(kDate));
+    ebox(kDate).SetText(DateText(today_));
 }
 
 void Slip_frm::load() {
@@ -154,12 +130,13 @@ void Slip_frm::load() {
         ebox(kNumber).SetText(typed);
         return;
     }
-    ClearControls(*this);
+    emptyFields();
     items_.fill(0);
     ebox(kNumber).SetText(NumStr(LongOf(rows[u"Dno"_s])));
-    ShowDateVar(rows[u"Hizuke"_s], ebox(kDate));
+    const Variant hizuke = rows[u"Hizuke"_s];
+    ebox(kDate).SetText(DateText(IsDate(hizuke) ? CDate(hizuke) : Date()));
     ebox(kDeal).SetText(NumStr(LongOf(rows[u"Deal"_s])));
-    showCustomer(kDeal);
+    showName(kDeal);
     for (int line = 0; line < kLines && !rows.Eof(); ++line, rows.MoveNext())
         showLine(line, rows);
 }
@@ -184,10 +161,7 @@ bool Slip_frm::enter(int index) {
             load();
             break;
         case kDate:
-            ShowDate(ReadDate(ebox(kDate)), ebox(kDate));
-            break;
-        case kDeal:
-            showCustomer(kDeal);
+            ebox(kDate).SetText(DateText(ParseDate(ebox(kDate).Text())));
             break;
         default:
             for (int line = 0; line < kLines; ++line)
@@ -244,7 +218,7 @@ bool Slip_frm::maySave(Date date) {
 }
 
 void Slip_frm::save() {
-    const Date date = ReadStrictDate(ebox(kDate));
+    const Date date = ParseStrictDate(ebox(kDate).Text());
     if (!maySave(date)) return;
     int nendo = 0;
     int getudo = 0;
@@ -291,7 +265,7 @@ void Slip_frm::removeRows() {
 }
 
 void Slip_frm::askAndRemove() {
-    if (!AskConfirm(u"この売上伝票を削除します。"_s, u"はい"_s, u"いいえ"_s)) return;
+    if (!AskConfirm(u"この売上伝票を削除します。"_s)) return;
     removeRows();
     clear();
 }

@@ -19,13 +19,12 @@ class Slip_frm : public DocumentForm {
  private:
     void layOutHead();
     void layOutLines();
-    void wire();
 
     void showDefaults() override;
     void load() override;
     void showLine(int line, Recordset& row);
 
-    bool enter(int index);
+    bool enter(int index) override;
     void enterLine(int line, int index);
     void takeItem(int line);
     void putAmount(int line, Currency amount);
@@ -42,7 +41,6 @@ class Slip_frm : public DocumentForm {
 
     Date today_;
     std::array<double, kLines> items_{};  ///< the code whose item each line shows; 0 for free text
-    PressEnter press_;
 };
 
 }  // namespace akarix

@@ -5,12 +5,9 @@
 
 #include "masters/ConsignorForm.h"
 #include "platform/forms/Choice.h"
-#include "platform/forms/FieldLayout.h"
-#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/PutContents.h"
 #include "store/dbAccess.h"
-#include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
 #include "values/Text.h"
 
@@ -55,23 +52,20 @@ BKItaku_frm::BKItaku_frm() : EntryForm(u"BKItaku_frm"_s, u"委託銀行"_s) {
                                                                   {u"受入事務センター", u"Jimusyo"}});
     addFrame(*body, u"銀行"_s, bank);
     addFrame(*body, u"郵便局"_s, post);
-    body->addLayout(ButtonBar(*this, Btn, {u"保存"_s}));
-    wireKeys(
-        ebox, [](int) { return true; });
-    on(&Btn(0), &CommandButton::Click, [this] { save(); });
+    body->addLayout(buttonBar({{0, u"保存"_s, [this] { save(); }, Keeps}}));
 }
 
 void BKItaku_frm::addFrame(QVBoxLayout& body, const QString& caption, const FieldTable& fields) {
     auto* frame = new Frame(caption, this);
     FieldLayout rows(*this);
     for (const MasterField& field : fields)
-        rows.row(field.label).text(addBox(ebox, field.index, field.ime), field.bytes);
+        rows.row(field.label).text(addBox(field.index, field.ime), field.bytes);
     frame->setLayout(rows.layout());
     body.addWidget(frame);
 }
 
 void BKItaku_frm::init() {
-    ClearControls(*this);
+    emptyFields();
     Recordset set = gDb->OpenRecordset(u"SELECT * FROM UserOP WHERE Code>=4 and Code<=22 ORDER BY Code"_s);
     for (; !set.Eof(); set.MoveNext())
         ebox(LongOf(set[u"Code"_s]) - kFirstOption).SetText(NullToEmpty(set[u"contents"_s]));

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "platform/forms/CommandButton.h"
-#include "platform/runtime/Literals.h"
-#include "toolkit/EntryForm.h"
 #include "toolkit/FieldTable.h"
 
 class QVBoxLayout;
@@ -19,9 +16,6 @@ class BKItaku_frm : public EntryForm {
  private:
     void addFrame(QVBoxLayout& body, const QString& caption, const FieldTable& fields);
     void save();
-
-    ControlArray<TextBox> ebox{u"ebox"_s};
-    ControlArray<CommandButton> Btn{u"Btn"_s};
 };
 
 }  // namespace akarix

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/runtime/Literals.h"
-#include "toolkit/FieldBytes.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 

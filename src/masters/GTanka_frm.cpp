@@ -5,16 +5,11 @@
 
 #include "output/EX.h"
 #include "platform/forms/Choice.h"
-#include "platform/forms/FieldLayout.h"
-#include "platform/forms/FlexGrid.h"
-#include "platform/forms/GridHead.h"
 #include "platform/forms/Notice.h"
 #include "platform/runtime/Conversion.h"
-#include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 #include "toolkit/Dentaku_frm.h"
-#include "toolkit/FieldBytes.h"
-#include "toolkit/FieldWalk.h"
+#include "toolkit/GridColumns.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 #include "values/Text.h"
@@ -25,16 +20,12 @@ namespace {
 
 enum Field { kPattern, kSt, kEd, kKihon, kTanka };
 enum Button { kAdd, kShow, kSave, kClear, kShowAll, kExport, kEmptyTable };
-enum Column { kColMark, kColSt, kColEd, kColKihon, kColTanka, kColShow, kColumns };
+enum Column { kColMark, kColSt, kColEd, kColKihon, kColTanka, kColShow };
 
-constexpr std::array<GridHead, kColumns> kHeads{{
-    {u"削除", 500, AlignCenterCenter},
-    {u"開始", 500},
-    {u"終了", 500},
-    {u"基本料", 1000},
-    {u"単価", 800},
+const GridColumns kBandColumns = {
+    {u"削除", 500, AlignCenterCenter}, {u"開始", 500}, {u"終了", 500}, {u"基本料", 1000}, {u"単価", 800},
     {u"実行", 600, AlignCenterCenter},
-}};
+};
 
 const QString kKeep = u"○"_s;
 const QString kDelete = u"×"_s;
@@ -51,13 +42,14 @@ TariffBand BandFrom(const QString& st, const QString& ed, const QString& kihon, 
 }  // namespace
 
 GTanka_frm::GTanka_frm() : EntryForm(u"GTanka_frm"_s, u"価格表"_s) {
+    Btn = ControlArray<CommandButton>(u"Command"_s);
     auto* body = new QHBoxLayout(this);
     constexpr int kBetweenHalves = 20;
     body->setSpacing(kBetweenHalves);
     body->addLayout(layOutBands());
     body->addLayout(layOutTable(), 1);
-    orderWalk();
-    wire();
+    walkFields();
+    on(ListK_, &FlexGrid::Click, [this] { clickBand(); });
 }
 
 // ---- layout
@@ -73,34 +65,35 @@ QVBoxLayout* GTanka_frm::layOutBands() {
                                           {u"～終了使用量", kIntegerBytes},
                                           {u"基本料", kCurrencyBytes, kCurrencyShown},
                                           {u"単価", kCurrencyBytes, kCurrencyShown}}};
-    const auto walker = [](const char16_t* caption, const char16_t* name) {
+    const auto walker = [this](const char16_t* caption, const char16_t* name, const QString& condition) {
         constexpr int kWidth = 40;
-        auto* button = &Named(new CommandButton(QString::fromUtf16(caption)), QString::fromUtf16(name));
+        auto* button = &Named(newButton(QString::fromUtf16(caption), [=, this] { walk(condition); }),
+                              QString::fromUtf16(name));
         button->setFixedWidth(kWidth);
         return button;
     };
-    cmdLeft_ = walker(u"←", u"cmdLeft");
-    cmdRight_ = walker(u"→", u"cmdRight");
+    cmdLeft_ = walker(u"←", u"cmdLeft", u" WHERE Ptn<%1 ORDER BY Ptn DESC"_s);
+    cmdRight_ = walker(u"→", u"cmdRight", u" WHERE Ptn>%1 ORDER BY Ptn"_s);
     FieldLayout fields(*this);
     for (std::size_t i = 0; i < kLines.size(); ++i) {
         const int index = static_cast<int>(i);
         FieldLine line = fields.row(QString::fromUtf16(kLines[i].caption));
-        line.text(addBox(ebox, index, ImeMode::Off), kLines[i].bytes, kLines[i].shownBytes);
+        line.text(addBox(index), kLines[i].bytes, kLines[i].shownBytes);
         if (index == kPattern) line.widget(cmdLeft_).widget(cmdRight_);
     }
-    const auto row = [this](std::initializer_list<std::pair<Button, const char16_t*>> buttons) {
+    const auto row = [this](std::initializer_list<BarButton> buttons) {
         auto* line = new QHBoxLayout;
         line->setSpacing(kSpacing);
-        for (const auto& [index, caption] : buttons)
-            line->addWidget(&Command.add(index, new CommandButton(QString::fromUtf16(caption))));
+        addButtons(*line, buttons);
         return line;
     };
-    QHBoxLayout* bandButtons = row({{kAdd, u"追加"}, {kShow, u"表示"}});
-    Command1_ = &Named(new CommandButton(u"電卓"_s), u"Command1"_s);
+    QHBoxLayout* bandButtons = row(
+        {{kAdd, u"追加"_s, [this] { addBand(); }}, {kShow, u"表示"_s, [this] { showBand(typedBand()); }}});
+    Command1_ = &Named(newButton(u"電卓"_s, [] { OpenScreen<Dentaku_frm>(); }), u"Command1"_s);
     bandButtons->addWidget(Command1_);
 
     ListK_ = &Named(new FlexGrid(this), u"ListK"_s);
-    SetHeads(*ListK_, kHeads);
+    SetColumns(*ListK_, kBandColumns);
     ReserveRoom(*ListK_, 0);
     ListK_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
 
@@ -109,7 +102,8 @@ QVBoxLayout* GTanka_frm::layOutBands() {
     bands->addLayout(fields.layout());
     bands->addLayout(bandButtons);
     bands->addWidget(ListK_, 1);
-    bands->addLayout(row({{kSave, u"保存"}, {kClear, u"クリア"}}));
+    bands->addLayout(
+        row({{kSave, u"保存"_s, [this] { save(); }, Keeps}, {kClear, u"クリア"_s, [this] { clear(); }}}));
     return bands;
 }
 
@@ -121,10 +115,12 @@ QVBoxLayout* GTanka_frm::layOutTable() {
     line->addWidget(Check1_);
     line->addWidget(Check2_);
     line->addStretch();
-    constexpr std::array<std::pair<Button, const char16_t*>, 3> kButtons{
-        {{kShowAll, u"全表示"}, {kExport, u"Excel"}, {kEmptyTable, u"クリア"}}};
-    for (const auto& [index, caption] : kButtons)
-        line->addWidget(&Command.add(index, new CommandButton(QString::fromUtf16(caption))));
+    addButtons(*line, {{kShowAll, u"全表示"_s, [this] { showAllBands(); }},
+                       {kExport, u"Excel"_s, [this] { exportTable(); }},
+                       {kEmptyTable, u"クリア"_s, [this] {
+                            emptyTable();
+                            Check1_->SetValue(0);
+                        }}});
 
     List_ = &Named(new FlexGrid(this), u"List"_s);
     List_->SetFixedRows(1);
@@ -139,45 +135,20 @@ QVBoxLayout* GTanka_frm::layOutTable() {
 }
 
 // The four fields of a band lead to 追加; what is done to the whole pattern comes behind it.
-void GTanka_frm::orderWalk() {
+void GTanka_frm::walkFields() {
+    std::vector<QWidget*> walk;
     for (const auto& [index, box] : ebox)
-        JoinWalk(*this, *box);
+        walk.push_back(box);
     for (const Button button : {kAdd, kSave, kShow, kShowAll, kExport, kEmptyTable, kClear})
-        JoinWalk(*this, Command(button));
-    for (QWidget* control : std::initializer_list<QWidget*>{cmdLeft_, cmdRight_, Command1_, Check1_, Check2_})
-        JoinWalk(*this, *control);
+        walk.push_back(&Btn(button));
+    walk.insert(walk.end(), {cmdLeft_, cmdRight_, Command1_, Check1_, Check2_});
+    orderWalk(walk);
     goRoundPast(ebox(kPattern));
 }
 
-void GTanka_frm::wire() {
-    wireKeys(
-        ebox,
-        [this](int index) {
-            if (index == kPattern) load();
-            return true;
-        });
-    const auto press = [this](Button button, void (GTanka_frm::*action)()) {
-        on(&Command(button), &CommandButton::Click, [this, action] { (this->*action)(); });
-    };
-    press(kAdd, &GTanka_frm::addBand);
-    press(kSave, &GTanka_frm::save);
-    press(kClear, &GTanka_frm::clear);
-    press(kShowAll, &GTanka_frm::showAllBands);
-    press(kExport, &GTanka_frm::exportTable);
-    on(&Command(kShow), &CommandButton::Click, [this] { showBand(typedBand()); });
-    on(
-        &Command(kEmptyTable), &CommandButton::Click,
-        [this] {
-            emptyTable();
-            Check1_->SetValue(0);
-        });
-    on(
-        cmdLeft_, &CommandButton::Click, [this] { walk(u" WHERE Ptn<%1 ORDER BY Ptn DESC"_s); });
-    on(
-        cmdRight_, &CommandButton::Click, [this] { walk(u" WHERE Ptn>%1 ORDER BY Ptn"_s); });
-    on(
-        Command1_, &CommandButton::Click, [] { OpenScreen<Dentaku_frm>(); });
-    on(ListK_, &FlexGrid::Click, [this] { clickBand(); });
+bool GTanka_frm::enter(int index) {
+    if (index == kPattern) load();
+    return true;
 }
 
 // ---- the pattern
@@ -192,7 +163,7 @@ void GTanka_frm::init() {
 }
 
 void GTanka_frm::clear() {
-    ClearControls(*this);
+    emptyFields();
     Check1_->SetValue(0);
     Check2_->SetValue(0);
     ListK_->SetRows(1);
@@ -228,8 +199,7 @@ void GTanka_frm::walk(const QString& condition) {
 }
 
 void GTanka_frm::putBand(const std::array<QString, 4>& texts) {
-    const int row = ListK_->Rows();
-    ListK_->SetRows(row + 1);
+    const int row = AddRow(*ListK_);
     ListK_->SetTextMatrix(row, kColMark, kKeep);
     for (int i = 0; i < 4; ++i)
         ListK_->SetTextMatrix(row, kColSt + i, texts[static_cast<std::size_t>(i)]);

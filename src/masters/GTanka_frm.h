@@ -1,8 +1,6 @@
 #pragma once
 
 #include "masters/PriceTable.h"
-#include "platform/forms/CommandButton.h"
-#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 class QVBoxLayout;
@@ -21,9 +19,9 @@ class GTanka_frm : public EntryForm {
  private:
     QVBoxLayout* layOutBands();
     QVBoxLayout* layOutTable();
-    void orderWalk();
-    void wire();
+    void walkFields();
 
+    bool enter(int index) override;
     void clear();
     void load();
     void walk(const QString& condition);
@@ -43,8 +41,6 @@ class GTanka_frm : public EntryForm {
     void paintTable();
     void exportTable();
 
-    ControlArray<TextBox> ebox{u"ebox"_s};
-    ControlArray<CommandButton> Command{u"Command"_s};
     CommandButton* Command1_ = nullptr;
     CommandButton* cmdLeft_ = nullptr;
     CommandButton* cmdRight_ = nullptr;

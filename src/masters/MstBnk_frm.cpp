@@ -1,7 +1,5 @@
 #include "masters/MstBnk_frm.h"
 
-#include "platform/runtime/Literals.h"
-
 namespace akarix {
 
 namespace {
@@ -26,7 +24,7 @@ FieldTable Fields() {
         ConsignorField(kSyurui, u"種別"_s, u"Syurui"_s),
         ConsignorField(kKozaNo, u"口座番号"_s, u"KozaNo"_s),
     };
-    table[kCode].lookup = FieldLookup{0, u"Bnk"_s, {}};
+    table[kCode].lookup = CodeLookup{};
     table[kSyurui].note = u"普通=1, 当座=2"_s;
     return table;
 }

@@ -8,16 +8,12 @@
 #include "dialogs/ShowAlert.h"
 #include "output/PrintRun.h"
 #include "output/PrintTrap.h"
-#include "platform/forms/FieldLayout.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
-#include "toolkit/FieldBytes.h"
-#include "toolkit/FieldWalk.h"
-#include "toolkit/ZipAddress.h"
+#include "toolkit/Lookups.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 #include "values/Text.h"
@@ -56,14 +52,6 @@ MasterTexts Texts() {
     };
 }
 
-QString DealName(const Variant& code) {
-    return GetDealName(code);
-}
-
-QString RouteName(const Variant& code) {
-    return GetName(u"Rte"_s, code);
-}
-
 // Branch codes are shown with three digits; what is longer is a post office's code and stands as it is.
 QString BranchText(const Variant& value) {
     const QString text = NullToEmpty(value);
@@ -100,14 +88,11 @@ MasterField Number(int index, const char16_t* label, const char16_t* column, Fie
 }
 
 FieldTable Fields() {
-    const QString all = u"ALL"_s;
     MasterField code = Number(kCode, u"コード", u"Code", FieldKind::Long);
     code.bytes = kLongKeyBytes;
-    code.lookup = FieldLookup{0, u"Deal"_s, {}};
+    code.lookup = CodeLookup{};
     MasterField route = Number(kRoute, u"地区", u"Rte", FieldKind::Integer);
-    route.lookup = FieldLookup{3, u"Rte"_s, all};
-    route.nameLabel = u"sRte"_s;
-    route.nameOf = RouteName;
+    route.lookup = CodeLookup{3, u"Rte"_s, u"sRte"_s};
     MasterField sime = Number(kSime, u"締日", u"Sime", FieldKind::Integer, u"末締めは 31 ");
     sime.newColumn = true;
     MasterField bank = Number(16, u"銀行", u"Bnk", FieldKind::Integer);
@@ -156,10 +141,8 @@ MstDeal_frm::MstDeal_frm()
     addLeases();
     addListFields();
     addButtons();
-    orderWalk();
-    on(
-        &ebox(kHaisou), &TextBox::GotFocus, [this] { proposeHaisou(); });
-    on(&Btn(kPrint), &CommandButton::Click, [this] { TrapPrinting([this] { print(); }); });
+    walkFields();
+    on(&ebox(kHaisou), &TextBox::GotFocus, [this] { proposeHaisou(); });
 }
 
 // ---- layout
@@ -181,37 +164,25 @@ void MstDeal_frm::addLeases() {
 }
 
 void MstDeal_frm::addListFields() {
-    constexpr int kNameBytes = 24;
     auto* group = new QGroupBox(u"取引先一覧"_s, this);
     FieldLayout rows(*this);
-    const auto bound = [&](int field, int picture, const char16_t* caption, const char16_t* nameLabel) {
-        rows.row(QString::fromUtf16(caption))
-            .text(addBox(ebox, field, ImeMode::Off), kLongKeyBytes)
-            .lookup(F6.add(picture, new Image))
-            .name(addName(QString::fromUtf16(nameLabel)), kNameBytes);
-    };
-    bound(kFrom, 1, u"コード自", u"sNamaeS");
-    bound(kTo, 2, u"コード至", u"sNamaeE");
+    constexpr int kNameBytes = 24;
+    addCode(rows.row(u"コード自"_s), kFrom, {1, u"Deal"_s, u"sNamaeS"_s, kNameBytes});
+    addCode(rows.row(u"コード至"_s), kTo, {2, u"Deal"_s, u"sNamaeE"_s, kNameBytes});
     rows.nextColumn();
-    TextBox& bank = Named(new TextBox, u"eSearchBnk"_s);
-    bank.SetIMEMode(ImeMode::Off);
-    searchBank_.add(0, &bank);
-    rows.row(u"銀行コード"_s).text(bank, kIntegerBytes).lookup(F6.add(4, new Image));
-    rows.row({}).button(Btn.add(kPrint, new CommandButton(u"印刷"_s)));
+    searchBank_ = &Named(newBox(), u"eSearchBnk"_s);
+    rows.row(u"銀行コード"_s)
+        .text(*searchBank_, kIntegerBytes)
+        .lookup(addLookup(
+            4, [] { return PickCode(u"Bnk"_s); },
+            [this](const QString& code) { searchBank_->SetText(code); }));
+    rows.row({}).button(Btn.add(kPrint, newButton(u"印刷"_s, [this] { TrapPrinting([this] { print(); }); })));
     group->setLayout(rows.layout());
     body().addWidget(group);
-
-    wireKeys(
-        searchBank_, [](int) { return true; });
-    const auto press = [this](int field) { pressEnter(field); };
-    wireLookup(F6(1), u"Deal"_s, {}, ebox(kFrom), press, kFrom);
-    wireLookup(F6(2), u"Deal"_s, {}, ebox(kTo), press, kTo);
-    wireLookup(
-        F6(4), u"Bnk"_s, {}, bank, [](int) {}, 0);
 }
 
 // The row's own fields and its ticks lead to Save; the fields of the list are walked behind it.
-void MstDeal_frm::orderWalk() {
+void MstDeal_frm::walkFields() {
     std::vector<QWidget*> walk;
     for (const MasterField& field : Fields())
         walk.push_back(&ebox(field.index));
@@ -220,9 +191,8 @@ void MstDeal_frm::orderWalk() {
         walk.push_back(&Btn(button));
     for (const QString& name : {u"cmdLeft"_s, u"cmdRight"_s})
         walk.push_back(findChild<CommandButton*>(name));
-    walk.insert(walk.end(), {BtnDiscGaku_, &ebox(kFrom), &ebox(kTo), &searchBank_(0), &Btn(kPrint)});
-    for (std::size_t place = 0; place < walk.size(); ++place)
-        SetTabIndex(walk[place], static_cast<int>(place));
+    walk.insert(walk.end(), {BtnDiscGaku_, &ebox(kFrom), &ebox(kTo), searchBank_, &Btn(kPrint)});
+    orderWalk(walk);
 }
 
 // ---- the row
@@ -239,13 +209,7 @@ bool MstDeal_frm::enter(int index) {
             CopyIfEmpty(ebox(kNamae), ebox(kRyaku));
             break;
         case kYubin:
-            FillAddressFromZip(ebox(kYubin).Text(), ebox(kAddr1));
-            break;
-        case kFrom:
-            nameLabel(u"sNamaeS"_s).SetCaption(DealName(NumVal(ebox(kFrom).Text())));
-            break;
-        case kTo:
-            nameLabel(u"sNamaeE"_s).SetCaption(DealName(NumVal(ebox(kTo).Text())));
+            fillAddress();
             break;
         case kDiscGaku:
             FitMaxLength(ebox(kDiscGaku));
@@ -255,6 +219,12 @@ bool MstDeal_frm::enter(int index) {
             break;
     }
     return MasterForm::enter(index);
+}
+
+/// An address that stands there is kept.
+void MstDeal_frm::fillAddress() {
+    const QString address = AddressOfZip(ebox(kYubin).Text());
+    if (!address.isEmpty() && !HasText(ebox(kAddr1).Text())) ebox(kAddr1).SetText(address);
 }
 
 void MstDeal_frm::showExtras(Recordset& row) {
@@ -303,19 +273,16 @@ bool MstDeal_frm::mayRemove() {
 
 // ---- the list
 
-QString MstDeal_frm::bankFilter() const {
-    return NumStr(NumVal(searchBank_(0).Text()));
-}
-
 void MstDeal_frm::print() {
     const PrintRun run(u"取引先一覧"_s);
     // One box gives both bounds: a code lists that customer alone. The second box only shows its name.
     const QString code = NumStr(NumVal(ebox(kFrom).Text()));
-    listsBank_ = NumVal(searchBank_(0).Text()) >= 1;
+    const double bank = NumVal(searchBank_->Text());
+    listsBank_ = bank >= 1;
     QString sql =
         u"SELECT * FROM Deal "
         " WHERE Code>0"_s;
-    if (listsBank_) sql += u" AND Bnk="_s + bankFilter();
+    if (listsBank_) sql += u" AND Bnk="_s + NumStr(bank);
     if (code != u"0"_s) sql += u" AND Code>="_s + code + u" AND Code<="_s + code;
     sql += u" ORDER BY Rte,Haisou,Code"_s;
     Recordset set = gDb->OpenRecordset(sql);

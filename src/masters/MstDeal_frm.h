@@ -27,16 +27,16 @@ class MstDeal_frm : public MasterForm, public ReportForm {
  private:
     void addLeases();
     void addListFields();
-    void orderWalk();
+    void walkFields();
+    void fillAddress();
     void proposeHaisou();
     void print();
-    QString bankFilter() const;
 
     CheckBox* ChkACU_ = nullptr;
     CheckBox* ChkKeihou_ = nullptr;
     CheckBox* ChkNoSeikyu_ = nullptr;
     CommandButton* BtnDiscGaku_ = nullptr;
-    ControlArray<TextBox> searchBank_;  ///< eSearchBnk alone, for the keys
+    TextBox* searchBank_ = nullptr;
     int defaultSime_ = 0;
     bool listsBank_ = false;  ///< the list under way is one bank's
 };

@@ -1,8 +1,5 @@
 #include "masters/MstHin_frm.h"
 
-#include "platform/runtime/Literals.h"
-#include "toolkit/FieldBytes.h"
-
 namespace akarix {
 
 namespace {
@@ -27,7 +24,7 @@ FieldTable Fields() {
          .column = u"Code"_s,
          .kind = FieldKind::Long,
          .bytes = kLongKeyBytes,
-         .lookup = FieldLookup{0, u"Hin"_s, u"ALL"_s}},
+         .lookup = CodeLookup{}},
         {.index = 1, .label = u"ﾌﾘｶﾞﾅ"_s, .column = u"Kana"_s, .bytes = 30, .ime = ImeMode::KatakanaHalf},
         {.index = kName, .label = u"名前"_s, .column = u"Namae"_s, .bytes = 40, .ime = ImeMode::Hiragana},
         {.index = 3,

@@ -1,8 +1,5 @@
 #include "masters/MstRte_frm.h"
 
-#include "platform/runtime/Literals.h"
-#include "toolkit/FieldBytes.h"
-
 namespace akarix {
 
 namespace {
@@ -25,7 +22,7 @@ FieldTable Fields() {
          .column = u"Code"_s,
          .kind = FieldKind::Integer,
          .bytes = kIntegerBytes,
-         .lookup = FieldLookup{0, u"Rte"_s, u"ALL"_s}},
+         .lookup = CodeLookup{}},
         {.index = 1, .label = u"ﾌﾘｶﾞﾅ"_s, .column = u"Kana"_s, .bytes = 20, .ime = ImeMode::KatakanaHalf},
         {.index = 2, .label = u"名前"_s, .column = u"Namae"_s, .bytes = 30, .ime = ImeMode::Hiragana},
         {.index = 3,

@@ -7,17 +7,12 @@
 #include "dialogs/ShowAlert.h"
 #include "masters/PriceList.h"
 #include "output/EX.h"
-#include "platform/forms/FieldLayout.h"
-#include "platform/forms/FlexGrid.h"
-#include "platform/forms/GridHead.h"
 #include "platform/forms/Notice.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
-#include "toolkit/FieldBytes.h"
-#include "toolkit/FieldWalk.h"
+#include "toolkit/GridColumns.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 #include "values/Text.h"
@@ -51,32 +46,14 @@ MstTanka_frm::MstTanka_frm()
     body->addLayout(layOutButtons());
     body->addWidget(List_, 1);
 
-    wireKeys(ebox, [this](int index) { return enter(index); });
     goRoundPast(ebox(kPattern));
-    on(
-        Opt, &OptionButton::Click, [this](int) { drawGrid(); });
-    const auto press = [this](Button button, auto action) {
-        on(&Btn(button), &CommandButton::Click, std::move(action));
-    };
-    press(
-        kClear, [this] { clear(); });
-    press(kDelete, [this] { remove(); });
-    press(
-        kSave,
-        [this] {
-            if (!save()) return;
-            clear();
-            NoticeSaved();
-        });
-    press(
-        kPrint, [this] { print(); });
-    press(kExport, [this] { exportGrid(); });
+    on(Opt, &OptionButton::Click, [this](int) { drawGrid(); });
 }
 
 QBoxLayout* MstTanka_frm::layOutFields() {
     FieldLayout fields(*this);
     const auto row = [&](const char16_t* caption, int index, int bytes, int shownBytes) {
-        fields.row(QString::fromUtf16(caption)).text(addBox(ebox, index, ImeMode::Off), bytes, shownBytes);
+        fields.row(QString::fromUtf16(caption)).text(addBox(index), bytes, shownBytes);
     };
     constexpr int kCapacityShown = 8;
     row(u"パターン", kPattern, kIntegerBytes, 0);
@@ -101,17 +78,18 @@ QBoxLayout* MstTanka_frm::layOutFields() {
 QBoxLayout* MstTanka_frm::layOutButtons() {
     auto* line = new QHBoxLayout;
     line->setSpacing(8);
-    const auto add = [&](Button index, const char16_t* caption) {
-        CommandButton& button = Btn.add(index, new CommandButton(QString::fromUtf16(caption)));
-        JoinWalk(*this, button);
-        line->addWidget(&button);
-    };
-    add(kSave, u"保存");
-    add(kClear, u"画面クリア");
-    add(kDelete, u"削除");
+    addButtons(*line, {{kSave, u"保存"_s,
+                        [this] {
+                            if (!save()) return;
+                            clear();
+                            NoticeSaved();
+                        },
+                        Keeps},
+                       {kClear, u"画面クリア"_s, [this] { clear(); }},
+                       {kDelete, u"削除"_s, [this] { remove(); }, Removes}});
     line->addStretch();
-    add(kPrint, u"印刷");
-    add(kExport, u"Excel");
+    addButtons(*line,
+               {{kPrint, u"印刷"_s, [this] { print(); }}, {kExport, u"Excel"_s, [this] { exportGrid(); }}});
     return line;
 }
 
@@ -122,7 +100,7 @@ void MstTanka_frm::init() {
 }
 
 void MstTanka_frm::clear() {
-    ClearControls(*this);
+    emptyFields();
     Opt(0).SetValue(true);
     drawGrid();
     FocusSelect(ebox(kPattern));
@@ -210,7 +188,7 @@ bool MstTanka_frm::save() {
 }
 
 void MstTanka_frm::remove() {
-    if (!AskConfirm(u"この単価パターンを削除します。"_s, u"はい"_s, u"いいえ"_s)) return;
+    if (!AskConfirm(u"この単価パターンを削除します。"_s)) return;
     gDb->Execute(
         u"DELETE FROM Tnk "
         " WHERE Ptn="_s +

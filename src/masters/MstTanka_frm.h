@@ -2,8 +2,6 @@
 
 #include "masters/CapacityKind.h"
 #include "platform/forms/Choice.h"
-#include "platform/forms/CommandButton.h"
-#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 class QBoxLayout;
@@ -23,7 +21,7 @@ class MstTanka_frm : public EntryForm {
     QBoxLayout* layOutFields();
     QBoxLayout* layOutButtons();
 
-    bool enter(int index);
+    bool enter(int index) override;
     void clear();
     void drawGrid();
     void load();
@@ -38,9 +36,7 @@ class MstTanka_frm : public EntryForm {
     QString pattern() const;
     void put(Currency capacity, Currency price);
 
-    ControlArray<TextBox> ebox{u"ebox"_s};
     ControlArray<OptionButton> Opt{u"Opt"_s};
-    ControlArray<CommandButton> Btn{u"Btn"_s};
     FlexGrid* List_;
 };
 

@@ -1,7 +1,5 @@
 #include "masters/MstYubin_frm.h"
 
-#include "platform/runtime/Literals.h"
-
 namespace akarix {
 
 namespace {

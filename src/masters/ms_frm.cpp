@@ -2,10 +2,7 @@
 
 #include <array>
 
-#include "platform/runtime/Literals.h"
 #include "store/Lookup.h"
-#include "toolkit/FieldBytes.h"
-#include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 
@@ -35,7 +32,7 @@ FieldTable Fields() {
          .column = u"Code"_s,
          .kind = FieldKind::Long,
          .bytes = kLongKeyBytes,
-         .lookup = FieldLookup{}},
+         .lookup = CodeLookup{}},
         {.index = 1, .label = u"ﾌﾘｶﾞﾅ"_s, .column = u"Kana"_s, .bytes = 30, .ime = ImeMode::KatakanaHalf},
         {.index = kName, .label = u"名前"_s, .column = u"Namae"_s, .bytes = 40, .ime = ImeMode::Hiragana},
         {.index = kShortName,

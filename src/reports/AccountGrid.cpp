@@ -1,13 +1,9 @@
 #include "reports/AccountGrid.h"
 
-#include <array>
-
-#include "platform/forms/FlexGrid.h"
-#include "platform/forms/GridHead.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/Literals.h"
 #include "reports/CustomerAccount.h"
 #include "store/FieldValue.h"
+#include "toolkit/GridColumns.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 #include "values/Text.h"
@@ -26,11 +22,10 @@ enum Column {
     kColGaku,
     kColPaid,
     kColBalance,
-    kColKind,
-    kColumns
+    kColKind
 };
 
-constexpr std::array<GridHead, kColumns> kHeads{{
+const GridColumns kColumns = {
     {u"伝No", 1000},
     {u"日付", 1400, AlignLeftCenter},
     {u"品名", 4900, AlignLeftCenter},
@@ -41,7 +36,7 @@ constexpr std::array<GridHead, kColumns> kHeads{{
     {u"入金", 1400},
     {u"残高", 1600},
     {u"", 0},
-}};
+};
 
 const QString kYen = u"###,##0"_s;
 
@@ -120,7 +115,7 @@ class LineWriter {
 }  // namespace
 
 void DefineAccountColumns(FlexGrid& list) {
-    SetHeads(list, kHeads);
+    SetColumns(list, kColumns);
 }
 
 void ShowAccount(const CustomerAccount& account, FlexGrid& list) {

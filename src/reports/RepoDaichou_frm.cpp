@@ -9,16 +9,12 @@
 #include "entry/Slip_frm.h"
 #include "output/EX.h"
 #include "platform/forms/Choice.h"
-#include "platform/forms/FieldLayout.h"
-#include "platform/forms/GridHead.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Conversion.h"
-#include "platform/runtime/Literals.h"
 #include "reports/AccountGrid.h"
+#include "reports/CustomerAccount.h"
 #include "reports/MonthPurge.h"
-#include "store/Lookup.h"
-#include "toolkit/FieldBytes.h"
-#include "toolkit/FieldWalk.h"
+#include "toolkit/GridColumns.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 
@@ -51,19 +47,6 @@ void OpenDocument(const QString& number) {
 }  // namespace
 
 RepoDaichou_frm::RepoDaichou_frm() : EntryForm(u"RepoDaichou_frm"_s, u"消費先台帳"_s) {
-    layOut();
-    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
-    wireLookup(F6(0), u"Deal"_s, {}, ebox(kCustomer), press, kCustomer);
-    on(
-        List_, &FlexGrid::Click, [this] { openLine(); });
-    on(
-        excelCmd_, &CommandButton::Click, [this] { exportGrid(); });
-    on(
-        siteiCmd_, &CommandButton::Click, [this] { purgeCustomer(); });
-    on(Command_, &CommandButton::Click, [this] { purgeAll(); });
-}
-
-void RepoDaichou_frm::layOut() {
     List_ = &Named(new FlexGrid(this), u"List"_s);
     DefineAccountColumns(*List_);
     constexpr int kGridHeight = 440;
@@ -73,60 +56,50 @@ void RepoDaichou_frm::layOut() {
     body->addLayout(layOutHead());
     auto* aboveList = new QHBoxLayout;
     aboveList->addWidget(new Label(u"伝票Noの項目はクリックすると明細が表示されます"_s), 1);
-    excelCmd_ = &Named(new CommandButton(u"Excel"_s), u"excelCmd"_s);
-    JoinWalk(*this, *excelCmd_);
-    aboveList->addWidget(excelCmd_);
+    aboveList->addWidget(&Named(newButton(u"Excel"_s, [this] { exportGrid(); }), u"excelCmd"_s));
     body->addLayout(aboveList);
     body->addWidget(List_, 1);
     constexpr int kApart = 10;
     body->addSpacing(kApart);
     body->addWidget(layOutPurge());
+    on(List_, &FlexGrid::Click, [this] { openLine(); });
 }
 
 QLayout* RepoDaichou_frm::layOutHead() {
     constexpr int kNameBytes = 40;
     constexpr int kMoneyBytes = 14;
     FieldLayout fields(*this);
-    fields.row(u"年月"_s)
-        .text(addBox(ebox, kYear, ImeMode::Off), 4)
-        .note(u"年"_s)
-        .text(addBox(ebox, kMonth, ImeMode::Off), 2)
-        .note(u"月以降"_s);
-    sNamae_ = &Named(new Label({}, this), u"sNamae"_s);
-    fields.row(u"得意先"_s)
-        .text(addBox(ebox, kCustomer, ImeMode::Off), kLongKeyBytes)
-        .lookup(F6.add(0, new Image))
-        .name(*sNamae_, kNameBytes);
+    addMonth(fields.row(u"年月"_s), kYear, kMonth, u"月以降"_s);
+    addCode(fields.row(u"得意先"_s), kCustomer, {0, u"Deal"_s, u"sNamae"_s, kNameBytes});
     fields.nextColumn();
-    sNGaku_ = &Named(new Label({}, this), u"sNGaku"_s);
-    fields.row(u"未入金"_s).name(*sNGaku_, kMoneyBytes);
+    fields.row(u"未入金"_s).name(addName(u"sNGaku"_s), kMoneyBytes);
     return fields.layout();
 }
 
 /// What deletes stands in a frame of its own at the foot of the screen, behind everything else in the walk.
 QWidget* RepoDaichou_frm::layOutPurge() {
-    siteiCmd_ = &Named(new CommandButton(u"指定得意先削除"_s), u"siteiCmd"_s);
-    Command_ = &Named(new CommandButton(u"全削除"_s), u"Command"_s);
     FieldLayout fields(*this);
     fields.row({})
-        .text(addBox(ebox, kPurgeYear, ImeMode::Off), 4)
+        .text(addBox(kPurgeYear), 4)
         .note(u"年"_s)
-        .text(addBox(ebox, kPurgeMonth, ImeMode::Off), 2)
+        .text(addBox(kPurgeMonth), 2)
         .widget(new Label(u"月度の全得意先の情報を全て削除します。"_s))
-        .button(*Command_)
-        .button(*siteiCmd_);
+        .button(Named(newButton(
+                          u"全削除"_s, [this] { purgeAll(); }, Removes),
+                      u"Command"_s))
+        .button(Named(newButton(
+                          u"指定得意先削除"_s, [this] { purgeCustomer(); }, Removes),
+                      u"siteiCmd"_s));
     auto* frame = new Frame(u"削除"_s, this);
     frame->setLayout(fields.layout());
     return frame;
 }
 
 void RepoDaichou_frm::init() {
-    ClearControls(*this);
-    sNamae_->SetCaption({});
+    emptyFields();
     List_->SetRows(1);
     shownCustomer_ = 0;
-    ebox(kYear).SetText(NumStr(Year(Today())));
-    ebox(kMonth).SetText(NumStr(Month(Today())));
+    putMonth(kYear, kMonth, Today());
     FocusSelect(ebox(kYear));
 }
 
@@ -144,7 +117,6 @@ QString RepoDaichou_frm::number(int field) const {
 void RepoDaichou_frm::showAccount() {
     List_->SetRows(1);
     shownCustomer_ = 0;
-    sNamae_->SetCaption(GetDealName(NumVal(ebox(kCustomer).Text())));
     const CustomerAccount account(number(kYear), number(kMonth), number(kCustomer));
     account.gather();
     ShowAccount(account, *List_);
@@ -170,7 +142,7 @@ void RepoDaichou_frm::openLine() {
 }
 
 void RepoDaichou_frm::exportGrid() {
-    GridToExcel(u"消費先台帳"_s, ebox(kCustomer).Text() + u" : "_s + sNamae_->Caption(),
+    GridToExcel(u"消費先台帳"_s, ebox(kCustomer).Text() + u" : "_s + nameOf(kCustomer),
                 ebox(kYear).Text() + u'/' + ebox(kMonth).Text() + u"以降"_s, *List_);
 }
 
@@ -188,10 +160,11 @@ void RepoDaichou_frm::purgeCustomer() {
 }
 
 void RepoDaichou_frm::purge(const QString& question, const QString& customer) {
-    if (AskConfirmRev(question, u"いいえ"_s, u"削除"_s)) return;
+    if (AskConfirmRev(question, u"削除"_s)) return;
     PurgeMonth(number(kPurgeYear), number(kPurgeMonth), customer);
     ebox(kPurgeYear).SetText({});
     ebox(kPurgeMonth).SetText({});
+    showName(kCustomer);
     showAccount();
 }
 

@@ -2,26 +2,20 @@
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
-#include <array>
 
 #include "billing/Sub.h"
 #include "output/PrintRun.h"
 #include "output/PrintTrap.h"
-#include "platform/forms/FieldLayout.h"
-#include "platform/forms/GridHead.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
-#include "toolkit/FieldBytes.h"
-#include "toolkit/FieldWalk.h"
 #include "toolkit/FilterTerms.h"
+#include "toolkit/GridColumns.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
-#include "values/Text.h"
 
 namespace akarix {
 
@@ -43,29 +37,28 @@ enum Column {
     kColUGaku,
     kColGaku,
     kColNGaku,
-    kColBill,
-    kColumns
+    kColBill
 };
-
-constexpr std::array<GridHead, kColumns> kHeads{{
-    {u"ﾙｰﾄ", 600},
-    {u"順路", 800},
-    {u"ｺｰﾄﾞ", 800},
-    {u"得意先", 2400, AlignLeftCenter},
-    {u"前月残", 1200},
-    {u"前回検針値", 1200},
-    {u"今回検針値", 1200},
-    {u"使用量", 1000},
-    {u"使用料", 1200},
-    {u"物販", 1200},
-    {u"当月売上", 1200},
-    {u"入金", 1200},
-    {u"請求額", 1200},
-}};
 
 const QString kYen = u"#,##0"_s;
 const QString kYenOrNothing = u"#,###"_s;
 const QString kMeter = u"#,##0.0"_s;
+
+const GridColumns kColumns = {
+    {u"ﾙｰﾄ", 600, AlignRightCenter, u"Rte", Number},
+    {u"順路", 800, AlignRightCenter, u"Haisou", Number},
+    {u"ｺｰﾄﾞ", 800, AlignRightCenter, u"Deal", Number},
+    {u"得意先", 2400, AlignLeftCenter},
+    {u"前月残", 1200, AlignRightCenter, u"ZenkaiGaku", Figure(kYen)},
+    {u"前回検針値", 1200},
+    {u"今回検針値", 1200},
+    {u"使用量", 1000},
+    {u"使用料", 1200, AlignRightCenter, u"GGaku", Figure(kYenOrNothing)},
+    {u"物販", 1200, AlignRightCenter, u"UGaku", Figure(kYenOrNothing)},
+    {u"当月売上", 1200, AlignRightCenter, u"Gaku", Figure(kYenOrNothing)},
+    {u"入金", 1200, AlignRightCenter, u"NGaku", Figure(kYenOrNothing)},
+    {u"請求額", 1200},
+};
 
 constexpr int kSheetRows = 58;
 constexpr int kSheetFirstRow = 4;
@@ -81,48 +74,18 @@ bool IsLast(Recordset& set) {
 }  // namespace
 
 RepoSeikyu_frm::RepoSeikyu_frm() : EntryForm(u"RepoSeikyu_frm"_s, u"請求一覧表"_s) {
-    layOut();
-    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
-    wireLookup(F6(0), u"Deal"_s, {}, ebox(kFrom), press, kFrom);
-    wireLookup(F6(1), u"Deal"_s, {}, ebox(kTo), press, kTo);
-    wireLookup(F6(2), u"Rte"_s, u"ALL"_s, ebox(kRoute), press, kRoute);
-    on(
-        &Btn(kPrint), &CommandButton::Click, [this] { TrapPrinting([this] { print(); }); });
-    on(
-        &Btn(kShow), &CommandButton::Click, [this] { show(); });
-    on(&Btn(kExport), &CommandButton::Click, [this] { exportGrid(); });
-}
-
-void RepoSeikyu_frm::layOut() {
-    constexpr int kNameBytes = 30;
     auto* body = new QVBoxLayout(this);
     FieldLayout fields(*this);
-    fields.row(u"年月"_s)
-        .text(addBox(ebox, kYear, ImeMode::Off), 4)
-        .note(u"年"_s)
-        .text(addBox(ebox, kMonth, ImeMode::Off), 2)
-        .note(u"月分"_s);
-    const auto coded = [&](const char16_t* caption, int field, int picture, const char16_t* name) {
-        auto* label = &Named(new Label({}, this), QString::fromUtf16(name));
-        fields.row(QString::fromUtf16(caption))
-            .text(addBox(ebox, field, ImeMode::Off), kLongKeyBytes)
-            .lookup(F6.add(picture, new Image))
-            .name(*label, kNameBytes);
-        return label;
-    };
-    sNamaeS_ = coded(u"得意先", kFrom, 0, u"sNamaeS");
-    sNamaeE_ = coded(u"～", kTo, 1, u"sNamaeE");
-    sRte_ = coded(u"地区", kRoute, 2, u"sRte");
+    addMonth(fields.row(u"年月"_s), kYear, kMonth, u"月分"_s);
+    addCode(fields.row(u"得意先"_s), kFrom, {0, u"Deal"_s, u"sNamaeS"_s});
+    addCode(fields.row(u"～"_s), kTo, {1, u"Deal"_s, u"sNamaeE"_s});
+    addCode(fields.row(u"地区"_s), kRoute, {2, u"Rte"_s, u"sRte"_s});
 
     // Showing is what comes next after the last field, so its button leads the walk and the row.
     auto* buttons = new QHBoxLayout;
-    constexpr std::array<std::pair<Button, const char16_t*>, 3> kButtons{
-        {{kShow, u"表示"}, {kPrint, u"印刷"}, {kExport, u"Excel"}}};
-    for (const auto& [index, caption] : kButtons) {
-        CommandButton& button = Btn.add(index, new CommandButton(QString::fromUtf16(caption)));
-        JoinWalk(*this, button);
-        buttons->addWidget(&button);
-    }
+    addButtons(*buttons, {{kShow, u"表示"_s, [this] { show(); }},
+                          {kPrint, u"印刷"_s, [this] { TrapPrinting([this] { print(); }); }},
+                          {kExport, u"Excel"_s, [this] { exportGrid(); }}});
     buttons->addSpacing(16);
     ChkGaku_ = &Named(new CheckBox(u"金額を印刷しない"_s, this), u"ChkGaku"_s);
     buttons->addWidget(ChkGaku_);
@@ -130,7 +93,7 @@ void RepoSeikyu_frm::layOut() {
 
     List_ = &Named(new FlexGrid(this), u"List"_s);
     constexpr int kGridHeight = 420;
-    SetHeads(*List_, kHeads);
+    SetColumns(*List_, kColumns);
     ReserveRoom(*List_, kGridHeight);
 
     body->addLayout(fields.layout());
@@ -139,31 +102,17 @@ void RepoSeikyu_frm::layOut() {
 }
 
 void RepoSeikyu_frm::init() {
-    ClearControls(*this);
-    for (Label* name : {sNamaeS_, sNamaeE_, sRte_})
-        name->SetCaption({});
+    emptyFields();
     ChkGaku_->SetValue(0);
-    ebox(kYear).SetText(NumStr(Year(Today())));
-    ebox(kMonth).SetText(NumStr(Month(Today())));
+    putMonth(kYear, kMonth, Today());
     List_->SetRows(1);
     FocusSelect(ebox(kYear));
 }
 
 bool RepoSeikyu_frm::enter(int index) {
-    switch (index) {
-        case kFrom:
-            sNamaeS_->SetCaption(GetDealName(NumVal(ebox(kFrom).Text())));
-            return true;
-        case kTo:
-            sNamaeE_->SetCaption(GetDealName(NumVal(ebox(kTo).Text())));
-            return true;
-        case kRoute:
-            sRte_->SetCaption(GetName(u"Rte"_s, NumVal(ebox(kRoute).Text())));
-            SetFocus(&Btn(kShow));
-            return false;
-        default:
-            return true;
-    }
+    if (index != kRoute) return true;
+    SetFocus(&Btn(kShow));
+    return false;
 }
 
 QString RepoSeikyu_frm::filter() const {
@@ -182,48 +131,33 @@ void RepoSeikyu_frm::show() {
         " INNER JOIN Deal ON TtoD.Deal=Deal.Code "
         " WHERE Nendo ="_s +
         year + u" AND   Getudo="_s + month + filter() + u" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"_s);
-    if (set.Eof()) return;
-    set.MoveLast();
-    const int count = CInt(set.RecordCount());
-    set.MoveFirst();
-
-    List_->SetRows(count + 2);
     Sums sums;
     const auto put = [this](int row, int column, const QString& text) {
         List_->SetTextMatrix(row, column, text);
     };
-    for (int row = 1; row <= count; ++row, set.MoveNext()) {
+    const auto putRest = [&](int row) {
         const std::int32_t deal = LongOf(set[u"Deal"_s]);
         const Currency zenkaiGaku = MoneyOf(set[u"ZenkaiGaku"_s]);
-        const Currency gGaku = MoneyOf(set[u"GGaku"_s]);
-        const Currency uGaku = MoneyOf(set[u"UGaku"_s]);
         const Currency gaku = MoneyOf(set[u"Gaku"_s]);
         const Currency nGaku = MoneyOf(set[u"NGaku"_s]);
         Currency zenkaiMeter;
         Currency konkaiMeter;
         Currency suu;
         ReadMonthMeter(deal, CInt(year), CInt(month), zenkaiMeter, konkaiMeter, suu);
-        put(row, kColRte, NumStr(NullToZero(set[u"Rte"_s])));
-        put(row, kColHaisou, NumStr(NullToZero(set[u"Haisou"_s])));
-        put(row, kColDeal, NumStr(deal));
         put(row, kColNamae, GetName(u"Deal"_s, deal));
-        put(row, kColZenkaiGaku, Format(zenkaiGaku, kYen));
         put(row, kColZenkaiMeter, Format(zenkaiMeter, kMeter));
         put(row, kColKonkaiMeter, Format(konkaiMeter, kMeter));
         put(row, kColSuu, Format(suu, kMeter));
-        put(row, kColGGaku, Format(gGaku, kYenOrNothing));
-        put(row, kColUGaku, Format(uGaku, kYenOrNothing));
-        put(row, kColGaku, Format(gaku, kYenOrNothing));
-        put(row, kColNGaku, Format(nGaku, kYenOrNothing));
         put(row, kColBill, Format(gaku + zenkaiGaku - nGaku, kYenOrNothing));
         sums.zenkaiGaku += zenkaiGaku;
         sums.suu += suu;
-        sums.gGaku += gGaku;
-        sums.uGaku += uGaku;
+        sums.gGaku += MoneyOf(set[u"GGaku"_s]);
+        sums.uGaku += MoneyOf(set[u"UGaku"_s]);
         sums.gaku += gaku;
         sums.nGaku += nGaku;
-    }
-    const int last = count + 1;
+    };
+    const int last = FillGrid(*List_, kColumns, set, putRest, 1) + 1;
+    if (last == 1) return;
     put(last, kColNamae, u"合計"_s);
     put(last, kColZenkaiGaku, Format(sums.zenkaiGaku, kYen));
     put(last, kColSuu, Format(sums.suu, kMeter));
@@ -237,12 +171,12 @@ void RepoSeikyu_frm::show() {
 
 void RepoSeikyu_frm::exportGrid() {
     const QString colon = u" : "_s;
-    GridToExcel(u"請求一覧"_s,
-                ebox(kYear).Text() + u"/"_s + ebox(kMonth).Text() + u"分 "_s + u" ルート : "_s +
-                    ebox(kRoute).Text() + colon + sRte_->Caption(),
-                ebox(kFrom).Text() + colon + sNamaeS_->Caption() + u" ～ "_s + ebox(kTo).Text() + colon +
-                    sNamaeE_->Caption(),
-                *List_);
+    GridToExcel(
+        u"請求一覧"_s,
+        ebox(kYear).Text() + u"/"_s + ebox(kMonth).Text() + u"分 "_s + u" ルート : "_s + ebox(kRoute).Text() +
+            colon + nameOf(kRoute),
+        ebox(kFrom).Text() + colon + nameOf(kFrom) + u" ～ "_s + ebox(kTo).Text() + colon + nameOf(kTo),
+        *List_);
 }
 
 // ---- on paper

@@ -2,13 +2,11 @@
 
 #include "output/EX.h"
 #include "platform/forms/Choice.h"
-#include "platform/forms/CommandButton.h"
-#include "platform/forms/FlexGrid.h"
-#include "platform/forms/Label.h"
-#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
+
+class FlexGrid;
 
 /// The billing list: a month's ledger for a range of codes and a route, in the order of the round, on the
 /// screen and on the sheet "請求一覧表".
@@ -28,8 +26,7 @@ class RepoSeikyu_frm : public EntryForm, public ReportForm {
         Currency suu, gGaku, uGaku, gaku, zenkaiGaku, nGaku;
     };
 
-    void layOut();
-    bool enter(int index);
+    bool enter(int index) override;
     QString filter() const;
     void show();
     void print();
@@ -38,12 +35,6 @@ class RepoSeikyu_frm : public EntryForm, public ReportForm {
     void exportGrid();
     bool withAmounts() const { return ChkGaku_->Value() == 0; }
 
-    ControlArray<TextBox> ebox{u"ebox"_s};
-    ControlArray<CommandButton> Btn{u"Btn"_s};
-    ControlArray<Image> F6{u"F6"_s};
-    Label* sNamaeS_ = nullptr;
-    Label* sNamaeE_ = nullptr;
-    Label* sRte_ = nullptr;
     CheckBox* ChkGaku_ = nullptr;
     FlexGrid* List_ = nullptr;
     Sums printed_;

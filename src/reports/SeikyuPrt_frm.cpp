@@ -10,22 +10,18 @@
 #include "output/EX.h"
 #include "output/PrintRun.h"
 #include "output/PrintTrap.h"
-#include "platform/forms/FieldLayout.h"
-#include "platform/forms/GridHead.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/Literals.h"
 #include "reports/InvoiceScript.h"
 #include "reports/InvoiceSheet.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/Settings.h"
 #include "store/dbAccess.h"
-#include "toolkit/DateBox.h"
-#include "toolkit/FieldBytes.h"
-#include "toolkit/FieldWalk.h"
 #include "toolkit/FilterTerms.h"
+#include "toolkit/GridColumns.h"
+#include "values/Dates.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 
@@ -50,10 +46,10 @@ enum Column {
     kColUGaku,
     kColGaku,
     kColBill,
-    kColumns
+    kColCount
 };
 
-constexpr std::array<GridHead, kColumns> kHeads{{
+const GridColumns kColumns = {
     {u"請求", 600, AlignCenterCenter},
     {u"ｺｰﾄﾞ", 1000},
     {u"得意先", 1500, AlignLeftCenter},
@@ -66,7 +62,7 @@ constexpr std::array<GridHead, kColumns> kHeads{{
     {u"物販", 1200},
     {u"当月売上", 1200},
     {u"請求額", 1200},
-}};
+};
 
 const QString kMark = u"○"_s;
 const QString kYen = u"#,##0"_s;
@@ -80,7 +76,7 @@ constexpr std::array<std::pair<Column, const char16_t*>, 5> kAmounts{{{kColZenka
                                                                       {kColGaku, u"Gaku"}}};
 
 /// A row's figures, or their sums, by column.
-using Figures = std::array<Currency, kColumns>;
+using Figures = std::array<Currency, kColCount>;
 
 Figures ReadFigures(const InvoiceMonth& of, const Recordset& ledger) {
     Figures figures{};
@@ -98,7 +94,7 @@ void WriteRow(FlexGrid& list, int row, std::int32_t deal, const Figures& figures
     GetNameAndNoSeikyu(u"Deal"_s, deal, name, noSeikyu);
     list.SetTextMatrix(row, kColDeal, NumStr(deal));
     list.SetTextMatrix(row, kColNamae, name);
-    for (int column = kColZenkaiGaku; column < kColumns; ++column) {
+    for (int column = kColZenkaiGaku; column < kColCount; ++column) {
         const bool metered = column == kColZenkaiMeter || column == kColKonkaiMeter || column == kColSuu;
         list.SetTextMatrix(row, column,
                            Format(figures[static_cast<std::size_t>(column)], metered ? kMeter : kYen));
@@ -110,7 +106,7 @@ void WriteRow(FlexGrid& list, int row, std::int32_t deal, const Figures& figures
 
 void WriteTotals(FlexGrid& list, int row, const Figures& sums) {
     list.SetTextMatrix(row, kColNamae, u"合計"_s);
-    for (int column = kColZenkaiGaku; column < kColumns; ++column) {
+    for (int column = kColZenkaiGaku; column < kColCount; ++column) {
         if (column == kColZenkaiMeter || column == kColKonkaiMeter) continue;
         list.SetTextMatrix(row, column, Format(sums[static_cast<std::size_t>(column)], kYen));
     }
@@ -119,105 +115,55 @@ void WriteTotals(FlexGrid& list, int row, const Figures& sums) {
 }  // namespace
 
 SeikyuPrt_frm::SeikyuPrt_frm() : EntryForm(u"SeikyuPrt_frm"_s, u"請求書発行"_s) {
-    layOut();
-    const PressEnter press = wireKeys(ebox, [this](int index) { return enter(index); });
-    wireLookup(F6(kPickFrom), u"Deal"_s, {}, ebox(kFrom), press, kFrom);
-    wireLookup(F6(kPickTo), u"Deal"_s, {}, ebox(kTo), press, kTo);
-    wireLookup(F6(kPickRoute), u"Rte"_s, u"ALL"_s, ebox(kRoute), press, kRoute);
-    on(
-        Btn_, &CommandButton::Click, [this] { TrapPrinting([this] { print(); }); });
-    on(
-        Command1_, &CommandButton::Click, [this] { markAll(kMark); });
-    on(
-        DelBtn_, &CommandButton::Click, [this] { markAll({}); });
-    on(
-        ExcelBtn_, &CommandButton::Click, [this] { exportGrid(); });
-    on(List_, &FlexGrid::Click, [this] { clickMark(); });
-}
-
-void SeikyuPrt_frm::layOut() {
-    List_ = &Named(new FlexGrid(this), u"List"_s);
     constexpr int kGridHeight = 420;
-    SetHeads(*List_, kHeads);
+    constexpr int kDateBytes = 10;
+    List_ = &Named(new FlexGrid(this), u"List"_s);
+    SetColumns(*List_, kColumns);
     ReserveRoom(*List_, kGridHeight);
+    on(List_, &FlexGrid::Click, [this] { clickMark(); });
+
+    FieldLayout fields(*this);
+    addMonth(fields.row(u"年月"_s), kYear, kMonth, u"月分"_s);
+    fields.row(u"作成日"_s).text(addBox(kIssued), kDateBytes);
+    addCode(fields.row(u"得意先"_s), kFrom, {kPickFrom, u"Deal"_s, u"sNamaeS"_s});
+    addCode(fields.row(u"～"_s), kTo, {kPickTo, u"Deal"_s, u"sNamaeE"_s});
+    addCode(fields.row(u"地区"_s), kRoute, {kPickRoute, u"Rte"_s, u"sRte"_s});
+
+    auto* bar = new QHBoxLayout;
+    const auto add = [&](const QString& caption, const QString& name, std::function<void()> press) {
+        bar->addWidget(&Named(newButton(caption, std::move(press)), name));
+    };
+    add(
+        u"印刷"_s, u"Btn"_s, [this] { TrapPrinting([this] { print(); }); });
+    add(
+        u"全ﾁｪｯｸ"_s, u"Command1"_s, [this] { markAll(kMark); });
+    add(
+        u"全消"_s, u"DelBtn"_s, [this] { markAll({}); });
+    add(u"Excel"_s, u"ExcelBtn"_s, [this] { exportGrid(); });
+    bar->addStretch();
 
     auto* body = new QVBoxLayout(this);
-    body->addLayout(layOutFields());
-    body->addLayout(layOutButtons());
+    body->addLayout(fields.layout());
+    body->addLayout(bar);
     body->addWidget(List_, 1);
 }
 
-QLayout* SeikyuPrt_frm::layOutFields() {
-    constexpr int kDateBytes = 10;
-    constexpr int kNameBytes = 30;
-    FieldLayout fields(*this);
-    fields.row(u"年月"_s)
-        .text(addBox(ebox, kYear, ImeMode::Off), 4)
-        .note(u"年"_s)
-        .text(addBox(ebox, kMonth, ImeMode::Off), 2)
-        .note(u"月分"_s);
-    fields.row(u"作成日"_s).text(addBox(ebox, kIssued, ImeMode::Off), kDateBytes);
-    const auto coded = [&](const char16_t* caption, int field, int picture, const char16_t* name) {
-        auto* label = &Named(new Label({}, this), QString::fromUtf16(name));
-        fields.row(QString::fromUtf16(caption))
-            .text(addBox(ebox, field, ImeMode::Off), kLongKeyBytes)
-            .lookup(F6.add(picture, new Image))
-            .name(*label, kNameBytes);
-        return label;
-    };
-    sNamaeS_ = coded(u"得意先", kFrom, kPickFrom, u"sNamaeS");
-    sNamaeE_ = coded(u"～", kTo, kPickTo, u"sNamaeE");
-    sRte_ = coded(u"地区", kRoute, kPickRoute, u"sRte");
-    return fields.layout();
-}
-
-QLayout* SeikyuPrt_frm::layOutButtons() {
-    auto* bar = new QHBoxLayout;
-    const auto add = [&](const char16_t* caption, const char16_t* name) {
-        auto* button = &Named(new CommandButton(QString::fromUtf16(caption)), QString::fromUtf16(name));
-        JoinWalk(*this, *button);
-        bar->addWidget(button);
-        return button;
-    };
-    Btn_ = add(u"印刷", u"Btn");
-    Command1_ = add(u"全ﾁｪｯｸ", u"Command1");
-    DelBtn_ = add(u"全消", u"DelBtn");
-    ExcelBtn_ = add(u"Excel", u"ExcelBtn");
-    bar->addStretch();
-    return bar;
-}
-
 void SeikyuPrt_frm::init() {
-    ClearControls(*this);
-    for (Label* name : {sNamaeS_, sNamaeE_, sRte_})
-        name->SetCaption({});
-    ebox(kYear).SetText(NumStr(Year(Today())));
-    ebox(kMonth).SetText(NumStr(Month(Today())));
-    ShowDate(Today(), ebox(kIssued));
+    emptyFields();
+    putMonth(kYear, kMonth, Today());
+    ebox(kIssued).SetText(DateText(Today()));
     List_->SetRows(1);
     FocusSelect(ebox(kYear));
 }
 
 bool SeikyuPrt_frm::enter(int index) {
-    const double code = NumVal(ebox(index).Text());
-    switch (index) {
-        case kIssued:
-            ShowDate(ReadStrictDate(ebox(kIssued)), ebox(kIssued));
-            break;
-        case kFrom:
-            sNamaeS_->SetCaption(GetDealName(code));
-            break;
-        case kTo:
-            sNamaeE_->SetCaption(GetDealName(code));
-            build();
-            break;
-        case kRoute:
-            sRte_->SetCaption(GetName(u"Rte"_s, code));
-            break;
-        default:
-            break;
-    }
+    if (index == kIssued) ebox(kIssued).SetText(DateText(issued()));
+    if (index == kTo) build();
     return true;
+}
+
+Date SeikyuPrt_frm::issued() const {
+    return ParseStrictDate(ebox(kIssued).Text());
 }
 
 QString SeikyuPrt_frm::typed(int field) const {
@@ -231,7 +177,7 @@ InvoiceMonth SeikyuPrt_frm::invoiceOf(std::int32_t deal) const {
 // ---- the list
 
 void SeikyuPrt_frm::build() {
-    SetHeads(*List_, kHeads);
+    SetColumns(*List_, kColumns);
     Recordset set = gDb->OpenRecordset(
         u"SELECT TtoD.* FROM TtoD "
         " INNER JOIN Deal ON Deal.Code=TtoD.Deal "
@@ -240,19 +186,17 @@ void SeikyuPrt_frm::build() {
         FilterTermsAsTyped(
             {{ebox(kRoute), u" AND Deal.Rte="}, {ebox(kFrom), u" AND Deal>="}, {ebox(kTo), u" AND Deal<="}}) +
         u" ORDER BY Deal.Rte,Deal.Haisou,Deal.Code"_s);
-    if (set.Eof()) return;
-    set.MoveLast();
-    const int count = set.RecordCount();
-    set.MoveFirst();
-
-    List_->SetRows(count + 2);
     Figures sums{};
-    for (int row = 1; row <= count; ++row, set.MoveNext()) {
-        const InvoiceMonth invoice = invoiceOf(LongOf(set[u"Deal"_s]));
-        const Figures figures = ReadFigures(invoice, set);
-        WriteRow(*List_, row, invoice.deal, figures);
-        std::transform(sums.begin(), sums.end(), figures.begin(), sums.begin(), std::plus());
-    }
+    const int count = FillGrid(
+        *List_, kColumns, set,
+        [&](int row) {
+            const InvoiceMonth invoice = invoiceOf(LongOf(set[u"Deal"_s]));
+            const Figures figures = ReadFigures(invoice, set);
+            WriteRow(*List_, row, invoice.deal, figures);
+            std::transform(sums.begin(), sums.end(), figures.begin(), sums.begin(), std::plus());
+        },
+        1);
+    if (count == 0) return;
     set.Close();
     WriteTotals(*List_, count + 1, sums);
     List_->Refresh();
@@ -293,14 +237,14 @@ void SeikyuPrt_frm::print() {
 void SeikyuPrt_frm::issueDrawn(PrintRun& run) {
     Recordset customers = gDb->OpenRecordset(u"SELECT * FROM Deal  WHERE Code>="_s + typed(kFrom) +
                                              u" AND   Code<="_s + typed(kTo) + u" ORDER BY Code"_s);
-    const Date issued = ReadStrictDate(ebox(kIssued));
+    const Date date = issued();
     if (customers.Eof()) return;
     customers.MoveLast();
     const int count = customers.RecordCount();
     customers.MoveFirst();
     for (int i = 0; i < count; ++i, customers.MoveNext()) {
         run.next(i, count);
-        DrawInvoice(invoiceOf(LongOf(customers[u"Code"_s])), issued);
+        DrawInvoice(invoiceOf(LongOf(customers[u"Code"_s])), date);
     }
 }
 
@@ -322,12 +266,12 @@ void SeikyuPrt_frm::issueSheets(PrintRun& run) {
 void SeikyuPrt_frm::exportGrid() {
     if (List_->Rows() <= 1) return;
     const QString colon = u" : "_s;
-    GridToExcel(u"請求書一覧"_s,
-                ebox(kYear).Text() + u'/' + ebox(kMonth).Text() + u"分 ルート : "_s + ebox(kRoute).Text() +
-                    colon + sRte_->Caption(),
-                ebox(kFrom).Text() + colon + sNamaeS_->Caption() + u" ～"_s + ebox(kTo).Text() + colon +
-                    sNamaeE_->Caption(),
-                *List_);
+    GridToExcel(
+        u"請求書一覧"_s,
+        ebox(kYear).Text() + u'/' + ebox(kMonth).Text() + u"分 ルート : "_s + ebox(kRoute).Text() + colon +
+            nameOf(kRoute),
+        ebox(kFrom).Text() + colon + nameOf(kFrom) + u" ～"_s + ebox(kTo).Text() + colon + nameOf(kTo),
+        *List_);
 }
 
 }  // namespace akarix

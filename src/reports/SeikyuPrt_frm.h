@@ -1,14 +1,11 @@
 #pragma once
 
-#include "platform/forms/CommandButton.h"
-#include "platform/forms/FlexGrid.h"
-#include "platform/forms/Label.h"
-#include "platform/runtime/Literals.h"
 #include "reports/InvoiceData.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
 
+class FlexGrid;
 class PrintRun;
 
 /// The issue of invoices: a month's ledger rows of a route and a range of codes, marked for those who get
@@ -20,10 +17,7 @@ class SeikyuPrt_frm : public EntryForm {
     void init();
 
  private:
-    void layOut();
-    QLayout* layOutFields();
-    QLayout* layOutButtons();
-    bool enter(int index);
+    bool enter(int index) override;
     void build();
     void clickMark();
     void markAll(const QString& mark);
@@ -36,17 +30,9 @@ class SeikyuPrt_frm : public EntryForm {
     void exportGrid();
 
     QString typed(int field) const;
+    Date issued() const;
     InvoiceMonth invoiceOf(std::int32_t deal) const;
 
-    ControlArray<TextBox> ebox{u"ebox"_s};
-    ControlArray<Image> F6{u"F6"_s};
-    CommandButton* Btn_ = nullptr;
-    CommandButton* Command1_ = nullptr;
-    CommandButton* DelBtn_ = nullptr;
-    CommandButton* ExcelBtn_ = nullptr;
-    Label* sNamaeS_ = nullptr;
-    Label* sNamaeE_ = nullptr;
-    Label* sRte_ = nullptr;
     FlexGrid* List_ = nullptr;
 };
 

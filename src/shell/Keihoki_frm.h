@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/forms/CommandButton.h"
-#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
@@ -14,9 +12,6 @@ class Keihoki_frm : public EntryForm {
 
  private:
     void save();
-
-    ControlArray<TextBox> ebox{u"ebox"_s};
-    CommandButton* Btn_;
 };
 
 }  // namespace akarix

@@ -2,12 +2,9 @@
 
 #include <QVBoxLayout>
 
-#include "platform/forms/FieldLayout.h"
 #include "platform/forms/Notice.h"
-#include "platform/runtime/Literals.h"
 #include "store/PutContents.h"
 #include "store/dbAccess.h"
-#include "toolkit/FieldWalk.h"
 #include "values/NumVal.h"
 #include "values/Text.h"
 
@@ -19,26 +16,23 @@ enum Field { kCode, kContents };
 
 }  // namespace
 
-SysFunc_frm::SysFunc_frm()
-    : EntryForm(u"SysFunc_frm"_s, u"System Function"_s), Btn_(&Named(new CommandButton(u"OK"_s), u"Btn"_s)) {
+SysFunc_frm::SysFunc_frm() : EntryForm(u"SysFunc_frm"_s, u"System Function"_s) {
     constexpr int kCodeBytes = 10;
     constexpr int kContentsBytes = 255;
     constexpr int kShownBytes = 40;
     auto* body = new QVBoxLayout(this);
     body->setSpacing(16);
     FieldLayout fields(*this);
-    fields.row(u"コード"_s).text(addBox(ebox, kCode, ImeMode::Off), kCodeBytes);
-    fields.row({}).text(addBox(ebox, kContents, ImeMode::NoControl), kContentsBytes, kShownBytes);
-    JoinWalk(*this, *Btn_);
+    fields.row(u"コード"_s).text(addBox(kCode), kCodeBytes);
+    fields.row({}).text(addBox(kContents, ImeMode::NoControl), kContentsBytes, kShownBytes);
     body->addLayout(fields.layout());
-    body->addWidget(Btn_, 0, Qt::AlignRight);
-    wireKeys(
-        ebox, [this](int index) { return enter(index); });
-    on(Btn_, &CommandButton::Click, [this] { save(); });
+    auto* button = newButton(
+        u"OK"_s, [this] { save(); }, Confirms);
+    body->addWidget(&Named(button, u"Btn"_s), 0, Qt::AlignRight);
 }
 
 void SysFunc_frm::init() {
-    ClearControls(*this);
+    emptyFields();
     FocusSelect(ebox(kCode));
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/forms/CommandButton.h"
-#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
@@ -14,13 +12,10 @@ class SysFunc_frm : public EntryForm {
     void init();
 
  private:
-    bool enter(int index);
+    bool enter(int index) override;
     void load();
     void save();
     QString question() const;
-
-    ControlArray<TextBox> ebox{u"ebox"_s};
-    CommandButton* Btn_;
 };
 
 }  // namespace akarix

@@ -3,13 +3,10 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "platform/forms/FieldLayout.h"
-#include "platform/runtime/Literals.h"
 #include "store/FieldValue.h"
 #include "store/PutContents.h"
 #include "store/Settings.h"
 #include "store/dbAccess.h"
-#include "toolkit/FieldWalk.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 #include "values/Text.h"
@@ -37,25 +34,23 @@ etc_frm::etc_frm() : EntryForm(u"etc_frm"_s, u"その他"_s) {
     FieldLayout fields(*this);
     const auto row = [&](const QString& caption, int field) {
         FieldLine line = fields.row(caption);
-        line.text(addBox(ebox, field, ImeMode::Off), kAnyBytes, kShownBytes);
+        line.text(addBox(field), kAnyBytes, kShownBytes);
         return line;
     };
     row(u"得意先　締日"_s, kClosingDay).note(u"得意先登録時にデフォルトで表示"_s);
     row(u"検針日"_s, kReadingDay);
     row(u"印刷設定"_s, kPrinting).note(u"0 = 直接印刷　1 = 表示後印刷"_s);
     body->addLayout(fields.layout());
-    body->addLayout(ButtonBar(*this, Btn, {u"キャンセル"_s, u"保存"_s}));
-    wireKeys(
-        ebox, [this](int index) { return enter(index); });
-    on(
-        &Btn(kCancel), &CommandButton::Click, [this] { Unload(); });
-    on(&Btn(kSave), &CommandButton::Click, [this] { save(); });
+    QHBoxLayout* bar = buttonBar(
+        {{kCancel, u"キャンセル"_s, [this] { Unload(); }}, {kSave, u"保存"_s, [this] { save(); }, Keeps}});
+    bar->setSpacing(8);
+    body->addLayout(bar);
 }
 
 void etc_frm::init() {
     Recordset rows = gDb->OpenRecordset(u"SELECT * FROM zSysFunc WHERE Code>=1 and Code<=3"_s);
     // A single missing row leaves its field as it stands.
-    if (rows.Eof()) ClearControls(*this);
+    if (rows.Eof()) emptyFields();
     for (; !rows.Eof(); rows.MoveNext()) {
         const std::int32_t code = LongOf(rows[u"Code"_s]);
         for (const Setting& setting : kSettings) {

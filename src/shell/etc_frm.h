@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/forms/CommandButton.h"
-#include "platform/runtime/Literals.h"
 #include "toolkit/EntryForm.h"
 
 namespace akarix {
@@ -13,11 +11,8 @@ class etc_frm : public EntryForm {
     void init();
 
  private:
-    bool enter(int index);
+    bool enter(int index) override;
     void save();
-
-    ControlArray<TextBox> ebox{u"ebox"_s};
-    ControlArray<CommandButton> Btn{u"Btn"_s};
 };
 
 }  // namespace akarix

@@ -3,9 +3,6 @@
 #include <algorithm>
 
 #include "platform/forms/CommandButton.h"
-#include "platform/runtime/Conversion.h"
-#include "platform/runtime/Literals.h"
-#include "store/dbAccess.h"
 #include "values/Text.h"
 
 namespace akarix {
@@ -88,34 +85,6 @@ void CopyIfEmpty(const TextBox& source, TextBox& target) {
     if (HasText(target.Text())) return;
     target.SetText(source.Text());
     FitMaxLength(target);
-}
-
-int ComboValue(const ComboBox& combo) {
-    return combo.ListIndex() < 0 ? 0 : combo.ItemData(combo.ListIndex());
-}
-
-void ComboSelect(ComboBox& combo, int value) {
-    int row = 0;
-    while (row < combo.ListCount() && combo.ItemData(row) != value)
-        ++row;
-    combo.SetListIndex(row < combo.ListCount() ? row : -1);
-}
-
-void FillCombo(const QString& sql, ComboBox& combo, bool noSelection) {
-    ClearCombo(combo);
-    Recordset rows = gDb->OpenRecordset(sql);
-    for (; !rows.Eof(); rows.MoveNext())
-        combo.AddItem(NullToEmpty(rows[u"Namae"_s]), CLng(NullToZero(rows[u"Code"_s])));
-    if (noSelection) combo.SetListIndex(-1);
-}
-
-void ClearCombo(ComboBox& combo) {
-    for (int rows = combo.ListCount(); rows > 0; --rows)
-        combo.RemoveItem(0);
-}
-
-QString BlankIfEmpty(const QString& text) {
-    return EmptyToBlank(text);
 }
 
 }  // namespace akarix

@@ -22,10 +22,4 @@ void FitMaxLength(TextBox& box);
 /// Copies the text where the target has none.
 void CopyIfEmpty(const TextBox& source, TextBox& target);
 
-int ComboValue(const ComboBox& combo);
-void ComboSelect(ComboBox& combo, int value);
-void FillCombo(const QString& sql, ComboBox& combo, bool noSelection);
-void ClearCombo(ComboBox& combo);
-QString BlankIfEmpty(const QString& text);
-
 }  // namespace akarix

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/runtime/Literals.h"
 #include "toolkit/LookupForm.h"
 
 namespace akarix {
@@ -9,21 +8,12 @@ namespace akarix {
 class Help_frm : public LookupForm {
  public:
     Help_frm();
-    /// The mode is kept; no table's list depends on it today.
-    void Start(const QString& table, const QString& mode);
+    void Start(const QString& table);
 
  private:
-    const std::vector<ListColumn>& columns() const;
-    QString listSql() const;
     QString searchSql() const;
-    void search();
-    bool enter(int index);
 
-    ControlArray<TextBox> ebox{u"ebox"_s};
-    ControlArray<CommandButton> Btn{u"Btn"_s};
     QString table_;
-    QString mode_;
-    QString sql_;
 };
 
 }  // namespace akarix

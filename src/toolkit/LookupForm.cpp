@@ -1,71 +1,33 @@
 #include "toolkit/LookupForm.h"
 
-#include <QStyle>
 #include <QVBoxLayout>
 
-#include "platform/forms/Label.h"
-#include "platform/runtime/Format.h"
-#include "platform/runtime/Literals.h"
 #include "platform/runtime/Text.h"
 #include "store/dbAccess.h"
-#include "values/Text.h"
 
 namespace akarix {
 
 namespace {
 
-QString CellText(const Variant& value, const QString& format) {
-    return format.isEmpty() || value.IsNull() ? NullToEmpty(value) : Format(value, format);
+/// What is searched anywhere in its column; empty for a text without content.
+QString LikeCondition(const QString& column, const QString& text) {
+    const QString wanted = Trim(text);
+    if (wanted.isEmpty()) return {};
+    return u" AND "_s + column + u" LIKE '*"_s + wanted + u"*'"_s;
 }
 
 }  // namespace
 
-LookupForm::LookupForm(const QString& name)
-    : EntryForm(name, u"さがす"_s), List_(&Named(new FlexGrid(this), u"List"_s)) {}
-
-void LookupForm::forgetChoice() {
-    chosen_ = false;
-    code_.clear();
-}
-
-void LookupForm::choose(const QString& code) {
-    chosen_ = true;
-    code_ = code;
-    Hide();
-}
-
-void LookupForm::showColumns(const std::vector<ListColumn>& columns) {
-    List_->SetCols(static_cast<int>(columns.size()));
-    int width = 2 * List_->frameWidth() + List_->style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
-                List_->style()->pixelMetric(QStyle::PM_ScrollView_ScrollBarSpacing);
-    for (int col = 0; col < List_->Cols(); ++col) {
-        const ListColumn& column = columns[static_cast<std::size_t>(col)];
-        List_->SetColWidth(col, column.width);
-        List_->SetColAlignment(col, column.alignment);
-        if (List_->FixedRows() > 0) List_->SetTextMatrix(0, col, column.title);
-        width += Twips(column.width);
-    }
-    List_->SetRoom({width, Twips(6000)});
-}
-
-void LookupForm::fill(const QString& sql, const std::vector<ListColumn>& columns) {
-    Recordset rows = gDb->OpenRecordset(sql);
-    if (rows.Eof()) return;
-    showColumns(columns);
-    rows.MoveLast();
-    const int first = List_->FixedRows();
-    List_->SetRows(rows.RecordCount() + first);
-    rows.MoveFirst();
-    for (int row = first; !rows.Eof(); ++row, rows.MoveNext()) {
-        int col = 0;
-        for (const ListColumn& column : columns)
-            List_->SetTextMatrix(row, col++, CellText(rows[column.field], column.format));
-    }
-}
-
-void LookupForm::empty() {
-    List_->SetRows(List_->FixedRows());
-    List_->Refresh();
+LookupForm::LookupForm(const QString& name, int codeColumn)
+    : EntryForm(name, u"さがす"_s), List_(&Named(new FlexGrid(this), u"List"_s)), codeColumn_(codeColumn) {
+    on(
+        List_, &FlexGrid::Click,
+        [this] {
+            const int row = List_->MouseRow();
+            if (row < List_->FixedRows()) return;
+            code_ = List_->TextMatrix(row, codeColumn_);
+            Hide();
+        });
 }
 
 void LookupForm::layOut(FieldLayout* search, QHBoxLayout* buttons) {
@@ -78,26 +40,60 @@ void LookupForm::layOut(FieldLayout* search, QHBoxLayout* buttons) {
         fields->addLayout(search->layout());
         fields->addStretch();
         layout->addLayout(fields);
+        buttons->setSpacing(8);
         hint->addLayout(buttons);
     }
     layout->addLayout(hint);
     layout->addWidget(List_, 1);
 }
 
-void LookupForm::layOutSlips(const std::vector<ListColumn>& columns) {
-    layOut(nullptr, nullptr);
-    List_->SetFixedRows(1);
-    showColumns(columns);
-    empty();
-    on(List_, &FlexGrid::Click, [this] {
-        if (List_->Row() >= List_->FixedRows()) choose(List_->TextMatrix(List_->Row(), 0));
-    });
+void LookupForm::addWords(FieldLayout& search) {
+    search.row(u"ﾌﾘｶﾞﾅ"_s).text(addBox(0, ImeMode::KatakanaHalf), 30);
+    search.row(u"名前"_s).text(addBox(1, ImeMode::Hiragana), 40);
 }
 
-QString LikeCondition(const QString& column, const QString& text) {
-    const QString wanted = Trim(text);
-    if (wanted.isEmpty()) return {};
-    return u" AND "_s + column + u" LIKE '*"_s + wanted + u"*'"_s;
+QString LookupForm::readingCondition() const {
+    return LikeCondition(u"Kana"_s, ebox(0).Text());
+}
+
+QString LookupForm::nameCondition() const {
+    return LikeCondition(u"Namae"_s, ebox(1).Text());
+}
+
+bool LookupForm::enter(int index) {
+    if (index < ebox.count() - 1) return true;
+    FitMaxLength(ebox(index));
+    SetFocus(&Btn(0));
+    return false;
+}
+
+void LookupForm::showColumns(const GridColumns& columns) {
+    constexpr int kHeight = 400;
+    constexpr int kBar = 16;  // without a pixel to spare: a pick list stands beside what it is asked for
+    columns_ = columns;
+    SetColumns(*List_, columns_);
+    ReserveRoom(*List_, kHeight, kBar);
+}
+
+void LookupForm::begin() {
+    code_.clear();
+    clear();
+    if (ebox.count() > 0) SetFocus(&ebox(0));
+}
+
+void LookupForm::clear() {
+    emptyFields();
+    emptyList();
+}
+
+void LookupForm::emptyList() {
+    List_->SetRows(List_->FixedRows());
+    List_->Refresh();
+}
+
+void LookupForm::fill(const QString& sql) {
+    Recordset rows = gDb->OpenRecordset(sql);
+    FillGrid(*List_, columns_, rows);
 }
 
 }  // namespace akarix

@@ -5,10 +5,8 @@
 #include "dialogs/AskConfirm.h"
 #include "platform/forms/Notice.h"
 #include "platform/runtime/Conversion.h"
-#include "platform/runtime/Literals.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
-#include "toolkit/FieldWalk.h"
 #include "toolkit/Lookups.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
@@ -17,8 +15,6 @@
 namespace akarix {
 
 namespace {
-
-constexpr int kNameBytes = 30;
 
 Variant StoredValue(const MasterField& field, const QString& text) {
     switch (field.kind) {
@@ -63,43 +59,27 @@ void MasterForm::addFields(const FieldTable& fields) {
 void MasterForm::addField(const MasterField& field) {
     if (field.newColumn) rows_.nextColumn();
     FieldLine row = rows_.row(field.label);
-    row.text(addBox(ebox, field.index, field.ime), field.bytes, field.shownBytes);
-    if (field.lookup) row.lookup(F6.add(field.lookup->picture, new Image));
-    if (!field.nameLabel.isEmpty()) row.name(addName(field.nameLabel), kNameBytes);
+    if (field.lookup && !field.lookup->nameLabel.isEmpty())
+        addCode(row, field.index, *field.lookup, field.bytes, field.shownBytes);
+    else
+        row.text(addBox(field.index, field.ime), field.bytes, field.shownBytes);
+    if (field.index == kCode && field.lookup)
+        row.lookup(addLookup(
+            field.lookup->picture, [this] { return PickCode(texts_.table); }, kCode));
     if (!field.note.isEmpty()) row.note(field.note);
 }
 
 void MasterForm::addButtons() {
     // Save comes first in the walk: Enter in the last field and Enter again store the row.
-    addBar({{2, u"保存"_s}, {0, u"画面クリア"_s}, {1, u"削除"_s}});
-    wire();
-}
-
-void MasterForm::wire() {
-    press_ = wireKeys(ebox, [this](int index) { return enter(index); });
-    for (const MasterField& field : fields_)
-        if (field.lookup) wireCode(field);
-    on(
-        &Btn(0), &CommandButton::Click, [this] { clear(); });
-    on(
-        &Btn(1), &CommandButton::Click, [this] { remove(); });
-    on(&Btn(2), &CommandButton::Click, [this] { save(); });
-}
-
-void MasterForm::wireCode(const MasterField& field) {
-    const auto pick = [this, lookup = *field.lookup] {
-        return PickCode(lookup.table.isEmpty() ? texts_.table : lookup.table, lookup.mode);
-    };
-    WireLookup(*this, F6(field.lookup->picture), pick, ebox(field.index),
-               [this, index = field.index] { pressEnter(index); });
+    addBar({{2, u"保存"_s, [this] { save(); }, Keeps},
+            {0, u"画面クリア"_s, [this] { clear(); }},
+            {1, u"削除"_s, [this] { remove(); }, Removes}});
 }
 
 // ---- the row on the screen
 
 bool MasterForm::enter(int index) {
     if (index == kCode) load();
-    for (const MasterField& field : fields_)
-        if (field.index == index) showName(field);
     return true;
 }
 
@@ -123,13 +103,9 @@ void MasterForm::showRow(Recordset& row) {
     for (const MasterField& field : fields_) {
         if (field.column.isEmpty()) continue;
         ebox(field.index).SetText(ShownText(field, row[field.column]));
-        showName(field);
+        if (field.lookup && !field.lookup->nameLabel.isEmpty()) showName(field.index);
     }
     showExtras(row);
-}
-
-void MasterForm::showName(const MasterField& field) {
-    if (field.nameOf) nameLabel(field.nameLabel).SetCaption(field.nameOf(NumVal(ebox(field.index).Text())));
 }
 
 // ---- the row in the store
@@ -167,7 +143,7 @@ QString MasterForm::removeSql() {
 
 void MasterForm::remove() {
     if (!mayAskToRemove()) return;
-    if (!AskConfirm(texts_.removeQuestion, u"はい"_s, u"いいえ"_s)) return;
+    if (!AskConfirm(texts_.removeQuestion)) return;
     if (!mayRemove()) return;
     gDb->Execute(removeSql());
     clear();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/forms/FieldLayout.h"
 #include "toolkit/FieldTable.h"
 #include "toolkit/KeyedForm.h"
 
@@ -29,15 +28,13 @@ class MasterForm : public KeyedForm {
     void addFields(const FieldTable& fields);
     void addButtons();
 
-    /// Does what Enter does in a field.
-    void pressEnter(int index) { press_(index); }
     /// For a screen that keeps one of several tables, chosen when it is opened.
     void setTexts(MasterTexts texts);
     /// A field that must hold text: when it does not, tells the message, goes to the field, gives False.
     bool require(int index, const QString& message);
 
-    /// What Enter asks of a field. The base loads at the code and shows the names beside codes.
-    virtual bool enter(int index);
+    /// The base loads at the code.
+    bool enter(int index) override;
     QString proposedCode() override;
     /// The typed code has no row.
     virtual void keepUnknownCode(const QString& typed);
@@ -54,17 +51,13 @@ class MasterForm : public KeyedForm {
 
  private:
     void addField(const MasterField& field);
-    void wire();
     void load();
     void showRow(Recordset& row) override;
-    void showName(const MasterField& field);
-    void wireCode(const MasterField& field);
     void remove();
 
     MasterTexts texts_;
     FieldTable fields_;
     FieldLayout rows_;
-    PressEnter press_;
 };
 
 }  // namespace akarix

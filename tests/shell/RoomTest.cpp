@@ -29,8 +29,6 @@
 #include "support/ScreenTest.h"
 #include "toolkit/Dentaku_frm.h"
 #include "toolkit/HelpDeal_frm.h"
-#include "toolkit/HelpN_frm.h"
-#include "toolkit/HelpSlip_frm.h"
 #include "toolkit/Help_frm.h"
 
 namespace akarix {
@@ -82,7 +80,7 @@ TEST_F(Room, EveryScreenFitsTheSmallestDesksAndHasAChapter) {
         std::tuple<main_menu, Slip_frm, SlipG_frm, SlipN2_frm, TorZan_frm, Seikyu_frm, SeikyuPrt_frm,
                    RepoSeikyu_frm, RepoDaichou_frm, MstDeal_frm, GTanka_frm, MstHin_frm, Keihoki_frm,
                    MstRte_frm, MstBnk_frm, MstYubin_frm, etc_frm, SysFunc_frm, BKItaku_frm, MstTanka_frm,
-                   ms_frm, Dentaku_frm, Help_frm, HelpDeal_frm, HelpN_frm, HelpSlip_frm>;
+                   ms_frm, Dentaku_frm, Help_frm, HelpDeal_frm>;
     for (QScreen* small : QGuiApplication::screens().mid(1)) {
         for (const auto& open : screens(static_cast<Kinds*>(nullptr))) {
             Form& form = open(small);

@@ -17,29 +17,28 @@ class Desk : public EntryForm {
     Desk() : EntryForm(u"Desk"_s, u"机"_s) {
         auto* layout = new QVBoxLayout(this);
         for (int i = 0; i < 4; ++i) {
-            layout->addWidget(&addBox(ebox, i, ImeMode::NoControl));
+            layout->addWidget(&addBox(i, ImeMode::NoControl));
             SetTabIndex(&ebox(i), i);
         }
         layout->addWidget(&combo);
         combo.setObjectName(u"Combo1"_s);
         SetTabIndex(&combo, 4);
-        layout->addWidget(&Btn.add(0, new CommandButton(u"保存"_s)));
+        layout->addWidget(&Btn.add(0, newButton(u"保存"_s, [] {})));
         SetTabIndex(&Btn(0), 5);
         layout->addWidget(&label);
         SetTabIndex(&label, 6);
-        press = wireKeys(ebox, [this](int index) {
-            entered += index;
-            return mayGoOn;
-        });
+    }
+    bool enter(int index) override {
+        entered += index;
+        return mayGoOn;
     }
 
-    ControlArray<TextBox> ebox{u"ebox"_s};
-    ControlArray<CommandButton> Btn{u"Btn"_s};
+    using EntryForm::Btn;
+    using EntryForm::ebox;
     ComboBox& combo = *new ComboBox;
     Label& label = *new Label;
     QList<int> entered;
     bool mayGoOn = true;
-    std::function<void(int)> press;
 };
 
 class FieldWalk : public ScreenTest {

@@ -18,20 +18,16 @@ class Caller : public EntryForm {
     explicit Caller(const QString& table) : EntryForm(u"Caller"_s, u"伝票"_s) {
         auto* layout = new QHBoxLayout(this);
         for (int i = 0; i < 2; ++i) {
-            layout->addWidget(&addBox(ebox, i, ImeMode::Off));
+            layout->addWidget(&addBox(i));
             SetTabIndex(&ebox(i), i);
         }
-        layout->addWidget(&F6.add(0, new Image));
-        wireLookup(F6(0), table, u"ALL"_s, ebox(0),
-                   wireKeys(ebox,
-                            [this](int index) {
-                                entered += index;
-                                return true;
-                            }),
-                   0);
+        layout->addWidget(&addLookup(0, table, 0));
     }
-    ControlArray<TextBox> ebox{u"ebox"_s};
-    ControlArray<Image> F6{u"F6"_s};
+    bool enter(int index) override {
+        entered += index;
+        return true;
+    }
+    using EntryForm::ebox;
     QList<int> entered;
 };
 
@@ -101,7 +97,7 @@ TEST_F(Lookups, SearchesByReadingAndName) {
         EXPECT_EQ(list().Rows(), 0);
         EXPECT_EQ(clerk.text(u"ebox(1)"_s), QString());
     });
-    EXPECT_EQ(PickCode(u"Rte"_s, u"ALL"_s), QString());
+    EXPECT_EQ(PickCode(u"Rte"_s), QString());
 }
 
 TEST_F(Lookups, BanksAreListedButNotSearched) {
@@ -112,7 +108,7 @@ TEST_F(Lookups, BanksAreListedButNotSearched) {
         clerk.click(u"Btn(0)"_s);
         EXPECT_TRUE(clerk.lastSaid().startsWith(u"実行時エラー"_s));
     });
-    PickCode(u"Bnk"_s, {});
+    PickCode(u"Bnk"_s);
 }
 
 TEST_F(Lookups, CustomersAreFoundByRouteInTheirRound) {
@@ -132,7 +128,7 @@ TEST_F(Lookups, CustomersAreFoundByRouteInTheirRound) {
         EXPECT_TRUE(clerk.isOpen(u"HelpDeal_frm"_s)) << "the head picks nothing";
         clerk.clickCell(list(), 2, 3);
     });
-    EXPECT_EQ(PickCode(u"Deal"_s, {}), u"11"_s);
+    EXPECT_EQ(PickCode(u"Deal"_s), u"11"_s);
 
     inDialog(u"HelpDeal_frm"_s, [this] {
         EXPECT_EQ(list().Rows(), 1) << "a second use starts anew";
@@ -144,7 +140,7 @@ TEST_F(Lookups, CustomersAreFoundByRouteInTheirRound) {
         clerk.enter();
         EXPECT_EQ(column(1), QStringList{u"13"_s});
     });
-    EXPECT_EQ(PickCode(u"Deal"_s, {}), QString());
+    EXPECT_EQ(PickCode(u"Deal"_s), QString());
 }
 
 TEST_F(Lookups, SlipsAreListedNewestFirst) {

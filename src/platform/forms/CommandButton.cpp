@@ -6,16 +6,11 @@
 
 namespace akarix {
 
-CommandButton::CommandButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
+CommandButton::CommandButton(const QString& caption, QWidget* parent, ButtonWeight weight)
+    : QPushButton(caption, parent), weight_(weight) {
     RegisterControl(this);
     setAttribute(Qt::WA_NoMousePropagation);
     connect(this, &QPushButton::clicked, this, &CommandButton::Click);
-}
-
-ButtonWeight CommandButton::weight() const {
-    const QString caption = text();
-    if (caption.endsWith(u"保存") || caption == u"OK") return ButtonWeight::Keeps;
-    return caption.endsWith(u"削除") ? ButtonWeight::Removes : ButtonWeight::Plain;
 }
 
 bool CommandButton::event(QEvent* event) {

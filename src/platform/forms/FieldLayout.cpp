@@ -106,19 +106,6 @@ FieldLine LineLayout::cell(int line, int column) {
     return FieldLine(form_, row);
 }
 
-QHBoxLayout* ButtonBar(Form& form, ControlArray<CommandButton>& buttons, const QStringList& captions) {
-    auto* bar = new QHBoxLayout;
-    bar->setSpacing(8);
-    bar->addStretch();
-    int index = 0;
-    for (const QString& caption : captions) {
-        CommandButton& button = buttons.add(index++, new CommandButton(caption));
-        JoinWalk(form, button);
-        bar->addWidget(&button);
-    }
-    return bar;
-}
-
 void JoinWalk(Form& form, QWidget& control) {
     if (TabIndex(&control) < 0) SetTabIndex(&control, form.takeTabIndex());
 }

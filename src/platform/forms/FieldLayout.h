@@ -67,9 +67,6 @@ class LineLayout {
     int heads_ = 0;
 };
 
-/// A row of buttons, made in the order of their captions with the indices 0, 1, ... and put into the walk.
-QHBoxLayout* ButtonBar(Form& form, ControlArray<CommandButton>& buttons, const QStringList& captions);
-
 /// Puts a control into the walk at the form's next place, unless it has one.
 void JoinWalk(Form& form, QWidget& control);
 

@@ -221,7 +221,7 @@ void Form::pressKeep() {
     CommandButton* first = nullptr;
     for (QWidget* control : Controls()) {
         auto* button = qobject_cast<CommandButton*>(control);
-        if (button == nullptr || !button->Caption().endsWith(u"保存")) continue;
+        if (button == nullptr || button->weight() != ButtonWeight::Keeps) continue;
         if (first == nullptr || TabIndex(button) < TabIndex(first)) first = button;
     }
     if (first == nullptr || !first->isVisible() || !first->isEnabled()) return;

@@ -59,6 +59,7 @@ struct ButtonColours {
 ButtonColours ColoursOf(const QWidget* widget) {
     const auto* button = qobject_cast<const CommandButton*>(widget);
     switch (button != nullptr ? button->weight() : ButtonWeight::Plain) {
+        case ButtonWeight::Confirms:
         case ButtonWeight::Keeps:
             return {colours::kRowTint, colours::kAccent, colours::kAccentInk, colours::kAccent};
         case ButtonWeight::Removes:

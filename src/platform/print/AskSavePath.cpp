@@ -22,7 +22,7 @@ class SaveAs_frm : public EscapableForm {
     SaveAs_frm(const QString& caption, const QString& path, std::shared_ptr<QString> answer)
         : EscapableForm(u"SaveAs_frm"_s, caption), answer_(std::move(answer)) {
         file_ = new FileField(path, QFileInfo(path).suffix(), this);
-        auto* save = new CommandButton(u"保存"_s, this);
+        auto* save = new CommandButton(u"保存"_s, this, ButtonWeight::Keeps);
         auto* cancel = new CommandButton(u"キャンセル"_s, this);
         save->setObjectName(u"Save"_s);
         cancel->setObjectName(u"Cancel"_s);

@@ -27,7 +27,9 @@ class Sample_frm : public Form {
         whole->addLayout(fields.layout());
         for (int i = 0; i < 3; ++i)
             fields.row("欄").text(ebox.add(i, new TextBox), 10);
-        whole->addLayout(ButtonBar(*this, Btn, {"保存"}));
+        CommandButton& keep = Btn.add(0, new CommandButton("保存", nullptr, ButtonWeight::Keeps));
+        JoinWalk(*this, keep);
+        whole->addWidget(&keep, 0, Qt::AlignRight);
         ++built;
     }
 
