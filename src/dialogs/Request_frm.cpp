@@ -30,8 +30,7 @@ void Request_frm::Prepare(const QString& prompt, const QString& preset) {
     Message->SetCaption(prompt);
     ebox->SetText(preset);
     SetFocus(ebox);
-    ebox->SetSelStart(0);
-    ebox->SetSelLength(static_cast<int>(preset.length()));
+    ebox->selectAll();
 }
 
 QString Request_frm::Answer() const {

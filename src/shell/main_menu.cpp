@@ -219,7 +219,7 @@ void main_menu::QueryUnload(bool& cancel) {
 }
 
 // Service alone comes to the settings rows; no button tells of them.
-void main_menu::MouseDown(int /*button*/, int shift, int /*x*/, int /*y*/) {
+void main_menu::MouseDown(int shift) {
     if (shift == (ShiftMask | CtrlMask | AltMask)) OpenScreen<SysFunc_frm>();
 }
 

@@ -19,7 +19,7 @@ class main_menu : public Form {
 
  protected:
     void QueryUnload(bool& cancel) override;
-    void MouseDown(int button, int shift, int x, int y) override;
+    void MouseDown(int shift) override;
     void resizeEvent(QResizeEvent* event) override;
     bool event(QEvent* event) override;
 

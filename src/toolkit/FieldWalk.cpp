@@ -71,8 +71,7 @@ void ClearControls(Form& form) {
 
 void FocusSelect(TextBox& box) {
     SetFocus(&box);
-    box.SetSelStart(0);
-    box.SetSelLength(static_cast<int>(box.Text().size()));
+    box.selectAll();
 }
 
 void FitMaxLength(TextBox& box) {

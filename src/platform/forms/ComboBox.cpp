@@ -31,17 +31,6 @@ void ComboBox::AddItem(const QString& text, int itemData) {
     setCurrentIndex(selected);
 }
 
-void ComboBox::RemoveItem(int index) {
-    if (index < 0 || index >= count()) throw RuntimeError(5);
-    const int selected = currentIndex();
-    const QSignalBlocker quiet(this);
-    removeItem(index);
-    if (selected == index)
-        setCurrentIndex(-1);
-    else
-        setCurrentIndex(selected > index ? selected - 1 : selected);
-}
-
 int ComboBox::ItemData(int index) const {
     if (index < 0 || index >= count()) throw RuntimeError(381);
     return itemData(index).toInt();
@@ -55,11 +44,6 @@ bool ComboBox::event(QEvent* event) {
         return true;
     }
     return QComboBox::event(event);
-}
-
-void ComboBox::focusInEvent(QFocusEvent* event) {
-    QComboBox::focusInEvent(event);
-    if (IsFocusMove(*event)) emit GotFocus();
 }
 
 void ComboBox::focusOutEvent(QFocusEvent* event) {

@@ -14,25 +14,20 @@ class ComboBox : public QComboBox {
  public:
     explicit ComboBox(QWidget* parent = nullptr);
 
-    int ListCount() const { return count(); }
     int ListIndex() const { return currentIndex(); }
     void SetListIndex(int index);  ///< -1 selects nothing; raises 380 outside the list
     /// Adds a row at the end; the selection stays as it was.
     void AddItem(const QString& text, int itemData = 0);
-    void RemoveItem(int index);     ///< removing the selected row leaves nothing selected; raises 5 outside
     int ItemData(int index) const;  ///< raises 381 outside the list
-    QString Text() const { return currentText(); }
 
  signals:
     void KeyDown(akarix::KeyEvent& event);
-    void GotFocus();
     void LostFocus();
     /// The operator or the program chose a row.
     void Click();
 
  protected:
     bool event(QEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 };

@@ -13,15 +13,6 @@ CommandButton::CommandButton(const QString& caption, QWidget* parent, ButtonWeig
     connect(this, &QPushButton::clicked, this, &CommandButton::Click);
 }
 
-bool CommandButton::event(QEvent* event) {
-    if (event->type() == QEvent::KeyPress &&
-        OfferKey(*static_cast<QKeyEvent*>(event), {}, [this](KeyEvent& press) { emit KeyDown(press); })) {
-        event->accept();
-        return true;
-    }
-    return QPushButton::event(event);
-}
-
 void CommandButton::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Return:

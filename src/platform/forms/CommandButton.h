@@ -2,8 +2,6 @@
 
 #include <QPushButton>
 
-#include "platform/forms/KeyEvent.h"
-
 namespace akarix {
 
 /// What a press leads to. The look sets apart what goes on with the work and what takes data away.
@@ -29,10 +27,8 @@ class CommandButton : public QPushButton {
 
  signals:
     void Click();
-    void KeyDown(akarix::KeyEvent& event);
 
  protected:
-    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
  private:

@@ -9,7 +9,6 @@
 #include <algorithm>
 
 #include "platform/forms/Control.h"
-#include "platform/forms/FocusMove.h"
 #include "platform/forms/Style.h"
 #include "platform/runtime/RuntimeError.h"
 
@@ -338,13 +337,11 @@ void FlexGrid::headPressed(int col) {
 void FlexGrid::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
     viewport()->update();
-    if (IsFocusMove(*event)) emit GotFocus();
 }
 
 void FlexGrid::focusOutEvent(QFocusEvent* event) {
     QTableView::focusOutEvent(event);
     viewport()->update();
-    if (IsFocusMove(*event)) emit LostFocus();
 }
 
 void FlexGrid::paintEvent(QPaintEvent* event) {

@@ -66,8 +66,6 @@ class FlexGrid : public QTableView {
     /// The present cell has changed, by key, mouse or program.
     void RowColChange();
     void KeyDown(akarix::KeyEvent& event);
-    void GotFocus();
-    void LostFocus();
     void Scroll();
 
  protected:

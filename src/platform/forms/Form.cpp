@@ -27,19 +27,6 @@
 namespace akarix {
 namespace {
 
-int ClassicButton(Qt::MouseButton button) {
-    switch (button) {
-        case Qt::LeftButton:
-            return 1;
-        case Qt::RightButton:
-            return 2;
-        case Qt::MiddleButton:
-            return 4;
-        default:
-            return 0;
-    }
-}
-
 QList<QPointer<Form>>& Instances() {
     static QList<QPointer<Form>> all;
     return all;
@@ -171,7 +158,7 @@ Form* Form::adopt(Form* instance) {
 
 void Form::QueryUnload(bool& /*cancel*/) {}
 
-void Form::MouseDown(int /*button*/, int /*shift*/, int /*x*/, int /*y*/) {}
+void Form::MouseDown(int /*shift*/) {}
 
 void Form::closeEvent(QCloseEvent* event) {
     RunGuarded([this] { Unload(); });
@@ -184,11 +171,7 @@ void Form::hideEvent(QHideEvent* event) {
 }
 
 void Form::mousePressEvent(QMouseEvent* event) {
-    const QPoint at = event->position().toPoint();
-    RunGuarded([&] {
-        MouseDown(ClassicButton(event->button()), ToShift(event->modifiers()), at.x() * TwipsPerPixel,
-                  at.y() * TwipsPerPixel);
-    });
+    RunGuarded([&] { MouseDown(ToShift(event->modifiers())); });
 }
 
 /// As shortcuts, since not every control lets go of a key it has no use for.

@@ -19,7 +19,7 @@ namespace akarix {
 /// with what is on it) or by unloading (the next Instance() builds it anew). It opens within its screen: what
 /// does not fit moves closer together, and scrolls where that is not enough.
 ///
-/// On every form F1 asks for help, and Ctrl+S presses the first button of the walk that is called 保存.
+/// On every form F1 asks for help, and Ctrl+S presses the first button of the walk that keeps the work.
 class Form : public QWidget {
     Q_OBJECT
 
@@ -86,8 +86,8 @@ class Form : public QWidget {
     /// Whether the screen holds something that Ctrl+S may keep: something was typed or chosen since it was
     /// emptied.
     virtual bool holdsWork() const { return edited_; }
-    /// A press on the form itself, not on a control: button 1 left, 2 right, 4 middle; place in twips.
-    virtual void MouseDown(int button, int shift, int x, int y);
+    /// A press on the form itself, not on a control.
+    virtual void MouseDown(int shift);
 
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;

@@ -7,25 +7,13 @@ class QKeyEvent;
 
 namespace akarix {
 
-/// Key codes of the classic KeyDown event that the screens look at; letters and digits are their capital's
-/// code.
+/// Key codes of the classic KeyDown event: those that the screens look at.
 namespace key {
-constexpr int Back = 8;
 constexpr int Tab = 9;
 constexpr int Return = 13;
 constexpr int Escape = 27;
-constexpr int Space = 32;
-constexpr int PageUp = 33;
-constexpr int PageDown = 34;
-constexpr int End = 35;
-constexpr int Home = 36;
-constexpr int Left = 37;
 constexpr int Up = 38;
-constexpr int Right = 39;
 constexpr int Down = 40;
-constexpr int Insert = 45;
-constexpr int Delete = 46;
-constexpr int F1 = 112;  // F2 is 113, and so on to F12
 }  // namespace key
 
 /// Bits of the Shift argument of key and mouse events.
@@ -38,7 +26,7 @@ struct KeyEvent {
 };
 
 /// The classic face of a key press. The keypad's Enter is Enter, Shift+Tab is Tab with the Shift bit; a key
-/// without a classic code has KeyCode 0.
+/// that no screen looks at has KeyCode 0.
 KeyEvent ToKeyEvent(const QKeyEvent& event);
 int ToShift(Qt::KeyboardModifiers modifiers);
 

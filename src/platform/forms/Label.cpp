@@ -21,7 +21,6 @@ Image::Image(QWidget* parent) : QLabel(parent) {
 }
 
 void Image::SetBorderStyle(int style) {
-    borderStyle_ = style;
     // The frame keeps its width, so that pressing does not move the picture's neighbours.
     setFrameStyle(style == 0 ? QFrame::Panel | QFrame::Plain : QFrame::Panel | QFrame::Sunken);
     setLineWidth(1);

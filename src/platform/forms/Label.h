@@ -22,7 +22,6 @@ class Image : public QLabel {
  public:
     explicit Image(QWidget* parent = nullptr);
 
-    int BorderStyle() const { return borderStyle_; }
     void SetBorderStyle(int style);
 
  signals:
@@ -33,9 +32,6 @@ class Image : public QLabel {
  protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-
- private:
-    int borderStyle_ = 0;
 };
 
 }  // namespace akarix

@@ -3,7 +3,6 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMetaMethod>
-#include <QMouseEvent>
 #include <algorithm>
 
 #include "platform/forms/Control.h"
@@ -58,15 +57,6 @@ void TextBox::SetIMEMode(ImeMode mode) {
     const bool off = mode == ImeMode::Off;
     setAttribute(Qt::WA_InputMethodEnabled, !off);
     setInputMethodHints(off ? Qt::ImhPreferLatin | Qt::ImhNoPredictiveText : Qt::ImhNone);
-}
-
-void TextBox::SetSelStart(int position) {
-    setCursorPosition(position);
-    deselect();
-}
-
-void TextBox::SetSelLength(int length) {
-    setSelection(SelStart(), length);
 }
 
 bool TextBox::event(QEvent* event) {
@@ -197,11 +187,6 @@ void TextBox::focusOutEvent(QFocusEvent* event) {
     composing_ = false;
     QLineEdit::focusOutEvent(event);
     if (IsFocusMove(*event)) emit LostFocus();
-}
-
-void TextBox::mouseReleaseEvent(QMouseEvent* event) {
-    QLineEdit::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) emit Click();
 }
 
 }  // namespace akarix

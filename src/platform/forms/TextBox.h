@@ -30,19 +30,13 @@ class TextBox : public QLineEdit {
     /// pasted or committed is cut to what fits; the program's own text the field walk cuts.
     int MaxLength() const { return maxBytes_; }
     void SetMaxLength(int bytes) { maxBytes_ = bytes; }
-    ImeMode IMEMode() const { return imeMode_; }
     void SetIMEMode(ImeMode mode);
-    int SelStart() const { return hasSelectedText() ? selectionStart() : cursorPosition(); }
-    int SelLength() const { return selectionLength(); }
-    void SetSelStart(int position);
-    void SetSelLength(int length);
 
  signals:
     void KeyDown(akarix::KeyEvent& event);
     /// Focus came from, or went to, another control; changing windows or opening a menu is no such move.
     void GotFocus();
     void LostFocus();
-    void Click();
 
  protected:
     bool event(QEvent* event) override;
@@ -50,7 +44,6 @@ class TextBox : public QLineEdit {
     void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
     bool takesKey(const QKeyEvent& press);
