@@ -18,7 +18,7 @@ constexpr int kRoute = 2;
 
 }  // namespace
 
-HelpDeal_frm::HelpDeal_frm() : LookupForm(u"HelpDeal_frm"_s, kCodeColumn) {
+HelpDeal_frm::HelpDeal_frm() : LookupForm(u"HelpDeal_frm"_s, kCodeColumn, true) {
     FieldLayout words(*this);
     addWords(words);
     addCode(words.row(u"地区"_s), kRoute, {0, u"Rte"_s, u"sRte"_s}, kIntegerBytes);

@@ -8,7 +8,10 @@ namespace akarix {
 class HelpDeal_frm : public LookupForm {
  public:
     HelpDeal_frm();
-    void Start() { begin(); }
+    void Start() {
+        begin();
+        emptyList();
+    }
 
  private:
     void search();

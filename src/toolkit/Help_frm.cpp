@@ -17,6 +17,7 @@ Help_frm::Help_frm() : LookupForm(u"Help_frm"_s) {
     FieldLayout search(*this);
     addWords(search);
     List().SetFixedRows(0);
+    emptyList();
     layOut(&search, buttonBar({{0, u"さがす"_s, [this] { fill(searchSql()); }},
                                {1, u"クリア"_s, [this] { clear(); }}}));
 }

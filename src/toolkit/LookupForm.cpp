@@ -18,14 +18,14 @@ QString LikeCondition(const QString& column, const QString& text) {
 
 }  // namespace
 
-LookupForm::LookupForm(const QString& name, int codeColumn)
-    : EntryForm(name, u"さがす"_s), List_(&Named(new FlexGrid(this), u"List"_s)), codeColumn_(codeColumn) {
+LookupForm::LookupForm(const QString& name, int column, bool pressed)
+    : EntryForm(name, u"さがす"_s), List_(&Named(new FlexGrid(this), u"List"_s)) {
     on(
         List_, &FlexGrid::Click,
-        [this] {
-            const int row = List_->MouseRow();
-            if (row < List_->FixedRows()) return;
-            code_ = List_->TextMatrix(row, codeColumn_);
+        [this, column, pressed] {
+            const int row = pressed ? List_->MouseRow() : List_->Row();
+            if (row < List_->FixedRows() || row >= List_->Rows()) return;
+            code_ = List_->TextMatrix(row, column);
             Hide();
         });
 }
@@ -77,7 +77,7 @@ void LookupForm::showColumns(const GridColumns& columns) {
 
 void LookupForm::begin() {
     code_.clear();
-    clear();
+    emptyFields();
     if (ebox.count() > 0) SetFocus(&ebox(0));
 }
 

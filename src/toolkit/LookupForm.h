@@ -14,8 +14,8 @@ class LookupForm : public EntryForm {
     QString Code() const { return code_; }
 
  protected:
-    /// \param codeColumn what a click picks
-    explicit LookupForm(const QString& name, int codeColumn = 0);
+    /// \param column what a click picks of the present row or, where `pressed`, of the row under the mouse
+    explicit LookupForm(const QString& name, int column = 0, bool pressed = false);
 
     /// From the top: search fields, the hint with the buttons, the list.
     void layOut(FieldLayout* search = nullptr, QHBoxLayout* buttons = nullptr);
@@ -29,7 +29,7 @@ class LookupForm : public EntryForm {
 
     FlexGrid& List() const { return *List_; }
     void showColumns(const GridColumns& columns);
-    /// A new use: nothing picked, typed or listed.
+    /// A new use: nothing picked or typed.
     void begin();
     void clear();
     void emptyList();
@@ -39,7 +39,6 @@ class LookupForm : public EntryForm {
  private:
     FlexGrid* List_;
     GridColumns columns_;
-    int codeColumn_;
     QString code_;
 };
 

@@ -22,6 +22,7 @@ class SlipList : public LookupForm {
  public:
     void Start(const QString& sql) {
         begin();
+        emptyList();
         fill(sql);
     }
 
