@@ -1,7 +1,6 @@
 #include <QTextStream>
 
 #include "TemplateBook.h"
-#include "platform/runtime/Literals.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,17 +9,19 @@ int main(int argc, char** argv) {
     const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"Prt"_s;
     const struct {
         QString name;
-        bool (*write)(const QString&);
-    } templates[] = {{u"請求一覧表.xlsx"_s, akarix::WriteBillingListTemplate},
-                     {u"取引先一覧.xlsx"_s, akarix::WriteCustomerListTemplate},
-                     {u"請求書.xlsx"_s, akarix::WriteInvoiceTemplate},
-                     {u"口座振替合計表.xlsx"_s, akarix::WriteDebitTotalTemplate},
-                     {u"口座振替明細表.xlsx"_s, akarix::WriteBankStatementTemplate},
-                     {u"郵便局口座振替明細表.xlsx"_s, akarix::WritePostStatementTemplate},
-                     {u"価格表.xlsx"_s, akarix::WritePriceListTemplate}};
+        void (*make)(akarix::TemplateBook&);
+    } templates[] = {{u"請求一覧表.xlsx"_s, akarix::MakeBillingList},
+                     {u"取引先一覧.xlsx"_s, akarix::MakeCustomerList},
+                     {u"請求書.xlsx"_s, akarix::MakeInvoice},
+                     {u"口座振替合計表.xlsx"_s, akarix::MakeDebitTotal},
+                     {u"口座振替明細表.xlsx"_s, akarix::MakeBankStatement},
+                     {u"郵便局口座振替明細表.xlsx"_s, akarix::MakePostStatement},
+                     {u"価格表.xlsx"_s, akarix::MakePriceList}};
     int failed = 0;
-    for (const auto& [name, write] : templates) {
-        if (write(folder + u'/' + name)) continue;
+    for (const auto& [name, make] : templates) {
+        akarix::TemplateBook book(folder + u'/' + name);
+        make(book);
+        if (book.save()) continue;
         QTextStream(stderr) << name << u": 書き込めません\n"_s;
         failed = 1;
     }

@@ -2,12 +2,32 @@
 
 namespace akarix {
 
+namespace {
+
+struct Block {
+    explicit Block(const QString& range) {
+        const QByteArray name = range.toLatin1();
+        row = static_cast<int>(lxw_name_to_row(name)) + 1;
+        column = lxw_name_to_col(name) + 1;
+        const bool isCell = !name.contains(':');
+        lastRow = isCell ? row : static_cast<int>(lxw_name_to_row_2(name)) + 1;
+        lastColumn = isCell ? column : lxw_name_to_col_2(name) + 1;
+    }
+    int row, column, lastRow, lastColumn;
+};
+
+QString RangeOf(const TableColumn& column, int row) {
+    return u"%1%3:%2%3"_s.arg(QString::fromUtf16(column.first), QString::fromUtf16(column.last)).arg(row);
+}
+
+}  // namespace
+
 TemplateBook::TemplateBook(const QString& path)
     : writer_(path), sheet_(workbook_add_worksheet(writer_.book(), "Sheet1")) {
     worksheet_gridlines(sheet_, LXW_HIDE_ALL_GRIDLINES);
 }
 
-lxw_format* TemplateBook::look(const Look& look) {
+lxw_format* TemplateBook::formatOf(const Look& look) {
     for (const auto& [known, made] : looks_)
         if (known == look) return made;
     lxw_format* format = writer_.newFormat();
@@ -46,55 +66,62 @@ void TemplateBook::columns(const std::vector<int>& pixels) {
     }
 }
 
-void TemplateBook::rows(int first, int last, double points) {
-    for (int row = first; row <= last; ++row)
-        worksheet_set_row(sheet_, static_cast<lxw_row_t>(row - 1), points, nullptr);
+void TemplateBook::columns(std::span<const TableColumn> columns) {
+    std::vector<int> pixels(static_cast<size_t>(Block(RangeOf(columns.front(), 1)).column - 1), 0);
+    for (const TableColumn& column : columns)
+        pixels.resize(static_cast<size_t>(Block(RangeOf(column, 1)).lastColumn), column.pixels);
+    this->columns(pixels);
 }
 
-void TemplateBook::text(const char* address, const QString& text, lxw_format* format) {
-    worksheet_write_string(sheet_, lxw_name_to_row(address), lxw_name_to_col(address),
-                           text.toUtf8().constData(), format);
+void TemplateBook::rows(std::initializer_list<Rows> rows) {
+    for (const auto& [first, last, points] : rows)
+        for (int row = first; row <= last; ++row)
+            worksheet_set_row(sheet_, static_cast<lxw_row_t>(row - 1), points, nullptr);
 }
 
-void TemplateBook::blank(int row, int column, lxw_format* format) {
-    worksheet_write_blank(sheet_, static_cast<lxw_row_t>(row - 1), static_cast<lxw_col_t>(column - 1),
-                          format);
-}
-
-void TemplateBook::merged(const char* range, const QString& text, lxw_format* format) {
-    block(static_cast<int>(lxw_name_to_row(range)) + 1, lxw_name_to_col(range) + 1,
-          static_cast<int>(lxw_name_to_row_2(range)) + 1, lxw_name_to_col_2(range) + 1, text, format);
+void TemplateBook::put(const QString& range, const QString& text, const Look& look) {
+    const Block at(range);
+    block(at.row, at.column, at.lastRow, at.lastColumn, text, look);
 }
 
 void TemplateBook::block(int row, int column, int lastRow, int lastColumn, const QString& text,
-                         lxw_format* format) {
+                         const Look& look) {
     const auto r = static_cast<lxw_row_t>(row - 1);
     const auto c = static_cast<lxw_col_t>(column - 1);
     const QByteArray utf8 = text.toUtf8();
-    if (row == lastRow && column == lastColumn) {
-        worksheet_write_string(sheet_, r, c, utf8.constData(), format);
-    } else {
+    if (row == lastRow && column == lastColumn)
+        worksheet_write_string(sheet_, r, c, utf8, formatOf(look));
+    else
         worksheet_merge_range(sheet_, r, c, static_cast<lxw_row_t>(lastRow - 1),
-                              static_cast<lxw_col_t>(lastColumn - 1), utf8.constData(), format);
-    }
+                              static_cast<lxw_col_t>(lastColumn - 1), utf8, formatOf(look));
 }
 
-void TemplateBook::framed(const QString& range, const QString& text, const Look& look) {
-    const QByteArray name = range.toLatin1();
-    const lxw_row_t firstRow = lxw_name_to_row(name), lastRow = lxw_name_to_row_2(name);
-    const lxw_col_t first = lxw_name_to_col(name), last = lxw_name_to_col_2(name);
-    merged(name, QString(), nullptr);
-    Look part = look;
-    for (lxw_col_t column = first; column <= last; ++column) {
-        part.openLeft = column != first;
-        part.openRight = column != last;
-        for (lxw_row_t row = firstRow; row <= lastRow; ++row)
-            worksheet_write_blank(sheet_, row, column, this->look(part));
+void TemplateBook::framed(const QString& range, const QString& text, Look look) {
+    look.framed = true;
+    put(range, {}, look);
+    const Block at(range);
+    for (int column = at.lastColumn; column >= at.column; --column) {
+        look.openLeft = column != at.column;
+        look.openRight = column != at.lastColumn;
+        for (int row = at.row; row <= at.lastRow; ++row)
+            block(row, column, row, column, {}, look);
     }
-    part = look;
-    part.openRight = first != last;
-    if (!text.isEmpty())
-        worksheet_write_string(sheet_, firstRow, first, text.toUtf8().constData(), this->look(part));
+    if (!text.isEmpty()) block(at.row, at.column, at.row, at.column, text, look);
+}
+
+void TemplateBook::head(const TableColumn& column, int row) {
+    framed(RangeOf(column, row), QString::fromUtf16(column.head),
+           {.align = kCentre, .shrink = true, .fill = kShade});
+}
+
+void TemplateBook::lines(const TableColumn& column, int firstRow, int lastRow, Look look) {
+    look.align = column.align;
+    look.numberFormat = column.numberFormat;
+    look.shrink = true;
+    for (int row = firstRow; row <= lastRow; ++row) {
+        look.lastLine = row == lastRow;
+        framed(RangeOf(column, row), {}, look);
+    }
 }
 
 void TemplateBook::page(const char* area, double topInches, double bottomInches, Paper paper) {
