@@ -1,16 +1,7 @@
 #include <algorithm>
 
-#include "clerk/Clerk.h"
-#include "month/Album.h"
-#include "month/Desk.h"
-#include "month/Failure.h"
 #include "month/Hands.h"
-#include "month/Options.h"
 #include "month/Steps.h"
-#include "month/WorkFolder.h"
-#include "platform/forms/FlexGrid.h"
-#include "platform/forms/Form.h"
-#include "platform/runtime/Literals.h"
 
 namespace akarix::month {
 
@@ -42,12 +33,9 @@ int RowOf(const FlexGrid& list, const QString& number) {
 }  // namespace
 
 void ShowAccount(Desk& desk) {
-    const int from = desk.options.year * 12 + desk.options.month - 1 - 3;
+    const QString deal = QString::number(TellingSlip(desk.typed).second.deal);
     OpenFromMenu(desk, 8, kAccountForm);
-    WalkTo(desk, u"excelCmd"_s,
-           {{u"ebox(0)"_s, QString::number(from / 12)},
-            {u"ebox(1)"_s, QString::number(from % 12 + 1)},
-            {u"ebox(2)"_s, QString::number(TellingSlip(desk.typed).second.deal)}});
+    WalkTo(desk, u"excelCmd"_s, MonthTyped(desk.options, -3, {{Ebox(2), deal}}));
     TakeForm(desk, u"account"_s, kAccountForm);
 }
 
@@ -69,10 +57,7 @@ void OpenAccountSlip(Desk& desk) {
 // Shown and left: balances set here would stand against every later run.
 void ShowBalances(Desk& desk) {
     OpenFromMenu(desk, 17, kBalanceForm);
-    WalkTo(desk, u"Btn(2)"_s,
-           {{u"ebox(0)"_s, QString::number(desk.options.year)},
-            {u"ebox(1)"_s, QString::number(desk.options.month)},
-            {u"ebox(2)"_s, u"1"_s}});
+    WalkTo(desk, u"Btn(2)"_s, MonthTyped(desk.options, 0, {{Ebox(2), u"1"_s}}));
     desk.clerk.enter();
     TakeForm(desk, u"opening-balances"_s, kBalanceForm);
     if (desk.clerk.find<FlexGrid>(kBalanceForm + u"/List"_s).Rows() < 2)

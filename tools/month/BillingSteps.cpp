@@ -1,16 +1,7 @@
-#include "clerk/Clerk.h"
-#include "month/Album.h"
-#include "month/Desk.h"
-#include "month/Failure.h"
 #include "month/Hands.h"
-#include "month/Options.h"
 #include "month/Steps.h"
-#include "month/WorkFolder.h"
 #include "output/EX.h"
-#include "platform/forms/FlexGrid.h"
-#include "platform/forms/Form.h"
 #include "platform/runtime/Calendar.h"
-#include "platform/runtime/Literals.h"
 #include "values/Dates.h"
 
 namespace akarix::month {
@@ -21,13 +12,11 @@ const QString kBillingForm = u"Seikyu_frm"_s;
 const QString kListForm = u"RepoSeikyu_frm"_s;
 const QString kPrintButton = u"Btn(0)"_s;
 const QString kShowButton = u"Btn(1)"_s;
-const QString kExportButton = u"Btn(2)"_s;
 
 void OpenBilling(Desk& desk) {
     OpenFromMenu(desk, 16, kBillingForm);
-    std::map<QString, QString> typed = MonthTyped(desk.options);
-    typed[u"ebox(2)"_s] = DateText(DateSerial(desk.options.year, desk.options.month + 1, 0));
-    WalkTo(desk, u"ebox(5)"_s, typed);
+    const Date end = DateSerial(desk.options.year, desk.options.month + 1, 0);
+    WalkTo(desk, Ebox(5), MonthTyped(desk.options, 0, {{Ebox(2), DateText(end)}}));
 }
 
 void Bill(Desk& desk) {
@@ -68,17 +57,14 @@ void PrintList(Desk& desk) {
 }
 
 void ExportList(Desk& desk) {
-    SaveAs(desk, kExportButton, desk.folder.path(u"billing-list.xlsx"_s), u"save-as"_s);
+    SaveAs(desk, u"Btn(2)"_s, desk.folder.path(u"billing-list.xlsx"_s), u"save-as"_s);
     CloseForm(desk, kListForm);
 }
 
 // The first customers alone make a single page, and so one preview.
 void PreviewList(Desk& desk) {
     OpenFromMenu(desk, 7, kListForm);
-    std::map<QString, QString> typed = MonthTyped(desk.options);
-    typed[u"ebox(2)"_s] = u"1"_s;
-    typed[u"ebox(3)"_s] = u"40"_s;
-    WalkTo(desk, kShowButton, typed);
+    WalkTo(desk, kShowButton, MonthTyped(desk.options, 0, {{Ebox(2), u"1"_s}, {Ebox(3), u"40"_s}}));
     desk.clerk.expect(u"Printer_frm"_s, [&desk](QWidget&) { desk.clerk.enter(); });
     ExpectPictured(desk, u"Preview_frm"_s, u"preview"_s, Qt::Key_Escape);
     gPrintPreview = true;  // the setting itself is read at the program's start alone

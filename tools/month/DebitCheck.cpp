@@ -4,6 +4,7 @@
 #include <map>
 
 #include "ledger/Rows.h"
+#include "platform/runtime/Currency.h"
 #include "platform/runtime/Literals.h"
 #include "sample/SampleMasters.h"
 
@@ -11,14 +12,12 @@ namespace akarix::month {
 
 namespace {
 
-constexpr std::int64_t kScaledYen = 10000;
-
 using Yen = std::map<std::int32_t, std::int64_t>;  ///< by customer
 
 Yen ReadYen(Database& db, const QString& sql) {
     Yen yen;
     for (const auto& row : ReadNumbers(db, sql))
-        yen[static_cast<std::int32_t>(row[0])] += row[1] / kScaledYen;
+        yen[static_cast<std::int32_t>(row[0])] += row[1] / Currency::kScale;
     return yen;
 }
 
@@ -55,7 +54,7 @@ DebitClaims ClaimsAfter(Database& db, int bank, int year, int month) {
         const std::int64_t fixed = row[4];
         if (balance <= 0) continue;
         const std::int64_t asked = fixed != 0 && fixed <= balance ? fixed : balance;
-        claims.push_back({static_cast<std::int32_t>(row[0]), asked / kScaledYen});
+        claims.push_back({static_cast<std::int32_t>(row[0]), asked / Currency::kScale});
     }
     return claims;
 }

@@ -4,19 +4,11 @@
 #include <set>
 
 #include "admin/DebitCheck.h"
-#include "clerk/Clerk.h"
 #include "ledger/Rows.h"
-#include "month/Album.h"
 #include "month/DebitCheck.h"
-#include "month/Desk.h"
-#include "month/Failure.h"
 #include "month/Hands.h"
-#include "month/Options.h"
 #include "month/Steps.h"
-#include "month/WorkFolder.h"
-#include "platform/forms/Form.h"
 #include "platform/runtime/Calendar.h"
-#include "platform/runtime/Literals.h"
 #include "sample/SampleMasters.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -33,7 +25,7 @@ const QString kReadButton = u"Command(4)"_s;
 const QString kBankStatementButton = u"Command(5)"_s;
 const QString kPostStatementButton = u"Command(6)"_s;
 
-const QString kBranchBox = u"ebox(17)"_s;  // of the customer
+const QString kBranchBox = Ebox(17);  // of the customer
 
 QString OnDisk(const Desk& desk, const QString& name) {
     return desk.folder.disk() + u'/' + name;
@@ -61,15 +53,6 @@ int BusiestBank(const Desk& desk) {
         most = std::max(most, count);
     }
     return busiest;
-}
-
-/// A consignor is looked up, walked through and saved as it stands.
-void KeepConsignor(Desk& desk, int button, const QString& form, int code, const QString& picture) {
-    OpenFromMenu(desk, button, form);
-    WalkTo(desk, u"Btn(2)"_s, {{u"ebox(0)"_s, QString::number(code)}});
-    TakeForm(desk, picture, form);
-    desk.clerk.enter();
-    CloseForm(desk, form);
 }
 
 void RequireSaid(Desk& desk, const QString& wanted) {
@@ -112,11 +95,6 @@ void MendBranch(Desk& desk) {
 
 }  // namespace
 
-void KeepConsignors(Desk& desk) {
-    KeepConsignor(desk, 14, u"MstBnk_frm"_s, sample::BankAt(0).code, u"bank-consignor"_s);
-    KeepConsignor(desk, 15, u"MstYubin_frm"_s, sample::kPostOffice, u"post-consignor"_s);
-}
-
 // Keyed as a bank's branch is, the post office's breaks its record in two.
 void ShortenBranch(Desk& desk) {
     const DebitClaims claims = ClaimsOf(desk, sample::kPostOffice);
@@ -130,9 +108,9 @@ void ShortenBranch(Desk& desk) {
 void PrintStatements(Desk& desk) {
     const int bank = BusiestBank(desk);
     OpenFromMenu(desk, 16, kBillingForm);
-    std::map<QString, QString> typed = MonthTyped(desk.options, -1);
-    typed[u"ebox(2)"_s] = DateText(DateSerial(desk.options.year, desk.options.month, kDebitDay));
-    if (bank != 0) typed[u"ebox(5)"_s] = QString::number(bank);
+    const Date debitDay = DateSerial(desk.options.year, desk.options.month, kDebitDay);
+    Texts typed = MonthTyped(desk.options, -1, {{Ebox(2), DateText(debitDay)}});
+    if (bank != 0) typed[Ebox(5)] = QString::number(bank);
     WalkTo(desk, kFirstButton, typed);
     if (bank != 0) PrintInto(desk, kBankStatementButton, OnDisk(desk, u"bank-statement.pdf"_s));
     if (ClaimsOf(desk, sample::kPostOffice).empty()) return;

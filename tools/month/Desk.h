@@ -1,19 +1,13 @@
 #pragma once
 
-#include <QString>
-#include <cstdint>
-
+#include "clerk/Clerk.h"
+#include "month/Album.h"
+#include "month/Failure.h"
+#include "month/Options.h"
 #include "month/TypedMonth.h"
-
-namespace akarix {
-class Clerk;
-}
+#include "month/WorkFolder.h"
 
 namespace akarix::month {
-
-class Album;
-class WorkFolder;
-struct Options;
 
 /// A customer of the post office whose branch was keyed with three digits.
 struct ShortBranch {

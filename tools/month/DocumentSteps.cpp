@@ -1,13 +1,9 @@
 #include <algorithm>
 
-#include "clerk/Clerk.h"
-#include "month/Desk.h"
 #include "month/Hands.h"
-#include "month/Options.h"
 #include "month/Steps.h"
 #include "month/Trade.h"
 #include "platform/runtime/Calendar.h"
-#include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 #include "values/Dates.h"
 
@@ -17,16 +13,8 @@ namespace {
 
 const QString kSlipForm = u"Slip_frm"_s;
 const QString kPaymentForm = u"SlipN2_frm"_s;
-const QString kNumberBox = u"ebox(0)"_s;
+const QString kNumberBox = Ebox(0);
 const QString kSaveButton = u"Btn(2)"_s;
-
-QString Box(const QString& name, int index) {
-    return u"%1(%2)"_s.arg(name).arg(index);
-}
-
-QString Ebox(int index) {
-    return Box(u"ebox"_s, index);
-}
 
 /// A document is saved, and the screen ready for the next.
 void SaveDocument(Desk& desk) {
@@ -45,8 +33,8 @@ Sale NewcomersSale(const Desk& desk) {
              TaxLine()}};
 }
 
-std::map<QString, QString> TextsOf(const Sale& sale) {
-    std::map<QString, QString> texts{{Ebox(1), DateText(sale.day)}, {Ebox(2), QString::number(sale.deal)}};
+Texts TextsOf(const Sale& sale) {
+    Texts texts{{Ebox(1), DateText(sale.day)}, {Ebox(2), QString::number(sale.deal)}};
     int line = 0;
     for (const SaleLine& sold : sale.lines) {
         const QString amount = Ebox(5 + 3 * line);
@@ -76,7 +64,7 @@ void TypeSale(Desk& desk, const Sale& sale) {
 // ---- payments
 
 void TypePart(Desk& desk, int line, const PaymentPart& part) {
-    RequireFocus(desk, Box(u"dKubun"_s, line));
+    RequireFocus(desk, u"dKubun(%1)"_s.arg(line));
     for (int i = 0; i < part.paymentClass; ++i)
         desk.clerk.down();
     desk.clerk.enter();
@@ -97,10 +85,9 @@ void TypePayment(Desk& desk, const Payment& payment) {
 
 /// What the customer owed and paid in the half year before stands beside the slip.
 void ShowLastHalfYear(Desk& desk) {
-    const int from = desk.options.year * 12 + desk.options.month - 1 - 6;
+    const Texts from = MonthTyped(desk.options, -6);
     desk.clerk.click(Ebox(7));
-    WalkTo(desk, u"Btn(4)"_s,
-           {{Ebox(7), QString::number(from / 12)}, {Ebox(8), QString::number(from % 12 + 1)}});
+    WalkTo(desk, u"Btn(4)"_s, {{Ebox(7), from.at(Ebox(0))}, {Ebox(8), from.at(Ebox(1))}});
     desk.clerk.enter();
 }
 

@@ -2,15 +2,18 @@
 
 #include <QFileInfo>
 
-#include "clerk/Clerk.h"
-#include "month/Album.h"
-#include "month/Desk.h"
-#include "month/Failure.h"
-#include "month/Options.h"
-#include "platform/forms/Form.h"
-#include "platform/runtime/Literals.h"
-
 namespace akarix::month {
+
+QString Ebox(int index) {
+    return u"ebox(%1)"_s.arg(index);
+}
+
+Texts MonthTyped(const Options& options, int later, Texts more) {
+    const int index = options.year * 12 + options.month - 1 + later;
+    more[Ebox(0)] = QString::number(index / 12);
+    more[Ebox(1)] = QString::number(index % 12 + 1);
+    return more;
+}
 
 void OpenFromMenu(Desk& desk, int button, const QString& form) {
     desk.clerk.bringToFront(u"main_menu"_s);
@@ -23,7 +26,7 @@ void CloseForm(Desk& desk, const QString& form) {
     if (desk.clerk.isOpen(form)) throw Failure(form + u" が閉じません。"_s);
 }
 
-void WalkTo(Desk& desk, const QString& end, const std::map<QString, QString>& texts) {
+void WalkTo(Desk& desk, const QString& end, const Texts& texts) {
     constexpr int mostFields = 60;
     for (int i = 0; i < mostFields; ++i) {
         const QString here = desk.clerk.focusedName();
@@ -34,8 +37,21 @@ void WalkTo(Desk& desk, const QString& end, const std::map<QString, QString>& te
     throw Failure(u"Enter で %1 に着きません。"_s.arg(end));
 }
 
-void ChangeCustomer(Desk& desk, std::int32_t deal, const std::map<QString, QString>& texts,
-                    const QStringList& ticks) {
+void FinishForm(Desk& desk, const QString& form, const QString& save, const Texts& texts,
+                const QString& picture) {
+    WalkTo(desk, save, texts);
+    TakeForm(desk, picture, form);
+    desk.clerk.enter();
+    CloseForm(desk, form);
+}
+
+void KeepForm(Desk& desk, int button, const QString& form, const QString& save, const Texts& texts,
+              const QString& picture) {
+    OpenFromMenu(desk, button, form);
+    FinishForm(desk, form, save, texts, picture);
+}
+
+void ChangeCustomer(Desk& desk, std::int32_t deal, const Texts& texts, const QStringList& ticks) {
     const QString form = u"MstDeal_frm"_s;
     const QString save = u"Btn(2)"_s;
     OpenFromMenu(desk, 13, form);
@@ -45,11 +61,6 @@ void ChangeCustomer(Desk& desk, std::int32_t deal, const std::map<QString, QStri
         desk.clerk.click(tick);
     desk.clerk.click(save);
     CloseForm(desk, form);
-}
-
-std::map<QString, QString> MonthTyped(const Options& options, int later) {
-    const int index = options.year * 12 + options.month - 1 + later;
-    return {{u"ebox(0)"_s, QString::number(index / 12)}, {u"ebox(1)"_s, QString::number(index % 12 + 1)}};
 }
 
 void RequireFocus(Desk& desk, const QString& control) {

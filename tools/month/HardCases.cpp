@@ -5,15 +5,12 @@
 
 #include "ledger/Rows.h"
 #include "month/Desk.h"
-#include "month/InvoicePages.h"
-#include "month/Options.h"
+#include "platform/runtime/Currency.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix::month {
 
 namespace {
-
-constexpr std::int64_t kScaledYen = 10000;
 
 using Row = std::vector<std::int64_t>;
 
@@ -26,11 +23,30 @@ std::int64_t CountOf(const std::vector<Row>& rows, const Condition& condition) {
 std::set<std::int64_t> TariffsWithFractions(Database& db) {
     std::set<std::int64_t> patterns;
     for (const Row& row : ReadNumbers(db, u"SELECT Ptn,Kihon FROM GasKeisan"_s))
-        if (row[1] % kScaledYen != 0) patterns.insert(row[0]);
+        if (row[1] % Currency::kScale != 0) patterns.insert(row[0]);
     return patterns;
 }
 
 }  // namespace
+
+InvoicePages InvoicePagesOf(Database& db, int year, int month) {
+    constexpr int linesOfSheet = 8;
+    const QString ofMonth = u" WHERE Nendo=%1 AND Getudo=%2"_s.arg(year).arg(month);
+    std::map<std::int64_t, int> lines;
+    for (const auto& row : ReadNumbers(db, u"SELECT Deal FROM Dud"_s + ofMonth))
+        ++lines[row[0]];
+    InvoicePages pages;
+    for (const auto& row : ReadNumbers(db,
+                                       u"SELECT Deal,ZenkaiGaku,Gaku,NGaku FROM TtoD INNER JOIN Deal ON "
+                                       "TtoD.Deal=Deal.Code"_s +
+                                           ofMonth + u" AND NoSeikyu<>1"_s)) {
+        if (row[1] + row[2] - row[3] == 0) continue;
+        const int sheets = lines[row[0]] / linesOfSheet + 1;  // the gas line is one more
+        pages.all += sheets;
+        pages.ofSeveral += sheets > 1 ? 1 : 0;
+    }
+    return pages;
+}
 
 HardCases HardCasesOf(Database& db, const Desk& desk) {
     const int year = desk.options.year;
@@ -50,8 +66,11 @@ HardCases HardCasesOf(Database& db, const Desk& desk) {
         {u"マイナスの使用量"_s, CountOf(readings, [](const Row& row) { return row[0] < 0; })},
         {u"円未満のある料金"_s,
          CountOf(readings, [&](const Row& row) { return row[1] > 0 && fractions.contains(row[2]); })},
-        {u"円未満のある売上"_s,
-         CountOf(lines, [](const Row& row) { return row[0] * row[1] % (kScaledYen * kScaledYen) != 0; })},
+        {u"円未満のある売上"_s, CountOf(lines,
+                                        [](const Row& row) {
+                                            return row[0] * row[1] % (Currency::kScale * Currency::kScale) !=
+                                                   0;
+                                        })},
         {u"二頁以上の請求書"_s, InvoicePagesOf(db, year, month).ofSeveral},
         {u"請求後の売上伝票"_s, desk.lateSlips},
         {u"終わったリース"_s, desk.endedLeases},

@@ -13,6 +13,15 @@ namespace akarix::month {
 
 struct Desk;
 
+struct InvoicePages {
+    int all = 0;
+    int ofSeveral = 0;  ///< invoices of more than one page
+};
+
+/// The pages that the marked invoices of a month must have: each line of a slip and the gas take a line of
+/// the sheet.
+InvoicePages InvoicePagesOf(Database& db, int year, int month);
+
 /// What a month meets beside the usual, and how often, by what it is called.
 using HardCases = std::vector<std::pair<QString, std::int64_t>>;
 

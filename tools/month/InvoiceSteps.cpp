@@ -1,18 +1,11 @@
 #include <QFile>
 #include <QRegularExpression>
 
-#include "clerk/Clerk.h"
-#include "month/Desk.h"
-#include "month/Failure.h"
 #include "month/Hands.h"
-#include "month/InvoicePages.h"
-#include "month/Options.h"
+#include "month/HardCases.h"
 #include "month/Steps.h"
-#include "month/WorkFolder.h"
 #include "output/PB.h"
-#include "platform/forms/FlexGrid.h"
 #include "platform/print/PrinterSurface.h"
-#include "platform/runtime/Literals.h"
 #include "reports/InvoiceScript.h"
 #include "store/Settings.h"
 #include "store/dbAccess.h"
@@ -73,8 +66,8 @@ void DrawInvoice(Desk& desk) {
     const std::int32_t deal = TellingCustomer(desk.clerk.find<FlexGrid>(kInvoiceForm + u"/List"_s));
     const QString code = QString::number(deal);
     desk.clerk.bringToFront(kInvoiceForm);
-    desk.clerk.click(u"ebox(3)"_s);
-    WalkTo(desk, kPrintButton, {{u"ebox(3)"_s, code}, {u"ebox(4)"_s, code}});
+    desk.clerk.click(Ebox(3));
+    WalkTo(desk, kPrintButton, {{Ebox(3), code}, {Ebox(4), code}});
     const QString path = desk.folder.path(u"script.pdf"_s);
     ExpectPrinter(desk, path);
     desk.clerk.answerAlert();

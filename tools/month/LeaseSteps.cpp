@@ -1,13 +1,9 @@
 #include <optional>
 #include <set>
 
-#include "clerk/Clerk.h"
 #include "ledger/Rows.h"
-#include "month/Desk.h"
 #include "month/Hands.h"
-#include "month/Options.h"
 #include "month/Steps.h"
-#include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 
 namespace akarix::month {

@@ -1,10 +1,5 @@
-#include "clerk/Clerk.h"
-#include "month/Album.h"
-#include "month/Desk.h"
 #include "month/Hands.h"
 #include "month/Steps.h"
-#include "month/TypedMonth.h"
-#include "platform/runtime/Literals.h"
 
 namespace akarix::month {
 
@@ -42,7 +37,7 @@ void ShowLookups(Desk& desk) {
     CloseForm(desk, kSlipForm);
 
     OpenFromMenu(desk, 2, kPaymentForm);
-    WalkTo(desk, u"ebox(2)"_s, {{u"ebox(1)"_s, QString::number(desk.typed.payments.begin()->second.deal)}});
+    WalkTo(desk, Ebox(2), {{Ebox(1), QString::number(desk.typed.payments.begin()->second.deal)}});
     LookAt(desk, u"F6(0)"_s, u"HelpN_frm"_s, u"payment-lookup"_s);
     CloseForm(desk, kPaymentForm);
 

@@ -1,22 +1,13 @@
-#include "clerk/Clerk.h"
-#include "month/Album.h"
-#include "month/Desk.h"
 #include "month/Hands.h"
 #include "month/Steps.h"
-#include "platform/forms/FlexGrid.h"
-#include "platform/forms/Form.h"
-#include "platform/runtime/Literals.h"
 #include "sample/Names.h"
+#include "sample/SampleMasters.h"
 
 namespace akarix::month {
 
 namespace {
 
 const QString kSaveButton = u"Btn(2)"_s;
-
-QString Ebox(int index) {
-    return u"ebox(%1)"_s.arg(index);
-}
 
 /// A price is worked out on the calculator that the tariff screen offers.
 void Calculate(Desk& desk) {
@@ -90,12 +81,8 @@ void KeepTariff(Desk& desk) {
 }
 
 void KeepRoute(Desk& desk) {
-    const QString form = u"MstRte_frm"_s;
-    OpenFromMenu(desk, 12, form);
-    WalkTo(desk, kSaveButton, {{Ebox(1), u"ﾐﾅﾐﾏﾁ"_s}, {Ebox(2), u"南町地区"_s}, {Ebox(3), u"26"_s}});
-    TakeForm(desk, u"route"_s, form);
-    desk.clerk.enter();
-    CloseForm(desk, form);
+    KeepForm(desk, 12, u"MstRte_frm"_s, kSaveButton,
+             {{Ebox(1), u"ﾐﾅﾐﾏﾁ"_s}, {Ebox(2), u"南町地区"_s}, {Ebox(3), u"26"_s}}, u"route"_s);
 }
 
 void KeepCustomer(Desk& desk) {
@@ -108,18 +95,16 @@ void KeepCustomer(Desk& desk) {
 
     desk.newCustomer = desk.clerk.text(Ebox(0)).toInt();
     const sample::Town& town = sample::TownOf(0, 0);
-    WalkTo(desk, kSaveButton,
-           {{Ebox(22), QString::number(sample::kRouteCount + 1)},
-            {Ebox(1), u"ﾐﾅﾐ ﾊﾅｺ"_s},
-            {Ebox(2), u"南　花子"_s},
-            {Ebox(4), QString::fromUtf16(town.zip)},
-            {Ebox(7), u"0000-12-3456"_s},
-            {Ebox(10), u"1"_s},
-            {Ebox(12), u"7"_s},
-            {Ebox(15), desk.newTariff}});
-    TakeForm(desk, u"new-customer"_s, form);
-    desk.clerk.enter();
-    CloseForm(desk, form);
+    FinishForm(desk, form, kSaveButton,
+               {{Ebox(22), QString::number(sample::kRouteCount + 1)},
+                {Ebox(1), u"ﾐﾅﾐ ﾊﾅｺ"_s},
+                {Ebox(2), u"南　花子"_s},
+                {Ebox(4), QString::fromUtf16(town.zip)},
+                {Ebox(7), u"0000-12-3456"_s},
+                {Ebox(10), u"1"_s},
+                {Ebox(12), u"7"_s},
+                {Ebox(15), desk.newTariff}},
+               u"new-customer"_s);
 }
 
 void KeepGoods(Desk& desk) {
@@ -131,13 +116,28 @@ void KeepGoods(Desk& desk) {
 
     desk.newItem = desk.clerk.text(Ebox(0)).toInt();
     desk.newItemPrice = 32800;
-    WalkTo(desk, kSaveButton,
-           {{Ebox(1), u"ｶﾞｽｽｲﾊﾝｷ"_s},
-            {Ebox(2), u"ガス炊飯器 5合炊き"_s},
-            {Ebox(3), QString::number(desk.newItemPrice)}});
-    TakeForm(desk, u"new-goods"_s, form);
-    desk.clerk.enter();
-    CloseForm(desk, form);
+    FinishForm(desk, form, kSaveButton,
+               {{Ebox(1), u"ｶﾞｽｽｲﾊﾝｷ"_s},
+                {Ebox(2), u"ガス炊飯器 5合炊き"_s},
+                {Ebox(3), QString::number(desk.newItemPrice)}},
+               u"new-goods"_s);
+}
+
+void KeepSettings(Desk& desk) {
+    desk.typed.alarmFee = 305;
+    desk.typed.acuFee = 1220;
+    KeepForm(desk, 18, u"etc_frm"_s, u"Btn(1)"_s, {}, u"settings"_s);
+    KeepForm(desk, 9, u"Keihoki_frm"_s, u"Btn"_s,
+             {{Ebox(0), QString::number(desk.typed.alarmFee)}, {Ebox(1), QString::number(desk.typed.acuFee)}},
+             u"lease-fees"_s);
+}
+
+// A consignor is looked up, walked through and saved as it stands.
+void KeepConsignors(Desk& desk) {
+    KeepForm(desk, 14, u"MstBnk_frm"_s, kSaveButton, {{Ebox(0), QString::number(sample::BankAt(0).code)}},
+             u"bank-consignor"_s);
+    KeepForm(desk, 15, u"MstYubin_frm"_s, kSaveButton, {{Ebox(0), QString::number(sample::kPostOffice)}},
+             u"post-consignor"_s);
 }
 
 }  // namespace akarix::month

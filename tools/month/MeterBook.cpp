@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ledger/Rows.h"
+#include "platform/runtime/Currency.h"
 #include "platform/runtime/Literals.h"
 #include "sample/Season.h"
 
@@ -12,8 +13,6 @@ namespace {
 
 constexpr int kMeterEnd = 99999;
 constexpr int kNewHousehold = 80;  ///< tenths in its first month
-constexpr std::int64_t kScaledTenth = 1000;
-
 int SeasonOf(std::int64_t month) {
     return sample::kSeason[month - 1];
 }
@@ -31,7 +30,7 @@ MeterBook::MeterBook(Database& db, int year, int month) : month_(month) {
                                        "WHERE Nendo*100+Getudo<%1"_s.arg(year * 100 + month))) {
         if (row[2] < 0) continue;  // misread
         Sum& sum = sums[static_cast<std::int32_t>(row[0])];
-        sum.tenths += row[2] / kScaledTenth * 100 / SeasonOf(row[1]);
+        sum.tenths += row[2] / (Currency::kScale / 10) * 100 / SeasonOf(row[1]);
         ++sum.months;
     }
     for (const auto& [deal, sum] : sums)

@@ -9,14 +9,12 @@
 #include "month/DebitCheck.h"
 #include "month/Failure.h"
 #include "month/TypedMonth.h"
+#include "platform/runtime/Currency.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix::month {
 
 namespace {
-
-constexpr std::int64_t kScaledTenth = 1000;
-constexpr std::int64_t kScaledYen = 10000;
 
 struct Stored {
     std::int32_t deal = 0;
@@ -33,7 +31,7 @@ QStringList CompareReadings(Database& db, int year, int month, std::map<std::int
                                            .arg(month))) {
         const auto deal = static_cast<std::int32_t>(row[0]);
         const auto tenths = [&row](std::size_t column) {
-            return static_cast<int>(row[column] / kScaledTenth);
+            return static_cast<int>(row[column] / (Currency::kScale / 10));
         };
         const MeterNote stored{tenths(1), tenths(2), tenths(3)};
         const auto note = typed.find(deal);
@@ -69,7 +67,8 @@ QStringList CompareDocuments(Database& db, int month, const QString& name, const
         const auto found = stored.extract(dno);
         if (found.empty())
             differences << u"%1 %2: 入力した伝票がありません。"_s.arg(name).arg(dno);
-        else if (found.mapped() != Stored{note.deal, month + (note.nextMonth ? 1 : 0), note.yen * kScaledYen})
+        else if (found.mapped() !=
+                 Stored{note.deal, month + (note.nextMonth ? 1 : 0), note.yen * Currency::kScale})
             differences << u"%1 %2: 入力した内容と違います。"_s.arg(name).arg(dno);
     }
     for (const auto& [dno, document] : stored)
@@ -85,7 +84,7 @@ QStringList CompareLeases(Database& db, int year, int month, const TypedMonth& t
                                        u"SELECT Deal,Dno,Gaku FROM Dud WHERE Nendo=%1 AND "
                                        "Getudo=%2 AND CreateAuto=1 ORDER BY Dno,Eda"_s.arg(year)
                                            .arg(month)))
-        slips[static_cast<std::int32_t>(row[0])][row[1]].push_back(row[2] / kScaledYen);
+        slips[static_cast<std::int32_t>(row[0])][row[1]].push_back(row[2] / Currency::kScale);
     QStringList differences;
     for (const auto& row : ReadNumbers(db, u"SELECT Code,ACU,Keihou FROM Deal"_s)) {
         const auto deal = static_cast<std::int32_t>(row[0]);

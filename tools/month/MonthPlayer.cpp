@@ -2,20 +2,17 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTimer>
 #include <algorithm>
-#include <array>
+#include <functional>
 
-#include "clerk/Clerk.h"
-#include "month/Album.h"
 #include "month/Desk.h"
-#include "month/Failure.h"
 #include "month/MonthCheck.h"
-#include "month/Options.h"
 #include "month/Steps.h"
 #include "month/Summary.h"
-#include "month/WorkFolder.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
@@ -34,7 +31,7 @@ struct RoadStep {
 
 constexpr int kMonthEnd = 31;
 
-constexpr std::array<RoadStep, 33> kRoad{{
+constexpr RoadStep kRoad[] = {
     {u"起動", 1, StartProgram},
     {u"料金表", 1, KeepTariff},
     {u"地区マスター", 1, KeepRoute},
@@ -68,7 +65,7 @@ constexpr std::array<RoadStep, 33> kRoad{{
     {u"得意先残の表示", kMonthEnd, ShowBalances},
     {u"一覧とエラー", kMonthEnd, ShowLookups},
     {u"終了", kMonthEnd, EndProgram},
-}};
+};
 
 /// A step, and what the dialogs had to say to it.
 void PlayStep(const RoadStep& step, Desk& desk) {
@@ -95,6 +92,15 @@ void TurnTo(const Options& options, int day) {
     SetClock(DateSerial(options.year, options.month, std::min(day, Day(last))));
 }
 
+using StepTimes = std::vector<StepTime>;
+
+void Timed(StepTimes& times, const QString& name, const std::function<void()>& step) {
+    QElapsedTimer clock;
+    clock.start();
+    step();
+    times.push_back({name, static_cast<double>(clock.nsecsElapsed()) / 1e9});
+}
+
 /// Plays the whole road from inside the application's events, where the program lives; the menu's end is
 /// the events' end. What the road raises comes out here.
 void WalkMonth(Desk& desk, StepTimes& times) {
@@ -103,7 +109,7 @@ void WalkMonth(Desk& desk, StepTimes& times) {
         try {
             for (const RoadStep& step : kRoad) {
                 TurnTo(desk.options, step.day);
-                times.run(QString::fromUtf16(step.name), [&] { PlayStep(step, desk); });
+                Timed(times, QString::fromUtf16(step.name), [&] { PlayStep(step, desk); });
             }
         } catch (...) {
             failure = std::current_exception();
@@ -117,49 +123,27 @@ void WalkMonth(Desk& desk, StepTimes& times) {
     if (failure) std::rethrow_exception(failure);
 }
 
-/// The dealer's folder is the current one while the program is at work.
-class AtDealer {
- public:
-    explicit AtDealer(const WorkFolder& folder) : previous_(QDir::currentPath()) {
-        QDir::setCurrent(folder.dealer());
-    }
-    ~AtDealer() { QDir::setCurrent(previous_); }
-    AtDealer(const AtDealer&) = delete;
-    AtDealer& operator=(const AtDealer&) = delete;
-
- private:
-    QString previous_;
-};
-
-void WriteText(const QString& path, const QString& text) {
-    QFile file(path);
-    if (!file.open(QFile::WriteOnly) || file.write(text.toUtf8()) < 0)
-        throw Failure(path + u" に書き込めません。"_s);
-}
-
 }  // namespace
 
 QString PlayMonth(const Options& options) {
     const WorkFolder folder(options.out);
     StepTimes times;
-    times.run(u"販売店を作る"_s, [&] { folder.makeDealer(options); });
+    Timed(times, u"販売店を作る"_s, [&] { folder.makeDealer(options); });
 
     Clerk clerk;
     Album album(folder.path(u"screens"_s));
     Desk desk{.options = options, .folder = folder, .clerk = clerk, .album = album};
-    {
-        const AtDealer place(folder);
-        WalkMonth(desk, times);
-    }
+    const QString here = QDir::currentPath();
+    QDir::setCurrent(folder.dealer());
+    const auto back = qScopeGuard([&here] { QDir::setCurrent(here); });
+    WalkMonth(desk, times);
 
     const sample::OpenStore store(folder.database());
-    times.run(u"再計算"_s, [&] { CheckMonth(*gDb, options.year, options.month, desk.typed); });
-    Figures figures = ReadFigures(*gDb, options.year, options.month);
-    figures.invoicePages = desk.invoicePages;
-    figures.debit = TotalsOf(desk.typed.debits);
-    figures.hardCases = HardCasesOf(*gDb, desk);
-    const QString summary = SummaryText(options.year, options.month, figures, times);
-    WriteText(folder.path(u"summary.txt"_s), summary);
+    Timed(times, u"再計算"_s, [&] { CheckMonth(*gDb, options.year, options.month, desk.typed); });
+    const QString summary = SummaryText(*gDb, desk, times);
+    QFile file(folder.path(u"summary.txt"_s));
+    if (!file.open(QFile::WriteOnly) || file.write(summary.toUtf8()) < 0)
+        throw Failure(file.fileName() + u" に書き込めません。"_s);
     return summary;
 }
 

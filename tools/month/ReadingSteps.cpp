@@ -1,15 +1,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "clerk/Clerk.h"
-#include "month/Album.h"
-#include "month/Desk.h"
-#include "month/Failure.h"
 #include "month/Hands.h"
-#include "month/Options.h"
 #include "month/Steps.h"
-#include "platform/forms/FlexGrid.h"
-#include "platform/runtime/Literals.h"
 #include "store/dbAccess.h"
 
 namespace akarix::month {
@@ -50,10 +43,7 @@ void TypeExchange(Desk& desk, FlexGrid& list, int row, const MeterNote& note) {
 
 void OpenSheet(Desk& desk) {
     OpenFromMenu(desk, 1, kSheetForm);
-    WalkTo(desk, u"Command1"_s,
-           {{u"ebox(0)"_s, QString::number(desk.options.year)},
-            {u"ebox(1)"_s, QString::number(desk.options.month)},
-            {u"ebox(2)"_s, u"25"_s}});
+    WalkTo(desk, u"Command1"_s, MonthTyped(desk.options, 0, {{Ebox(2), u"25"_s}}));
     desk.clerk.enter();
     const int rows = Sheet(desk).Rows() - 1;
     const int wanted = desk.options.customers + (desk.newCustomer != 0 ? 1 : 0);

@@ -1,11 +1,6 @@
-#include "clerk/Clerk.h"
-#include "month/Album.h"
-#include "month/Desk.h"
-#include "month/Failure.h"
 #include "month/Hands.h"
 #include "month/Steps.h"
 #include "platform/forms/Label.h"
-#include "platform/runtime/Literals.h"
 #include "shell/main_menu.h"
 #include "store/dbAccess.h"
 

@@ -4,31 +4,29 @@
 #include <set>
 
 #include "ledger/Rows.h"
-#include "platform/runtime/Currency.h"
+#include "month/Desk.h"
+#include "month/HardCases.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
+#include "platform/runtime/Text.h"
 
 namespace akarix::month {
 
 namespace {
 
-/// How many columns of a terminal a text takes; kana and kanji take two.
-int ColumnsOf(const QString& text) {
-    int columns = 0;
-    for (const QChar letter : text)
-        columns += letter.unicode() > 0xff ? 2 : 1;
-    return columns;
-}
-
 QString Line(const QString& label, const QString& value, const QString& unit) {
     constexpr int labelColumns = 20;
     constexpr int valueColumns = 16;
-    const QString gap(std::max(0, labelColumns - ColumnsOf(label)), u' ');
+    const QString gap(std::max(0, labelColumns - ByteLength932(label)), u' ');
     return label + gap + value.rightJustified(valueColumns) + u' ' + unit + u'\n';
 }
 
-QString Amount(std::int64_t scaled, const QString& mask) {
-    return Format(Currency::FromScaled(scaled), mask);
+QString Line(const QString& label, std::int64_t value, const QString& unit) {
+    return Line(label, Format(Currency(value), u"#,##0"_s), unit);
+}
+
+QString Line(const QString& label, Currency amount, const QString& unit) {
+    return Line(label, Format(amount, unit == u"円" ? u"#,##0"_s : u"#,##0.0"_s), unit);
 }
 
 std::int64_t CountDocuments(Database& db, const QString& table, const QString& ofMonth) {
@@ -38,60 +36,54 @@ std::int64_t CountDocuments(Database& db, const QString& table, const QString& o
     return static_cast<std::int64_t>(numbers.size());
 }
 
-}  // namespace
-
-Figures ReadFigures(Database& db, int year, int month) {
-    const QString ofMonth = u" WHERE Nendo=%1 AND Getudo=%2"_s.arg(year).arg(month);
-    Figures figures;
-    figures.customers = ReadNumbers(db, u"SELECT COUNT(*) FROM Deal WHERE Code>0"_s)[0][0];
-    for (const auto& row : ReadNumbers(db, u"SELECT KonkaiMeter,Suu,Gaku FROM Dgd"_s + ofMonth)) {
-        const bool wasRead = row[0] != 0 || row[1] != 0 || row[2] != 0;
-        figures.readings += wasRead ? 1 : 0;
-        figures.usage += row[1];
-    }
-    for (const auto& row :
-         ReadNumbers(db, u"SELECT ZenkaiGaku,GGaku,UGaku,Gaku,NGaku FROM TtoD"_s + ofMonth)) {
-        figures.before += row[0];
-        figures.gas += row[1];
-        figures.sales += row[2];
-        figures.billed += row[3];
-        figures.paid += row[4];
-        figures.after += row[0] + row[1] + row[2] - row[4];
-    }
-    figures.slips = CountDocuments(db, u"Dud"_s, ofMonth);
-    figures.payments = CountDocuments(db, u"Dny"_s, ofMonth);
-    return figures;
+/// The sums of the columns of a question.
+std::vector<Currency> SumsOf(const std::vector<std::vector<std::int64_t>>& rows, std::size_t columns) {
+    std::vector<Currency> sums(columns);
+    for (const auto& row : rows)
+        for (std::size_t i = 0; i < columns; ++i)
+            sums[i] += Currency::FromScaled(row[i]);
+    return sums;
 }
 
-QString SummaryText(int year, int month, const Figures& figures, const StepTimes& times) {
-    const QString whole = u"#,##0"_s;
-    const QString tenths = u"#,##0.0"_s;
+}  // namespace
+
+QString SummaryText(Database& db, const Desk& desk, const std::vector<StepTime>& times) {
+    const QString ofMonth = u" WHERE Nendo=%1 AND Getudo=%2"_s.arg(desk.options.year).arg(desk.options.month);
+    const auto readings = ReadNumbers(db, u"SELECT KonkaiMeter,Suu,Gaku FROM Dgd"_s + ofMonth);
+    const auto read = std::count_if(readings.begin(), readings.end(), [](const auto& row) {
+        return row[0] != 0 || row[1] != 0 || row[2] != 0;
+    });
+    const auto ledger =
+        SumsOf(ReadNumbers(db, u"SELECT ZenkaiGaku,GGaku,UGaku,Gaku,NGaku FROM TtoD"_s + ofMonth), 5);
+    const Currency before = ledger[0], gas = ledger[1], sales = ledger[2], billed = ledger[3],
+                   paid = ledger[4];
+    const DebitFigures debit = TotalsOf(desk.typed.debits);
     const QString yen = u"円"_s;
-    QString text = u"%1年%2月分\n\n"_s.arg(year).arg(month);
-    const auto count = [](std::int64_t value) { return Format(Currency(value), u"#,##0"_s); };
-    text += Line(u"得意先"_s, count(figures.customers), u"件"_s);
-    text += Line(u"検針"_s, count(figures.readings), u"件"_s);
-    text += Line(u"使用量"_s, Amount(figures.usage, tenths), u"m3"_s);
-    text += Line(u"ガス料金"_s, Amount(figures.gas, whole), yen);
-    text += Line(u"売上伝票"_s, count(figures.slips), u"枚"_s);
-    text += Line(u"物販"_s, Amount(figures.sales, whole), yen);
-    text += Line(u"当月請求"_s, Amount(figures.billed, whole), yen);
-    text += Line(u"前月残"_s, Amount(figures.before, whole), yen);
-    text += Line(u"入金伝票"_s, count(figures.payments), u"枚"_s);
-    text += Line(u"入金"_s, Amount(figures.paid, whole), yen);
-    text += Line(u"次月繰越"_s, Amount(figures.after, whole), yen);
-    text += Line(u"請求書"_s, count(figures.invoicePages), u"頁"_s);
     const QString records = u"件"_s;
-    text += Line(u"口座振替の依頼"_s, count(figures.debit.asked), records);
-    text += Line(u"依頼額"_s, count(figures.debit.askedYen), yen);
-    text += Line(u"口座振替の入金"_s, count(figures.debit.debited), records);
-    text += Line(u"振替入金額"_s, count(figures.debit.debitedYen), yen);
+
+    QString text = u"%1年%2月分\n\n"_s.arg(desk.options.year).arg(desk.options.month);
+    text += Line(u"得意先"_s, ReadNumbers(db, u"SELECT COUNT(*) FROM Deal WHERE Code>0"_s)[0][0], records);
+    text += Line(u"検針"_s, read, records);
+    text += Line(u"使用量"_s, SumsOf(readings, 3)[1], u"m3"_s);
+    text += Line(u"ガス料金"_s, gas, yen);
+    text += Line(u"売上伝票"_s, CountDocuments(db, u"Dud"_s, ofMonth), u"枚"_s);
+    text += Line(u"物販"_s, sales, yen);
+    text += Line(u"当月請求"_s, billed, yen);
+    text += Line(u"前月残"_s, before, yen);
+    text += Line(u"入金伝票"_s, CountDocuments(db, u"Dny"_s, ofMonth), u"枚"_s);
+    text += Line(u"入金"_s, paid, yen);
+    text += Line(u"次月繰越"_s, before + gas + sales - paid, yen);
+    text += Line(u"請求書"_s, std::int64_t{desk.invoicePages}, u"頁"_s);
+    text += Line(u"口座振替の依頼"_s, debit.asked, records);
+    text += Line(u"依頼額"_s, debit.askedYen, yen);
+    text += Line(u"口座振替の入金"_s, debit.debited, records);
+    text += Line(u"振替入金額"_s, debit.debitedYen, yen);
     text += u'\n';
-    for (const auto& [label, met] : figures.hardCases)
-        text += Line(label, count(met), records);
+    for (const auto& [label, met] : HardCasesOf(db, desk))
+        text += Line(label, met, records);
     text += u'\n';
-    for (const StepTimes::Step& step : times.steps())
-        text += Line(step.name, QString::number(step.seconds, 'f', 2), u"秒"_s);
+    for (const auto& [name, seconds] : times)
+        text += Line(name, QString::number(seconds, 'f', 2), u"秒"_s);
     return text;
 }
 

@@ -6,6 +6,7 @@
 
 #include "ledger/Rows.h"
 #include "platform/runtime/Calendar.h"
+#include "platform/runtime/Currency.h"
 #include "platform/runtime/Literals.h"
 #include "sample/Dice.h"
 #include "sample/SampleMasters.h"
@@ -13,8 +14,6 @@
 namespace akarix::month {
 
 namespace {
-
-constexpr std::int64_t kScaledYen = 10000;
 
 struct Buyer {
     std::int32_t deal = 0;
@@ -137,7 +136,7 @@ std::map<std::int32_t, std::int64_t> OwedAfter(Database& db, int year, int month
                      u"SELECT Deal,ZenkaiGaku,GGaku,UGaku,NGaku FROM TtoD WHERE Nendo=%1 AND "
                      "Getudo=%2"_s.arg(year)
                          .arg(month)))
-        owed[static_cast<std::int32_t>(row[0])] = (row[1] + row[2] + row[3] - row[4]) / kScaledYen;
+        owed[static_cast<std::int32_t>(row[0])] = (row[1] + row[2] + row[3] - row[4]) / Currency::kScale;
     return owed;
 }
 
@@ -147,7 +146,7 @@ void TakeOffPaid(Database& db, int year, int month, std::map<std::int32_t, std::
                                        u"SELECT Deal,Gaku FROM Dny WHERE Nendo=%1 AND Getudo=%2 AND "
                                        "Hizuke<#%1/%2/1#"_s.arg(year)
                                            .arg(month)))
-        owed[static_cast<std::int32_t>(row[0])] -= row[1] / kScaledYen;
+        owed[static_cast<std::int32_t>(row[0])] -= row[1] / Currency::kScale;
 }
 
 sample::Dice DiceOf(int year, int month, std::uint64_t purpose) {
