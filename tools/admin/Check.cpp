@@ -1,10 +1,8 @@
-#include "admin/Check.h"
-
-#include <QCommandLineParser>
 #include <QFileInfo>
 #include <algorithm>
 
 #include "admin/CheckReport.h"
+#include "admin/Command.h"
 #include "admin/FileClaim.h"
 #include "admin/FileReport.h"
 #include "admin/MonthArgument.h"
@@ -12,7 +10,6 @@
 #include "admin/Terminal.h"
 #include "platform/dao/Database.h"
 #include "platform/runtime/Literals.h"
-#include "platform/runtime/RuntimeError.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
 #include "values/Text.h"
@@ -20,8 +17,6 @@
 namespace akarix::admin {
 
 namespace {
-
-enum Finding { Clean = 0, Found = 1, Unreadable = 2 };
 
 const char* const kHelpText =
     "使い方: akarix-admin check [ファイル] [--since 年/月]\n\n"
@@ -90,32 +85,19 @@ int CheckFile(const QString& path, int since) {
     return std::max<int>(CheckFigures(path, since), state.sound() ? Clean : Found);
 }
 
-int Check(const QStringList& arguments) {
-    QCommandLineParser parser;
-    parser.addOption(QCommandLineOption(u"since"_s, QString(), u"month"_s));
-    const bool understood = parser.parse(QStringList(QString()) + arguments);
-    const auto since = ReadMonth(parser.value(u"since"_s));
-    if (!understood || parser.positionalArguments().size() > 1 || (parser.isSet(u"since"_s) && !since)) {
-        TellWrongUse(u"check"_s);
-        return WrongUse;
-    }
-    const QString path = parser.positionalArguments().value(0, DatabaseName());
-    if (!QFileInfo(path).isFile()) {
-        TellError(u"ファイルがありません: %1\n"_s.arg(path));
-        return Unreadable;
-    }
-    try {
-        return CheckFile(path, since ? since->number() : 0);
-    } catch (const RuntimeError& error) {
-        TellError(u"エラー %1: %2\n"_s.arg(error.number()).arg(error.description()));
-        return Unreadable;
-    }
+int Check(const QCommandLineParser& given) {
+    const auto since = ReadMonth(given.value(u"since"_s));
+    if (given.isSet(u"since"_s) && !since) throw Misuse();
+    const QString path = given.positionalArguments().value(0, DatabaseName());
+    if (!QFileInfo(path).isFile()) throw Stop{Unreadable, u"ファイルがありません: %1"_s.arg(path)};
+    return CheckFile(path, since ? since->number() : 0);
 }
 
 }  // namespace
 
 Command CheckCommand() {
-    return {u"check"_s, u"ファイルと台帳を調べる"_s, QString::fromUtf8(kHelpText), Check};
+    return {u"check"_s, u"ファイルと台帳を調べる"_s, kHelpText, {{u"since"_s, {}, u"month"_s}}, {0, 1}, Check,
+            Unreadable};
 }
 
 }  // namespace akarix::admin

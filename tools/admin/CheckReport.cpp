@@ -8,75 +8,48 @@ namespace akarix::admin {
 
 namespace {
 
+template <class Key>
 struct Word {
-    const char16_t* of;
+    Key of;
     const char16_t* word;
 };
 
 /// The screens' words for the columns of the ledger.
-const Word kColumnWords[] = {{u"ZenkaiGaku", u"前月請求"}, {u"GGaku", u"LPガス"}, {u"UGaku", u"売上金額"},
-                             {u"Gaku", u"請求額"},         {u"NGaku", u"入金額"}, {u"行", u"行がない"}};
+constexpr Word<QStringView> kColumnWords[] = {{u"ZenkaiGaku", u"前月請求"}, {u"GGaku", u"LPガス"},
+                                              {u"UGaku", u"売上金額"},      {u"Gaku", u"請求額"},
+                                              {u"NGaku", u"入金額"},        {u"行", u"行がない"}};
 
-QString WordOf(const QString& column) {
-    for (const Word& entry : kColumnWords)
-        if (column == QStringView(entry.of)) return QString::fromUtf16(entry.word);
-    return column;
-}
+constexpr Word<Cause> kCauseWords[] = {
+    {Cause::HandSet, u"繰越を手で決めた"},
+    {Cause::NotBilledAgain, u"請求処理のあとに変わった（やり直していない）"},
+    {Cause::PaidAfterBilling, u"請求処理のあとの入金"},
+    {Cause::DebitReadBack, u"口座振替の読込で置きかわった"},
+    {Cause::SourceGone, u"もとの検針や入金がない"},
+    {Cause::Unknown, u"不明"}};
 
-QString WordOf(Cause cause) {
-    switch (cause) {
-        case Cause::HandSet:
-            return u"繰越を手で決めた"_s;
-        case Cause::NotBilledAgain:
-            return u"請求処理のあとに変わった（やり直していない）"_s;
-        case Cause::PaidAfterBilling:
-            return u"請求処理のあとの入金"_s;
-        case Cause::DebitReadBack:
-            return u"口座振替の読込で置きかわった"_s;
-        case Cause::SourceGone:
-            return u"もとの検針や入金がない"_s;
-        case Cause::Unknown:
-            break;
-    }
-    return u"不明"_s;
-}
+// %1 is what is usual.
+constexpr Word<Doubt> kDoubtWords[] = {{Doubt::Negative, u"使用量がマイナス"},
+                                       {Doubt::NoCharge, u"使用量があるのに料金が 0"},
+                                       {Doubt::NotMeters, u"指針からの計算（%1）と違う"},
+                                       {Doubt::NotLast, u"前回が、最後に読んだ値（%1）と違う"},
+                                       {Doubt::NeverRead, u"読まないまま請求した（%1 か月）"},
+                                       {Doubt::FarAbove, u"この一年の最大（%1）よりはるかに多い"},
+                                       {Doubt::FarBelow, u"この一年の最小（%1）よりはるかに少ない"}};
 
-QString WordOf(Doubt doubt, const QString& usual) {
-    switch (doubt) {
-        case Doubt::Negative:
-            return u"使用量がマイナス"_s;
-        case Doubt::NoCharge:
-            return u"使用量があるのに料金が 0"_s;
-        case Doubt::NotMeters:
-            return u"指針からの計算（%1）と違う"_s.arg(usual);
-        case Doubt::NotLast:
-            return u"前回が、最後に読んだ値（%1）と違う"_s.arg(usual);
-        case Doubt::NeverRead:
-            return u"読まないまま請求した（%1 か月）"_s.arg(usual);
-        case Doubt::FarAbove:
-            return u"この一年の最大（%1）よりはるかに多い"_s.arg(usual);
-        case Doubt::FarBelow:
-            break;
-    }
-    return u"この一年の最小（%1）よりはるかに少ない"_s.arg(usual);
-}
+// %1 is the line.
+constexpr Word<LeaseFault> kLeaseWords[] = {
+    {LeaseFault::Missing, u"%1がない"},
+    {LeaseFault::NotLeased, u"得意先に印がないのに%1がある"},
+    {LeaseFault::LineDoubled, u"%1が重なっている"},
+    {LeaseFault::SlipDoubled, u"リースの伝票が何枚もある"},
+    {LeaseFault::NumberShared, u"同じ番号の伝票がほかの月か得意先にもある"},
+    {LeaseFault::UnknownLine, u"リースではない行「%1」がある"}};
 
-QString WordOf(const LeaseFinding& finding) {
-    switch (finding.fault) {
-        case LeaseFault::Missing:
-            return u"%1がない"_s.arg(finding.line);
-        case LeaseFault::NotLeased:
-            return u"得意先に印がないのに%1がある"_s.arg(finding.line);
-        case LeaseFault::LineDoubled:
-            return u"%1が重なっている"_s.arg(finding.line);
-        case LeaseFault::SlipDoubled:
-            return u"リースの伝票が何枚もある"_s;
-        case LeaseFault::NumberShared:
-            return u"同じ番号の伝票がほかの月か得意先にもある"_s;
-        case LeaseFault::UnknownLine:
-            break;
-    }
-    return u"リースではない行「%1」がある"_s.arg(finding.line);
+template <class Key, std::size_t Count>
+QString WordFor(const Word<Key> (&words)[Count], const Key& key, const QString& filling = {}) {
+    for (const Word<Key>& entry : words)
+        if (entry.of == key) return QString::fromUtf16(entry.word).replace(u"%1"_s, filling);
+    return {};
 }
 
 /// With thousands marks: "-1,234.5".
@@ -100,9 +73,9 @@ QString FindingsTable(const LedgerProof& proof, const CustomerNames& names) {
         const Difference& d = finding.difference;
         const bool isRow = d.column == u"行";
         table.add({MonthText(d.nendo, d.getudo), QString::number(d.deal), NameOf(d.deal, names),
-                   WordOf(d.column), isRow ? QString() : Grouped(d.expected),
+                   WordFor(kColumnWords, QStringView(d.column)), isRow ? QString() : Grouped(d.expected),
                    isRow ? QString() : Grouped(d.found), isRow ? QString() : Grouped(d.found - d.expected),
-                   WordOf(finding.cause)});
+                   WordFor(kCauseWords, finding.cause)});
     }
     return table.text();
 }
@@ -142,7 +115,7 @@ QString ReadingReport(const std::vector<DoubtfulReading>& doubtful, int fromMont
         table.add({MonthText(reading.nendo, reading.getudo), QString::number(reading.deal),
                    NameOf(reading.deal, names), Grouped(reading.zenkaiMeter), Grouped(reading.konkaiMeter),
                    Grouped(reading.use), Grouped(reading.charge),
-                   WordOf(reading.doubt, Grouped(reading.usual))});
+                   WordFor(kDoubtWords, reading.doubt, Grouped(reading.usual))});
     }
     return text + u"  目を通してほしいもの: %1 件\n"_s.arg(doubtful.size()) + table.text();
 }
@@ -153,7 +126,7 @@ QString LeaseReport(const std::vector<LeaseFinding>& findings, const CustomerNam
     for (const LeaseFinding& finding : findings) {
         table.add({MonthText(finding.nendo, finding.getudo), QString::number(finding.deal),
                    NameOf(finding.deal, names), finding.slip == 0 ? QString() : QString::number(finding.slip),
-                   WordOf(finding)});
+                   WordFor(kLeaseWords, finding.fault, finding.line)});
     }
     return u"リースの伝票: 合わないところ %1\n"_s.arg(findings.size()) + table.text();
 }

@@ -7,7 +7,7 @@
 
 namespace akarix::admin {
 
-Columns::Columns(const QStringList& heads) {
+Columns::Columns(const QStringList& heads, const QString& indent) : indent_(indent) {
     for (const QString& head : heads) {
         right_ += head.startsWith(u'>');
         heads_ += right_.back() ? head.mid(1) : head;
@@ -30,10 +30,10 @@ QString Columns::text() const {
         widen(row);
 
     const auto line = [&](const QStringList& cells) {
-        QString text;
+        QString text = indent_;
         for (qsizetype i = 0; i < cells.size(); ++i) {
             const QString blanks(widths[i] - ByteLength932(cells[i]), u' ');
-            text += u"  "_s + (right_[i] ? blanks + cells[i] : cells[i] + blanks);
+            text += (i > 0 ? u"  "_s : QString()) + (right_[i] ? blanks + cells[i] : cells[i] + blanks);
         }
         while (text.endsWith(u' '))
             text.chop(1);

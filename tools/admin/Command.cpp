@@ -1,13 +1,6 @@
 #include "admin/Command.h"
 
-#include "admin/Check.h"
-#include "admin/Create.h"
-#include "admin/Debit.h"
-#include "admin/Restore.h"
-#include "admin/Sample.h"
-#include "admin/Template.h"
 #include "admin/Terminal.h"
-#include "admin/Zip.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
 
@@ -37,6 +30,26 @@ bool AsksForHelp(const QStringList& arguments) {
     return arguments.contains(u"--help"_s) || arguments.contains(u"-h"_s);
 }
 
+int Run(const Command& command, const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.addOptions(command.options);
+    try {
+        const bool understood = parser.parse(QStringList(QString()) + arguments);
+        const auto names = parser.positionalArguments().size();
+        if (!understood || names < command.names.first || names > command.names.second) throw Misuse();
+        return command.run(parser);
+    } catch (const Misuse&) {
+        TellError(u"引数が正しくありません。使い方: akarix-admin %1 --help\n"_s.arg(command.name));
+        return WrongUse;
+    } catch (const Stop& stop) {
+        TellError(stop.reason + u'\n');
+        return stop.code;
+    } catch (const RuntimeError& error) {
+        TellError(u"エラー %1: %2\n"_s.arg(error.number()).arg(error.description()));
+        return command.errorCode;
+    }
+}
+
 }  // namespace
 
 std::span<const Command> Commands() {
@@ -60,15 +73,16 @@ int Run(const QStringList& arguments) {
         return WrongUse;
     }
     if (AsksForHelp(arguments)) {
-        Tell(command->help);
+        Tell(QString::fromUtf8(command->help));
         return Done;
     }
-    try {
-        return command->run(arguments.mid(1));
-    } catch (const RuntimeError& error) {
-        TellError(u"エラー %1: %2\n"_s.arg(error.number()).arg(error.description()));
-        return Failed;
-    }
+    return Run(*command, arguments.mid(1));
+}
+
+std::optional<int> ReadCount(const QString& text, int most) {
+    bool isNumber = false;
+    const int count = text.toInt(&isNumber);
+    return isNumber && count >= 1 && count <= most ? std::optional(count) : std::nullopt;
 }
 
 }  // namespace akarix::admin

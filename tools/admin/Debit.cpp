@@ -1,8 +1,8 @@
-#include "admin/Debit.h"
-
 #include <QFile>
 #include <algorithm>
 
+#include "admin/Columns.h"
+#include "admin/Command.h"
 #include "admin/DebitCheck.h"
 #include "admin/DebitLayout.h"
 #include "admin/Terminal.h"
@@ -13,8 +13,6 @@ namespace akarix::admin {
 
 namespace {
 
-enum DebitExit { Clean = 0, Departs = 1, Unreadable = 2 };
-
 const char* const kHelpText =
     "使い方: akarix-admin debit ファイル\n\n"
     "口座振替の依頼ファイルか結果ファイルを項目ごとに表示し、120 文字の様式と違うところを挙げます。様式は\n"
@@ -24,9 +22,8 @@ const char* const kHelpText =
     "終了コード: 0 様式どおり、1 違うところがある、2 読めない\n";
 
 /// Columns on a terminal: a full-width character takes two.
-QString Padded(const QString& text, int width, bool toTheRight) {
-    const QString fill(std::max(0, width - ByteLength932(text)), u' ');
-    return toTheRight ? fill + text : text + fill;
+QString Padded(const QString& text, int width) {
+    return text + QString(std::max(0, width - ByteLength932(text)), u' ');
 }
 
 QString TrimmedEnd(QString line) {
@@ -51,62 +48,40 @@ QString Listed(qsizetype number, const QByteArray& record, DebitForm form) {
     for (const DebitField& field : layout.subspan(layout.empty() ? 0 : 1)) {
         if (field.holds == DebitField::Holds::Filler) continue;
         constexpr int kNameWidth = 14;
-        text += TrimmedEnd(u"    %1 %2  %3"_s.arg(field.place, 3)
-                               .arg(Padded(QString::fromUtf16(field.name), kNameWidth, false),
-                                    ValueOf(field, record))) +
-                u'\n';
+        text +=
+            TrimmedEnd(u"    %1 %2  %3"_s.arg(field.place, 3)
+                           .arg(Padded(QString::fromUtf16(field.name), kNameWidth), ValueOf(field, record))) +
+            u'\n';
     }
     return text;
 }
-
-struct Column {
-    QString head;
-    bool toTheRight = false;
-    QStringList cells;
-
-    int width() const {
-        int widest = ByteLength932(head);
-        for (const QString& cell : cells)
-            widest = std::max(widest, ByteLength932(cell));
-        return widest;
-    }
-};
 
 using Records = std::span<const QByteArray>;
 
 /// A stretch of data records: a line a record, without the columns that are blank in all of them.
-std::vector<Column> ColumnsOf(qsizetype first, Records records, const DebitReport& report) {
-    std::vector<Column> columns{{u"番号"_s, true, {}}};
-    for (std::size_t i = 0; i < records.size(); ++i)
-        columns[0].cells += QString::number(first + static_cast<qsizetype>(i));
+QString Table(qsizetype first, Records records, const DebitReport& report) {
+    QStringList heads{u">番号"_s};
+    std::vector<QStringList> rows(records.size());
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        rows[i] += QString::number(first + static_cast<qsizetype>(i));
     for (const DebitField& field : DebitLayout(report.form, '2').subspan(1)) {
-        Column column{QString::fromUtf16(field.name), field.holds == DebitField::Holds::Number, {}};
+        QStringList cells;
         for (const QByteArray& record : records) {
             QString cell = ValueOf(field, record);
             if (report.isResult && field.place == kResultPlace && !cell.isEmpty())
                 cell += u' ' + DebitResultName(cell[0].toLatin1());
-            column.cells += cell;
+            cells += cell;
         }
-        const bool blank = std::all_of(column.cells.begin(), column.cells.end(),
-                                       [](const QString& cell) { return cell.isEmpty(); });
-        if (!blank) columns.push_back(std::move(column));
+        if (cells.join(QString()).isEmpty()) continue;
+        const bool isNumber = field.holds == DebitField::Holds::Number;
+        heads += (isNumber ? u">"_s : QString()) + QString::fromUtf16(field.name);
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            rows[i] += cells[static_cast<qsizetype>(i)];
     }
-    return columns;
-}
-
-QString Table(qsizetype first, Records records, const DebitReport& report) {
-    const std::vector<Column> columns = ColumnsOf(first, records, report);
-    QStringList lines(static_cast<qsizetype>(records.size()) + 1);
-    for (const Column& column : columns) {
-        const int width = column.width();
-        lines[0] += Padded(column.head, width, column.toTheRight) + u"  "_s;
-        for (qsizetype i = 0; i < column.cells.size(); ++i)
-            lines[i + 1] += Padded(column.cells[i], width, column.toTheRight) + u"  "_s;
-    }
-    QString text;
-    for (const QString& line : lines)
-        text += TrimmedEnd(line) + u'\n';
-    return text;
+    Columns table(heads, {});
+    for (const QStringList& row : rows)
+        table.add(row);
+    return table.text();
 }
 
 QString AllRecords(const DebitReport& report) {
@@ -142,32 +117,25 @@ QString Summary(const DebitReport& report) {
                                              : u"様式と違うところ: %1\n"_s.arg(report.departures.size()));
 }
 
-int TellUnreadable(const QString& path, const QString& reason) {
-    TellError(u"%1: %2\n"_s.arg(path, reason));
-    return Unreadable;
-}
-
-int ShowDebit(const QStringList& arguments) {
-    if (arguments.size() != 1 || arguments.first().startsWith(u'-')) {
-        TellWrongUse(u"debit"_s);
-        return WrongUse;
-    }
-    const QString& path = arguments.first();
+int ShowDebit(const QCommandLineParser& given) {
+    const QString path = given.positionalArguments().first();
+    const auto unreadable = [&path](const QString& reason) {
+        return Stop{Unreadable, path + u": "_s + reason};
+    };
     QFile file(path);
-    if (!file.open(QFile::ReadOnly)) return TellUnreadable(path, u"ファイルが見つからないか、開けません。"_s);
+    if (!file.open(QFile::ReadOnly)) throw unreadable(u"ファイルが見つからないか、開けません。"_s);
     const std::vector<QByteArray> records = SplitDebitRecords(file.readAll());
-    if (records.empty()) return TellUnreadable(path, u"空のファイルです。"_s);
-    if (records.front().startsWith('\xf1')) return TellUnreadable(path, u"EBCDIC のファイルです。"_s);
+    if (records.empty()) throw unreadable(u"空のファイルです。"_s);
+    if (records.front().startsWith('\xf1')) throw unreadable(u"EBCDIC のファイルです。"_s);
     const DebitReport report = CheckDebitFile(records);
     Tell(AllRecords(report) + u'\n' + Summary(report));
-    return report.departures.empty() ? Clean : Departs;
+    return report.departures.empty() ? Clean : Found;
 }
 
 }  // namespace
 
 Command DebitCommand() {
-    return {u"debit"_s, u"口座振替のファイルを表示し、様式と比べる"_s, QString::fromUtf8(kHelpText),
-            ShowDebit};
+    return {u"debit"_s, u"口座振替のファイルを表示し、様式と比べる"_s, kHelpText, {}, {1, 1}, ShowDebit};
 }
 
 }  // namespace akarix::admin

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 
+#include "admin/Command.h"
 #include "platform/cipher/RawFile.h"
 #include "platform/forms/SingleInstance.h"
 #include "platform/runtime/FileHolders.h"
@@ -44,11 +45,9 @@ QString HolderOf(const QString& path) {
 }
 
 FileClaim::FileClaim(const QString& path) : claim_(path) {
-    if (!claim_.holder().isEmpty())
-        refusal_ = u"%1 は使用中です: %2"_s.arg(path, claim_.holder());
-    else
-        refusal_ = HolderOf(path);
-    if (!refusal_.isEmpty()) refusal_ += u"\n終わらせてから、もう一度実行してください。"_s;
+    const QString holder =
+        claim_.holder().isEmpty() ? HolderOf(path) : u"%1 は使用中です: %2"_s.arg(path, claim_.holder());
+    if (!holder.isEmpty()) throw Stop{Failed, holder + u"\n終わらせてから、もう一度実行してください。"_s};
 }
 
 }  // namespace akarix::admin

@@ -10,17 +10,13 @@ namespace akarix::admin {
 QString HolderOf(const QString& path);
 
 /// A command's claim to a file it is about to change: while it lives the desktop program does not open the
-/// file, and says why. On other files it works on.
+/// file, and says why. On other files it works on. Raises Stop when somebody has the file.
 class FileClaim {
  public:
     explicit FileClaim(const QString& path);
 
-    /// Why the file must be left alone; empty when the claim is good.
-    const QString& refusal() const { return refusal_; }
-
  private:
     StoreClaim claim_;
-    QString refusal_;
 };
 
 }  // namespace akarix::admin

@@ -17,8 +17,6 @@ QString NumbersOf(const std::vector<int>& pages) {
     return names.join(u',');
 }
 
-}  // namespace
-
 QString FaultsOf(const FileCheck& check) {
     QStringList faults;
     if (!check.badPages.empty()) {
@@ -31,6 +29,8 @@ QString FaultsOf(const FileCheck& check) {
     if (!check.disorder.isEmpty()) faults += u"表と索引が合いません（%1 か所）"_s.arg(check.disorder.size());
     return faults.join(u"、"_s);
 }
+
+}  // namespace
 
 FileState StateOf(const QString& path) {
     FileState state;

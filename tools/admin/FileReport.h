@@ -6,13 +6,10 @@
 
 namespace akarix::admin {
 
-/// "" for a sound file; what is wrong with it, in a few words, otherwise.
-QString FaultsOf(const FileCheck& check);
-
 /// Looks at a file with the dealer's password; an error becomes its words, so that a list can go on.
 struct FileState {
     FileCheck check;
-    QString faults;
+    QString faults;  ///< in a few words; empty for a sound file
 
     bool sound() const { return faults.isEmpty(); }
 };

@@ -6,20 +6,26 @@
 #include <filesystem>
 #include <system_error>
 
+#include "admin/Command.h"
 #include "admin/FileClaim.h"
 #include "platform/runtime/ByteFile.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
+#include "store/dbAccess.h"
 
 namespace akarix::admin {
 
-QString Refusal(const QString& path, bool force, const FileClaim& claim) {
+QString MakeStore(const QCommandLineParser& given, const std::function<void(const QString& working)>& make) {
+    const QString path = given.positionalArguments().value(0, DatabaseName());
     const QFileInfo file(path);
-    if (file.isDir()) return u"%1 はフォルダです。"_s.arg(path);
-    if (!file.absoluteDir().exists()) return u"フォルダがありません: %1"_s.arg(file.absolutePath());
-    if (file.exists() && !force)
-        return u"%1 は既にあります。作り直すときは --force を付けてください。"_s.arg(path);
-    return claim.refusal();
+    if (file.isDir()) throw Stop{Failed, u"%1 はフォルダです。"_s.arg(path)};
+    if (!file.absoluteDir().exists())
+        throw Stop{Failed, u"フォルダがありません: %1"_s.arg(file.absolutePath())};
+    if (file.exists() && !given.isSet(u"force"_s))
+        throw Stop{Failed, u"%1 は既にあります。作り直すときは --force を付けてください。"_s.arg(path)};
+    const FileClaim claim(path);
+    ReplaceFile(path, make);
+    return path;
 }
 
 void ReplaceFile(const QString& name, const std::function<void(const QString& working)>& make) {

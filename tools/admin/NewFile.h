@@ -3,13 +3,13 @@
 #include <QString>
 #include <functional>
 
+class QCommandLineParser;
+
 namespace akarix::admin {
 
-class FileClaim;
-
-/// Why a file may not be made here; empty when it may. An existing file is touched on demand
-/// alone, and never while somebody has it open.
-QString Refusal(const QString& path, bool force, const FileClaim& claim);
+/// Has a store made of the name given, or of the program's own, and gives that name. An existing file is
+/// touched with --force alone, and never while somebody has it open: raises Stop.
+QString MakeStore(const QCommandLineParser& given, const std::function<void(const QString& working)>& make);
 
 /// Lets `make` write the file under another name beside it and puts it in its place when that is done, so
 /// that a failure half-way leaves what was there. Raises 75 when it cannot be put there.

@@ -1,13 +1,10 @@
-#include "admin/Restore.h"
-
-#include <QCommandLineParser>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
-#include <optional>
 
 #include "admin/Columns.h"
+#include "admin/Command.h"
 #include "admin/FileClaim.h"
 #include "admin/FileReport.h"
 #include "admin/MonthArgument.h"
@@ -73,21 +70,16 @@ QString LastBilled(const QString& copy) {
 
 int ListCopies(const QString& place) {
     Columns table({u">番号"_s, u"曜日"_s, u"日時"_s, u">バイト"_s, u"請求処理"_s, u"検査"_s, u"ファイル"_s});
-    bool isAny = false;
     for (int number = 1; number <= kWeekdays; ++number) {
         const QString copy = CopyOf(place, number);
         const QFileInfo file(copy);
         if (!file.isFile()) continue;
-        isAny = true;
         const FileState state = StateOf(copy);
         table.add({QString::number(number), WeekdayName(number), TimeText(file),
                    QLocale::c().toString(file.size()), state.check.opens ? LastBilled(copy) : QString(),
                    state.sound() ? u"正常"_s : state.faults, copy});
     }
-    if (!isAny) {
-        TellError(u"%1 に控えがありません。\n"_s.arg(place));
-        return Failed;
-    }
+    if (table.isEmpty()) throw Stop{Failed, u"%1 に控えがありません。"_s.arg(place)};
     Tell(table.text());
     return Done;
 }
@@ -116,23 +108,13 @@ QString SetAside(const QString& path) {
 
 int Restore(const QString& place, int number, bool force) {
     const QString copy = CopyOf(place, number);
-    if (!QFileInfo(copy).isFile()) {
-        TellError(u"控えがありません: %1\n"_s.arg(copy));
-        return Failed;
-    }
+    if (!QFileInfo(copy).isFile()) throw Stop{Failed, u"控えがありません: %1"_s.arg(copy)};
     const QString path = DatabaseName();
     const FileClaim claim(path);
-    if (!claim.refusal().isEmpty()) {
-        TellError(claim.refusal() + u'\n');
-        return Failed;
-    }
     const FileState state = StateOf(copy);
     if (!state.sound()) {
         TellError(u"%1: %2\n"_s.arg(copy, state.faults));
-        if (!force) {
-            TellError(u"戻しませんでした。それでも戻すときは --force を付けてください。\n"_s);
-            return Failed;
-        }
+        if (!force) throw Stop{Failed, u"戻しませんでした。それでも戻すときは --force を付けてください。"_s};
     }
     const QString time = TimeText(QFileInfo(copy));
     const QString aside = QFileInfo(path).isFile() ? SetAside(path) : QString();
@@ -142,41 +124,27 @@ int Restore(const QString& place, int number, bool force) {
     return Done;
 }
 
-/// A number of 1 to 7; 0 when none is given.
-std::optional<int> ReadNumber(const QStringList& arguments) {
-    if (arguments.isEmpty()) return 0;
-    const int number = arguments.first().toInt();
-    return arguments.size() == 1 && number >= 1 && number <= kWeekdays ? std::optional(number) : std::nullopt;
-}
-
-int RunRestore(const QStringList& arguments) {
-    QCommandLineParser parser;
-    parser.addOptions(
-        {QCommandLineOption(u"force"_s), QCommandLineOption(u"from"_s, QString(), u"folder"_s)});
-    const bool understood = parser.parse(QStringList(QString()) + arguments);
-    const std::optional<int> number = ReadNumber(parser.positionalArguments());
-    if (!understood || !number) {
-        TellWrongUse(u"restore"_s);
-        return WrongUse;
-    }
-    QString place = parser.value(u"from"_s);
+int RunRestore(const QCommandLineParser& given) {
+    const QStringList wished = given.positionalArguments();
+    const auto number = wished.isEmpty() ? 0 : ReadCount(wished.first(), kWeekdays);
+    if (!number) throw Misuse();
+    QString place = given.value(u"from"_s);
     if (place.isEmpty()) {
-        if (!QFileInfo(BackupPlaceFile()).isFile()) {
-            TellError(
-                u"ファイル BKPath がありません。データベースのあるフォルダで実行するか、--from で\n"
-                "控えのフォルダを指定してください。\n"_s);
-            return Failed;
-        }
+        if (!QFileInfo(BackupPlaceFile()).isFile())
+            throw Stop{Failed,
+                       u"ファイル BKPath がありません。データベースのあるフォルダで実行するか、--from で\n"
+                       "控えのフォルダを指定してください。"_s};
         place = ReadBackupPlace();
     }
-    if (*number == 0) return ListCopies(place);
-    return Restore(place, *number, parser.isSet(u"force"_s));
+    return *number == 0 ? ListCopies(place) : Restore(place, *number, given.isSet(u"force"_s));
 }
 
 }  // namespace
 
 Command RestoreCommand() {
-    return {u"restore"_s, u"曜日ごとの控えを並べる、戻す"_s, QString::fromUtf8(kHelpText), RunRestore};
+    return {u"restore"_s, u"曜日ごとの控えを並べる、戻す"_s,
+            kHelpText,    {QCommandLineOption(u"force"_s), {u"from"_s, {}, u"folder"_s}},
+            {0, 1},       RunRestore};
 }
 
 }  // namespace akarix::admin

@@ -1,9 +1,8 @@
-#include "admin/Template.h"
-
-#include <QCommandLineParser>
 #include <QFileInfo>
 #include <algorithm>
+#include <limits>
 
+#include "admin/Command.h"
 #include "admin/TemplateCheck.h"
 #include "admin/Terminal.h"
 #include "platform/runtime/Literals.h"
@@ -12,8 +11,6 @@
 namespace akarix::admin {
 
 namespace {
-
-enum Finding { Clean = 0, Found = 1, Unreadable = 2 };
 
 const char* const kHelpText =
     "使い方: akarix-admin template ファイル...\n\n"
@@ -50,15 +47,9 @@ Finding CheckTemplate(const QString& path) {
     return faults.isEmpty() ? Clean : Found;
 }
 
-int CheckTemplates(const QStringList& arguments) {
-    QCommandLineParser parser;
-    const bool understood = parser.parse(QStringList(QString()) + arguments);
-    if (!understood || parser.positionalArguments().isEmpty()) {
-        TellWrongUse(u"template"_s);
-        return WrongUse;
-    }
+int CheckTemplates(const QCommandLineParser& given) {
     int worst = Clean;
-    for (const QString& path : parser.positionalArguments())
+    for (const QString& path : given.positionalArguments())
         worst = std::max<int>(worst, CheckTemplate(path));
     return worst;
 }
@@ -66,7 +57,8 @@ int CheckTemplates(const QStringList& arguments) {
 }  // namespace
 
 Command TemplateCommand() {
-    return {u"template"_s, u"帳票の雛形を調べる"_s, QString::fromUtf8(kHelpText), CheckTemplates};
+    constexpr int any = std::numeric_limits<int>::max();
+    return {u"template"_s, u"帳票の雛形を調べる"_s, kHelpText, {}, {1, any}, CheckTemplates};
 }
 
 }  // namespace akarix::admin

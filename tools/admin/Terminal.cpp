@@ -27,10 +27,6 @@ void TellError(const QString& text) {
     Write(stderr, text);
 }
 
-void TellWrongUse(const QString& command) {
-    TellError(u"引数が正しくありません。使い方: akarix-admin %1 --help\n"_s.arg(command));
-}
-
 ProgressLine::~ProgressLine() {
     if (shown_) Write(stderr, u"\n"_s);
 }

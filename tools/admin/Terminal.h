@@ -9,8 +9,6 @@ namespace akarix::admin {
 
 void Tell(const QString& text);
 void TellError(const QString& text);
-/// Says that a command was given wrong arguments and where its use is explained.
-void TellWrongUse(const QString& command);
 
 /// A line of progress for work that takes more than a second; quick work stays silent.
 class ProgressLine : public Progress {

@@ -1,8 +1,6 @@
-#include "admin/Zip.h"
-
-#include <QCommandLineParser>
 #include <QFileInfo>
 
+#include "admin/Command.h"
 #include "admin/FileClaim.h"
 #include "admin/PostalList.h"
 #include "admin/Terminal.h"
@@ -49,24 +47,11 @@ int Store(const PostalCodes& codes) {
     return kept;
 }
 
-int Import(const QStringList& arguments) {
-    QCommandLineParser parser;
-    const bool understood = parser.parse(QStringList(QString()) + arguments);
-    const QStringList names = parser.positionalArguments();
-    if (!understood || names.isEmpty() || names.size() > 2) {
-        TellWrongUse(u"zip"_s);
-        return WrongUse;
-    }
+int Import(const QCommandLineParser& given) {
+    const QStringList names = given.positionalArguments();
     const QString path = names.value(1, DatabaseName());
-    if (!QFileInfo(path).isFile()) {
-        TellError(u"ファイルがありません: %1\n"_s.arg(path));
-        return Failed;
-    }
+    if (!QFileInfo(path).isFile()) throw Stop{Failed, u"ファイルがありません: %1"_s.arg(path)};
     const FileClaim claim(path);
-    if (!claim.refusal().isEmpty()) {
-        TellError(claim.refusal() + u'\n');
-        return Failed;
-    }
     const PostalCodes codes = ReadPostalList(names.first());
     int kept = 0;
     {
@@ -80,7 +65,7 @@ int Import(const QStringList& arguments) {
 }  // namespace
 
 Command ZipCommand() {
-    return {u"zip"_s, u"郵便番号の一覧を取り込む"_s, QString::fromUtf8(kHelpText), Import};
+    return {u"zip"_s, u"郵便番号の一覧を取り込む"_s, kHelpText, {}, {1, 2}, Import};
 }
 
 }  // namespace akarix::admin

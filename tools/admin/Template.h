@@ -1,9 +1,0 @@
-#pragma once
-
-#include "admin/Command.h"
-
-namespace akarix::admin {
-
-Command TemplateCommand();
-
-}  // namespace akarix::admin
