@@ -33,7 +33,7 @@ int Store(const PostalCodes& codes) {
     line.stage(u"郵便番号"_s, false);
     const Action grouped;
     gDb->Execute(u"DELETE * FROM Zip7"_s);
-    sample::RowWriter table(u"Zip7"_s);
+    sample::RowWriter table(u"Zip7"_s, u"Code,Addr"_s);
     int done = 0;
     const int total = static_cast<int>(codes.places().size());
     int kept = 0;
@@ -42,7 +42,7 @@ int Store(const PostalCodes& codes) {
         const QString address = place.address().left(longestAddress);
         if (address.isEmpty()) continue;  // of two prefectures: it says nothing
         ++kept;
-        table.add({{u"Code"_s, std::int32_t{code}}, {u"Addr"_s, address}});
+        table.add({std::int32_t{code}, address});
     }
     return kept;
 }

@@ -1,7 +1,6 @@
 #include "clerk/Clerk.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QHeaderView>
 #include <QInputMethodEvent>
 #include <QMessageBox>
@@ -247,12 +246,6 @@ QString Clerk::lastSaid() {
     if (heard_ == said_.size()) return {};
     heard_ = said_.size();
     return said_.back();
-}
-
-void Clerk::picture(QWidget& window, const QString& path) const {
-    settle();
-    QDir().mkpath(QFileInfo(path).path());
-    if (!window.grab().save(path)) missing(u"cannot write "_s + path);
 }
 
 void Clerk::settle() const {

@@ -96,8 +96,6 @@ class Clerk : public QObject {
     /// What went wrong with dialogs: nobody expected one, one never closed, an answer failed.
     const QStringList& complaints() const { return complaints_; }
 
-    /// A picture of a window as a PNG file.
-    void picture(QWidget& window, const QString& path) const;
     /// Lets the pending events happen.
     void settle() const;
     /// Drops every screen, open or hidden: a fresh desk.

@@ -1,8 +1,9 @@
 #include "month/Options.h"
 
 #include <QCommandLineParser>
-#include <QRegularExpression>
 
+#include "admin/Command.h"
+#include "admin/MonthArgument.h"
 #include "month/Trade.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
@@ -10,60 +11,35 @@
 
 namespace akarix::month {
 
-namespace {
-
-constexpr double kLeastScale = 0.5;
-constexpr double kMostScale = 4;
-
-bool ReadCustomers(const QString& text, Options& options) {
-    bool isNumber = false;
-    options.customers = text.toInt(&isNumber);
-    return isNumber && options.customers >= 1 && options.customers <= sample::kMostCustomers;
-}
-
-bool ReadScale(const QString& text, Options& options) {
-    bool isNumber = false;
-    options.scale = text.toDouble(&isNumber);
-    return isNumber && options.scale >= kLeastScale && options.scale <= kMostScale;
-}
-
-// The reading sheet takes no year before 2000, and the sample dealer's months lie before the one played.
-bool ReadMonth(const QString& text, Options& options) {
-    static const QRegularExpression form(u"^([0-9]{4})/([0-9]{1,2})$"_s);
-    const QRegularExpressionMatch match = form.match(text);
-    options.year = match.captured(1).toInt();
-    options.month = match.captured(2).toInt();
-    return options.year >= 2000 && options.month >= 1 && options.month <= 12;
-}
-
-}  // namespace
-
 std::optional<Options> ReadOptions(const QStringList& arguments) {
+    Options options;
     QCommandLineParser parser;
-    const auto valued = [&parser](const QString& name) {
-        parser.addOption(QCommandLineOption(name, QString(), name));
-    };
-    const QString customers = u"customers"_s;
-    const QString out = u"out"_s;
-    const QString scale = u"scale"_s;
-    const QString monthName = u"month"_s;
-    const QString templates = u"templates"_s;
-    for (const QString& name : {customers, out, scale, monthName, templates})
-        valued(name);
-    parser.addOption(QCommandLineOption(QStringList{u"h"_s, u"help"_s}));
+    parser.addOptions({{u"customers"_s, {}, u"n"_s, QString::number(options.customers)},
+                       {u"out"_s, {}, u"folder"_s, options.out},
+                       {u"scale"_s, {}, u"n"_s, u"1"_s},
+                       {u"month"_s, {}, u"month"_s, admin::MonthText(Year(Today()), Month(Today()))},
+                       {u"templates"_s, {}, u"folder"_s},
+                       {{u"h"_s, u"help"_s}, {}}});
     if (!parser.parse(QStringList(QString()) + arguments) || !parser.positionalArguments().isEmpty())
         return std::nullopt;
 
-    Options options;
+    constexpr double leastScale = 0.5;
+    constexpr double mostScale = 4;
+    // The reading sheet takes no year before, and the sample dealer's months lie before the one played.
+    constexpr int firstYear = 2000;
+    bool isNumber = false;
+    const auto customers = admin::ReadCount(parser.value(u"customers"_s), sample::kMostCustomers);
+    const auto month = admin::ReadMonth(parser.value(u"month"_s));
+    options.scale = parser.value(u"scale"_s).toDouble(&isNumber);
+    options.out = parser.value(u"out"_s);
+    if (!customers || !month || month->year < firstYear || !isNumber || options.scale < leastScale ||
+        options.scale > mostScale || options.out.isEmpty())
+        return std::nullopt;
+    options.customers = *customers;
+    options.year = month->year;
+    options.month = month->month;
+    options.templates = parser.value(u"templates"_s);
     options.help = parser.isSet(u"help"_s);
-    options.year = Year(Today());
-    options.month = Month(Today());
-    if (parser.isSet(customers) && !ReadCustomers(parser.value(customers), options)) return std::nullopt;
-    if (parser.isSet(scale) && !ReadScale(parser.value(scale), options)) return std::nullopt;
-    if (parser.isSet(monthName) && !ReadMonth(parser.value(monthName), options)) return std::nullopt;
-    if (parser.isSet(out)) options.out = parser.value(out);
-    if (options.out.isEmpty()) return std::nullopt;
-    options.templates = parser.value(templates);
     return options;
 }
 

@@ -1,9 +1,8 @@
 #include <QApplication>
 #include <QTemporaryDir>
-#include <cstdio>
 
+#include "admin/Terminal.h"
 #include "clerk/Offscreen.h"
-#include "month/Failure.h"
 #include "month/MonthPlayer.h"
 #include "month/Options.h"
 #include "platform/forms/SingleInstance.h"
@@ -17,18 +16,14 @@ namespace {
 
 enum ExitCode { Done = 0, Failed = 1, WrongUse = 2 };
 
-void Write(std::FILE* stream, const QString& text) {
-    std::fputs(text.toLocal8Bit().constData(), stream);
-}
-
 int Play(const akarix::month::Options& options) {
     try {
-        Write(stdout, akarix::month::PlayMonth(options));
+        akarix::admin::Tell(akarix::month::PlayMonth(options));
         return Done;
     } catch (const akarix::RuntimeError& error) {
-        Write(stderr, u"%1 %2\n"_s.arg(error.number()).arg(error.description()));
+        akarix::admin::TellError(u"%1 %2\n"_s.arg(error.number()).arg(error.description()));
     } catch (const std::exception& error) {
-        Write(stderr, QString::fromUtf8(error.what()) + u'\n');
+        akarix::admin::TellError(QString::fromUtf8(error.what()) + u'\n');
     }
     return Failed;
 }
@@ -41,7 +36,7 @@ int main(int argc, char** argv) {
         arguments << QString::fromLocal8Bit(argv[i]);
     const auto options = akarix::month::ReadOptions(arguments);
     if (!options || options->help) {
-        Write(options ? stdout : stderr, akarix::month::HelpText());
+        (options ? akarix::admin::Tell : akarix::admin::TellError)(akarix::month::HelpText());
         return options ? Done : WrongUse;
     }
     // The scale is read when the application is made, so it is set before.

@@ -6,13 +6,15 @@
 
 namespace akarix::sample {
 
-RowWriter::RowWriter(const QString& table) : set_(gDb->OpenRecordset(u"SELECT * FROM "_s + table)) {}
+RowWriter::RowWriter(const QString& table, const QString& columns)
+    : set_(gDb->OpenRecordset(u"SELECT * FROM "_s + table)), columns_(columns.split(u',')) {}
 
-void RowWriter::add(std::initializer_list<std::pair<QString, Variant>> values) {
+void RowWriter::add(std::initializer_list<Variant> values) {
     set_.AddNew();
-    for (const auto& [column, value] : values) {
+    auto column = columns_.cbegin();
+    for (const Variant& value : values) {
         const QString* text = value.If<QString>();
-        set_.Fields(column) = text != nullptr ? Variant(EmptyToBlank(*text)) : value;
+        set_.Fields(*column++) = text != nullptr ? Variant(EmptyToBlank(*text)) : value;
     }
     set_.Update();
 }

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <initializer_list>
-#include <utility>
 
 #include "platform/dao/Recordset.h"
 
@@ -11,13 +10,15 @@ namespace akarix::sample {
 /// Adds rows to one table of the open store.
 class RowWriter {
  public:
-    explicit RowWriter(const QString& table);
+    /// \param columns names parted by commas; the other columns keep their default.
+    RowWriter(const QString& table, const QString& columns);
 
-    /// Columns that are not named keep their default. A text without length becomes one blank.
-    void add(std::initializer_list<std::pair<QString, Variant>> values);
+    /// A value for each of the columns. A text without length becomes one blank.
+    void add(std::initializer_list<Variant> values);
 
  private:
     Recordset set_;
+    QStringList columns_;
 };
 
 }  // namespace akarix::sample

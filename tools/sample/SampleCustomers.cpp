@@ -80,10 +80,6 @@ QString Street(Dice& dice) {
     return u"%1-%2"_s.arg(dice.between(1, 28)).arg(dice.between(1, 40));
 }
 
-Variant Number(int value) {
-    return std::int32_t{value};
-}
-
 Variant Flag(bool set) {
     return std::int16_t{set};
 }
@@ -91,7 +87,9 @@ Variant Flag(bool set) {
 }  // namespace
 
 std::vector<Customer> FillCustomers(int count, Dice& dice) {
-    RowWriter table(u"Deal"_s);
+    RowWriter table(u"Deal"_s,
+                    u"Code,Rte,Kana,Namae,Ryaku,Yubin,Addr1,Addr2,TEL,Fax,Sime,SH,Map,Sisetu,Simekiri,Haisou,"
+                    "TankaPtn,Bnk,Stn,Kind,Koza,ACU,Keihou,NoSeikyu,DiscGaku"_s);
     std::vector<Customer> customers;
     customers.reserve(static_cast<std::size_t>(count));
     for (std::int32_t code = 1; code <= count; ++code) {
@@ -116,31 +114,37 @@ std::vector<Customer> FillCustomers(int count, Dice& dice) {
         const QString room =
             kind.premises == Premises::Apartment ? u"%1号室"_s.arg(dice.between(101, 306)) : QString();
 
-        table.add({{u"Code"_s, code},
-                   {u"Rte"_s, Number(customer.route + 1)},
-                   {u"Kana"_s, name.kana},
-                   {u"Namae"_s, name.name},
-                   {u"Ryaku"_s, name.name.left(20)},
-                   {u"Yubin"_s, QString::fromUtf16(town.zip)},
-                   {u"Addr1"_s, TownAddress(town) + Street(dice)},
-                   {u"Addr2"_s, room},
-                   {u"TEL"_s, Phone(code, 0)},
-                   {u"Fax"_s, business ? Phone(code, 40) : QString()},
-                   {u"Sime"_s, Number(customer.closingDay)},
-                   {u"SH"_s, Number(customer.paymentClass == 1 ? 1 : 2)},
-                   {u"Map"_s, Number(dice.between(1, 60))},
-                   {u"Sisetu"_s, Number(static_cast<int>(kind.premises))},
-                   {u"Simekiri"_s, Number(customer.closingDay)},
-                   {u"Haisou"_s, Number(code * 10)},
-                   {u"TankaPtn"_s, Number(customer.tariff)},
-                   {u"Bnk"_s, Number(account.bank)},
-                   {u"Stn"_s, Number(account.branch)},
-                   {u"Kind"_s, Number(account.kind)},
-                   {u"Koza"_s, account.number},
-                   {u"ACU"_s, Flag(dice.percent(4))},
-                   {u"Keihou"_s, Flag(dice.percent(28))},
-                   {u"NoSeikyu"_s, Flag(dice.percent(2))},
-                   {u"DiscGaku"_s, Currency(fixedDebit ? dice.between(3, 12) * 1000 : 0)}});
+        const QString street = TownAddress(town) + Street(dice);
+        const int mapSheet = dice.between(1, 60);
+        const Variant leasesAcu = Flag(dice.percent(4));
+        const Variant leasesAlarm = Flag(dice.percent(28));
+        const Variant noInvoice = Flag(dice.percent(2));
+        const Currency debit(fixedDebit ? dice.between(3, 12) * 1000 : 0);
+        table.add({code,
+                   customer.route + 1,
+                   name.kana,
+                   name.name,
+                   name.name.left(20),
+                   town.zip,
+                   street,
+                   room,
+                   Phone(code, 0),
+                   business ? Phone(code, 40) : QString(),
+                   customer.closingDay,
+                   customer.paymentClass == 1 ? 1 : 2,
+                   mapSheet,
+                   static_cast<int>(kind.premises),
+                   customer.closingDay,
+                   code * 10,
+                   customer.tariff,
+                   account.bank,
+                   account.branch,
+                   account.kind,
+                   account.number,
+                   leasesAcu,
+                   leasesAlarm,
+                   noInvoice,
+                   debit});
         customers.push_back(customer);
     }
     return customers;

@@ -80,31 +80,21 @@ QString Text(const char16_t* value) {
     return QString::fromUtf16(value);
 }
 
-Variant Number(int value) {
-    return std::int32_t{value};
-}
-
 void FillRoutes() {
-    RowWriter table(u"Rte"_s);
+    RowWriter table(u"Rte"_s, u"Code,Kana,Namae,Kensin"_s);
     for (int i = 0; i < kRouteCount; ++i) {
         const Route& route = kRoutes[i];
-        table.add({{u"Code"_s, Number(i + 1)},
-                   {u"Kana"_s, Text(route.kana)},
-                   {u"Namae"_s, Text(route.name)},
-                   {u"Kensin"_s, Number(route.readingDay)}});
+        table.add({i + 1, route.kana, route.name, route.readingDay});
     }
 }
 
 void FillTariffs() {
-    RowWriter table(u"GasKeisan"_s);
+    RowWriter table(u"GasKeisan"_s, u"Ptn,St,Ed,Kihon,Tanka"_s);
     for (const TariffRow& tariff : kTariffs) {
         int basicTenths = tariff.basicTenths;
         for (int band = 0; band < kBandCount; ++band) {
-            table.add({{u"Ptn"_s, Number(tariff.pattern)},
-                       {u"St"_s, Number(kBounds[band])},
-                       {u"Ed"_s, Number(kBounds[band + 1])},
-                       {u"Kihon"_s, Currency(basicTenths) / Currency(10)},
-                       {u"Tanka"_s, Currency(tariff.tenthsOfYen[band]) / Currency(10)}});
+            table.add({tariff.pattern, kBounds[band], kBounds[band + 1], Currency(basicTenths) / Currency(10),
+                       Currency(tariff.tenthsOfYen[band]) / Currency(10)});
             // A band's basic charge holds what the bands below it cost.
             basicTenths += (kBounds[band + 1] - kBounds[band]) * tariff.tenthsOfYen[band] / 10 * 10;
         }
@@ -112,12 +102,9 @@ void FillTariffs() {
 }
 
 void FillCapacityPrices() {
-    RowWriter table(u"Tnk"_s);
+    RowWriter table(u"Tnk"_s, u"Ptn,Capa,Tanka,Kubun"_s);
     const auto add = [&table](int pattern, int kind, Currency capacity, int price) {
-        table.add({{u"Ptn"_s, Number(pattern)},
-                   {u"Capa"_s, capacity},
-                   {u"Tanka"_s, Currency(price)},
-                   {u"Kubun"_s, Number(kind)}});
+        table.add({pattern, capacity, Currency(price), kind});
     };
     for (int capacity = 1; capacity <= 100; ++capacity)
         add(1, 1, Currency(capacity), 2200 + capacity * 440);
@@ -126,49 +113,29 @@ void FillCapacityPrices() {
 }
 
 void FillItems() {
-    RowWriter table(u"Hin"_s);
-    for (const Item& item : kItems) {
-        table.add({{u"Code"_s, Number(item.code)},
-                   {u"Kana"_s, Text(item.kana)},
-                   {u"Namae"_s, Text(item.name)},
-                   {u"Tanka"_s, Currency(item.price)}});
-    }
+    RowWriter table(u"Hin"_s, u"Code,Kana,Namae,Tanka"_s);
+    for (const Item& item : kItems)
+        table.add({item.code, item.kana, item.name, Currency(item.price)});
 }
 
 void FillConsignors() {
-    RowWriter table(u"Bnk"_s);
+    const QString columns = u"Code,ItakuCode,Itakusya,fName,BkName,Stn,StnName,Syurui,KozaNo"_s;
+    RowWriter banks(u"Bnk"_s, columns);
     for (const ConsignorRow& row : kConsignors) {
-        table.add({{u"Code"_s, Number(row.code)},
-                   {u"ItakuCode"_s, Text(row.itakuCode)},
-                   {u"Itakusya"_s, Text(dealerKana)},
-                   {u"fName"_s, Text(row.fileName)},
-                   {u"BkName"_s, Text(row.bank)},
-                   {u"Stn"_s, Number(row.branch)},
-                   {u"StnName"_s, Text(row.branchName)},
-                   {u"Syurui"_s, u"1"_s},
-                   {u"KozaNo"_s, Text(row.account)}});
+        banks.add({row.code, row.itakuCode, dealerKana, row.fileName, row.bank, row.branch, row.branchName,
+                   u"1"_s, row.account});
     }
-    table.add({{u"Code"_s, Number(kPostOffice)},
-               {u"ItakuCode"_s, u"10990456"_s},
-               {u"Itakusya"_s, Text(dealerKana)},
-               {u"fName"_s, u"jiharai"_s},
-               {u"BkName"_s, u"ﾕｳｾｲｼﾖｳﾁﾖｷﾝｷﾖｸ"_s},
-               {u"Stn"_s, Number(990)},
-               {u"StnName"_s, u"ﾐﾄﾞﾘｶﾜ"_s},
-               {u"Syurui"_s, u"1"_s},
-               {u"KozaNo"_s, u"0123456"_s},
-               {u"Saifurikae"_s, u"15"_s},
-               {u"Keiyaku"_s, u"02"_s},
-               {u"Jimusyo"_s, u"緑川貯金事務センター"_s}});
+    RowWriter(u"Bnk"_s, columns + u",Saifurikae,Keiyaku,Jimusyo"_s)
+        .add({kPostOffice, u"10990456"_s, dealerKana, u"jiharai"_s, u"ﾕｳｾｲｼﾖｳﾁﾖｷﾝｷﾖｸ"_s, 990, u"ﾐﾄﾞﾘｶﾜ"_s,
+              u"1"_s, u"0123456"_s, u"15"_s, u"02"_s, u"緑川貯金事務センター"_s});
 }
 
 void FillPostalCodes() {
-    RowWriter table(u"Zip7"_s);
+    RowWriter table(u"Zip7"_s, u"Code,Addr"_s);
     for (int route = 0; route < kRouteCount; ++route) {
         for (int index = 0; index < kTownsOfRoute; ++index) {
             const Town& town = TownOf(route, index);
-            table.add(
-                {{u"Code"_s, Number(Text(town.zip).remove(u'-').toInt())}, {u"Addr"_s, TownAddress(town)}});
+            table.add({Text(town.zip).remove(u'-').toInt(), TownAddress(town)});
         }
     }
 }

@@ -23,10 +23,6 @@ namespace {
 
 constexpr int kReadingDays[] = {20, 21, 22, 23, 24, 25};
 
-Variant Number(int value) {
-    return std::int32_t{value};
-}
-
 Currency Tenths(int value) {
     return Currency::FromScaled(std::int64_t{value} * (Currency::kScale / 10));
 }
@@ -38,17 +34,18 @@ int DaysIn(int year, int month) {
 }  // namespace
 
 MonthMaker::MonthMaker(std::vector<Customer>& customers, Dice& dice)
-    : customers_(customers), dice_(dice), readings_(u"Dgd"_s), slips_(u"Dud"_s), payments_(u"Dny"_s) {}
+    : customers_(customers),
+      dice_(dice),
+      readings_(u"Dgd"_s,
+                u"Nendo,Getudo,Deal,ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,Suu,Gaku,Hi"_s),
+      slips_(u"Dud"_s, u"Dno,Eda,Hizuke,Deal,HinCode,HinNamae,Suu,Tanka,Gaku,Nendo,Getudo,CreateAuto"_s),
+      payments_(u"Dny"_s, u"Dno,Eda,Hizuke,Deal,Kubun,Gaku,Naiyo,Nendo,Getudo"_s) {}
 
 void MonthMaker::openBalances(int year, int month) {
-    RowWriter ledger(u"TtoD"_s);
+    RowWriter ledger(u"TtoD"_s, u"Deal,Nendo,Getudo,ZenkaiGaku,SyokiFlg"_s);
     for (const Customer& customer : customers_) {
         if (customer.openingYen == 0) continue;
-        ledger.add({{u"Deal"_s, customer.code},
-                    {u"Nendo"_s, Number(year)},
-                    {u"Getudo"_s, Number(month)},
-                    {u"ZenkaiGaku"_s, Currency(customer.openingYen)},
-                    {u"SyokiFlg"_s, std::int16_t{1}}});
+        ledger.add({customer.code, year, month, Currency(customer.openingYen), std::int16_t{1}});
         owed_[customer.code] = Currency(customer.openingYen);
     }
 }
@@ -90,16 +87,9 @@ void MonthMaker::writeReading(Customer& customer, int year, int month) {
     }
     const Currency usage =
         CalcGasUsage(Tenths(before), Tenths(exchangedAt), Tenths(after), Tenths(customer.meterTenths));
-    readings_.add({{u"Nendo"_s, Number(year)},
-                   {u"Getudo"_s, Number(month)},
-                   {u"Deal"_s, customer.code},
-                   {u"ZenkaiMeter"_s, Tenths(before)},
-                   {u"KoukanMeter"_s, Tenths(exchangedAt)},
-                   {u"KoukanGoMeter"_s, Tenths(after)},
-                   {u"KonkaiMeter"_s, Tenths(customer.meterTenths)},
-                   {u"Suu"_s, usage},
-                   {u"Gaku"_s, charge(customer, usage)},
-                   {u"Hi"_s, Number(kReadingDays[customer.route])}});
+    readings_.add({year, month, customer.code, Tenths(before), Tenths(exchangedAt), Tenths(after),
+                   Tenths(customer.meterTenths), usage, charge(customer, usage),
+                   kReadingDays[customer.route]});
 }
 
 /// The charge as the reading sheet shows and stores it, asked once for each use of a tariff.
@@ -124,18 +114,8 @@ void MonthMaker::writeSlip(const Customer& customer, Date day) {
     const std::int32_t dno = nextSlip_++;
     int eda = 0;
     const auto add = [&](int code, const QString& name, Currency amount, Currency count, Currency price) {
-        slips_.add({{u"Dno"_s, dno},
-                    {u"Eda"_s, Number(++eda)},
-                    {u"Hizuke"_s, day},
-                    {u"Deal"_s, customer.code},
-                    {u"HinCode"_s, Number(code)},
-                    {u"HinNamae"_s, name},
-                    {u"Suu"_s, count},
-                    {u"Tanka"_s, price},
-                    {u"Gaku"_s, amount},
-                    {u"Nendo"_s, Number(nendo)},
-                    {u"Getudo"_s, Number(getudo)},
-                    {u"CreateAuto"_s, std::int16_t{0}}});
+        slips_.add({dno, ++eda, day, customer.code, code, name, count, price, amount, nendo, getudo,
+                    std::int16_t{0}});
     };
     const int goods = dice_.percent(75) ? 1 : dice_.between(2, 3);
     for (int i = 0; i < goods; ++i) {
@@ -178,15 +158,7 @@ void MonthMaker::writePayment(const Customer& customer, int year, int month, Cur
     const std::int32_t dno = nextPayment_++;
     int eda = 0;
     const auto add = [&](int paymentClass, Currency part, const QString& memo) {
-        payments_.add({{u"Dno"_s, dno},
-                       {u"Eda"_s, Number(++eda)},
-                       {u"Hizuke"_s, date},
-                       {u"Deal"_s, customer.code},
-                       {u"Kubun"_s, Number(paymentClass)},
-                       {u"Gaku"_s, part},
-                       {u"Naiyo"_s, memo},
-                       {u"Nendo"_s, Number(nendo)},
-                       {u"Getudo"_s, Number(getudo)}});
+        payments_.add({dno, ++eda, date, customer.code, paymentClass, part, memo, nendo, getudo});
     };
     const Currency fee = Currency(440);
     if (customer.paymentClass == 3 && amount > fee && dice_.percent(10)) {
