@@ -7,17 +7,13 @@
 #include <QTemporaryDir>
 
 #include "month/Failure.h"
-#include "month/MeterBook.h"
 #include "month/MonthCheck.h"
-#include "month/Options.h"
-#include "month/Trade.h"
 #include "month/TypedMonth.h"
 #include "platform/print/PdfText.h"
 #include "platform/runtime/Literals.h"
 #include "sample/OpenStore.h"
 #include "store/dbAccess.h"
 #include "support/ScratchStore.h"
-#include "support/ScreenTest.h"
 #include "tools/AdminRun.h"
 
 namespace akarix::month {
@@ -277,6 +273,10 @@ TEST(MonthProgram, ARunThatGoesWrongEndsWithAWord) {
         const char* says;
     } const cases[] = {
         {{u"--frobnicate"_s}, 2, "使い方"},
+        {{u"--customers"_s, u"0"_s}, 2, "使い方"},
+        {{u"--month"_s, u"1999/12"_s}, 2, "使い方"},
+        {{u"--month"_s, u"2011/13"_s}, 2, "使い方"},
+        {{u"--scale"_s, u"0"_s}, 2, "使い方"},
         {{u"--help"_s}, 0, "使い方"},
         {{u"--out"_s, taken}, 1, "他のものがあります"},
         {{u"--out"_s, busy}, 1, "使用中です: test_tools"},
@@ -292,43 +292,6 @@ TEST(MonthProgram, ARunThatGoesWrongEndsWithAWord) {
     }
     EXPECT_TRUE(QFile::exists(taken + list)) << "what was in the folder is left alone";
     EXPECT_TRUE(inUse.exists());
-}
-
-TEST(MonthOptions, AreReadOrRefused) {
-    struct {
-        const char* arguments;
-        bool good;
-    } const cases[] = {
-        {"", true},
-        {"--customers 1 --month 2000/1 --scale 1.5 --out x", true},
-        {"--customers 32000", true},
-        {"--customers 0", false},
-        {"--month 1999/12", false},
-        {"--month 2011/13", false},
-        {"--scale 0", false},
-    };
-    for (const auto& [arguments, good] : cases) {
-        const auto options = ReadOptions(QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
-        EXPECT_EQ(options.has_value(), good) << arguments;
-    }
-}
-
-TEST(MeterReader, ReadsOnFromWhereTheMeterStood) {
-    const ScratchStore store;
-    ScratchStore::run(
-        u"INSERT INTO Dgd(Nendo,Getudo,Deal,ZenkaiMeter,KonkaiMeter,Suu) VALUES(2011,1,5,100,115,15),"
-        "(2011,7,5,115,121,6),(2011,8,5,121,120,-1)"_s);
-    MeterBook book(*gDb, 2012, 1);
-    EXPECT_EQ(book.note(6, 0), std::nullopt) << "has no meter";
-    const auto january = book.note(5, 1210);
-    ASSERT_TRUE(january);
-    EXPECT_EQ(january->exchangedAt, 0);
-    EXPECT_GT(january->now, 1210 + 100);
-    EXPECT_LT(january->now, 1210 + 200);
-    EXPECT_LT(MeterBook(*gDb, 2012, 8).note(5, 1210)->now, 1210 + 90) << "summer is low";
-    const auto full = book.note(5, 99950);
-    EXPECT_EQ(full->exchangedAt, 99999) << "the old meter's end";
-    EXPECT_LT(full->now, 200) << "the rest on the new one";
 }
 
 }  // namespace

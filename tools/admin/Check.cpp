@@ -6,10 +6,10 @@
 #include "admin/FileClaim.h"
 #include "admin/FileReport.h"
 #include "admin/MonthArgument.h"
-#include "admin/ReadStore.h"
 #include "admin/Terminal.h"
 #include "platform/dao/Database.h"
 #include "platform/runtime/Literals.h"
+#include "sample/OpenStore.h"
 #include "store/FieldValue.h"
 #include "store/dbAccess.h"
 #include "values/Text.h"
@@ -44,24 +44,24 @@ CustomerNames ReadNames(Database& db) {
 }
 
 int CheckFigures(const QString& path, int since) {
-    const ReadStore store(path);
-    const CustomerNames names = ReadNames(store.db());
+    const sample::OpenStore store(path, true);
+    const CustomerNames names = ReadNames(*gDb);
     LedgerProof proof;
     {
         ProgressLine line;
         proof = ProveLedger(
-            store.db(), [&line](int nendo, int getudo) { line.show(u"%1年%2月"_s.arg(nendo).arg(getudo)); });
+            *gDb, [&line](int nendo, int getudo) { line.show(u"%1年%2月"_s.arg(nendo).arg(getudo)); });
     }
     std::erase_if(proof.findings, [since](const LedgerFinding& finding) {
         return finding.difference.nendo * 100 + finding.difference.getudo < since;
     });
     Tell(LedgerReport(proof, names));
 
-    const std::vector<LeaseFinding> leases = CheckLeases(store.db(), since);
+    const std::vector<LeaseFinding> leases = CheckLeases(*gDb, since);
     Tell(LeaseReport(leases, names));
 
-    const int from = since != 0 ? since : LastYearOfReadings(store.db());
-    const auto doubtful = from != 0 ? CheckReadings(store.db(), from) : std::vector<DoubtfulReading>();
+    const int from = since != 0 ? since : LastYearOfReadings(*gDb);
+    const auto doubtful = from != 0 ? CheckReadings(*gDb, from) : std::vector<DoubtfulReading>();
     Tell(ReadingReport(doubtful, from, names));
 
     const bool isRight = std::all_of(proof.findings.begin(), proof.findings.end(),

@@ -9,7 +9,6 @@
 #include "admin/FileReport.h"
 #include "admin/MonthArgument.h"
 #include "admin/NewFile.h"
-#include "admin/ReadStore.h"
 #include "admin/Terminal.h"
 #include "ledger/Rows.h"
 #include "platform/runtime/Calendar.h"
@@ -17,6 +16,7 @@
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
+#include "sample/OpenStore.h"
 #include "store/BackupPlace.h"
 #include "store/dbAccess.h"
 
@@ -58,9 +58,9 @@ QString TimeText(const QFileInfo& file) {
 /// The last month that was billed in a copy, which tells better than its date how far its books go.
 QString LastBilled(const QString& copy) {
     try {
-        const ReadStore store(copy);
+        const sample::OpenStore store(copy, true);
         const auto last =
-            ReadNumbers(store.db(), u"SELECT TOP 1 Nen,Tuki FROM Syukei ORDER BY Nen*100+Tuki DESC"_s);
+            ReadNumbers(*gDb, u"SELECT TOP 1 Nen,Tuki FROM Syukei ORDER BY Nen*100+Tuki DESC"_s);
         return last.empty() ? QString()
                             : MonthText(static_cast<int>(last[0][0]), static_cast<int>(last[0][1]));
     } catch (const RuntimeError&) {

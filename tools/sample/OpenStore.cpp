@@ -5,9 +5,9 @@
 
 namespace akarix::sample {
 
-OpenStore::OpenStore(const QString& path) {
+OpenStore::OpenStore(const QString& path, bool readOnly) {
     gWs = &DBEngine::Workspaces(0);
-    gDb = gWs->OpenDatabase(path, false, false, ConnectText());
+    gDb = gWs->OpenDatabase(path, false, readOnly, ConnectText());
 }
 
 OpenStore::~OpenStore() {
