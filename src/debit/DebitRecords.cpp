@@ -1,5 +1,6 @@
 #include "debit/DebitRecords.h"
 
+#include "debit/DebitLayout.h"
 #include "debit/DebitQuery.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Format.h"
@@ -11,16 +12,13 @@ namespace akarix {
 
 namespace {
 
+const QString kNone;
 const QString kTwoDigits = u"00"_s;
 const QString kBankCode = u"0000"_s;
 const QString kCount = u"000000"_s;
 const QString kAmount = u"0000000000"_s;
 const QString kTotal = u"000000000000"_s;
 const QString kCustomer = u"00000000000000000000"_s;
-
-QString Blanks(int width) {
-    return QString(width, u' ');
-}
 
 QString ToTheRight(const QString& text, int width, QChar fill) {
     return (QString(width, fill) + Trim(text)).right(width);
@@ -35,16 +33,12 @@ QString MonthAndDay(Date date) {
 }
 
 /// The front of the number: one that is too long loses its end. A text that is no number stays as it is.
-QString AccountNumber(const QString& koza, const QString& mask, int width) {
-    return PadText(Format(koza, mask), width);
+QString AccountNumber(const QString& koza, const QString& mask) {
+    return PadText(Format(koza, mask), 7);
 }
 
-/// What the two request kinds have in common from the payer on, but for the codes.
-QString Claim(const DebitRow& row, Currency amount, QChar newCode, QChar result) {
-    constexpr int kPayer = 30;
-    constexpr int kFiller = 8;
-    return PadText(row.Kana, kPayer) + PadFormat(amount, kAmount) + newCode + PadFormat(row.Deal, kCustomer) +
-           result + Blanks(kFiller);
+QString Payer(const DebitRow& row) {
+    return PadText(row.Kana, 30);
 }
 
 QString OfficeNumber(std::int16_t stn) {
@@ -81,39 +75,46 @@ Consignor FitPostConsignor(const Consignor& consignor) {
 }
 
 QString BankHeader(const Consignor& consignor, Date creation) {
-    return u"1910"_s + consignor.ItakuCode + consignor.Itakusya + MonthAndDay(creation) + consignor.Bnk +
-           consignor.BkName + consignor.Stn + consignor.StnName + consignor.Syurui + consignor.KozaNo +
-           Blanks(17);
+    return ComposeDebit(
+        DebitForm::Bank, '1',
+        {u"91"_s, u"0"_s, consignor.ItakuCode, consignor.Itakusya, MonthAndDay(creation), consignor.Bnk,
+         consignor.BkName, consignor.Stn, consignor.StnName, consignor.Syurui, consignor.KozaNo});
 }
 
 QString BankData(const DebitRow& row, Currency amount) {
-    return u'2' + PadFormat(row.Bnk, kBankCode) + Blanks(15) + PadFormat(row.Stn, u"000"_s) + Blanks(15) +
-           u"0000"_s + PadFormat(row.Kind, u"0"_s) + AccountNumber(row.Koza, u"0000000"_s, 7) +
-           Claim(row, amount, u'0', u'0');
+    return ComposeDebit(DebitForm::Bank, '2',
+                        {PadFormat(row.Bnk, kBankCode), kNone, PadFormat(row.Stn, u"000"_s), kNone, u"0000"_s,
+                         PadFormat(row.Kind, u"0"_s), AccountNumber(row.Koza, u"0000000"_s), Payer(row),
+                         PadFormat(amount, kAmount), u"0"_s, PadFormat(row.Deal, kCustomer), u"0"_s});
 }
 
 QString BankTrailer(int count, Currency total) {
-    const QString none = PadFormat(0, kCount) + PadFormat(0, kTotal);
-    return u'8' + PadFormat(count, kCount) + PadFormat(total, kTotal) + none + none + Blanks(65);
+    const QString none = PadFormat(0, kCount);
+    const QString nothing = PadFormat(0, kTotal);
+    return ComposeDebit(DebitForm::Bank, '8',
+                        {PadFormat(count, kCount), PadFormat(total, kTotal), none, nothing, none, nothing});
 }
 
 QString PostHeader(const Consignor& consignor, Date creation, const RetransferDay& again) {
-    return u"121"_s + Blanks(3) + consignor.ItakuCode + consignor.Itakusya + MonthAndDay(creation) +
-           consignor.Bnk + consignor.BkName + consignor.Stn + Blanks(17) + consignor.KozaNo + again.month +
-           again.day + Blanks(13);
+    return ComposeDebit(
+        DebitForm::PostOffice, '1',
+        {u"21"_s, consignor.ItakuCode, consignor.Itakusya, MonthAndDay(creation), consignor.Bnk,
+         consignor.BkName, consignor.Stn, consignor.KozaNo, again.month + again.day});
 }
 
 QString PostData(const DebitRow& row, const Consignor& consignor, Currency amount) {
-    return u'2' + PadFormat(row.Bnk, kBankCode) + consignor.BkName + OfficeNumber(row.Stn) + Blanks(20) +
-           AccountNumber(row.Koza, u"00000000"_s, 7) + Claim(row, amount, u'1', u' ');
+    return ComposeDebit(DebitForm::PostOffice, '2',
+                        {PadFormat(row.Bnk, kBankCode), consignor.BkName, OfficeNumber(row.Stn),
+                         AccountNumber(row.Koza, u"00000000"_s), Payer(row), PadFormat(amount, kAmount),
+                         u"1"_s, PadFormat(row.Deal, kCustomer), kNone});
 }
 
 QString PostTrailer(int count, Currency total) {
-    return u'8' + PadFormat(count, kCount) + PadFormat(total, kTotal) + Blanks(101);
+    return ComposeDebit(DebitForm::PostOffice, '8', {PadFormat(count, kCount), PadFormat(total, kTotal)});
 }
 
 QString DebitEnd() {
-    return u'9' + Blanks(119);
+    return ComposeDebit(DebitForm::Bank, '9', {});
 }
 
 }  // namespace akarix

@@ -1,5 +1,6 @@
 #include "debit/DebitResult.h"
 
+#include "debit/DebitLayout.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Conversion.h"
 #include "values/NumStr.h"
@@ -7,18 +8,10 @@
 
 namespace akarix {
 
-namespace {
-
-/// Digits of a record. \param place counted from 1, as in the banks' tables
-QString Numeric(const QString& record, int place, int width) {
-    return KeepNumeric(record.mid(place - 1, width));
-}
-
-}  // namespace
-
 Date ResultDate(const QString& header, Date today) {
-    const std::int16_t month = CInt(Numeric(header, 55, 2));
-    const std::int16_t day = CInt(Numeric(header, 57, 2));
+    const QString monthAndDay = kDebitDay.of(header);
+    const std::int16_t month = CInt(KeepNumeric(monthAndDay.left(2)));
+    const std::int16_t day = CInt(KeepNumeric(monthAndDay.mid(2)));
     const int year = month > Month(today) ? Year(today) - 1 : Year(today);
     // Through the text: a month or day that does not exist must not carry over into another one.
     return CDate(NumStr(year) + u'/' + NumStr(month) + u'/' + NumStr(day));
@@ -30,9 +23,9 @@ bool EndsResults(const QString& record) {
 
 DebitResult ReadResult(const QString& record) {
     DebitResult result;
-    result.Deal = CLng(Numeric(record, 92, 20));
-    result.code = CInt(NumVal(record.mid(111, 1)));
-    result.amount = ToCurrency(record.mid(80, 10));
+    result.Deal = CLng(KeepNumeric(kDebitCustomer.of(record)));
+    result.code = CInt(NumVal(record.mid(kDebitResultPlace - 1, 1)));
+    result.amount = ToCurrency(kDebitAmount.of(record));
     return result;
 }
 

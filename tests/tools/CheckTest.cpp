@@ -112,7 +112,7 @@ TEST_F(ThreeMonths, ADifferenceIsToldWithWhyItArose) {
     for (const auto& [what, plant, told] : cases) {
         plantInto(billed, plant);
         QStringList found;
-        const LedgerProof proof = ProveLedger(*gDb, [](int, int) {});
+        const LedgerProof proof = ProveLedger(*gDb);
         for (const auto& [d, cause] : proof.findings) {
             found += u"%1 %2/%3 %4 %5 %6 %7"_s.arg(d.deal)
                          .arg(d.nendo)
@@ -129,7 +129,7 @@ TEST_F(ThreeMonths, ADifferenceIsToldWithWhyItArose) {
 TEST_F(ThreeMonths, WhatAPurgedMonthCarriedIsNotHeldAgainstTheNext) {
     purge(1, 1);
     purge(2, 1);
-    const LedgerProof proof = ProveLedger(*gDb, [](int, int) {});
+    const LedgerProof proof = ProveLedger(*gDb);
     EXPECT_TRUE(proof.findings.empty());
     EXPECT_EQ(proof.unproved, 1);
     EXPECT_EQ(proof.first, std::pair(2011, 2));
@@ -137,11 +137,11 @@ TEST_F(ThreeMonths, WhatAPurgedMonthCarriedIsNotHeldAgainstTheNext) {
 
 TEST_F(ThreeMonths, WhatOneCustomersPurgedMonthCarriedIsNoFaultUnlessItsDocumentsStand) {
     purge(2, 1);
-    const LedgerProof proof = ProveLedger(*gDb, [](int, int) {});
+    const LedgerProof proof = ProveLedger(*gDb);
     EXPECT_TRUE(proof.findings.empty());
     EXPECT_EQ(proof.purged, std::vector<std::int32_t>{2});
     ScratchStore::run(slip(2, 2, 1, 400));
-    EXPECT_EQ(ProveLedger(*gDb, [](int, int) {}).findings.size(), 2U) << "no row in January, and a balance";
+    EXPECT_EQ(ProveLedger(*gDb).findings.size(), 2U) << "no row in January, and a balance";
 }
 
 /// The second customer leases both things, the first an ACU, in all the months; a finding is

@@ -220,12 +220,12 @@ TEST_F(PlayedMonth, AFaultOfOneYenIsTold) {
         {u"UPDATE GasKeisan SET Kihon=Kihon+1 WHERE Ptn=6", u"得意先 41 2011/4 Gaku"},
         {u"UPDATE Dgd SET KoukanGoMeter=1 WHERE Deal=41", u"得意先 41: 入力した検針値と違います。"},
         {u"UPDATE Dud SET Gaku=Gaku+1 WHERE Eda=1 AND Dno=%1", u"売上伝票 %1: 入力した内容と違います。",
-         3},  // and the ledger's sales and its charge
+         2},  // and the ledger's sales
         {u"UPDATE Dny SET Kubun=1 WHERE Deal=%3 AND Getudo=4", u"得意先 %3: 口座振替"},
         {u"UPDATE TtoD SET NGaku=NGaku+1 WHERE Deal=%3 AND Nendo=2011 AND Getudo=4", u"得意先 %3: 口座振替",
          2},  // and the ledger's payments
         {u"UPDATE Dud SET Gaku=Gaku+1 WHERE Deal=%4 AND CreateAuto=1 AND Nendo=2011 AND Getudo=4",
-         u"得意先 %4: リース伝票が違います。", 3},  // and the ledger's sales and its charge
+         u"得意先 %4: リース伝票が違います。", 2},  // and the ledger's sales
         {u"UPDATE Deal SET ACU=1-ACU WHERE Code=%4", u"得意先 %4: リース伝票が違います。"},
         {u"UPDATE TtoD SET NGaku=NGaku+1 WHERE Deal=%5 AND Nendo=2011 AND Getudo=5",
          u"得意先 %5 2011/5 NGaku"},

@@ -4,7 +4,7 @@
 #include "admin/Columns.h"
 #include "admin/Command.h"
 #include "admin/DebitCheck.h"
-#include "admin/DebitLayout.h"
+#include "admin/DebitWords.h"
 #include "admin/Terminal.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/Text.h"
@@ -68,7 +68,7 @@ QString Table(qsizetype first, Records records, const DebitReport& report) {
         QStringList cells;
         for (const QByteArray& record : records) {
             QString cell = ValueOf(field, record);
-            if (report.isResult && field.place == kResultPlace && !cell.isEmpty())
+            if (report.isResult && field.place == kDebitResultPlace && !cell.isEmpty())
                 cell += u' ' + DebitResultName(cell[0].toLatin1());
             cells += cell;
         }

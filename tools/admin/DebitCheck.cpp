@@ -5,6 +5,7 @@
 #include <set>
 #include <utility>
 
+#include "admin/DebitWords.h"
 #include "platform/runtime/Literals.h"
 
 namespace akarix::admin {
@@ -70,7 +71,7 @@ class Check {
         depart(
             u"支店番号が 3 けた以下（%1）なので、レコードが 2 行に割れている。得意先 %2 の支店を 5 "
             "けたにして作り直す"_s.arg(QString::fromLatin1(record.mid(20, 3)))
-                .arg(record.mid(91, 20).toLongLong()));
+                .arg(kDebitCustomer.of(record).toLongLong()));
     }
 
     void depart(const QString& text) { report_.departures.push_back({number_, text}); }
@@ -104,8 +105,8 @@ class Check {
     }
 
     void count(const QByteArray& record) {
-        const qint64 amount = record.mid(80, 10).toLongLong();
-        const char result = record.mid(kResultPlace - 1, 1).append(' ')[0];
+        const qint64 amount = kDebitAmount.of(record).toLongLong();
+        const char result = record.mid(kDebitResultPlace - 1, 1).append(' ')[0];
         const auto add = [amount](DebitTally& tally) {
             ++tally.count;
             tally.amount += amount;

@@ -5,7 +5,7 @@
 #include <array>
 #include <vector>
 
-#include "admin/DebitLayout.h"
+#include "debit/DebitLayout.h"
 
 namespace akarix::admin {
 

@@ -40,6 +40,7 @@ struct LedgerProof {
 /// Works out every row of the ledger again from readings, slips, payments and the row before it. A row is
 /// held against the row before it as that one stands, so a fault is told once, where it is.
 /// \param progress called before each month.
-LedgerProof ProveLedger(Database& db, const std::function<void(int nendo, int getudo)>& progress);
+LedgerProof ProveLedger(
+    Database& db, const std::function<void(int nendo, int getudo)>& progress = [](int, int) {});
 
 }  // namespace akarix

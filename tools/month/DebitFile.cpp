@@ -3,6 +3,7 @@
 #include <QFile>
 #include <algorithm>
 
+#include "debit/DebitLayout.h"
 #include "month/Failure.h"
 #include "platform/runtime/Literals.h"
 
@@ -10,19 +11,13 @@ namespace akarix::month {
 
 namespace {
 
-// Places of a record, from 0.
-constexpr int kRecordWidth = 120;
-constexpr int kAmountAt = 80;
-constexpr int kCustomerAt = 91;
-constexpr int kResultAt = 111;
-
 QList<QByteArray> ReadRecords(const QString& path) {
     QFile file(path);
     if (!file.open(QFile::ReadOnly)) throw Failure(path + u" が読めません。"_s);
     QList<QByteArray> records = file.readAll().split('\n');
     records.removeLast();  // nothing stands behind the last end of line
     for (QByteArray& record : records) {
-        if (!record.endsWith('\r') || record.size() != kRecordWidth + 1)
+        if (!record.endsWith('\r') || record.size() != kDebitRecord + 1)
             throw Failure(path + u" に 120 桁でない行があります。"_s);
         record.chop(1);
     }
@@ -36,8 +31,8 @@ bool IsClaim(const QByteArray& record) {
 void RequireTrailer(const QList<QByteArray>& records, const DebitFigures& figures, const QString& path) {
     const auto trailer = std::find_if(records.begin(), records.end(),
                                       [](const QByteArray& record) { return record.startsWith('8'); });
-    if (trailer == records.end() || trailer->mid(1, 6).toLongLong() != figures.asked ||
-        trailer->mid(7, 12).toLongLong() != figures.askedYen)
+    if (trailer == records.end() || kDebitCount.of(*trailer).toLongLong() != figures.asked ||
+        kDebitTotal.of(*trailer).toLongLong() != figures.askedYen)
         throw Failure(path + u" の合計が明細と違います。"_s);
 }
 
@@ -60,8 +55,8 @@ DebitClaims ReadDebitFile(const QString& path) {
     DebitClaims claims;
     for (const QByteArray& record : records) {
         if (!IsClaim(record)) continue;
-        const char result = record[kResultAt];
-        claims.push_back({record.mid(kCustomerAt, 20).toInt(), record.mid(kAmountAt, 10).toLongLong(),
+        const char result = record[kDebitResultPlace - 1];
+        claims.push_back({kDebitCustomer.of(record).toInt(), kDebitAmount.of(record).toLongLong(),
                           result == '0' || result == ' '});
     }
     RequireTrailer(records, TotalsOf(claims), path);
@@ -76,7 +71,7 @@ void MarkDebitFile(const QString& path) {
     for (QByteArray& record : records) {
         if (IsClaim(record)) {
             const bool hasMoney = claim % 9 != 1;
-            record[kResultAt] = claim == 0 ? ' ' : (hasMoney ? '0' : '1');
+            record[kDebitResultPlace - 1] = claim == 0 ? ' ' : (hasMoney ? '0' : '1');
             ++claim;
         }
         file.write(record + "\r\n");

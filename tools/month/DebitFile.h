@@ -24,7 +24,7 @@ struct DebitFigures {
 
 DebitFigures TotalsOf(const DebitClaims& claims);
 
-// The post office's disk, read by its places and with none of the product's routines.
+// The post office's disk, read by its table of places and with none of the product's other routines.
 
 /// Raises Failure when the file cannot be read, or its records do not come to what its trailer says.
 DebitClaims ReadDebitFile(const QString& path);

@@ -1,9 +1,9 @@
 #include "month/MonthCheck.h"
 
 #include <QStringList>
+#include <set>
 
 #include "ledger/ChargeCheck.h"
-#include "ledger/LedgerCheck.h"
 #include "ledger/LedgerProof.h"
 #include "ledger/Rows.h"
 #include "month/DebitCheck.h"
@@ -100,13 +100,15 @@ QStringList CompareLeases(Database& db, int year, int month, const TypedMonth& t
     return differences;
 }
 
-/// The months around the one played: those before it, and what is paid for the one after.
-QStringList ProveOtherMonths(Database& db, int year, int month) {
+/// The run gives every customer a row, also one who has nothing to pay.
+QStringList RequireRows(Database& db, int year, int month) {
+    std::set<std::int64_t> billed;
+    for (const auto& row :
+         ReadNumbers(db, u"SELECT Deal FROM TtoD WHERE Nendo=%1 AND Getudo=%2"_s.arg(year).arg(month)))
+        billed.insert(row[0]);
     QStringList differences;
-    for (const LedgerFinding& finding : ProveLedger(db, [](int, int) {}).findings) {
-        const Difference& difference = finding.difference;
-        if (difference.nendo != year || difference.getudo != month) differences << Describe(difference);
-    }
+    for (const auto& row : ReadNumbers(db, u"SELECT Code FROM Deal"_s))
+        if (!billed.contains(row[0])) differences << u"得意先 %1: 台帳に行がありません。"_s.arg(row[0]);
     return differences;
 }
 
@@ -119,10 +121,11 @@ void CheckMonth(Database& db, int year, int month, const TypedMonth& typed) {
     differences += CompareDocuments(db, index, u"入金"_s, u"Dny WHERE"_s, typed.payments);
     differences += CompareDebits(db, year, month, typed.debits);
     differences += CompareLeases(db, year, month, typed);
-    differences += ProveOtherMonths(db, year, month);
-    for (const auto& found : {CheckCharges(db, year, month), CheckLedgerMonth(db, year, month)})
-        for (const Difference& difference : found)
-            differences << Describe(difference);
+    differences += RequireRows(db, year, month);
+    for (const Difference& difference : CheckCharges(db, year, month))
+        differences << Describe(difference);
+    for (const LedgerFinding& finding : ProveLedger(db).findings)
+        differences << Describe(finding.difference);
     if (differences.isEmpty()) return;
     throw Failure(u"台帳が再計算と違います（%1 か所）。\n"_s.arg(differences.size()) +
                   differences.join(u'\n'));
