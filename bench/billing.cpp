@@ -54,8 +54,8 @@ int Run() {
         for (Race* race : {&first, &again}) {
             race->product.push_back(Measure([&] {
                 const Action grouped;
-                BuildMonthLedger(kYear, kMonth, creation);
-                CarryForwardMonth(kYear, kMonth);
+                BuildMonthLedger({kYear, kMonth}, creation);
+                CarryForwardMonth({kYear, kMonth});
             }));
         }
         files.copy("peer");

@@ -75,13 +75,12 @@ int Run() {
     for (int i = 0; i < kRuns; ++i) {
         files.copy("product");
         files.open("product");
-        Consignor post;
-        LoadPostConsignor(post);
+        const Consignor post = LoadPostConsignor();
         const Consignor fitted = FitPostConsignor(post);
         const RetransferDay never{u"  "_s, u"  "_s};
         writing.product.push_back(Measure([&] {
             WriteRequest(
-                u"A:\\disk"_s, gDb->OpenRecordset(DebitQuery(kPostOffice, kYear, kMonth)),
+                u"A:\\disk"_s, gDb->OpenRecordset(DebitQuery(kPostOffice, {kYear, kMonth})),
                 PostRequest(fitted, kDebited, never), [](const QString&) {});
         }));
         reading.product.push_back(Measure([&] { ReadBack(clerk); }));

@@ -45,8 +45,7 @@ void DebitButtons::writeBank() {
 
 void DebitButtons::writePost() {
     if (!creationStands()) return;
-    Consignor consignor;
-    LoadPostConsignor(consignor);
+    const Consignor consignor = LoadPostConsignor();
     if (!consignor.Saifurikae.isEmpty()) {
         proposeRetransfer(consignor.Saifurikae);
         return;
@@ -92,12 +91,12 @@ void DebitButtons::readPost() {
 
 void DebitButtons::printBank() {
     const DebitWish asked = wish();
-    PrintBankStatement(CInt(KeepNumeric(on_.bank->Text())), asked.nendo, asked.getudo);
+    PrintBankStatement(CInt(KeepNumeric(on_.bank->Text())), asked.month);
 }
 
 void DebitButtons::printPost() {
     const DebitWish asked = wish();
-    PrintPostStatement(asked.nendo, asked.getudo, on_.creation->Text(), opened_);
+    PrintPostStatement(asked.month, on_.creation->Text(), opened_);
 }
 
 /// Its month and day go into the file.
@@ -108,7 +107,7 @@ bool DebitButtons::creationStands() const {
 }
 
 DebitWish DebitButtons::wish() const {
-    return {CLng(KeepNumeric(on_.year->Text())), CLng(KeepNumeric(on_.month->Text())),
+    return {{CLng(KeepNumeric(on_.year->Text())), CLng(KeepNumeric(on_.month->Text()))},
             ParseDate(on_.creation->Text())};
 }
 

@@ -120,7 +120,7 @@ void Seikyu_frm::showWeekday() {
 
 void Seikyu_frm::showClosingDate() {
     sSyukeibi_->SetCaption(
-        ReadClosingDate(CInt(NumVal(ebox(kYear).Text())), CInt(NumVal(ebox(kMonth).Text()))));
+        ReadClosingDate({CInt(NumVal(ebox(kYear).Text())), CInt(NumVal(ebox(kMonth).Text()))}));
 }
 
 void Seikyu_frm::enterRetransfer(TextBox& eSaihi, KeyEvent& event) {
@@ -147,13 +147,12 @@ void Seikyu_frm::runBilling() {
         ShowAlert(u"月度と作成日の月が違います。"_s);
         return;
     }
-    const int nendo = CLng(KeepNumeric(ebox(kYear).Text()));
-    const int getudo = CLng(KeepNumeric(ebox(kMonth).Text()));
+    const BillingMonth month{CLng(KeepNumeric(ebox(kYear).Text())), CLng(KeepNumeric(ebox(kMonth).Text()))};
     try {
         // One action to the session's end: only the operator leaves it half-way, and is told how to go on.
         LongRun run(u"請求データの作成"_s, LongRun::AtSessionEnd::GoesOn);
-        BuildMonthLedger(nendo, getudo, day, run);
-        CarryForwardMonth(nendo, getudo, run);
+        BuildMonthLedger(month, day, run);
+        CarryForwardMonth(month, run);
     } catch (const RuntimeError& error) {
         if (error.number() != CancelledByOperator) throw;
         ShowAlert(

@@ -9,25 +9,20 @@
 
 namespace akarix {
 
-Currency PrevKonkaiMeter(int nendo, int getudo, std::int32_t deal) {
+Currency PrevKonkaiMeter(std::int32_t deal, BillingMonth month) {
     return MoneyOf(FirstValue(u"SELECT TOP 1 KonkaiMeter FROM Dgd  WHERE Deal="_s + NumStr(deal) +
-                                  u" AND   Nendo*100+Getudo < "_s + NumStr(nendo * 100 + getudo) +
+                                  u" AND   Nendo*100+Getudo < "_s + NumStr(month.key()) +
                                   u" ORDER BY Nendo*100+Getudo DESC"_s,
                               u"KonkaiMeter"_s));
 }
 
-void ReadMonthMeter(std::int32_t deal, int nendo, int getudo, Currency& zenkaiMeter, Currency& konkaiMeter,
-                    Currency& suu) {
-    Recordset set =
-        gDb->OpenRecordset(u"SELECT * FROM Dgd  WHERE Deal  ="_s + NumStr(deal) + u" AND   Nendo ="_s +
-                           NumStr(nendo) + u" AND   Getudo="_s + NumStr(getudo));
-    zenkaiMeter = konkaiMeter = suu = Currency();
-    if (!set.Eof()) {
-        zenkaiMeter = MoneyOf(set[u"ZenkaiMeter"_s]);
-        konkaiMeter = MoneyOf(set[u"KonkaiMeter"_s]);
-        suu = MoneyOf(set[u"Suu"_s]);
-    }
+MonthMeter ReadMonthMeter(std::int32_t deal, BillingMonth month) {
+    Recordset set = gDb->OpenRecordset(u"SELECT * FROM Dgd "_s + OfCustomerMonth(deal, month));
+    MonthMeter meter;
+    if (!set.Eof())
+        meter = {MoneyOf(set[u"ZenkaiMeter"_s]), MoneyOf(set[u"KonkaiMeter"_s]), MoneyOf(set[u"Suu"_s])};
     set.Close();
+    return meter;
 }
 
 Currency CalcGasCharge(std::int32_t deal, Currency usage) {

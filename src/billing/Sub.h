@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/runtime/Variant.h"
+#include "platform/runtime/Currency.h"
+#include "values/BillingMonth.h"
 
 namespace akarix {
 
@@ -8,10 +9,12 @@ namespace akarix {
 // metres, charges in yen.
 
 /// What a new month's ZenkaiMeter starts from: the reading of the latest earlier month, 0 when there is none.
-Currency PrevKonkaiMeter(int nendo, int getudo, std::int32_t deal);
+Currency PrevKonkaiMeter(std::int32_t deal, BillingMonth month);
 /// The month's readings and use; all 0 when the customer was not read.
-void ReadMonthMeter(std::int32_t deal, int nendo, int getudo, Currency& zenkaiMeter, Currency& konkaiMeter,
-                    Currency& suu);
+struct MonthMeter {
+    Currency zenkaiMeter, konkaiMeter, suu;
+};
+MonthMeter ReadMonthMeter(std::int32_t deal, BillingMonth month);
 /// The charge by the customer's tariff band; 0 without a customer or a band for that use. Only the metered
 /// part loses its fraction of a yen, downwards. Raises 6 on overflow.
 Currency CalcGasCharge(std::int32_t deal, Currency usage);

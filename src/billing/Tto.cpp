@@ -4,7 +4,6 @@
 
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
-#include "store/CustomerMonth.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -17,15 +16,10 @@ namespace akarix {
 
 namespace {
 
-/// " WHERE Nendo =... AND   Getudo=...", as every statement of the run on one month ends.
-QString OfMonth(int nendo, int getudo) {
-    return u" WHERE Nendo ="_s + NumStr(nendo) + u" AND   Getudo="_s + NumStr(getudo);
-}
-
 /// The condition that picks one row of the ledger.
-QString OfLedgerRow(std::int32_t deal, int nendo, int getudo) {
-    return u" WHERE Deal="_s + NumStr(deal) + u" AND   Nendo="_s + NumStr(nendo) + u" AND   Getudo="_s +
-           NumStr(getudo);
+QString OfLedgerRow(std::int32_t deal, BillingMonth month) {
+    return u" WHERE Deal="_s + NumStr(deal) + u" AND   Nendo="_s + NumStr(month.nendo) + u" AND   Getudo="_s +
+           NumStr(month.getudo);
 }
 
 /// Walks a whole set. Its rows are counted in 16 bits: more than 32,767 raise 6.
@@ -47,38 +41,40 @@ void ForEachRow(const QString& sql, const std::function<void(Recordset&)>& visit
 
 /// Makes the ledger row where there is none, then puts the amount in. The insert of a row that exists
 /// changes nothing, so one road serves first and later runs.
-void PutAmount(const QString& column, int nendo, int getudo, std::int32_t deal, const QString& initial,
+void PutAmount(const QString& column, std::int32_t deal, BillingMonth month, const QString& initial,
                const QString& amount) {
-    const QString customer = NumStr(deal);
-    const QString year = NumStr(nendo);
-    const QString month = NumStr(getudo);
-    gDb->Execute(u"INSERT INTO TtoD(Deal, Nendo, Getudo, "_s + column + u") VALUES("_s + customer + u',' +
-                 year + u',' + month + u',' + initial + u')');
-    gDb->Execute(u" UPDATE TtoD  SET   "_s + column + u" ="_s + amount +
-                 OfCustomerMonth(customer, year, month));
+    gDb->Execute(u"INSERT INTO TtoD(Deal, Nendo, Getudo, "_s + column + u") VALUES("_s + NumStr(deal) + u',' +
+                 NumStr(month.nendo) + u',' + NumStr(month.getudo) + u',' + initial + u')');
+    gDb->Execute(u" UPDATE TtoD  SET   "_s + column + u" ="_s + amount + OfCustomerMonth(deal, month));
+}
+
+/// The sum of a customer's documents.
+void PutSum(const QString& column, const Recordset& set, BillingMonth month) {
+    const QString sum = NumStr(MoneyOf(set[u"tGaku"_s]));
+    PutAmount(column, LongOf(set[u"Deal"_s]), month, sum, sum);
 }
 
 /// Sales of months that lost their slips.
-void ClearSalesWithoutSlips(int nendo, int getudo) {
+void ClearSalesWithoutSlips(BillingMonth month) {
     gDb->Execute(
         u"UPDATE TtoD LEFT JOIN Dud ON (TtoD.Getudo = Dud.Getudo) AND (TtoD.Nendo = "
         "Dud.Nendo) AND (TtoD.Deal = Dud.Deal)  SET TtoD.UGaku = 0  WHERE "
         "TtoD.Nendo ="_s +
-        NumStr(nendo) + u" AND   TtoD.Getudo="_s + NumStr(getudo) +
+        NumStr(month.nendo) + u" AND   TtoD.Getudo="_s + NumStr(month.getudo) +
         u" AND   TtoD.UGaku<>0  AND   Dud.Dno IS NULL"_s);
 }
 
-void RememberClosingDate(int nendo, int getudo, Date creation) {
+void RememberClosingDate(BillingMonth month, Date creation) {
     Recordset set = gDb->OpenRecordset(
         u"SELECT Syukei.Nen, Syukei.Tuki, Syukei.Hizuke From Syukei WHERE "
         "Syukei.Nen="_s +
-        NumStr(nendo) + u" AND Syukei.Tuki="_s + NumStr(getudo));
+        NumStr(month.nendo) + u" AND Syukei.Tuki="_s + NumStr(month.getudo));
     if (set.Eof())
         set.AddNew();
     else
         set.Edit();
-    set.Fields(u"Nen"_s) = nendo;
-    set.Fields(u"Tuki"_s) = getudo;
+    set.Fields(u"Nen"_s) = month.nendo;
+    set.Fields(u"Tuki"_s) = month.getudo;
     set.Fields(u"Hizuke"_s) = creation;
     set.Update();
     set.Close();
@@ -99,83 +95,22 @@ LeaseFees ReadLeaseFees() {
 }
 
 /// Removes the slip that an earlier run made for the customer and month; gives its number, or 0.
-std::int32_t RemoveLeaseSlip(int nendo, int getudo, std::int32_t deal) {
+std::int32_t RemoveLeaseSlip(std::int32_t deal, BillingMonth month) {
     const std::int32_t dno = LongOf(FirstValue(
-        u"SELECT * FROM Dud "_s + OfCustomerMonth(deal, nendo, getudo) + u" AND   CreateAuto=1"_s, u"Dno"_s));
+        u"SELECT * FROM Dud "_s + OfCustomerMonth(deal, month) + u" AND   CreateAuto=1"_s, u"Dno"_s));
     if (dno != 0) gDb->Execute(u"DELETE FROM Dud WHERE Dno="_s + NumStr(dno));
     return dno;
 }
 
-}  // namespace
-
-void BuildMonthLedger(int nendo, int getudo, Date creation, Progress& progress) {
-    ClearSalesWithoutSlips(nendo, getudo);
-    progress.stage(u"検針"_s, true);
-    ForEachRow(
-        u"SELECT * FROM Dgd "_s + OfMonth(nendo, getudo) + u" ORDER BY Deal"_s,
-        [=](Recordset& set) { PutGGaku(nendo, getudo, LongOf(set[u"Deal"_s]), MoneyOf(set[u"Gaku"_s])); },
-        progress);
-    progress.stage(u"リース料"_s, true);
-    ForEachRow(
-        u"SELECT * FROM Deal  WHERE ACU=1 OR Keihou=1  ORDER BY Code"_s,
-        [=](Recordset& set) {
-            MakeLeaseSlip(nendo, getudo, creation, LongOf(set[u"Code"_s]), IntegerOf(set[u"ACU"_s]),
-                          IntegerOf(set[u"Keihou"_s]), IntegerOf(set[u"TankaPtn"_s]));
-        },
-        progress);
-    // After the lease slips, so that they are in the sum.
-    progress.stage(u"売上"_s, true);
-    ForEachRow(
-        u"SELECT Deal, SUM(Gaku) AS tGaku  FROM  Dud "_s + OfMonth(nendo, getudo) +
-            u" GROUP BY Deal  ORDER BY Deal"_s,
-        [=](Recordset& set) { PutUGaku(nendo, getudo, LongOf(set[u"Deal"_s]), MoneyOf(set[u"tGaku"_s])); },
-        progress);
-    progress.stage(u"入金"_s, true);
-    ForEachRow(
-        u"SELECT Deal, SUM(Gaku) AS tGaku  FROM Dny "_s + OfMonth(nendo, getudo) +
-            u" GROUP BY Deal  ORDER BY Deal"_s,
-        [=](Recordset& set) { PutNGaku(nendo, getudo, LongOf(set[u"Deal"_s]), MoneyOf(set[u"tGaku"_s])); },
-        progress);
-    gDb->Execute(u"UPDATE TtoD SET Gaku = GGaku+UGaku "_s + OfMonth(nendo, getudo));
-    RememberClosingDate(nendo, getudo, creation);
-}
-
-void CarryForwardMonth(int nendo, int getudo, Progress& progress) {
-    progress.stage(u"繰越"_s, false);
-    ForEachRow(
-        u"SELECT Deal.Code FROM Deal"_s,
-        [=](Recordset& set) {
-            const std::int32_t deal = LongOf(set[u"Code"_s]);
-            Currency zenkaiGaku;
-            int syokiFlg = 0;
-            ReadLedgerHead(deal, nendo, getudo, zenkaiGaku, syokiFlg);
-            if (syokiFlg == 0) PutZenkaiGaku(deal, nendo, getudo, MoneyOf(PriorBalance(deal, nendo, getudo)));
-        },
-        progress);
-}
-
-void PutGGaku(int nendo, int getudo, std::int32_t deal, Currency amount) {
-    PutAmount(u"GGaku"_s, nendo, getudo, deal, u"0"_s, NumStr(amount));
-}
-
-void PutUGaku(int nendo, int getudo, std::int32_t deal, Currency amount) {
-    const QString text = NumStr(amount);
-    PutAmount(u"UGaku"_s, nendo, getudo, deal, text, text);
-}
-
-void PutNGaku(int nendo, int getudo, std::int32_t deal, Currency amount) {
-    const QString text = NumStr(amount);
-    PutAmount(u"NGaku"_s, nendo, getudo, deal, text, text);
-}
-
-void PutZenkaiGaku(std::int32_t deal, int nendo, int getudo, Currency amount) {
+/// Sets the balance carried in; a mark that it was set by hand stays.
+void PutZenkaiGaku(std::int32_t deal, BillingMonth month, Currency amount) {
     Recordset set = gDb->OpenRecordset(u"SELECT Deal,Nendo,Getudo,ZenkaiGaku,SyokiFlg  FROM  TtoD "_s +
-                                       OfLedgerRow(deal, nendo, getudo));
+                                       OfLedgerRow(deal, month));
     if (set.Eof()) {
         set.AddNew();
         set.Fields(u"Deal"_s) = deal;
-        set.Fields(u"Nendo"_s) = nendo;
-        set.Fields(u"Getudo"_s) = getudo;
+        set.Fields(u"Nendo"_s) = month.nendo;
+        set.Fields(u"Getudo"_s) = month.getudo;
         set.Fields(u"ZenkaiGaku"_s) = amount;
         set.Fields(u"SyokiFlg"_s) = std::int16_t{0};
     } else {
@@ -186,10 +121,11 @@ void PutZenkaiGaku(std::int32_t deal, int nendo, int getudo, Currency amount) {
     set.Close();
 }
 
-void MakeLeaseSlip(int nendo, int getudo, Date creation, std::int32_t deal, int acu, int keihou,
-                   [[maybe_unused]] int tankaPtn) {
+/// Writes the customer's lease slip of the month anew, under its old number if it has one. A flag counts when
+/// it is 1.
+void MakeLeaseSlip(std::int32_t deal, BillingMonth month, Date creation, int acu, int keihou) {
     const LeaseFees fees = ReadLeaseFees();
-    std::int32_t dno = RemoveLeaseSlip(nendo, getudo, deal);
+    std::int32_t dno = RemoveLeaseSlip(deal, month);
     // A rebuilt slip keeps its number.
     if (dno == 0) dno = NextDudNo();
     std::int16_t eda = 1;
@@ -199,35 +135,77 @@ void MakeLeaseSlip(int nendo, int getudo, Date creation, std::int32_t deal, int 
             "Getudo, CreateAuto ) VALUES("_s +
             NumStr(dno) + u"      , "_s + NumStr(eda) + u"      , CDATE('"_s + DateText(creation) + u"') "_s +
             u"      , "_s + NumStr(deal) + u"      , 0 "_s + u"      ,'"_s + name + u"' "_s + u"      , "_s +
-            NumStr(fee) + u"      , "_s + NumStr(nendo) + u"      , "_s + NumStr(getudo) + u"      ,1)"_s);
+            NumStr(fee) + u"      , "_s + NumStr(month.nendo) + u"      , "_s + NumStr(month.getudo) +
+            u"      ,1)"_s);
         ++eda;
     };
     if (acu == 1) addLine(u"ACUリース代"_s, fees.acu);
     if (keihou == 1) addLine(u"警報機リース代"_s, fees.alarm);
 }
 
+}  // namespace
+
+void BuildMonthLedger(BillingMonth month, Date creation, Progress& progress) {
+    ClearSalesWithoutSlips(month);
+    progress.stage(u"検針"_s, true);
+    ForEachRow(
+        u"SELECT * FROM Dgd "_s + OfMonth(month) + u" ORDER BY Deal"_s,
+        [=](Recordset& set) {
+            PutAmount(u"GGaku"_s, LongOf(set[u"Deal"_s]), month, u"0"_s, NumStr(MoneyOf(set[u"Gaku"_s])));
+        },
+        progress);
+    progress.stage(u"リース料"_s, true);
+    ForEachRow(
+        u"SELECT * FROM Deal  WHERE ACU=1 OR Keihou=1  ORDER BY Code"_s,
+        [=](Recordset& set) {
+            MakeLeaseSlip(LongOf(set[u"Code"_s]), month, creation, IntegerOf(set[u"ACU"_s]),
+                          IntegerOf(set[u"Keihou"_s]));
+        },
+        progress);
+    // After the lease slips, so that they are in the sum.
+    progress.stage(u"売上"_s, true);
+    ForEachRow(
+        u"SELECT Deal, SUM(Gaku) AS tGaku  FROM  Dud "_s + OfMonth(month) +
+            u" GROUP BY Deal  ORDER BY Deal"_s,
+        [=](Recordset& set) { PutSum(u"UGaku"_s, set, month); }, progress);
+    progress.stage(u"入金"_s, true);
+    ForEachRow(
+        u"SELECT Deal, SUM(Gaku) AS tGaku  FROM Dny "_s + OfMonth(month) + u" GROUP BY Deal  ORDER BY Deal"_s,
+        [=](Recordset& set) { PutSum(u"NGaku"_s, set, month); }, progress);
+    gDb->Execute(u"UPDATE TtoD SET Gaku = GGaku+UGaku "_s + OfMonth(month));
+    RememberClosingDate(month, creation);
+}
+
+void CarryForwardMonth(BillingMonth month, Progress& progress) {
+    progress.stage(u"繰越"_s, false);
+    ForEachRow(
+        u"SELECT Deal.Code FROM Deal"_s,
+        [=](Recordset& set) {
+            const std::int32_t deal = LongOf(set[u"Code"_s]);
+            if (ReadLedgerHead(deal, month).syokiFlg == 0)
+                PutZenkaiGaku(deal, month, MoneyOf(PriorBalance(deal, month)));
+        },
+        progress);
+}
+
 std::int32_t NextDudNo() {
     return HighestPlus(u"SELECT MAX(Dno) AS tDno FROM Dud"_s, 1);
 }
 
-void ReadLedgerHead(std::int32_t deal, int nendo, int getudo, Currency& zenkaiGaku, int& syokiFlg) {
+LedgerHead ReadLedgerHead(std::int32_t deal, BillingMonth month) {
     Recordset set = gDb->OpenRecordset(u"SELECT ZenkaiGaku,GGaku,UGaku,Gaku,NGaku,SyokiFlg  FROM  TtoD "_s +
-                                       OfLedgerRow(deal, nendo, getudo));
-    zenkaiGaku = Currency();
-    syokiFlg = 0;
-    if (!set.Eof()) {
-        zenkaiGaku = MoneyOf(set[u"ZenkaiGaku"_s]);
-        syokiFlg = IntegerOf(set[u"SyokiFlg"_s]);
-    }
+                                       OfLedgerRow(deal, month));
+    LedgerHead head;
+    if (!set.Eof()) head = {MoneyOf(set[u"ZenkaiGaku"_s]), IntegerOf(set[u"SyokiFlg"_s])};
     set.Close();
+    return head;
 }
 
-Variant PriorBalance(std::int32_t deal, int nendo, int getudo) {
-    const std::int32_t month = nendo * 100 + getudo;
+Variant PriorBalance(std::int32_t deal, BillingMonth month) {
     Recordset set = gDb->OpenRecordset(
         u"SELECT ZenkaiGaku,GGaku,UGaku,Gaku,NGaku,SyokiFlg  FROM  TtoD  "
         "WHERE Deal="_s +
-        NumStr(deal) + u" AND   Nendo*100+Getudo<"_s + NumStr(month) +
+        NumStr(deal) + u" AND   Nendo*100+Getudo<"_s + NumStr(month.key()) +
         u" ORDER BY [Nendo]*100+[Getudo] DESC;"_s);
     Variant balance;
     if (!set.Eof()) {
@@ -239,10 +217,10 @@ Variant PriorBalance(std::int32_t deal, int nendo, int getudo) {
     return balance;
 }
 
-QString ReadClosingDate(std::int16_t year, std::int16_t month) {
-    return NullToEmpty(FirstValue(
-        u"SELECT Hizuke FROM Syukei  WHERE Nen="_s + NumStr(year) + u" AND Tuki="_s + NumStr(month),
-        u"Hizuke"_s));
+QString ReadClosingDate(BillingMonth month) {
+    return NullToEmpty(FirstValue(u"SELECT Hizuke FROM Syukei  WHERE Nen="_s + NumStr(month.nendo) +
+                                      u" AND Tuki="_s + NumStr(month.getudo),
+                                  u"Hizuke"_s));
 }
 
 }  // namespace akarix

@@ -25,7 +25,7 @@ void Write(const DebitWish& wish, int bank, const Consignor& consignor, const Sh
         return;
     }
     const Consignor fitted = FitBankConsignor(consignor);
-    Recordset rows = gDb->OpenRecordset(DebitQuery(bank, wish.nendo, wish.getudo));
+    Recordset rows = gDb->OpenRecordset(DebitQuery(bank, wish.month));
     if (rows.Eof()) {
         rows.Close();
         ShowAlert(u"該当が有りません。"_s);
@@ -56,8 +56,7 @@ void WriteBankDebit(const DebitWish& wish, const QString& bankCode, const ShowPr
     if (!AskConfirm(u"銀行ディスクを作成しますか？"_s)) return;
     progress(u"ディスク作成中！"_s);
     const std::int16_t bank = CInt(KeepNumeric(bankCode));
-    Consignor consignor;
-    LoadBankConsignor(bank, consignor);
+    Consignor consignor = LoadBankConsignor(bank);
     consignor.fName = PrepareDebitPath(consignor.fName).name;
     TrapDebit([&] { Write(wish, bank, consignor, progress); });
 }

@@ -8,6 +8,7 @@
 #include "store/Consignor.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
+#include "values/Dates.h"
 #include "values/NumStr.h"
 #include "values/Text.h"
 
@@ -17,12 +18,10 @@ namespace {
 
 constexpr int kPageLimit = 43;  // the line that no longer stands on the page
 constexpr int kBaseRow = 4;
-constexpr int kEraBase = 1988;  // the sheet counts its years by one era, whatever the screens do
 
 QString NameOf(const QString& mode, int bank) {
     if (mode == u"Yubin") return u"郵便局"_s;
-    Consignor consignor;
-    LoadBankConsignor(bank, consignor);
+    const Consignor consignor = LoadBankConsignor(bank);
     if (HasText(consignor.BkName)) return consignor.BkName;
     return u"銀行コード : "_s + NumStr(bank);
 }
@@ -35,8 +34,10 @@ QString AccountOf(const DebitRow& row) {
 
 }  // namespace
 
-BankStatement::BankStatement(const QString& mode, int bank, int nendo, int getudo)
-    : bankName_(NameOf(mode, bank)), month_(u"平成%1年%2月分"_s.arg(nendo - kEraBase).arg(getudo)) {}
+// The sheet counts its years by one era, whatever the screens do.
+BankStatement::BankStatement(const QString& mode, int bank, BillingMonth month)
+    : bankName_(NameOf(mode, bank)),
+      month_(u"平成%1年%2月分"_s.arg(month.nendo - kEraBase).arg(month.getudo)) {}
 
 void BankStatement::ClrDetail() {
     for (const char16_t* block : {u"A5:AH46", u"T47", u"AA47"})
@@ -68,12 +69,12 @@ void BankStatement::PrintOutDetailGokei(int /*line*/, int /*firstRow*/, int /*pa
     ExcelCell(u"AA47"_s, NumStr(total_));
 }
 
-void PrintBankStatement(int bank, int nendo, int getudo) {
+void PrintBankStatement(int bank, BillingMonth month) {
     TrapPrinting([=] {
         const PrintRun run(u"口座振替明細表"_s);
-        Recordset set = gDb->OpenRecordset(DebitQuery(bank, nendo, getudo));
+        Recordset set = gDb->OpenRecordset(DebitQuery(bank, month));
         if (set.Eof()) return;
-        BankStatement statement(u"Bnk"_s, bank, nendo, getudo);
+        BankStatement statement(u"Bnk"_s, bank, month);
         ExcelOpenPaged(u"口座振替明細表"_s, kPageLimit, kBaseRow);
         SetReport(&statement, std::move(set));
         ExcelRunPaged();

@@ -4,6 +4,7 @@
 
 #include "output/EX.h"
 #include "platform/runtime/Currency.h"
+#include "values/BillingMonth.h"
 
 namespace akarix {
 
@@ -12,7 +13,7 @@ namespace akarix {
 class BankStatement : public ReportForm {
  public:
     /// \param mode "Bnk" names the bank at the head, "Yubin" the post office
-    BankStatement(const QString& mode, int bank, int nendo, int getudo);
+    BankStatement(const QString& mode, int bank, BillingMonth month);
 
     void ClrDetail() override;
     void PrintOutHead(int page) override;
@@ -27,6 +28,6 @@ class BankStatement : public ReportForm {
 };
 
 /// Asks for the printer and prints; no rows, no page and no word.
-void PrintBankStatement(int bank, int nendo, int getudo);
+void PrintBankStatement(int bank, BillingMonth month);
 
 }  // namespace akarix

@@ -8,7 +8,7 @@
 
 namespace akarix {
 
-QString DebitQuery(int bank, int nendo, int getudo) {
+QString DebitQuery(int bank, BillingMonth month) {
     return u"SELECT First(Deal.Rte) AS Rte, First(Deal.Haisou) AS Haiso, First(TtoD.Deal) AS Deal,"
            " Sum([TtoD].[ZenkaiGaku]+[TtoD].[Gaku]-[TtoD].[NGaku]) AS tGaku,"
            " First(Deal.DiscGaku) AS DiscGaku, First(Deal.Kana) AS Kana, First(Deal.Bnk) AS Bnk,"
@@ -17,8 +17,8 @@ QString DebitQuery(int bank, int nendo, int getudo) {
            " FROM TtoD INNER JOIN Deal ON TtoD.Deal = Deal.Code"
            " Where [TtoD].[ZenkaiGaku] + [TtoD].[Gaku] - [TtoD].[NGaku] > 0"
            " And Deal.Bnk = "_s +
-           NumStr(bank) + u" And TtoD.Nendo = "_s + NumStr(nendo) + u" And TtoD.Getudo = "_s +
-           NumStr(getudo) +
+           NumStr(bank) + u" And TtoD.Nendo = "_s + NumStr(month.nendo) + u" And TtoD.Getudo = "_s +
+           NumStr(month.getudo) +
            u" GROUP BY Deal.Bnk,Deal.Stn,Deal.Kind,Deal.Koza"
            " ORDER BY First(Deal.Rte), First(Deal.Haisou), First(TtoD.Deal)"_s;
 }

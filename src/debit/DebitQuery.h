@@ -5,6 +5,7 @@
 
 #include "platform/dao/Recordset.h"
 #include "platform/runtime/Currency.h"
+#include "values/BillingMonth.h"
 
 namespace akarix {
 
@@ -14,7 +15,7 @@ constexpr int kPostOffice = 9900;
 /// What a collecting bank is asked for in a month: one row per account, in the order of the round. Customers
 /// who share an account are one row, under the first of them, with the sum of what those who owe anything
 /// owe.
-QString DebitQuery(int bank, int nendo, int getudo);
+QString DebitQuery(int bank, BillingMonth month);
 
 /// A row of DebitQuery.
 struct DebitRow {

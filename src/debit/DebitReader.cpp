@@ -96,15 +96,11 @@ void ReadDisk(const Consignor& consignor, int bank, const ShowProgress& progress
 
 void ReadBankResult(const QString& bankCode, const ShowProgress& progress) {
     const std::int16_t bank = CInt(KeepNumeric(bankCode));
-    Consignor consignor;
-    LoadBankConsignor(bank, consignor);
-    ReadDisk(consignor, bank, progress);
+    ReadDisk(LoadBankConsignor(bank), bank, progress);
 }
 
 void ReadPostResult(const ShowProgress& progress) {
-    Consignor consignor;
-    LoadPostConsignor(consignor);
-    ReadDisk(consignor, kPostOffice, progress);
+    ReadDisk(LoadPostConsignor(), kPostOffice, progress);
 }
 
 }  // namespace akarix

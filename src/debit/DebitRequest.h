@@ -6,6 +6,7 @@
 #include "platform/dao/Recordset.h"
 #include "platform/runtime/Currency.h"
 #include "platform/runtime/Date.h"
+#include "values/BillingMonth.h"
 
 namespace akarix {
 
@@ -17,8 +18,7 @@ constexpr int kDebitFile = 1;
 
 /// What the clerk has typed for a request.
 struct DebitWish {
-    int nendo = 0;
-    int getudo = 0;
+    BillingMonth month;
     Date creation;
 };
 

@@ -1,7 +1,6 @@
 #include "debit/PaymentPosting.h"
 
 #include "platform/runtime/Literals.h"
-#include "store/CustomerMonth.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -21,22 +20,20 @@ std::int32_t NextNumber() {
 }  // namespace
 
 void PostPayment(std::int32_t deal, Date hizuke, Currency amount) {
-    int nendo = 0;
-    int getudo = 0;
-    DateToGetudo(deal, hizuke, nendo, getudo);
+    const BillingMonth month = DateToGetudo(deal, hizuke);
     const std::int32_t dno = NextNumber();
     Recordset payments = gDb->OpenRecordset(u"SELECT * FROM Dny "_s);
     payments.AddNew();
     payments.Fields(u"Dno"_s) = dno;
     payments.Fields(u"Hizuke"_s) = hizuke;
     payments.Fields(u"Deal"_s) = deal;
-    payments.Fields(u"Nendo"_s) = nendo;
-    payments.Fields(u"Getudo"_s) = getudo;
+    payments.Fields(u"Nendo"_s) = month.nendo;
+    payments.Fields(u"Getudo"_s) = month.getudo;
     payments.Fields(u"Gaku"_s) = amount;
     payments.Fields(u"Kubun"_s) = kDebited;
     payments.Update();
     payments.Close();
-    gDb->Execute(u"UPDATE TtoD  SET   NGaku="_s + NumStr(amount) + OfCustomerMonth(deal, nendo, getudo));
+    gDb->Execute(u"UPDATE TtoD  SET   NGaku="_s + NumStr(amount) + OfCustomerMonth(deal, month));
 }
 
 }  // namespace akarix

@@ -40,7 +40,7 @@ void Write(const DebitWish& wish, const DebitPath& path, const Consignor& consig
         if (!Ask(u"再振替日の月日はいいですか？"_s)) return;
         again = DayOf(typed);
     }
-    Recordset rows = gDb->OpenRecordset(DebitQuery(kPostOffice, wish.nendo, wish.getudo));
+    Recordset rows = gDb->OpenRecordset(DebitQuery(kPostOffice, wish.month));
     if (rows.Eof()) {
         rows.Close();
         ShowAlert(u"該当が有りません。"_s);
@@ -68,8 +68,7 @@ void WritePostDebit(const DebitWish& wish, RetransferDay& again, const QString& 
                     const ShowProgress& progress) {
     if (!Ask(u"郵便局ディスクを作成しますか？"_s)) return;
     progress(u"ディスク作成中！"_s);
-    Consignor consignor;
-    LoadPostConsignor(consignor);
+    Consignor consignor = LoadPostConsignor();
     const DebitPath path = PrepareDebitPath(consignor.fName);
     consignor.fName = path.name;
     TrapDebit([&] { Write(wish, path, consignor, again, typed, progress); });

@@ -127,16 +127,15 @@ void PostStatement::writeClosing() const {
 
 }  // namespace
 
-void PrintPostStatement(int nendo, int getudo, const QString& creation, Date opened) {
+void PrintPostStatement(BillingMonth month, const QString& creation, Date opened) {
     TrapPrinting([&] {
         const PrintRun run(u"郵便局口座振替明細表"_s);
-        Recordset set = gDb->OpenRecordset(DebitQuery(kPostOffice, nendo, getudo));
+        Recordset set = gDb->OpenRecordset(DebitQuery(kPostOffice, month));
         if (set.Eof()) {
             ShowAlert(u"該当データが有りません。"_s);
             return;
         }
-        Consignor consignor;
-        LoadPostConsignor(consignor);
+        Consignor consignor = LoadPostConsignor();
         const Consignor onDisk = FitPostConsignor(consignor);
         consignor.ItakuCode = onDisk.ItakuCode;
         consignor.Itakusya = onDisk.Itakusya;

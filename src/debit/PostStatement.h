@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "platform/runtime/Date.h"
+#include "values/BillingMonth.h"
 
 namespace akarix {
 
@@ -13,6 +14,6 @@ namespace akarix {
 /// Asks for the printer, then prints; no rows are told.
 /// \param creation the creation date as the clerk has typed it
 /// \param opened the day on the paper
-void PrintPostStatement(int nendo, int getudo, const QString& creation, Date opened);
+void PrintPostStatement(BillingMonth month, const QString& creation, Date opened);
 
 }  // namespace akarix

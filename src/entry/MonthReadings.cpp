@@ -29,14 +29,13 @@ Recordset MonthReadings::show(const QString& filter, const QString& day) const {
 }
 
 void MonthReadings::open(const QString& filter, const QString& day) const {
-    const std::int16_t nendo = CInt(year_);
-    const std::int16_t getudo = CInt(month_);
+    const BillingMonth month{CInt(year_), CInt(month_)};
     const QString zero = u"0"_s;
     const QStringList unread{zero, zero, zero, zero, zero, day};
     Recordset customers = gDb->OpenRecordset(u"SELECT * FROM Deal "_s + u" WHERE Code>0"_s + filter);
     for (; !customers.Eof(); customers.MoveNext()) {
         const std::int32_t deal = LongOf(customers[u"Code"_s]);
-        add(NumStr(deal), NumStr(PrevKonkaiMeter(nendo, getudo, deal)), unread);
+        add(NumStr(deal), NumStr(PrevKonkaiMeter(deal, month)), unread);
     }
     customers.Close();
 }

@@ -1,21 +1,20 @@
 #include "entry/OpeningBalance.h"
 
 #include "platform/runtime/Literals.h"
-#include "store/CustomerMonth.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
 
 namespace akarix {
 
-void SetOpeningBalance(std::int32_t deal, int nendo, int getudo, Currency amount) {
+void SetOpeningBalance(std::int32_t deal, BillingMonth month, Currency amount) {
     Recordset row =
         gDb->OpenRecordset(u"SELECT * FROM TtoD  WHERE Deal   ="_s + NumStr(deal) + u" AND   Nendo ="_s +
-                           NumStr(nendo) + u" AND   Getudo="_s + NumStr(getudo));
+                           NumStr(month.nendo) + u" AND   Getudo="_s + NumStr(month.getudo));
     if (row.Eof()) {
         row.AddNew();
         row.Fields(u"Deal"_s) = deal;
-        row.Fields(u"Nendo"_s) = nendo;
-        row.Fields(u"Getudo"_s) = getudo;
+        row.Fields(u"Nendo"_s) = month.nendo;
+        row.Fields(u"Getudo"_s) = month.getudo;
     } else {
         row.Edit();
     }
@@ -25,8 +24,8 @@ void SetOpeningBalance(std::int32_t deal, int nendo, int getudo, Currency amount
     row.Close();
 }
 
-void RemoveOpeningBalance(std::int32_t deal, int nendo, int getudo) {
-    gDb->Execute(u"DELETE FROM TtoD "_s + OfCustomerMonth(deal, nendo, getudo));
+void RemoveOpeningBalance(std::int32_t deal, BillingMonth month) {
+    gDb->Execute(u"DELETE FROM TtoD "_s + OfCustomerMonth(deal, month));
 }
 
 }  // namespace akarix

@@ -38,24 +38,17 @@ void AddCarriedIn(FlexGrid& list, Currency total) {
     list.SetTextMatrix(row, kTotal, Format(total, u"#,##0"_s));
 }
 
-Currency BalanceAt(std::int32_t deal, int nendo, int getudo) {
-    Currency balance;
-    int setByHand = 0;
-    ReadLedgerHead(deal, nendo, getudo, balance, setByHand);
-    return balance;
-}
-
-QString FromMonth(int nendo, int getudo) {
-    return u" AND    Nendo*100+Getudo>="_s + NumStr(nendo * 100 + getudo);
+QString FromMonth(BillingMonth month) {
+    return u" AND    Nendo*100+Getudo>="_s + NumStr(month.key());
 }
 
 // ---- the merge of ledger months and payment lines
 
-void GatherMonths(std::int32_t deal, int nendo, int getudo) {
+void GatherMonths(std::int32_t deal, BillingMonth month) {
     gDb->Execute(
         u"INSERT  INTO TempTtoD(Nendo,Getudo,Eda,GGaku,UGaku)  SELECT "
         "Nendo,Getudo,1,GGaku,UGaku  FROM   TtoD  WHERE  Deal="_s +
-        NumStr(deal) + FromMonth(nendo, getudo));
+        NumStr(deal) + FromMonth(month));
 }
 
 void GatherPayment(const Recordset& payment, Date hizuke, std::int16_t eda) {
@@ -79,9 +72,9 @@ void GatherPayment(const Recordset& payment, Date hizuke, std::int16_t eda) {
     row.Close();
 }
 
-void GatherPayments(std::int32_t deal, int nendo, int getudo) {
+void GatherPayments(std::int32_t deal, BillingMonth month) {
     Recordset payments = gDb->OpenRecordset(u"SELECT * FROM Dny  WHERE Deal="_s + NumStr(deal) +
-                                            u" AND   Nendo*100+Getudo>="_s + NumStr(nendo * 100 + getudo) +
+                                            u" AND   Nendo*100+Getudo>="_s + NumStr(month.key()) +
                                             u" ORDER BY Nendo,Getudo"_s);
     QHash<int, std::int16_t> linesOfMonth;
     for (; !payments.Eof(); payments.MoveNext()) {
@@ -93,8 +86,8 @@ void GatherPayments(std::int32_t deal, int nendo, int getudo) {
 
 }  // namespace
 
-LedgerMonth LatestLedgerMonth() {
-    LedgerMonth month;
+BillingMonth LatestLedgerMonth() {
+    BillingMonth month;
     Recordset latest = gDb->OpenRecordset(u"SELECT TOP 1 * FROM TtoD ORDER BY Nendo*100+Getudo DESC"_s);
     if (!latest.Eof()) month = {IntegerOf(latest[u"Nendo"_s]), IntegerOf(latest[u"Getudo"_s])};
     latest.Close();
@@ -105,12 +98,12 @@ void EmptyHistory(FlexGrid& list) {
     SetColumns(list, kColumns);
 }
 
-void ShowLedgerHistory(FlexGrid& list, std::int32_t deal, int nendo, int getudo) {
-    Currency total = BalanceAt(deal, nendo, getudo);
+void ShowLedgerHistory(FlexGrid& list, std::int32_t deal, BillingMonth month) {
+    Currency total = ReadLedgerHead(deal, month).zenkaiGaku;
     EmptyHistory(list);
     Recordset months =
         gDb->OpenRecordset(u" SELECT Nendo,Getudo,ZenkaiGaku,GGaku,UGaku,NGaku  FROM   TtoD  WHERE  Deal="_s +
-                           NumStr(deal) + FromMonth(nendo, getudo));
+                           NumStr(deal) + FromMonth(month));
     if (!months.Eof()) AddCarriedIn(list, total);
     for (; !months.Eof(); months.MoveNext()) {
         const auto money = [&months](const char16_t* column) {
@@ -129,11 +122,11 @@ void ShowLedgerHistory(FlexGrid& list, std::int32_t deal, int nendo, int getudo)
     months.Close();
 }
 
-void ShowPaymentHistory(FlexGrid& list, std::int32_t deal, int nendo, int getudo) {
+void ShowPaymentHistory(FlexGrid& list, std::int32_t deal, BillingMonth month) {
     gDb->Execute(u"DELETE FROM TempTtoD"_s);
-    const Currency carriedIn = BalanceAt(deal, nendo, getudo);
-    GatherMonths(deal, nendo, getudo);
-    GatherPayments(deal, nendo, getudo);
+    const Currency carriedIn = ReadLedgerHead(deal, month).zenkaiGaku;
+    GatherMonths(deal, month);
+    GatherPayments(deal, month);
 
     EmptyHistory(list);
     AddCarriedIn(list, carriedIn);

@@ -1,12 +1,9 @@
 #include "entry/PaymentLedger.h"
 
 #include "billing/Tto.h"
-#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
-#include "store/CustomerMonth.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
-#include "store/TextToField.h"
 #include "store/dbAccess.h"
 #include "values/NumStr.h"
 #include "values/Text.h"
@@ -15,21 +12,9 @@ namespace akarix {
 
 namespace {
 
-struct BillingMonth {
-    int Nendo = 0;
-    int Getudo = 0;
-};
-
-BillingMonth MonthOf(std::int32_t deal, Date hizuke) {
-    BillingMonth month;
-    DateToGetudo(deal, hizuke, month.Nendo, month.Getudo);
-    return month;
-}
-
 Currency PaidIn(std::int32_t deal, BillingMonth month) {
-    return MoneyOf(FirstValue(
-        u"SELECT SUM(Gaku) AS tNGaku FROM Dny "_s + OfCustomerMonth(deal, month.Nendo, month.Getudo),
-        u"tNGaku"_s));
+    return MoneyOf(
+        FirstValue(u"SELECT SUM(Gaku) AS tNGaku FROM Dny "_s + OfCustomerMonth(deal, month), u"tNGaku"_s));
 }
 
 void WriteLines(const PaymentSlip& slip, BillingMonth month) {
@@ -46,16 +31,14 @@ void WriteLines(const PaymentSlip& slip, BillingMonth month) {
         else
             rows.Edit();
         rows.Fields(u"Deal"_s) = slip.Deal;
-        rows.Fields(u"Nendo"_s) = month.Nendo;
+        rows.Fields(u"Nendo"_s) = month.nendo;
         rows.Fields(u"Dno"_s) = slip.Dno;
         rows.Fields(u"Eda"_s) = eda;
-        rows.Fields(u"Getudo"_s) = month.Getudo;
+        rows.Fields(u"Getudo"_s) = month.getudo;
         rows.Fields(u"Hizuke"_s) = slip.Hizuke;
         rows.Fields(u"Gaku"_s) = line.Gaku;
         Field& naiyo = rows.Fields(u"Naiyo"_s);
-        Variant text;
-        TextToField(text, naiyo, line.Naiyo);
-        naiyo = text;
+        naiyo = CutBytes(EmptyToBlank(line.Naiyo), naiyo.Size());
         rows.Fields(u"Kubun"_s) = line.Kubun;
         rows.Update();
     }
@@ -64,14 +47,13 @@ void WriteLines(const PaymentSlip& slip, BillingMonth month) {
 
 void WriteLedger(std::int32_t deal, BillingMonth month) {
     const Currency paid = PaidIn(deal, month);
-    const Currency prior = MoneyOf(PriorBalance(deal, month.Nendo, month.Getudo));
-    Recordset row =
-        gDb->OpenRecordset(u"SELECT * FROM TtoD "_s + OfCustomerMonth(deal, month.Nendo, month.Getudo));
+    const Currency prior = MoneyOf(PriorBalance(deal, month));
+    Recordset row = gDb->OpenRecordset(u"SELECT * FROM TtoD "_s + OfCustomerMonth(deal, month));
     if (row.Eof()) {
         row.AddNew();
         row.Fields(u"Deal"_s) = deal;
-        row.Fields(u"Nendo"_s) = month.Nendo;
-        row.Fields(u"Getudo"_s) = month.Getudo;
+        row.Fields(u"Nendo"_s) = month.nendo;
+        row.Fields(u"Getudo"_s) = month.getudo;
         row.Fields(u"ZenkaiGaku"_s) = prior;
         for (const char16_t* none : {u"GGaku", u"UGaku", u"Gaku"})
             row.Fields(QString::fromUtf16(none)) = Currency();
@@ -85,18 +67,17 @@ void WriteLedger(std::int32_t deal, BillingMonth month) {
 
 }  // namespace
 
-LedgerMonth SavePayment(const PaymentSlip& slip) {
-    const BillingMonth month = MonthOf(slip.Deal, slip.Hizuke);
+BillingMonth SavePayment(const PaymentSlip& slip) {
+    const BillingMonth month = DateToGetudo(slip.Deal, slip.Hizuke);
     WriteLines(slip, month);
     WriteLedger(slip.Deal, month);
-    return {CInt(month.Nendo), CInt(month.Getudo)};
+    return month;
 }
 
 void DeletePayment(std::int32_t dno, std::int32_t deal, Date hizuke) {
-    const BillingMonth month = MonthOf(deal, hizuke);
+    const BillingMonth month = DateToGetudo(deal, hizuke);
     gDb->Execute(u"DELETE FROM Dny WHERE Dno="_s + NumStr(dno));
-    gDb->Execute(u"UPDATE TtoD SET NGaku="_s + NumStr(PaidIn(deal, month)) +
-                 OfCustomerMonth(deal, month.Nendo, month.Getudo));
+    gDb->Execute(u"UPDATE TtoD SET NGaku="_s + NumStr(PaidIn(deal, month)) + OfCustomerMonth(deal, month));
 }
 
 PaymentSlip LoadPayment(std::int32_t dno) {

@@ -5,9 +5,9 @@
 
 #include <QString>
 
-#include "entry/LedgerMonth.h"
 #include "platform/runtime/Currency.h"
 #include "platform/runtime/Date.h"
+#include "values/BillingMonth.h"
 
 namespace akarix {
 
@@ -35,7 +35,7 @@ struct PaymentSlip {
 ///
 /// Raises 3022 when another customer has lines under the number. Every statement stands by itself: after an
 /// error the slip may lack lines or the ledger the new sum, and saving again completes both.
-LedgerMonth SavePayment(const PaymentSlip& slip);
+BillingMonth SavePayment(const PaymentSlip& slip);
 
 /// Takes every line under the number away and brings the billing month of the given customer and date up to
 /// date.

@@ -203,7 +203,7 @@ void SlipN2_frm::show(const PaymentSlip& slip) {
     }
     showTotal();
     putMonth(kHistoryYear, kHistoryMonth, slip.Hizuke);
-    ShowPaymentHistory(*List_, slip.Deal, Year(slip.Hizuke), Month(slip.Hizuke));
+    ShowPaymentHistory(*List_, slip.Deal, BillingMonth::Of(slip.Hizuke));
 }
 
 void SlipN2_frm::showTotal() {
@@ -213,10 +213,10 @@ void SlipN2_frm::showTotal() {
     total_->SetCaption(Yen(total));
 }
 
-void SlipN2_frm::showLedgerEnd(LedgerMonth end) {
+void SlipN2_frm::showLedgerEnd(BillingMonth end) {
     end_ = end;
     ledgerEnd_->SetCaption(
-        end.Nendo == 0 ? QString() : u"売掛は%1年%2月まで"_s.arg(NumStr(end.Nendo), NumStr(end.Getudo)));
+        end.nendo == 0 ? QString() : u"売掛は%1年%2月まで"_s.arg(NumStr(end.nendo), NumStr(end.getudo)));
 }
 
 bool SlipN2_frm::enter(int index) {
@@ -266,7 +266,7 @@ bool SlipN2_frm::maySave() {
 void SlipN2_frm::save() {
     if (!maySave()) return;
     // The screen is read whole before anything is written: a text that is no amount costs no stored line.
-    const LedgerMonth saved = SavePayment(slipOnScreen());
+    const BillingMonth saved = SavePayment(slipOnScreen());
     // A save can only lengthen the ledger. Asking for its end would take longer than everything else.
     showLedgerEnd(std::max(end_, saved));
     clear();
@@ -283,23 +283,23 @@ void SlipN2_frm::remove() {
 // ---- the customer's ledger
 
 void SlipN2_frm::saveOpening() {
-    const std::int16_t year = CInt(NumVal(ebox(kOpeningYear).Text()));
-    const std::int16_t month = CInt(NumVal(ebox(kOpeningMonth).Text()));
+    const BillingMonth month{CInt(NumVal(ebox(kOpeningYear).Text())),
+                             CInt(NumVal(ebox(kOpeningMonth).Text()))};
     // Nothing below is asked for: what a take-over put under a month 0 can be taken away here as well.
-    if (month > kLastMonth) return;
+    if (month.getudo > kLastMonth) return;
     const Currency amount = ToCurrency(ebox(kOpeningAmount).Text());
     if (amount.IsZero())
-        RemoveOpeningBalance(number(kCustomer), year, month);
+        RemoveOpeningBalance(number(kCustomer), month);
     else
-        SetOpeningBalance(number(kCustomer), year, month, amount);
-    showLedgerEnd(amount.IsZero() ? LatestLedgerMonth() : std::max(end_, LedgerMonth{year, month}));
+        SetOpeningBalance(number(kCustomer), month, amount);
+    showLedgerEnd(amount.IsZero() ? LatestLedgerMonth() : std::max(end_, month));
     clear();
     NoticeSaved();
 }
 
 void SlipN2_frm::showHistory() {
-    ShowLedgerHistory(*List_, number(kCustomer), CInt(NumVal(ebox(kHistoryYear).Text())),
-                      CInt(NumVal(ebox(kHistoryMonth).Text())));
+    ShowLedgerHistory(*List_, number(kCustomer),
+                      {CInt(NumVal(ebox(kHistoryYear).Text())), CInt(NumVal(ebox(kHistoryMonth).Text()))});
 }
 
 }  // namespace akarix

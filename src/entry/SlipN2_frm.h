@@ -1,7 +1,7 @@
 #pragma once
 
 #include "entry/DocumentForm.h"
-#include "entry/LedgerMonth.h"
+#include "values/BillingMonth.h"
 
 class QGroupBox;
 class QVBoxLayout;
@@ -31,7 +31,7 @@ class SlipN2_frm : public DocumentForm {
     void load() override;
     void show(const PaymentSlip& slip);
     void showTotal();
-    void showLedgerEnd(LedgerMonth end);
+    void showLedgerEnd(BillingMonth end);
     bool enter(int index) override;
 
     static void fillClasses(ComboBox& list);
@@ -52,7 +52,7 @@ class SlipN2_frm : public DocumentForm {
     FlexGrid* List_ = nullptr;
     Label* total_ = nullptr;
     Label* ledgerEnd_ = nullptr;
-    LedgerMonth end_;
+    BillingMonth end_;
 };
 
 }  // namespace akarix

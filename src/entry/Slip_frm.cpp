@@ -220,13 +220,11 @@ bool Slip_frm::maySave(Date date) {
 void Slip_frm::save() {
     const Date date = ParseStrictDate(ebox(kDate).Text());
     if (!maySave(date)) return;
-    int nendo = 0;
-    int getudo = 0;
-    DateToGetudo(CLng(NumVal(ebox(kDeal).Text())), date, nendo, getudo);
+    const BillingMonth month = DateToGetudo(CLng(NumVal(ebox(kDeal).Text())), date);
     removeRows();
     int eda = 0;
     for (int line = 0; line < kLines; ++line)
-        if (isUsed(line)) storeLine(line, ++eda, date, nendo, getudo);
+        if (isUsed(line)) storeLine(line, ++eda, date, month);
     clear();
     NoticeSaved();
 }
@@ -236,7 +234,7 @@ bool Slip_frm::isUsed(int line) const {
     return NumVal(ebox(boxes.code).Text()) != 0.0 || HasText(ebox(boxes.name).Text());
 }
 
-void Slip_frm::storeLine(int line, int eda, Date date, int nendo, int getudo) {
+void Slip_frm::storeLine(int line, int eda, Date date, BillingMonth month) {
     const LineBoxes boxes = BoxesOf(line);
     const auto number = [this](int index) { return KeepNumeric(ebox(index).Text()); };
     // The date goes in with its western year, whatever years the screen shows.
@@ -257,7 +255,7 @@ void Slip_frm::storeLine(int line, int eda, Date date, int nendo, int getudo) {
         "      , 0"_s.arg(codeText(), NumStr(eda), Format(date, u"yyyy/mm/dd"_s),
                           NumStr(NumVal(ebox(kDeal).Text())), number(boxes.code),
                           EmptyToBlank(ebox(boxes.name).Text()), number(boxes.suu), number(boxes.tanka),
-                          number(boxes.gaku), NumStr(nendo), NumStr(getudo)));
+                          number(boxes.gaku), NumStr(month.nendo), NumStr(month.getudo)));
 }
 
 void Slip_frm::removeRows() {

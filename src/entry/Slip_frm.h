@@ -4,6 +4,7 @@
 
 #include "entry/DocumentForm.h"
 #include "platform/runtime/Date.h"
+#include "values/BillingMonth.h"
 
 namespace akarix {
 
@@ -32,7 +33,7 @@ class Slip_frm : public DocumentForm {
 
     bool maySave(Date date);
     void save();
-    void storeLine(int line, int eda, Date date, int nendo, int getudo);
+    void storeLine(int line, int eda, Date date, BillingMonth month);
     bool isUsed(int line) const;
     void removeRows();
     void askAndRemove();

@@ -63,7 +63,7 @@ void TorZan_frm::clear() {
     FocusSelect(ebox(kYear));
 }
 
-LedgerMonth TorZan_frm::month() const {
+BillingMonth TorZan_frm::month() const {
     return {CInt(NumVal(ebox(kYear).Text())), CInt(NumVal(ebox(kMonth).Text()))};
 }
 
@@ -71,8 +71,8 @@ LedgerMonth TorZan_frm::month() const {
 
 void TorZan_frm::show() {
     constexpr int kLastMonth = 12;
-    const LedgerMonth wanted = month();
-    if (wanted.Nendo == 0 || wanted.Getudo < 1 || wanted.Getudo > kLastMonth) return;
+    const BillingMonth wanted = month();
+    if (wanted.nendo == 0 || wanted.getudo < 1 || wanted.getudo > kLastMonth) return;
     List_->SetRows(1);
     gDb->Execute(u"DELETE *.* From TempZan"_s);
     gDb->Execute(u"INSERT INTO TempZan ( Code, Zan ) SELECT Code, 0 From Deal WHERE Deal.Code>0"_s +
@@ -80,11 +80,11 @@ void TorZan_frm::show() {
     gDb->Execute(
         u"UPDATE TempZan INNER JOIN TtoD ON TempZan.Code = TtoD.Deal SET TempZan.Zan "
         "= [TtoD].[ZenkaiGaku] WHERE TtoD.Nendo="_s +
-        NumStr(wanted.Nendo) + u" AND TtoD.Getudo="_s + NumStr(wanted.Getudo));
+        NumStr(wanted.nendo) + u" AND TtoD.Getudo="_s + NumStr(wanted.getudo));
     Recordset rows = gDb->OpenRecordset(
         u"SELECT Deal.*, TempZan.Zan FROM TempZan INNER JOIN Deal ON "
         "TempZan.Code = Deal.Code ORDER BY Deal.Code"_s);
-    const QString monthText = NumStr(wanted.Nendo) + u'/' + NumStr(wanted.Getudo);
+    const QString monthText = NumStr(wanted.nendo) + u'/' + NumStr(wanted.getudo);
     const auto putMonthText = [&](int row) { List_->SetTextMatrix(row, kColMonth, monthText); };
     if (FillGrid(*List_, kColumns, rows, putMonthText) == 0) return;
     List_->SetRow(1);
@@ -94,9 +94,9 @@ void TorZan_frm::show() {
 
 void TorZan_frm::save() {
     if (List_->Rows() <= 1) return;
-    const LedgerMonth wanted = month();
+    const BillingMonth wanted = month();
     for (int row = 1; row < List_->Rows(); ++row) {
-        SetOpeningBalance(CLng(NumVal(List_->TextMatrix(row, kColCode))), wanted.Nendo, wanted.Getudo,
+        SetOpeningBalance(CLng(NumVal(List_->TextMatrix(row, kColCode))), wanted,
                           CCur(KeepNumeric(List_->TextMatrix(row, kColZan))));
     }
     clear();

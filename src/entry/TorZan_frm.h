@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include "entry/LedgerMonth.h"
 #include "toolkit/CellEditor.h"
 #include "toolkit/EntryForm.h"
+#include "values/BillingMonth.h"
 
 namespace akarix {
 
@@ -20,7 +20,7 @@ class TorZan_frm : public EntryForm {
     void layOut();
     void clear();
 
-    LedgerMonth month() const;
+    BillingMonth month() const;
     void show();
     void save();
 

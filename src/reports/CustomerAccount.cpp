@@ -11,14 +11,14 @@
 namespace akarix {
 
 CustomerAccount::CustomerAccount(const QString& year, const QString& month, const QString& customer)
-    : year_(CLng(KeepNumeric(year))), month_(CLng(KeepNumeric(month))), customer_(KeepNumeric(customer)) {}
+    : from_{CLng(KeepNumeric(year)), CLng(KeepNumeric(month))}, customer_(KeepNumeric(customer)) {}
 
 std::int32_t CustomerAccount::customer() const {
     return CLng(customer_);
 }
 
 void CustomerAccount::gather() const {
-    const QString ym = NumStr(year_ * 100 + month_);
+    const QString ym = NumStr(from_.key());
     const QString ofCustomer = ym + u" AND    Deal = "_s + customer_;
     gDb->Execute(u"DELETE FROM TempD"_s);
     gDb->Execute(
@@ -43,7 +43,7 @@ void CustomerAccount::gather() const {
 }
 
 Currency CustomerAccount::opening() const {
-    return MoneyOf(PriorBalance(customer(), year_, month_));
+    return MoneyOf(PriorBalance(customer(), from_));
 }
 
 Recordset CustomerAccount::lines() const {

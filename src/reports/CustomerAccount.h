@@ -4,6 +4,7 @@
 
 #include "platform/dao/Recordset.h"
 #include "platform/runtime/Currency.h"
+#include "values/BillingMonth.h"
 
 namespace akarix {
 
@@ -26,8 +27,7 @@ class CustomerAccount {
     Recordset lines() const;
 
  private:
-    std::int32_t year_;
-    std::int32_t month_;
+    BillingMonth from_;
     QString customer_;
 };
 

@@ -1,7 +1,6 @@
 #include "reports/InvoiceData.h"
 
 #include "platform/runtime/Literals.h"
-#include "store/CustomerMonth.h"
 #include "store/FieldValue.h"
 #include "store/Lookup.h"
 #include "store/dbAccess.h"
@@ -13,7 +12,7 @@ namespace akarix {
 namespace {
 
 Recordset OpenMonth(const QString& select, const InvoiceMonth& invoice, const QString& order = {}) {
-    return gDb->OpenRecordset(select + OfCustomerMonth(invoice.deal, invoice.year, invoice.month) + order);
+    return gDb->OpenRecordset(select + OfCustomerMonth(invoice.deal, invoice.month) + order);
 }
 
 }  // namespace

@@ -6,14 +6,14 @@
 
 #include "platform/dao/Recordset.h"
 #include "platform/runtime/Variant.h"
+#include "values/BillingMonth.h"
 
 namespace akarix {
 
 /// Whose invoice, of which billing month.
 struct InvoiceMonth {
     std::int32_t deal = 0;
-    int year = 0;
-    int month = 0;
+    BillingMonth month;
 };
 
 /// The month's reading; all 0 without a day for a customer who was not read.

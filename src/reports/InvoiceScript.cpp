@@ -8,6 +8,7 @@
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/Text.h"
 #include "store/FieldValue.h"
+#include "values/Dates.h"
 #include "values/NumStr.h"
 #include "values/Text.h"
 
@@ -23,8 +24,6 @@ constexpr int kListPitch = 500;
 constexpr int kListDateX = 3300;
 constexpr int kListNameX = 4200;
 constexpr int kListAmountX = 7860;
-
-constexpr int kEraBase = 1988;  // the paper has the era's name printed on it
 
 void AddFree(int x, int y, const QString& text) {
     PBAddLine(u"<FREE>%1,%2,"_s.arg(x).arg(y) + text);
@@ -43,6 +42,7 @@ QString TwoDigits(int number) {
 }
 
 void AddDate(Date issued) {
+    // The paper has the era's name printed on it.
     AddFree(1000, 0, TwoDigits(Year(issued) - kEraBase));
     AddFree(1700, 0, TwoDigits(Month(issued)));
     AddFree(2400, 0, TwoDigits(Day(issued)));
@@ -92,8 +92,6 @@ void AddInvoiceAccount(const InvoiceMonth& invoice, const InvoiceReading& readin
 void DrawInvoice(const InvoiceMonth& invoice, Date issued) {
     if (IsNoInvoice(invoice.deal)) return;
     PBInit();
-    PB().NoTopRule = true;
-    PB().NoPageTotals = true;
     PBAddLine(u"<FONT>ＭＳ 明朝"_s);
     PBAddLine(u"<SIZE>12"_s);
     AddDate(issued);

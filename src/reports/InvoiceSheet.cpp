@@ -175,8 +175,8 @@ void PrintInvoice(const InvoiceMonth& invoice) {
     if (!ledger) return;
 
     const InvoiceReading reading = ReadInvoiceReading(invoice);
-    QString previousDay;
-    if (!reading.day.isEmpty()) PrevReadingDate(invoice.year, invoice.month, invoice.deal, previousDay);
+    const QString previousDay =
+        reading.day.isEmpty() ? QString() : PrevReadingDate(invoice.deal, invoice.month);
     Recordset sum = OpenSalesSum(invoice);
     const Currency sales = MoneyOf(sum[u"tGaku"_s]);
     sum.Close();

@@ -14,6 +14,7 @@
 #include "store/dbAccess.h"
 #include "toolkit/FilterTerms.h"
 #include "toolkit/GridColumns.h"
+#include "values/Dates.h"
 #include "values/NumStr.h"
 #include "values/NumVal.h"
 
@@ -62,7 +63,6 @@ const GridColumns kColumns = {
 
 constexpr int kSheetRows = 58;
 constexpr int kSheetFirstRow = 4;
-constexpr int kEraBase = 1988;  // the sheet counts its years by one era, whatever the screens do
 
 bool IsLast(Recordset& set) {
     set.MoveNext();
@@ -140,10 +140,7 @@ void RepoSeikyu_frm::show() {
         const Currency zenkaiGaku = MoneyOf(set[u"ZenkaiGaku"_s]);
         const Currency gaku = MoneyOf(set[u"Gaku"_s]);
         const Currency nGaku = MoneyOf(set[u"NGaku"_s]);
-        Currency zenkaiMeter;
-        Currency konkaiMeter;
-        Currency suu;
-        ReadMonthMeter(deal, CInt(year), CInt(month), zenkaiMeter, konkaiMeter, suu);
+        const auto [zenkaiMeter, konkaiMeter, suu] = ReadMonthMeter(deal, {CInt(year), CInt(month)});
         put(row, kColNamae, GetName(u"Deal"_s, deal));
         put(row, kColZenkaiMeter, Format(zenkaiMeter, kMeter));
         put(row, kColKonkaiMeter, Format(konkaiMeter, kMeter));
@@ -202,6 +199,7 @@ void RepoSeikyu_frm::ClrDetail() {
 
 void RepoSeikyu_frm::PrintOutHead(int /*page*/) {
     const int year = CInt(KeepNumeric(ebox(kYear).Text()));
+    // The sheet counts its years by one era, whatever the screens do.
     ExcelCell(u"F2"_s,
               u"平成"_s + NumStr(year - kEraBase) + u"年"_s + KeepNumeric(ebox(kMonth).Text()) + u"月"_s);
 }
@@ -218,11 +216,8 @@ void RepoSeikyu_frm::PrintOutDetailGokei(int /*line*/, int /*firstRow*/, int /*p
 
 void RepoSeikyu_frm::printRow(int row, const Recordset& set) {
     const std::int32_t deal = LongOf(set[u"Deal"_s]);
-    Currency zenkaiMeter;
-    Currency konkaiMeter;
-    Currency suu;
-    ReadMonthMeter(deal, CInt(KeepNumeric(ebox(kYear).Text())), CInt(KeepNumeric(ebox(kMonth).Text())),
-                   zenkaiMeter, konkaiMeter, suu);
+    const auto [zenkaiMeter, konkaiMeter, suu] =
+        ReadMonthMeter(deal, {CInt(KeepNumeric(ebox(kYear).Text())), CInt(KeepNumeric(ebox(kMonth).Text()))});
     const auto put = [row](char16_t column, const QString& text) {
         ExcelCell(QChar(column) + NumStr(row), text);
     };

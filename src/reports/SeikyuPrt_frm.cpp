@@ -82,16 +82,16 @@ Figures ReadFigures(const InvoiceMonth& of, const Recordset& ledger) {
     Figures figures{};
     for (const auto& [column, source] : kAmounts)
         figures[column] = MoneyOf(ledger[QString::fromUtf16(source)]);
-    ReadMonthMeter(of.deal, of.year, of.month, figures[kColZenkaiMeter], figures[kColKonkaiMeter],
-                   figures[kColSuu]);
+    const MonthMeter meter = ReadMonthMeter(of.deal, of.month);
+    figures[kColZenkaiMeter] = meter.zenkaiMeter;
+    figures[kColKonkaiMeter] = meter.konkaiMeter;
+    figures[kColSuu] = meter.suu;
     figures[kColBill] = figures[kColGaku] + figures[kColZenkaiGaku] - figures[kColNGaku];
     return figures;
 }
 
 void WriteRow(FlexGrid& list, int row, std::int32_t deal, const Figures& figures) {
-    QString name;
-    int noSeikyu = 0;
-    GetNameAndNoSeikyu(u"Deal"_s, deal, name, noSeikyu);
+    const auto [name, noSeikyu] = GetNameAndNoSeikyu(deal);
     list.SetTextMatrix(row, kColDeal, NumStr(deal));
     list.SetTextMatrix(row, kColNamae, name);
     for (int column = kColZenkaiGaku; column < kColCount; ++column) {
@@ -171,7 +171,7 @@ QString SeikyuPrt_frm::typed(int field) const {
 }
 
 InvoiceMonth SeikyuPrt_frm::invoiceOf(std::int32_t deal) const {
-    return {deal, CInt(typed(kYear)), CInt(typed(kMonth))};
+    return {deal, {CInt(typed(kYear)), CInt(typed(kMonth))}};
 }
 
 // ---- the list

@@ -15,7 +15,8 @@ QString Digits(const Variant& number, const QString& mask) {
     return number.IsNull() ? QString() : Format(number, mask);
 }
 
-void ReadBankPart(const Recordset& set, Consignor& consignor) {
+Consignor ReadBankPart(const Recordset& set) {
+    Consignor consignor;
     const auto text = [&set](const QString& column) { return NullToEmpty(set[column]); };
     consignor.ItakuCode = text(u"ItakuCode"_s);
     consignor.Itakusya = text(u"Itakusya"_s);
@@ -26,25 +27,24 @@ void ReadBankPart(const Recordset& set, Consignor& consignor) {
     consignor.StnName = text(u"StnName"_s);
     consignor.Syurui = text(u"Syurui"_s);
     consignor.KozaNo = text(u"KozaNo"_s);
+    return consignor;
 }
 
 }  // namespace
 
-void LoadBankConsignor(int code, Consignor& consignor) {
-    Recordset set = gDb->OpenRecordset(u"SELECT * FROM Bnk WHERE Code="_s + NumStr(code));
-    if (!set.Eof()) ReadBankPart(set, consignor);
-    set.Close();
+Consignor LoadBankConsignor(int code) {
+    const Recordset set = gDb->OpenRecordset(u"SELECT * FROM Bnk WHERE Code="_s + NumStr(code));
+    return set.Eof() ? Consignor() : ReadBankPart(set);
 }
 
-void LoadPostConsignor(Consignor& consignor) {
-    Recordset set = gDb->OpenRecordset(u"SELECT * FROM Bnk WHERE Code=9900"_s);
-    if (!set.Eof()) {
-        ReadBankPart(set, consignor);
-        consignor.Saifurikae = NullToEmpty(set[u"Saifurikae"_s]);
-        consignor.Keiyaku = NullToEmpty(set[u"Keiyaku"_s]);
-        consignor.Jimusyo = NullToEmpty(set[u"Jimusyo"_s]);
-    }
-    set.Close();
+Consignor LoadPostConsignor() {
+    const Recordset set = gDb->OpenRecordset(u"SELECT * FROM Bnk WHERE Code=9900"_s);
+    if (set.Eof()) return {};
+    Consignor consignor = ReadBankPart(set);
+    consignor.Saifurikae = NullToEmpty(set[u"Saifurikae"_s]);
+    consignor.Keiyaku = NullToEmpty(set[u"Keiyaku"_s]);
+    consignor.Jimusyo = NullToEmpty(set[u"Jimusyo"_s]);
+    return consignor;
 }
 
 }  // namespace akarix

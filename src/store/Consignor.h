@@ -21,8 +21,8 @@ struct Consignor {
     QString Jimusyo;
 };
 
-/// Fill the first nine members, or all twelve; when the row is missing everything stays as it was given.
-void LoadBankConsignor(int code, Consignor& consignor);
-void LoadPostConsignor(Consignor& consignor);
+/// A bank's has the first nine members, the post office's all twelve; empty when the row is missing.
+Consignor LoadBankConsignor(int code);
+Consignor LoadPostConsignor();
 
 }  // namespace akarix

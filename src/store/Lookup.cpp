@@ -35,16 +35,11 @@ QString GetName(const QString& table, const Variant& code) {
     return NameOrBlank(u"SELECT Code,Namae FROM "_s + table + u" WHERE Code="_s + NumStr(code));
 }
 
-void GetNameAndNoSeikyu(const QString& table, const Variant& code, QString& name, int& noSeikyu) {
-    Recordset set =
-        gDb->OpenRecordset(u"SELECT Code,Namae,NoSeikyu FROM "_s + table + u" WHERE Code="_s + NumStr(code));
-    name = kBlank;
-    noSeikyu = 0;
-    if (!set.Eof()) {
-        name = NullToEmpty(set[u"Namae"_s]);
-        noSeikyu = IntegerOf(set[u"NoSeikyu"_s]);
-    }
-    set.Close();
+NameAndNoSeikyu GetNameAndNoSeikyu(const Variant& deal) {
+    const Recordset set =
+        gDb->OpenRecordset(u"SELECT Code,Namae,NoSeikyu FROM Deal WHERE Code="_s + NumStr(deal));
+    if (set.Eof()) return {kBlank};
+    return {NullToEmpty(set[u"Namae"_s]), IntegerOf(set[u"NoSeikyu"_s])};
 }
 
 QString GetDealName(const Variant& code) {
@@ -81,15 +76,11 @@ QString ReadingDay(const Recordset& reading) {
            NumStr(NullToZero(reading[u"Hi"_s]));
 }
 
-void PrevReadingDate(int year, int month, std::int32_t deal, QString& text) {
-    Recordset set = gDb->OpenRecordset(u"SELECT * FROM Dgd "_s + u" WHERE Deal  ="_s + NumStr(deal) +
-                                       u" AND   Nendo*100+Getudo<"_s + NumStr(year * 100 + month));
-    text.clear();
-    if (!set.Eof()) {
-        const QString day = ReadingDay(set);
-        if (IsDate(day)) text = day;
-    }
-    set.Close();
+QString PrevReadingDate(std::int32_t deal, BillingMonth month) {
+    const Recordset set = gDb->OpenRecordset(u"SELECT * FROM Dgd "_s + u" WHERE Deal  ="_s + NumStr(deal) +
+                                             u" AND   Nendo*100+Getudo<"_s + NumStr(month.key()));
+    const QString day = set.Eof() ? QString() : ReadingDay(set);
+    return IsDate(day) ? day : QString();
 }
 
 QString GetContents(const QString& sql) {
@@ -100,17 +91,11 @@ QString AddressOfZip(const QString& zip) {
     return NullToEmpty(FirstValue(u"SELECT Addr FROM Zip7 WHERE Code="_s + KeepDigits(zip), u"Addr"_s));
 }
 
-void DateToGetudo(std::int32_t deal, Date hizuke, int& nendo, int& getudo) {
+BillingMonth DateToGetudo(std::int32_t deal, Date hizuke) {
     const Variant sime = FirstValue(u"SELECT Sime FROM Deal WHERE Code="_s + NumStr(deal), u"Sime"_s);
     const std::int16_t closingDay = sime.IsEmpty() ? kMonthEnd : IntegerOf(sime);
-    nendo = Year(hizuke);
-    getudo = Month(hizuke);
     // A closing day of 0 moves every date into the next month.
-    if (closingDay < Day(hizuke)) ++getudo;
-    if (getudo > 12) {
-        getudo = 1;
-        ++nendo;
-    }
+    return BillingMonth::Of(hizuke).plus(closingDay < Day(hizuke) ? 1 : 0);
 }
 
 }  // namespace akarix

@@ -15,8 +15,6 @@ std::int16_t gDateMode = 0;
 
 namespace {
 
-constexpr int kEraBase = 1988;
-
 bool IsEraMode() {
     return gDateMode == 1;
 }

@@ -6,7 +6,10 @@
 
 namespace akarix {
 
-/// Date texts of the screens. Era mode (1) counts years from 1988; any other mode shows western years.
+/// The year before the first of 平成, by which the screens and the papers count.
+constexpr int kEraBase = 1988;
+
+/// Date texts of the screens. Era mode (1) counts years by that era; any other mode shows western years.
 /// Set once at start from the option row; read by every helper below.
 extern std::int16_t gDateMode;
 

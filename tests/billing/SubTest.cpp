@@ -48,10 +48,10 @@ TEST_F(SubTest, EarlierMeter) {
     ScratchStore::run(
         u"INSERT INTO Dgd(Nendo,Getudo,Deal,KonkaiMeter) VALUES(2010,12,1,900.5),(2010,3,1,700),"
         "(2011,2,2,0),(2011,1,2,55);\n"_s);
-    EXPECT_EQ(PrevKonkaiMeter(2011, 4, 1).ToText(), u"900.5"_s) << "months are passed over";
-    EXPECT_EQ(PrevKonkaiMeter(2010, 12, 1).ToText(), u"700"_s);
-    EXPECT_EQ(PrevKonkaiMeter(2010, 3, 1), Currency(0));
-    EXPECT_EQ(PrevKonkaiMeter(2011, 3, 2), Currency(0)) << "a month listed and not read is not";
+    EXPECT_EQ(PrevKonkaiMeter(1, {2011, 4}).ToText(), u"900.5"_s) << "months are passed over";
+    EXPECT_EQ(PrevKonkaiMeter(1, {2010, 12}).ToText(), u"700"_s);
+    EXPECT_EQ(PrevKonkaiMeter(1, {2010, 3}), Currency(0));
+    EXPECT_EQ(PrevKonkaiMeter(2, {2011, 3}), Currency(0)) << "a month listed and not read is not";
 }
 
 TEST_F(SubTest, WhoGetsNoInvoice) {

@@ -24,8 +24,8 @@ QStringList LeaseLines() {
 class TtoTest : public testing::Test {
  protected:
     void bill(int year, int month, int day = 28) {
-        BuildMonthLedger(year, month, DateSerial(year, month, day));
-        CarryForwardMonth(year, month);
+        BuildMonthLedger({year, month}, DateSerial(year, month, day));
+        CarryForwardMonth({year, month});
     }
     static void insert(const QString& into, std::initializer_list<int> numbers, const QString& amount) {
         QString row;
@@ -67,8 +67,8 @@ TEST_F(TtoTest, AMonthIsRolledUp) {
                                    u"9|0|0|-300|-300|0|0"_s,
                                }));
     EXPECT_TRUE(Ledger(2011, 4).isEmpty());
-    EXPECT_EQ(ReadClosingDate(2011, 3), u"2011/03/28"_s);
-    EXPECT_EQ(ReadClosingDate(2011, 4), QString());
+    EXPECT_EQ(ReadClosingDate({2011, 3}), u"2011/03/28"_s);
+    EXPECT_EQ(ReadClosingDate({2011, 4}), QString());
 }
 
 TEST_F(TtoTest, TheBalanceIsCarriedFromTheLatestEarlierMonth) {
@@ -87,8 +87,8 @@ TEST_F(TtoTest, TheBalanceIsCarriedFromTheLatestEarlierMonth) {
                                    u"2|0|0|0|0|0|0"_s,     // a later row is no earlier row
                                    u"3|2500|0|0|0|0|1"_s,  // set by hand
                                }));
-    EXPECT_EQ(PriorBalance(3, 2011, 4), Variant(Currency(2500)));
-    EXPECT_TRUE(PriorBalance(2, 2011, 3).IsEmpty());
+    EXPECT_EQ(PriorBalance(3, {2011, 4}), Variant(Currency(2500)));
+    EXPECT_TRUE(PriorBalance(2, {2011, 3}).IsEmpty());
 }
 
 TEST_F(TtoTest, ASecondRunClearsSalesAloneOfWhatLostItsSources) {
@@ -105,7 +105,7 @@ TEST_F(TtoTest, ASecondRunClearsSalesAloneOfWhatLostItsSources) {
     sale(3, 1, 2, 2011, 3, u"50"_s);
     bill(2011, 3, 30);
     EXPECT_EQ(Ledger(2011, 3), (QStringList{u"1|0|3000|0|3000|1200|0"_s, u"2|0|3100|750|3850|1200|0"_s}));
-    EXPECT_EQ(ReadClosingDate(2011, 3), u"2011/03/30"_s);
+    EXPECT_EQ(ReadClosingDate({2011, 3}), u"2011/03/30"_s);
 }
 
 /// Writes down the stages, and wants no more at a step of one of them.
@@ -143,13 +143,13 @@ TEST_F(TtoTest, ARunStoppedBetweenTwoCustomersIsMendedByTheNext) {
          {Case{u"検針", nullptr}, {u"売上", u"2|0|3000|0|0|0|0"}, {u"入金", u"2|0|3000|700|0|0|0"}}) {
         gDb->Execute(u"DELETE FROM TtoD"_s);
         Stopping progress(QString::fromUtf16(c.stage), 1);
-        EXPECT_THROW(BuildMonthLedger(2011, 3, DateSerial(2011, 3, 28), progress), RuntimeError);
+        EXPECT_THROW(BuildMonthLedger({2011, 3}, DateSerial(2011, 3, 28), progress), RuntimeError);
         EXPECT_EQ(Ledger(2011, 3).value(1), QString::fromUtf16(c.second ? c.second : u""));
-        EXPECT_EQ(ReadClosingDate(2011, 3), QString()) << "not closed";
+        EXPECT_EQ(ReadClosingDate({2011, 3}), QString()) << "not closed";
     }
     Stopping never({}, 0);
-    BuildMonthLedger(2011, 3, DateSerial(2011, 3, 28), never);
-    CarryForwardMonth(2011, 3, never);
+    BuildMonthLedger({2011, 3}, DateSerial(2011, 3, 28), never);
+    CarryForwardMonth({2011, 3}, never);
     EXPECT_EQ(never.stages, u"検針 リース料 売上 入金 繰越!"_s.split(u' '));
     EXPECT_EQ(Ledger(2011, 3), (QStringList{u"1|0|3000|700|3700|1200|0"_s, u"2|0|3000|700|3700|1200|0"_s}));
 }
@@ -204,7 +204,7 @@ TEST_F(TtoTest, CustomersAreCountedInSixteenBits) {
     for (int count = 1; count <= 16384; count *= 2)
         gDb->Execute(u"INSERT INTO Deal(Code) SELECT Code+%1 FROM Deal"_s.arg(count));
     try {
-        CarryForwardMonth(2011, 3);
+        CarryForwardMonth({2011, 3});
         FAIL() << "32,768 customers";
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.number(), 6);

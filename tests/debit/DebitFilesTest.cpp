@@ -93,8 +93,7 @@ TEST_F(DebitFiles, ThePostOfficeFileIsWrittenAndTold) {
 TEST_F(DebitFiles, TheBanksTotalSheetHasNoSecondDate) {
     makeTotalSheet();
     AnswerPrinter(clerk, store.path("out.pdf"));
-    Consignor bank;
-    LoadBankConsignor(123, bank);
+    const Consignor bank = LoadBankConsignor(123);
     PrintBankTotalSheet(FitBankConsignor(bank), {12, Currency(34567)});
     const QString sheet = PdfPages("out.pdf").value(0);
     expectTexts(sheet, {"自払ＦＤ合計表", "0001234567", "12件", "34,567円"});

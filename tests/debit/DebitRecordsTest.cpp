@@ -35,9 +35,8 @@ TEST_F(DebitFile, OfABank) {
     customer("10,'ｹﾝﾓﾁ',95,123,5,1,'99',0", "0");
     customer("11,'ｺﾊﾞ',99,124,5,1,'11',0", "900");  // another bank's
     // The monthly query with the amount of the bill, as the bank's total counts it.
-    const QString sql = DebitQuery(123, 2023, 4).replace(" FROM TtoD", ",800 AS Seikyu FROM TtoD");
-    Consignor bank;
-    LoadBankConsignor(123, bank);
+    const QString sql = DebitQuery(123, {2023, 4}).replace(" FROM TtoD", ",800 AS Seikyu FROM TtoD");
+    const Consignor bank = LoadBankConsignor(123);
     const DebitTotals totals = WriteRequest("A:\\FURIKAE", gDb->OpenRecordset(sql),
                                             BankRequest(FitBankConsignor(bank), kCreation), shown);
     EXPECT_EQ(readFile("Drive/A/FURIKAE"), Golden("bank.request"));
@@ -54,9 +53,8 @@ TEST_F(DebitFile, OfThePostOffice) {
     customer("4,'ｳｴﾀﾞ',40,9900,12,1,'12',5000", "8000");  // an office number without its own form
     customer("5,'ｴｸﾞﾁ',50,9900,1234,1,'1234567890',5000", "3000");
     customer("6,'ｵｵﾉ',60,9900,123,1,'12345678',0", "9876543210");  // nor has this one
-    Consignor post;
-    LoadPostConsignor(post);
-    WriteRequest("A:\\x", gDb->OpenRecordset(DebitQuery(kPostOffice, 2023, 4)),
+    const Consignor post = LoadPostConsignor();
+    WriteRequest("A:\\x", gDb->OpenRecordset(DebitQuery(kPostOffice, {2023, 4})),
                  PostRequest(FitPostConsignor(post), kCreation, {"05", "20"}), shown);
     EXPECT_EQ(readFile("Drive/A/x"), Golden("post.request"));
 }

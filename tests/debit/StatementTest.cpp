@@ -36,10 +36,10 @@ class Statements : public DebitTest {
         return pages;
     }
     QStringList bank(int code = 123) {
-        return print([code] { PrintBankStatement(code, 2023, 4); });
+        return print([code] { PrintBankStatement(code, {2023, 4}); });
     }
     QStringList post(bool told = false) {
-        return print([] { PrintPostStatement(2023, 4, "2023/4/26", DateSerial(2023, 4, 20)); }, told);
+        return print([] { PrintPostStatement({2023, 4}, "2023/4/26", DateSerial(2023, 4, 20)); }, told);
     }
     /// Which of the texts each page shows, "1" or "0" each.
     static QStringList seen(const QStringList& pages, const QStringList& texts) {
@@ -106,7 +106,7 @@ TEST_F(Statements, ThePostOfficesLinesAreWhatIsDebitedAndItsSumsTheBalances) {
 TEST_F(Statements, TheClosingBlocksFiguresHaveColumnsJToO) {
     customer("1,'ｶﾅ',1,9900,10120,1,'1',0", "99999999999999");
     AnswerPrinter(clerk, store.path("out.pdf"));
-    PrintPostStatement(2023, 4, "2023/4/26", DateSerial(2023, 4, 20));
+    PrintPostStatement({2023, 4}, "2023/4/26", DateSerial(2023, 4, 20));
     // Seventeen pixels a column: the figure shrinks to six of them, not to the one that stood alone before,
     // nor does it spread over the fifteen of the lines above.
     constexpr double column = 17 * 0.75;
@@ -121,8 +121,12 @@ TEST_F(Statements, WhatComesToNothing) {
 
     customers(9900, 1, 1);
     QDir("Prt").removeRecursively();
-    for (const auto& statement : {std::function([] { PrintBankStatement(9900, 2023, 4); }),
-                                  std::function([] { PrintPostStatement(2023, 4, {}, {}); })}) {
+    for (const auto& statement : {std::function([] {
+                                      PrintBankStatement(9900, {2023, 4});
+                                  }),
+                                  std::function([] {
+                                      PrintPostStatement({2023, 4}, {}, {});
+                                  })}) {
         AnswerEscape(clerk, "Printer_frm");
         statement();  // the template is not even looked for
         print(statement, true);

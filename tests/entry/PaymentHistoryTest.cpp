@@ -29,13 +29,13 @@ class PaymentHistory : public testing::Test {
 };
 
 TEST_F(PaymentHistory, LedgerMonthsRunUpABalance) {
-    ShowLedgerHistory(list, 1, 2022, 12);
+    ShowLedgerHistory(list, 1, {2022, 12});
     EXPECT_EQ(shown(), (QStringList{"繰越|||||500", "2022/12|500|4,000|0|4,500|0", "2023/3|0|1|2|3|0",
                                     "2023/4|0|5,000|1,200|600|5,600"}));
-    ShowLedgerHistory(list, 1, 0, 0);
+    ShowLedgerHistory(list, 1, {0, 0});
     EXPECT_EQ(shown().size(), 4) << "from no month on is from the beginning";
     EXPECT_EQ(shown().at(0), "繰越|||||0") << "there is no ledger month 0 to carry anything in";
-    ShowLedgerHistory(list, 1, 2023, 5);
+    ShowLedgerHistory(list, 1, {2023, 5});
     EXPECT_EQ(shown(), QStringList());
     EXPECT_EQ(list.TextMatrix(0, 0) + list.TextMatrix(0, 5), "年月合計金額");
 }
@@ -45,10 +45,10 @@ TEST_F(PaymentHistory, PaymentLinesStandUnderTheMonthOfTheirDate) {
                              "||||0|100",  // dated in March, booked to April
                              "||||6,200|0",  "||||0|200",         "||||0|300"};
     for (int time = 0; time < 2; ++time) {
-        ShowPaymentHistory(list, 1, 2022, 12);
+        ShowPaymentHistory(list, 1, {2022, 12});
         EXPECT_EQ(shown(), wanted) << "what an earlier showing gathered is gone";
     }
-    ShowPaymentHistory(list, 1, 2023, 4);
+    ShowPaymentHistory(list, 1, {2023, 4});
     EXPECT_EQ(shown(),
               (QStringList{"繰越|||||0", "2023|3|||0|100", "||||6,200|0", "||||0|200", "||||0|300"}));
     EXPECT_EQ(

@@ -70,7 +70,7 @@ TEST_F(PaymentLedger, ASlipThatMovesLeavesTheSumOfItsOldMonth) {
     pay(1, 1, DateSerial(2023, 5, 3), {1000});
     EXPECT_EQ(lines(), QStringList("1|1|1|2023|5|1000"));
     EXPECT_EQ(ledger(), (QStringList{"1|2023|4|0|0|0|0|1000|0", "1|2023|5|-1000|0|0|0|1000|0"}));
-    BuildMonthLedger(2023, 4, DateSerial(2023, 5, 1));
+    BuildMonthLedger({2023, 4}, DateSerial(2023, 5, 1));
     EXPECT_EQ(ledger().at(0), "1|2023|4|0|0|0|0|1000|0") << "a run writes no payments where there are none";
     pay(2, 1, DateSerial(2023, 4, 9), {20});
     EXPECT_EQ(ledger().at(0), "1|2023|4|0|0|0|0|20|0");

@@ -24,11 +24,7 @@ TEST_F(LookupTest, AMissingRowGivesItsDefault) {
     EXPECT_EQ(GetKensinDay(nobody), Variant(std::int16_t{0}));
     EXPECT_EQ(GetContents("SELECT * FROM zSysFunc WHERE Code=77"), QString());
     EXPECT_EQ(AddressOfZip("999-0000"), QString());
-    QString name = "x";
-    int flag = 7;
-    GetNameAndNoSeikyu("Deal", nobody, name, flag);
-    EXPECT_EQ(name, " ");
-    EXPECT_EQ(flag, 0);
+    EXPECT_EQ(GetNameAndNoSeikyu(nobody).name, " ");
 }
 
 TEST_F(LookupTest, ReadsWhatIsThere) {
@@ -41,9 +37,7 @@ TEST_F(LookupTest, ReadsWhatIsThere) {
     EXPECT_EQ(GetDealName(std::int32_t{12}), "佐藤　一郎");
     EXPECT_EQ(GetKensinDay(std::int32_t{3}), Variant(std::int16_t{22}));
     EXPECT_EQ(GetKensinDay(std::int32_t{4}), Variant(std::int16_t{0})) << "Null reads as 0";
-    QString name;
-    int flag = 0;
-    GetNameAndNoSeikyu("Deal", std::int32_t{12}, name, flag);
+    const auto [name, flag] = GetNameAndNoSeikyu(std::int32_t{12});
     EXPECT_EQ(name, "佐藤　一郎");
     EXPECT_EQ(flag, 1);
 }
@@ -65,9 +59,8 @@ TEST_F(LookupTest, DayOfAnEarlierReading) {
     ScratchStore::run(
         "INSERT INTO Dgd(Nendo,Getudo,Deal,Hi) VALUES(2011,3,1,25),(2011,2,2,30),(2010,12,3,24);\n");
     for (const auto& [cells, line] : ReadTable(kDates, "read")) {
-        QString text = "before";
-        PrevReadingDate(cells[0].toInt(), cells[1].toInt(), cells[2].toInt(), text);
-        EXPECT_EQ(text, cells.value(3)) << line;
+        EXPECT_EQ(PrevReadingDate(cells[2].toInt(), {cells[0].toInt(), cells[1].toInt()}), cells.value(3))
+            << line;
     }
 }
 
@@ -76,9 +69,7 @@ TEST_F(LookupTest, BillingMonthOfADate) {
         "INSERT INTO Deal(Code,Sime) VALUES(31,31),(30,30),(20,20),(100,0);\n"
         "INSERT INTO Deal(Code) VALUES(101);\n");
     for (const auto& [cells, line] : ReadTable(kDates, "billed")) {
-        int nendo = 0;
-        int getudo = 0;
-        DateToGetudo(cells[0].toInt(), CDate(cells[1]), nendo, getudo);
+        const auto [nendo, getudo] = DateToGetudo(cells[0].toInt(), CDate(cells[1]));
         EXPECT_EQ(QString("%1/%2").arg(nendo).arg(getudo), cells[2]) << line;
     }
 }
@@ -89,14 +80,9 @@ TEST_F(LookupTest, Consignors) {
         "VALUES(152,'000015230 ','ﾐﾄﾞﾘ','FURI.TXT','ｷﾞﾝｺｳ',1,'ﾎﾝﾃﾝ','1','1023344');\n"
         "INSERT INTO Bnk(Code,BkName,Stn,Saifurikae,Keiyaku,Jimusyo) "
         "VALUES(9900,'ﾕｳｾｲ',990,'15','02','緑');\n");
-    Consignor consignor;
-    consignor.Saifurikae = "kept";
-    LoadBankConsignor(152, consignor);
+    Consignor consignor = LoadBankConsignor(152);
     EXPECT_EQ(consignor.ItakuCode + consignor.Bnk + consignor.Stn, "0000152300152001");
-    EXPECT_EQ(consignor.Saifurikae, "kept");
-    LoadBankConsignor(153, consignor);
-    EXPECT_EQ(consignor.BkName, "ｷﾞﾝｺｳ") << "a missing row changes nothing";
-    LoadPostConsignor(consignor);
+    consignor = LoadPostConsignor();
     EXPECT_EQ(consignor.Bnk + consignor.ItakuCode, "9900");
     EXPECT_EQ(consignor.Saifurikae + consignor.Keiyaku + consignor.Jimusyo, "1502緑");
 }

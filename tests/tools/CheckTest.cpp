@@ -41,8 +41,8 @@ class ThreeMonths : public testing::Test {
             }
             ScratchStore::run(payment(month, 1, month, 1, 3000));
             if (month == 2) ScratchStore::run(slip(1, 2, 2, 700));
-            BuildMonthLedger(2011, month, DateSerial(2011, month + 1, 0));
-            CarryForwardMonth(2011, month);
+            BuildMonthLedger({2011, month}, DateSerial(2011, month + 1, 0));
+            CarryForwardMonth({2011, month});
         }
     }
 
@@ -115,8 +115,8 @@ TEST_F(ThreeMonths, ADifferenceIsToldWithWhyItArose) {
         const LedgerProof proof = ProveLedger(*gDb);
         for (const auto& [d, cause] : proof.findings) {
             found += u"%1 %2/%3 %4 %5 %6 %7"_s.arg(d.deal)
-                         .arg(d.nendo)
-                         .arg(d.getudo)
+                         .arg(d.month.nendo)
+                         .arg(d.month.getudo)
                          .arg(d.column, AmountText(d.expected), AmountText(d.found))
                          .arg(static_cast<int>(cause));
         }
@@ -132,7 +132,7 @@ TEST_F(ThreeMonths, WhatAPurgedMonthCarriedIsNotHeldAgainstTheNext) {
     const LedgerProof proof = ProveLedger(*gDb);
     EXPECT_TRUE(proof.findings.empty());
     EXPECT_EQ(proof.unproved, 1);
-    EXPECT_EQ(proof.first, std::pair(2011, 2));
+    EXPECT_EQ(proof.first, (BillingMonth{2011, 2}));
 }
 
 TEST_F(ThreeMonths, WhatOneCustomersPurgedMonthCarriedIsNoFaultUnlessItsDocumentsStand) {
@@ -149,7 +149,7 @@ TEST_F(ThreeMonths, WhatOneCustomersPurgedMonthCarriedIsNoFaultUnlessItsDocument
 TEST_F(ThreeMonths, TheMonthsLeaseSlips) {
     ScratchStore::run(u"UPDATE Deal SET ACU=1;\nUPDATE Deal SET Keihou=1 WHERE Code=2"_s);
     for (int month = 1; month <= 3; ++month)
-        BuildMonthLedger(2011, month, DateSerial(2011, month + 1, 0));
+        BuildMonthLedger({2011, month}, DateSerial(2011, month + 1, 0));
     const QString alarm = u"警報機リース代"_s;
     const auto line = [](int slip, int row, const char16_t* name) {
         return u"INSERT INTO Dud(Dno,Eda,Deal,HinNamae,Gaku,Nendo,Getudo,CreateAuto) "
@@ -182,8 +182,9 @@ TEST_F(ThreeMonths, TheMonthsLeaseSlips) {
     const QByteArray sound = admin::ContentsOf(store_.path());
     const auto findings = [] {
         QStringList found;
-        for (const LeaseFinding& f : CheckLeases(*gDb, 0))
-            found += u"%1 %2 %3 %4"_s.arg(f.deal).arg(f.getudo).arg(static_cast<int>(f.fault)).arg(f.line);
+        for (const LeaseFinding& f : CheckLeases(*gDb, {}))
+            found +=
+                u"%1 %2 %3 %4"_s.arg(f.deal).arg(f.month.getudo).arg(static_cast<int>(f.fault)).arg(f.line);
         return found.join(u'|').toStdString();
     };
     for (const auto& [what, plant, told] : cases) {
@@ -193,7 +194,7 @@ TEST_F(ThreeMonths, TheMonthsLeaseSlips) {
     ScratchStore::run(u"DELETE FROM Dud WHERE Deal=1 AND Getudo=3"_s);
     purge(2, 2);
     EXPECT_EQ(findings(), "1 3 0 ACUリース代") << "what is purged is not missing";
-    EXPECT_TRUE(CheckLeases(*gDb, 201104).empty());
+    EXPECT_TRUE(CheckLeases(*gDb, {2011, 4}).empty());
 }
 
 TEST_F(ThreeMonths, CheckTellsADealerAndAScript) {
@@ -313,7 +314,7 @@ TEST(Readings, OnesOutOfTheRowAreDoubted) {
         }
         QStringList found;
         for (const DoubtfulReading& reading : CheckReadings(*gDb, LastYearOfReadings(*gDb))) {
-            found += Filled(u"%1:%2"_s, {(reading.nendo - 2010) * 12 + reading.getudo - 1,
+            found += Filled(u"%1:%2"_s, {(reading.month.nendo - 2010) * 12 + reading.month.getudo - 1,
                                          static_cast<int>(reading.doubt)});
         }
         EXPECT_EQ(found.join(u' ').toStdString(), doubted) << uses;
@@ -366,9 +367,8 @@ TEST(Readings, EachBeginsWhereTheLastOneEnded) {
                        {before, oldEnd, now, use, use != 0 ? 2000 : 0}));
         }
         QStringList found;
-        for (const DoubtfulReading& reading :
-             CheckReadings(*gDb, (2010 + month / 12 - 1) * 100 + month % 12 + 1)) {
-            found += u"%1:%2:%3"_s.arg((reading.nendo - 2010) * 12 + reading.getudo - 1)
+        for (const DoubtfulReading& reading : CheckReadings(*gDb, {2010 + month / 12 - 1, month % 12 + 1})) {
+            found += u"%1:%2:%3"_s.arg((reading.month.nendo - 2010) * 12 + reading.month.getudo - 1)
                          .arg(static_cast<int>(reading.doubt))
                          .arg(AmountText(reading.usual));
         }
@@ -380,7 +380,7 @@ TEST(Readings, FiguresThatDoNotBelongTogetherAreDoubted) {
     const ScratchStore store;
     const auto doubts = [] {
         QStringList found;
-        for (const DoubtfulReading& reading : CheckReadings(*gDb, 201104))
+        for (const DoubtfulReading& reading : CheckReadings(*gDb, {2011, 4}))
             found += Filled(u"%1:%2"_s, {reading.deal, static_cast<int>(reading.doubt)});
         return found.join(u' ');
     };

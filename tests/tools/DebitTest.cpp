@@ -91,15 +91,13 @@ class WrittenRequest : public DebitTest {
     }
     QList<QByteArray> bank() {
         // The monthly query lacks the amount of the bill, at which the program's own run ends.
-        const QString sql = DebitQuery(123, 2023, 4).replace(" FROM TtoD", ",5307 AS Seikyu FROM TtoD");
-        Consignor consignor;
-        LoadBankConsignor(123, consignor);
+        const QString sql = DebitQuery(123, {2023, 4}).replace(" FROM TtoD", ",5307 AS Seikyu FROM TtoD");
+        const Consignor consignor = LoadBankConsignor(123);
         return write(sql, BankRequest(FitBankConsignor(consignor), DateSerial(2023, 4, 27)));
     }
     QList<QByteArray> post(const RetransferDay& again) {
-        Consignor consignor;
-        LoadPostConsignor(consignor);
-        return write(DebitQuery(kPostOffice, 2023, 4),
+        const Consignor consignor = LoadPostConsignor();
+        return write(DebitQuery(kPostOffice, {2023, 4}),
                      PostRequest(FitPostConsignor(consignor), DateSerial(2023, 4, 27), again));
     }
 

@@ -45,7 +45,7 @@ TEST(SampleDealer, TheSecondOpinionAgreesAndSeesOneYen) {
     EXPECT_EQ(ScratchStore::rows(u"SELECT COUNT(*) AS n FROM TtoD"_s).value(0), u"480"_s);
     for (int month : {12, 1, 2, 3}) {
         const int year = month == 12 ? 2010 : 2011;
-        const auto differences = CheckCharges(*gDb, year, month);
+        const auto differences = CheckCharges(*gDb, {year, month});
         EXPECT_TRUE(differences.empty()) << Describe(differences.front()).toStdString();
     }
     EXPECT_TRUE(ProveLedger(*gDb).findings.empty());
@@ -55,8 +55,8 @@ TEST(SampleDealer, TheSecondOpinionAgreesAndSeesOneYen) {
     ASSERT_EQ(findings.size(), 1u);
     EXPECT_EQ(findings[0].difference.column, u"行"_s);
     gDb->Execute(u"UPDATE Dgd SET Gaku=Gaku+1 WHERE Deal=7 AND Nendo=2011 AND Getudo=3"_s);
-    ASSERT_EQ(CheckCharges(*gDb, 2011, 3).size(), 1u);
-    EXPECT_EQ(CheckCharges(*gDb, 2011, 3).front().found - CheckCharges(*gDb, 2011, 3).front().expected,
+    ASSERT_EQ(CheckCharges(*gDb, {2011, 3}).size(), 1u);
+    EXPECT_EQ(CheckCharges(*gDb, {2011, 3}).front().found - CheckCharges(*gDb, {2011, 3}).front().expected,
               10000);
 }
 

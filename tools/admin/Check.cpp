@@ -43,25 +43,26 @@ CustomerNames ReadNames(Database& db) {
     return names;
 }
 
-int CheckFigures(const QString& path, int since) {
+int CheckFigures(const QString& path, BillingMonth since) {
     const sample::OpenStore store(path, true);
     const CustomerNames names = ReadNames(*gDb);
     LedgerProof proof;
     {
         ProgressLine line;
-        proof = ProveLedger(
-            *gDb, [&line](int nendo, int getudo) { line.show(u"%1年%2月"_s.arg(nendo).arg(getudo)); });
+        proof = ProveLedger(*gDb, [&line](BillingMonth month) {
+            line.show(u"%1年%2月"_s.arg(month.nendo).arg(month.getudo));
+        });
     }
-    std::erase_if(proof.findings, [since](const LedgerFinding& finding) {
-        return finding.difference.nendo * 100 + finding.difference.getudo < since;
-    });
+    std::erase_if(proof.findings,
+                  [since](const LedgerFinding& finding) { return finding.difference.month < since; });
     Tell(LedgerReport(proof, names));
 
     const std::vector<LeaseFinding> leases = CheckLeases(*gDb, since);
     Tell(LeaseReport(leases, names));
 
-    const int from = since != 0 ? since : LastYearOfReadings(*gDb);
-    const auto doubtful = from != 0 ? CheckReadings(*gDb, from) : std::vector<DoubtfulReading>();
+    const BillingMonth none;
+    const BillingMonth from = since != none ? since : LastYearOfReadings(*gDb);
+    const auto doubtful = from != none ? CheckReadings(*gDb, from) : std::vector<DoubtfulReading>();
     Tell(ReadingReport(doubtful, from, names));
 
     const bool isRight = std::all_of(proof.findings.begin(), proof.findings.end(),
@@ -69,7 +70,7 @@ int CheckFigures(const QString& path, int since) {
     return isRight && leases.empty() && doubtful.empty() ? Clean : Found;
 }
 
-int CheckFile(const QString& path, int since) {
+int CheckFile(const QString& path, BillingMonth since) {
     const QString holder = HolderOf(path);
     if (!holder.isEmpty())
         Tell(holder + u"\n  仕事の途中なら、台帳が合わないように見えることがあります。\n"_s);
@@ -90,7 +91,7 @@ int Check(const QCommandLineParser& given) {
     if (given.isSet(u"since"_s) && !since) throw Misuse();
     const QString path = given.positionalArguments().value(0, DatabaseName());
     if (!QFileInfo(path).isFile()) throw Stop{Unreadable, u"ファイルがありません: %1"_s.arg(path)};
-    return CheckFile(path, since ? since->number() : 0);
+    return CheckFile(path, since.value_or(BillingMonth()));
 }
 
 }  // namespace

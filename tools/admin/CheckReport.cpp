@@ -72,7 +72,7 @@ QString FindingsTable(const LedgerProof& proof, const CustomerNames& names) {
     for (const LedgerFinding& finding : proof.findings) {
         const Difference& d = finding.difference;
         const bool isRow = d.column == u"行";
-        table.add({MonthText(d.nendo, d.getudo), QString::number(d.deal), NameOf(d.deal, names),
+        table.add({MonthText(d.month), QString::number(d.deal), NameOf(d.deal, names),
                    WordFor(kColumnWords, QStringView(d.column)), isRow ? QString() : Grouped(d.expected),
                    isRow ? QString() : Grouped(d.found), isRow ? QString() : Grouped(d.found - d.expected),
                    WordFor(kCauseWords, finding.cause)});
@@ -87,7 +87,7 @@ QString LedgerReport(const LedgerProof& proof, const CustomerNames& names) {
     if (proof.openings != 0) text += u"  はじめの繰越を手で決めた得意先: %1 件\n"_s.arg(proof.openings);
     if (proof.unproved != 0) {
         text += u"  %1 より前の台帳がなく、確かめられない繰越: %2 件（この月を請求し直すと 0 になります）\n"_s
-                    .arg(MonthText(proof.first.first, proof.first.second))
+                    .arg(MonthText(proof.first))
                     .arg(proof.unproved);
     }
     if (!proof.purged.empty()) {
@@ -98,21 +98,21 @@ QString LedgerReport(const LedgerProof& proof, const CustomerNames& names) {
             u"  はじめの月を消した得意先の、確かめられない繰越: %1 件（得意先 %2）\n"_s.arg(customers.size())
                 .arg(customers.join(u"、"_s));
     }
-    for (const auto& [nendo, getudo] : proof.notYetBilled)
-        text += u"  %1 はまだ請求処理をしていません。\n"_s.arg(MonthText(nendo, getudo));
+    for (const BillingMonth month : proof.notYetBilled)
+        text += u"  %1 はまだ請求処理をしていません。\n"_s.arg(MonthText(month));
     if (proof.findings.empty()) return text + u"  検針、売上、入金からの計算とすべて合います。\n"_s;
     return text + u"  計算と合わないところ: %1\n"_s.arg(proof.findings.size()) + FindingsTable(proof, names);
 }
 
-QString ReadingReport(const std::vector<DoubtfulReading>& doubtful, int fromMonth,
+QString ReadingReport(const std::vector<DoubtfulReading>& doubtful, BillingMonth from,
                       const CustomerNames& names) {
-    if (fromMonth == 0) return u"検針: ありません。\n"_s;
-    QString text = u"検針: %1 から\n"_s.arg(MonthText(fromMonth / 100, fromMonth % 100));
+    if (from == BillingMonth()) return u"検針: ありません。\n"_s;
+    QString text = u"検針: %1 から\n"_s.arg(MonthText(from));
     if (doubtful.empty()) return text + u"  気になるものはありません。\n"_s;
     Columns table(
         {u"年月"_s, u">得意先"_s, u"名前"_s, u">前回"_s, u">今回"_s, u">使用量"_s, u">料金"_s, u"わけ"_s});
     for (const DoubtfulReading& reading : doubtful) {
-        table.add({MonthText(reading.nendo, reading.getudo), QString::number(reading.deal),
+        table.add({MonthText(reading.month), QString::number(reading.deal),
                    NameOf(reading.deal, names), Grouped(reading.zenkaiMeter), Grouped(reading.konkaiMeter),
                    Grouped(reading.use), Grouped(reading.charge),
                    WordFor(kDoubtWords, reading.doubt, Grouped(reading.usual))});
@@ -124,7 +124,7 @@ QString LeaseReport(const std::vector<LeaseFinding>& findings, const CustomerNam
     if (findings.empty()) return u"リースの伝票: 請求処理をした月と得意先の印に合います。\n"_s;
     Columns table({u"年月"_s, u">得意先"_s, u"名前"_s, u">伝票"_s, u"わけ"_s});
     for (const LeaseFinding& finding : findings) {
-        table.add({MonthText(finding.nendo, finding.getudo), QString::number(finding.deal),
+        table.add({MonthText(finding.month), QString::number(finding.deal),
                    NameOf(finding.deal, names), finding.slip == 0 ? QString() : QString::number(finding.slip),
                    WordFor(kLeaseWords, finding.fault, finding.line)});
     }

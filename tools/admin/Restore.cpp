@@ -62,7 +62,7 @@ QString LastBilled(const QString& copy) {
         const auto last =
             ReadNumbers(*gDb, u"SELECT TOP 1 Nen,Tuki FROM Syukei ORDER BY Nen*100+Tuki DESC"_s);
         return last.empty() ? QString()
-                            : MonthText(static_cast<int>(last[0][0]), static_cast<int>(last[0][1]));
+                            : MonthText({static_cast<int>(last[0][0]), static_cast<int>(last[0][1])});
     } catch (const RuntimeError&) {
         return {};
     }

@@ -22,10 +22,9 @@ const char* const kHelpText =
     "  --force            既にあるファイルを作り直す（中のデータは失われます）\n";
 
 void UntilLastMonth(sample::Wish& wish) {
-    const Date today = Today();
-    const int index = Year(today) * 12 + Month(today) - 2;
-    wish.untilYear = index / 12;
-    wish.untilMonth = index % 12 + 1;
+    const BillingMonth last = BillingMonth::Of(Today()).plus(-1);
+    wish.untilYear = last.nendo;
+    wish.untilMonth = last.getudo;
 }
 
 sample::Wish ReadWish(const QCommandLineParser& given) {
@@ -34,9 +33,9 @@ sample::Wish ReadWish(const QCommandLineParser& given) {
     UntilLastMonth(wish);
     if (given.isSet(u"until"_s)) {
         const auto until = ReadMonth(given.value(u"until"_s));
-        if (!until || until->year < firstYear) throw Misuse();
-        wish.untilYear = until->year;
-        wish.untilMonth = until->month;
+        if (!until || until->nendo < firstYear) throw Misuse();
+        wish.untilYear = until->nendo;
+        wish.untilMonth = until->getudo;
     }
     const auto customers = ReadCount(given.value(u"customers"_s), sample::kMostCustomers);
     const auto months = ReadCount(given.value(u"months"_s), sample::kMostMonths);

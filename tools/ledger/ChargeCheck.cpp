@@ -44,7 +44,7 @@ std::int64_t ChargeFor(const std::vector<Band>& bands, std::int64_t use) {
 
 }  // namespace
 
-std::vector<Difference> CheckCharges(Database& db, int nendo, int getudo) {
+std::vector<Difference> CheckCharges(Database& db, BillingMonth month) {
     std::map<std::int64_t, std::vector<Band>> tariff;
     for (const auto& row :
          ReadNumbers(db, u"SELECT Ptn,St,Ed,Kihon,Tanka FROM GasKeisan ORDER BY Ptn,St,Ed"_s))
@@ -54,11 +54,9 @@ std::vector<Difference> CheckCharges(Database& db, int nendo, int getudo) {
         patterns[row[0]] = row[1];
 
     std::vector<Difference> differences;
-    for (const auto& row :
-         ReadNumbers(db,
-                     u"SELECT Deal,ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,Suu,Gaku "
-                     "FROM Dgd WHERE Nendo=%1 AND Getudo=%2 ORDER BY Deal"_s.arg(nendo)
-                         .arg(getudo))) {
+    for (const auto& row : ReadNumbers(
+             db, u"SELECT Deal,ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,Suu,Gaku FROM Dgd"_s +
+                     WhereMonth(month) + u" ORDER BY Deal"_s)) {
         const bool neverRead = row[4] == 0 && row[5] == 0 && row[6] == 0;
         if (neverRead) continue;
         const std::int64_t use = MeterUse(row[1], row[2], row[3], row[4]);
@@ -66,8 +64,7 @@ std::vector<Difference> CheckCharges(Database& db, int nendo, int getudo) {
         const std::int64_t charge = pattern == patterns.end() ? 0 : ChargeFor(tariff[pattern->second], use);
         const auto note = [&](const QString& column, std::int64_t expected, std::int64_t found) {
             if (expected == found) return;
-            differences.push_back(
-                {static_cast<std::int32_t>(row[0]), nendo, getudo, column, expected, found});
+            differences.push_back({static_cast<std::int32_t>(row[0]), month, column, expected, found});
         };
         note(u"Suu"_s, RoundShown(use, kUnit / 10), row[5]);
         note(u"Gaku"_s, RoundShown(charge, kUnit), row[6]);

@@ -17,8 +17,8 @@ QString AmountText(std::int64_t scaled) {
 
 QString Describe(const Difference& difference) {
     return u"得意先 %1 %2/%3 %4: 正 %5 誤 %6"_s.arg(difference.deal)
-        .arg(difference.nendo)
-        .arg(difference.getudo)
+        .arg(difference.month.nendo)
+        .arg(difference.month.getudo)
         .arg(difference.column, AmountText(difference.expected), AmountText(difference.found));
 }
 

@@ -3,13 +3,14 @@
 #include <QString>
 #include <cstdint>
 
+#include "values/BillingMonth.h"
+
 namespace akarix {
 
 /// One figure that is not what its sources say. Amounts are in 1/10,000 of their unit.
 struct Difference {
     std::int32_t deal = 0;
-    int nendo = 0;
-    int getudo = 0;
+    BillingMonth month;
     QString column;  ///< "行" when the whole row is missing
     std::int64_t expected = 0;
     std::int64_t found = 0;

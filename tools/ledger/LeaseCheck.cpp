@@ -16,12 +16,6 @@ namespace {
 
 using Code = std::int32_t;
 
-struct Month {
-    int nendo = 0;
-    int getudo = 0;
-    friend auto operator<=>(const Month&, const Month&) = default;
-};
-
 struct Thing {
     const char16_t* line;
     const char16_t* mark;  ///< the customer's column
@@ -44,7 +38,7 @@ struct Slips {
 };
 
 struct MonthOf {
-    Month month;
+    BillingMonth month;
     Slips slips;
 };
 
@@ -61,7 +55,7 @@ class Walk {
     }
 
     std::vector<LeaseFinding> run() {
-        for (const Month month : billed_)
+        for (const BillingMonth month : billed_)
             read(month);
         for (const auto& [deal, months] : months_) {
             for (std::size_t i = 0; i < kThings.size(); ++i)
@@ -73,8 +67,8 @@ class Walk {
     }
 
  private:
-    void read(Month month) {
-        const QString ofMonth = u" WHERE Nendo=%1 AND Getudo=%2"_s.arg(month.nendo).arg(month.getudo);
+    void read(BillingMonth month) {
+        const QString ofMonth = WhereMonth(month);
         std::map<Code, Slips> slips;
         Recordset lines =
             db_.OpenRecordset(u"SELECT Deal,Dno,HinNamae FROM Dud"_s + ofMonth + u" AND CreateAuto=1"_s);
@@ -98,7 +92,7 @@ class Walk {
         }
     }
 
-    void add(Slips& slips, Month month, Code deal, Code number, const QString& name) {
+    void add(Slips& slips, BillingMonth month, Code deal, Code number, const QString& name) {
         slips.numbers.insert(number);
         owners_[number].insert({month, deal});
         for (std::size_t i = 0; i < kThings.size(); ++i) {
@@ -152,25 +146,25 @@ class Walk {
     }
 
     void note(Code deal, const MonthOf& entry, LeaseFault fault, const QString& line) {
-        findings_.push_back({deal, entry.month.nendo, entry.month.getudo, fault, line, entry.slips.number()});
+        findings_.push_back({deal, entry.month, fault, line, entry.slips.number()});
     }
 
     Database& db_;
     std::map<Code, PerThing> marks_;  ///< of today
-    std::set<Month> billed_;
+    std::set<BillingMonth> billed_;
     std::map<Code, std::vector<MonthOf>> months_;  ///< of customers who lease, from the first slip or mark on
-    std::map<Code, std::set<std::pair<Month, Code>>> owners_;  ///< of a slip number
+    std::map<Code, std::set<std::pair<BillingMonth, Code>>> owners_;  ///< of a slip number
     std::vector<LeaseFinding> findings_;
 };
 
 }  // namespace
 
-std::vector<LeaseFinding> CheckLeases(Database& db, int fromMonth) {
+std::vector<LeaseFinding> CheckLeases(Database& db, BillingMonth from) {
     std::vector<LeaseFinding> findings = Walk(db).run();
     std::erase_if(
-        findings, [fromMonth](const LeaseFinding& f) { return f.nendo * 100 + f.getudo < fromMonth; });
+        findings, [from](const LeaseFinding& f) { return f.month < from; });
     std::stable_sort(findings.begin(), findings.end(), [](const LeaseFinding& a, const LeaseFinding& b) {
-        return std::tie(a.nendo, a.getudo, a.deal) < std::tie(b.nendo, b.getudo, b.deal);
+        return std::tie(a.month, a.deal) < std::tie(b.month, b.deal);
     });
     return findings;
 }

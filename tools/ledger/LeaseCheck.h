@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "values/BillingMonth.h"
+
 namespace akarix {
 
 class Database;
@@ -20,16 +22,15 @@ enum class LeaseFault {
 
 struct LeaseFinding {
     std::int32_t deal = 0;
-    int nendo = 0;
-    int getudo = 0;
+    BillingMonth month;
     LeaseFault fault = LeaseFault::Missing;
     QString line;           ///< the name of the line
     std::int32_t slip = 0;  ///< 0: there is none
 };
 
-/// Looks through the lease slips of the billed months from a month on (year * 100 + month). A customer's
+/// Looks through the lease slips of the billed months from a month on. A customer's
 /// marks tell of today alone; what he leased in an earlier month is told by the months beside it. Months of
 /// his that are purged are passed over. By month and customer.
-std::vector<LeaseFinding> CheckLeases(Database& db, int fromMonth);
+std::vector<LeaseFinding> CheckLeases(Database& db, BillingMonth from);
 
 }  // namespace akarix

@@ -14,12 +14,6 @@ namespace {
 
 using Code = std::int32_t;
 
-struct Month {
-    int nendo = 0;
-    int getudo = 0;
-    friend auto operator<=>(const Month&, const Month&) = default;
-};
-
 /// The documents of one customer and month: their sum, and each one's amount by its number.
 struct Documents {
     std::int64_t sum = 0;
@@ -44,7 +38,7 @@ struct LedgerRow {
 
 /// What a customer's latest row hands on.
 struct Carried {
-    Month from;
+    BillingMonth from;
     std::int64_t balance = 0;
     std::vector<std::int64_t> sales;
     std::vector<std::int64_t> payments;
@@ -52,13 +46,9 @@ struct Carried {
 
 constexpr std::int64_t kByDebit = 2;  // payment class
 
-QString OfMonth(Month month) {
-    return u" WHERE Nendo=%1 AND Getudo=%2"_s.arg(month.nendo).arg(month.getudo);
-}
-
-DocumentsOf ReadDocuments(Database& db, const QString& columns, const QString& table, Month month) {
+DocumentsOf ReadDocuments(Database& db, const QString& columns, const QString& table, BillingMonth month) {
     DocumentsOf documents;
-    for (const auto& row : ReadNumbers(db, u"SELECT %1 FROM %2"_s.arg(columns, table) + OfMonth(month))) {
+    for (const auto& row : ReadNumbers(db, u"SELECT %1 FROM %2"_s.arg(columns, table) + WhereMonth(month))) {
         Documents& kept = documents[static_cast<Code>(row[0])];
         kept.sum += row[1];
         if (row.size() == 2) continue;
@@ -69,10 +59,10 @@ DocumentsOf ReadDocuments(Database& db, const QString& columns, const QString& t
     return documents;
 }
 
-std::map<Code, LedgerRow> ReadLedger(Database& db, Month month) {
+std::map<Code, LedgerRow> ReadLedger(Database& db, BillingMonth month) {
     std::map<Code, LedgerRow> ledger;
     for (const auto& row : ReadNumbers(
-             db, u"SELECT Deal,ZenkaiGaku,GGaku,UGaku,Gaku,NGaku,SyokiFlg FROM TtoD"_s + OfMonth(month)))
+             db, u"SELECT Deal,ZenkaiGaku,GGaku,UGaku,Gaku,NGaku,SyokiFlg FROM TtoD"_s + WhereMonth(month)))
         ledger[static_cast<Code>(row[0])] = {row[1], row[2], row[3], row[4], row[5], row[6] != 0};
     return ledger;
 }
@@ -113,8 +103,8 @@ class Walk {
             runs_[{static_cast<int>(row[0]), static_cast<int>(row[1])}] = row[2];
     }
 
-    std::set<Month> months() const {
-        std::set<Month> all;
+    std::set<BillingMonth> months() const {
+        std::set<BillingMonth> all;
         for (const char16_t* table : {u"TtoD", u"Dgd", u"Dud", u"Dny"})
             for (const auto& row : ReadNumbers(
                      db_,
@@ -123,19 +113,19 @@ class Walk {
         return all;
     }
 
-    void prove(Month month) {
+    void prove(BillingMonth month) {
         month_ = month;
         run_ = runOf(month);
         gas_ = ReadDocuments(db_, u"Deal,Gaku"_s, u"Dgd"_s, month);
         sales_ = ReadDocuments(db_, u"Deal,Gaku,Dno,Hizuke"_s, u"Dud"_s, month);
         payments_ = ReadDocuments(db_, u"Deal,Gaku,Dno,Hizuke,Kubun"_s, u"Dny"_s, month);
         const std::map<Code, LedgerRow> ledger = ReadLedger(db_, month);
-        if (proof_.rows == 0) proof_.first = {month.nendo, month.getudo};
+        if (proof_.rows == 0) proof_.first = month;
         if (run_) {
             ++proof_.months;
             proveRowsExist(ledger);
         } else {
-            proof_.notYetBilled.emplace_back(month.nendo, month.getudo);
+            proof_.notYetBilled.push_back(month);
         }
         for (const auto& [deal, row] : ledger) {
             ++proof_.rows;
@@ -153,15 +143,14 @@ class Walk {
     }
 
  private:
-    std::optional<std::int64_t> runOf(Month month) const {
+    std::optional<std::int64_t> runOf(BillingMonth month) const {
         const auto run = runs_.find(month);
         return run == runs_.end() ? std::nullopt : std::optional(run->second);
     }
 
     void note(Code deal, const char16_t* column, std::int64_t expected, std::int64_t found, Cause cause) {
         if (expected == found) return;
-        proof_.findings.push_back(
-            {{deal, month_.nendo, month_.getudo, QString::fromUtf16(column), expected, found}, cause});
+        proof_.findings.push_back({{deal, month_, QString::fromUtf16(column), expected, found}, cause});
     }
 
     void proveRowsExist(const std::map<Code, LedgerRow>& ledger) {
@@ -213,7 +202,7 @@ class Walk {
             // A purge takes the documents with the rows.
             if (documented_.contains(deal))
                 return note(deal, u"ZenkaiGaku", 0, row.zenkaiGaku, Cause::Unknown);
-            if (proof_.first == std::pair(month_.nendo, month_.getudo))
+            if (proof_.first == month_)
                 ++proof_.unproved;
             else
                 proof_.purged.push_back(deal);
@@ -235,11 +224,11 @@ class Walk {
     Database& db_;
     LedgerProof& proof_;
     std::set<Code> customers_;
-    std::map<Month, std::int64_t> runs_;
+    std::map<BillingMonth, std::int64_t> runs_;
     std::map<Code, Carried> carried_;
     std::set<Code> documented_;  ///< who has documents in an earlier month
 
-    Month month_;
+    BillingMonth month_;
     std::optional<std::int64_t> run_;  ///< day of the month's last run
     DocumentsOf gas_;
     DocumentsOf sales_;
@@ -248,11 +237,11 @@ class Walk {
 
 }  // namespace
 
-LedgerProof ProveLedger(Database& db, const std::function<void(int nendo, int getudo)>& progress) {
+LedgerProof ProveLedger(Database& db, const std::function<void(BillingMonth)>& progress) {
     LedgerProof proof;
     Walk walk(db, proof);
-    for (const Month month : walk.months()) {
-        progress(month.nendo, month.getudo);
+    for (const BillingMonth month : walk.months()) {
+        progress(month);
         walk.prove(month);
     }
     return proof;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <utility>
 #include <vector>
 
 #include "ledger/Difference.h"
@@ -31,16 +30,16 @@ struct LedgerProof {
     int unproved = 0;  ///< balances carried into the first month, whose past is purged
     int openings = 0;  ///< balances set by hand where the customer's rows begin
     std::vector<std::int32_t>
-        purged;                 ///< customers whose own first months are purged, and the balance with them
-    std::pair<int, int> first;  ///< the ledger's first year and month
-    std::vector<std::pair<int, int>> notYetBilled;  ///< years and months; only their payments are compared
-    std::vector<LedgerFinding> findings;            ///< by month, then customer
+        purged;          ///< customers whose own first months are purged, and the balance with them
+    BillingMonth first;  ///< of the ledger
+    std::vector<BillingMonth> notYetBilled;  ///< only their payments are compared
+    std::vector<LedgerFinding> findings;     ///< by month, then customer
 };
 
 /// Works out every row of the ledger again from readings, slips, payments and the row before it. A row is
 /// held against the row before it as that one stands, so a fault is told once, where it is.
 /// \param progress called before each month.
 LedgerProof ProveLedger(
-    Database& db, const std::function<void(int nendo, int getudo)>& progress = [](int, int) {});
+    Database& db, const std::function<void(BillingMonth)>& progress = [](BillingMonth) {});
 
 }  // namespace akarix

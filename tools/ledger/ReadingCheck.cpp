@@ -21,18 +21,17 @@ constexpr std::int64_t kPartBelow = 5;
 constexpr std::int64_t kLeastGap = 10 * kUnit;  // small uses jump by their nature
 
 struct PastUse {
-    int month = 0;  ///< counted from year 0
+    BillingMonth month;
     std::int64_t use = 0;
 };
 
-int CountedMonth(std::int64_t nendo, std::int64_t getudo) {
-    return static_cast<int>(nendo * 12 + getudo - 1);
+BillingMonth MonthOf(std::int64_t nendo, std::int64_t getudo) {
+    return {static_cast<int>(nendo), static_cast<int>(getudo)};
 }
 
 struct Reading {
     std::int32_t deal = 0;
-    int nendo = 0;
-    int getudo = 0;
+    BillingMonth month;
     std::int64_t before = 0;
     std::int64_t oldEnd = 0;  ///< of a meter that was exchanged
     std::int64_t newStart = 0;
@@ -40,7 +39,6 @@ struct Reading {
     std::int64_t use = 0;
     std::int64_t charge = 0;
 
-    int number() const { return nendo * 100 + getudo; }
     bool neverRead() const { return now == 0 && use == 0 && charge == 0; }
     /// What the meter shows at the end; a 0 only of one that has just been exchanged.
     bool showsMeter() const { return now != 0 || (oldEnd != 0 && !neverRead()); }
@@ -49,22 +47,22 @@ struct Reading {
 /// Walks the readings, each customer's from the oldest to the newest.
 class Walk {
  public:
-    Walk(Database& db, int from) : db_(db), from_(from) {
+    Walk(Database& db, BillingMonth from) : db_(db), from_(from) {
         for (const auto& row : ReadNumbers(db, u"SELECT Code FROM Deal WHERE TankaPtn<>0"_s))
             takesGas_.insert(static_cast<std::int32_t>(row[0]));
         for (const auto& row : ReadNumbers(db, u"SELECT Nen,Tuki FROM Syukei"_s))
-            billed_.insert(static_cast<int>(row[0] * 100 + row[1]));
+            billed_.insert(MonthOf(row[0], row[1]));
     }
 
     void add(const Reading& reading) {
         if (reading.deal != deal_) beginCustomer(reading.deal);
-        const int month = CountedMonth(reading.nendo, reading.getudo);
-        while (!year_.empty() && year_.front().month < month - 12)
+        const BillingMonth yearAgo = reading.month.plus(-12);
+        while (!year_.empty() && year_.front().month < yearAgo)
             year_.pop_front();
-        if (reading.number() >= from_) judge(reading);
+        if (reading.month >= from_) judge(reading);
         wasRead_ = reading.showsMeter();
         if (wasRead_) last_ = reading.now;
-        if (reading.use > 0) year_.push_back({month, reading.use});
+        if (reading.use > 0) year_.push_back({reading.month, reading.use});
     }
 
     std::vector<DoubtfulReading> doubtful;
@@ -81,8 +79,8 @@ class Walk {
 
     void doubt(const Reading& reading, bool isSo, Doubt why, std::int64_t usual) {
         if (!isSo) return;
-        doubtful.push_back({reading.deal, reading.nendo, reading.getudo, reading.before, reading.now,
-                            reading.use, reading.charge, why, usual});
+        doubtful.push_back({reading.deal, reading.month, reading.before, reading.now, reading.use,
+                            reading.charge, why, usual});
     }
 
     void judge(const Reading& reading) {
@@ -114,7 +112,7 @@ class Walk {
     /// A gap of several months is told once, where it begins.
     void judgeUnread(const Reading& reading) {
         const bool isDue = reading.before != 0 || takesGas_.contains(reading.deal);
-        if (!isDue || !billed_.contains(reading.number())) return;
+        if (!isDue || !billed_.contains(reading.month)) return;
         if (unread_ == 0) {
             doubt(reading, true, Doubt::NeverRead, 0);
             unread_ = doubtful.size();
@@ -129,14 +127,14 @@ class Walk {
             ReadNumbers(db_,
                         u"SELECT TOP 1 KonkaiMeter FROM Dgd WHERE Deal=%1 AND Nendo*100+Getudo<%2 AND "
                         "KonkaiMeter<>0 ORDER BY Nendo*100+Getudo DESC"_s.arg(reading.deal)
-                            .arg(reading.number()));
+                            .arg(reading.month.key()));
         if (!found.empty()) last_ = found[0][0];
     }
 
     Database& db_;
-    int from_;
+    BillingMonth from_;
     std::set<std::int32_t> takesGas_;
-    std::set<int> billed_;
+    std::set<BillingMonth> billed_;
 
     std::int32_t deal_ = -1;
     std::deque<PastUse> year_;
@@ -148,25 +146,23 @@ class Walk {
 
 }  // namespace
 
-std::vector<DoubtfulReading> CheckReadings(Database& db, int fromMonth) {
-    Walk walk(db, fromMonth);
+std::vector<DoubtfulReading> CheckReadings(Database& db, BillingMonth from) {
+    Walk walk(db, from);
     for (const auto& row :
          ReadNumbers(db,
                      u"SELECT Deal,Nendo,Getudo,ZenkaiMeter,KoukanMeter,KoukanGoMeter,KonkaiMeter,"
                      "Suu,Gaku FROM Dgd WHERE Nendo*100+Getudo>=%1 ORDER BY Deal,Nendo,Getudo"_s.arg(
-                         fromMonth - 100))) {
-        walk.add({static_cast<std::int32_t>(row[0]), static_cast<int>(row[1]), static_cast<int>(row[2]),
-                  row[3], row[4], row[5], row[6], row[7], row[8]});
+                         from.key() - 100))) {
+        walk.add({static_cast<std::int32_t>(row[0]), MonthOf(row[1], row[2]), row[3], row[4], row[5], row[6],
+                  row[7], row[8]});
     }
     return std::move(walk.doubtful);
 }
 
-int LastYearOfReadings(Database& db) {
+BillingMonth LastYearOfReadings(Database& db) {
     const auto last = ReadNumbers(
         db, u"SELECT TOP 1 Nendo,Getudo FROM Dgd WHERE KonkaiMeter<>0 ORDER BY Nendo*100+Getudo DESC"_s);
-    if (last.empty()) return 0;
-    const int first = CountedMonth(last[0][0], last[0][1]) - 11;
-    return first / 12 * 100 + first % 12 + 1;
+    return last.empty() ? BillingMonth() : MonthOf(last[0][0], last[0][1]).plus(-11);
 }
 
 }  // namespace akarix

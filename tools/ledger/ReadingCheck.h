@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "values/BillingMonth.h"
+
 namespace akarix {
 
 class Database;
@@ -21,8 +23,7 @@ enum class Doubt {
 /// Readings and use in 1/10,000 m³, the charge in 1/10,000 yen.
 struct DoubtfulReading {
     std::int32_t deal = 0;
-    int nendo = 0;
-    int getudo = 0;
+    BillingMonth month;
     std::int64_t zenkaiMeter = 0;
     std::int64_t konkaiMeter = 0;
     std::int64_t use = 0;
@@ -33,14 +34,14 @@ struct DoubtfulReading {
     std::int64_t usual = 0;
 };
 
-/// Looks through the readings from a month on (year * 100 + month), each held against those of its customer
+/// Looks through the readings from a month on, each held against those of its customer
 /// in the twelve months before, its previous reading against the last one however long ago. A use of nothing
 /// is not told of: houses stand empty; nor is a customer without gas who was never read. By customer and
 /// month.
-std::vector<DoubtfulReading> CheckReadings(Database& db, int fromMonth);
+std::vector<DoubtfulReading> CheckReadings(Database& db, BillingMonth from);
 
-/// Year * 100 + month of eleven months before the last one that has readings, so that a year is looked at; 0
-/// when there is no reading.
-int LastYearOfReadings(Database& db);
+/// Eleven months before the last one that has readings, so that a year is looked at; no month when there is
+/// no reading.
+BillingMonth LastYearOfReadings(Database& db);
 
 }  // namespace akarix

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "platform/dao/Database.h"
+#include "platform/runtime/Literals.h"
 
 namespace akarix {
 
@@ -17,6 +18,10 @@ std::int64_t PlainNumber(const Variant& value) {
 }
 
 }  // namespace
+
+QString WhereMonth(BillingMonth month) {
+    return u" WHERE Nendo=%1 AND Getudo=%2"_s.arg(month.nendo).arg(month.getudo);
+}
 
 std::vector<std::vector<std::int64_t>> ReadNumbers(Database& db, const QString& sql) {
     Recordset set = db.OpenRecordset(sql);

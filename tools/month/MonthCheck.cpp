@@ -122,7 +122,7 @@ void CheckMonth(Database& db, int year, int month, const TypedMonth& typed) {
     differences += CompareDebits(db, year, month, typed.debits);
     differences += CompareLeases(db, year, month, typed);
     differences += RequireRows(db, year, month);
-    for (const Difference& difference : CheckCharges(db, year, month))
+    for (const Difference& difference : CheckCharges(db, {year, month}))
         differences << Describe(difference);
     for (const LedgerFinding& finding : ProveLedger(db).findings)
         differences << Describe(finding.difference);

@@ -56,8 +56,8 @@ void MonthMaker::make(int year, int month) {
     nextSlip_ = NextDudNo();
     writeSlips(year, month);
     writePayments(year, month);
-    BuildMonthLedger(year, month, DateSerial(year, month, DaysIn(year, month)));
-    CarryForwardMonth(year, month);
+    BuildMonthLedger({year, month}, DateSerial(year, month, DaysIn(year, month)));
+    CarryForwardMonth({year, month});
     readBalances(year, month);
 }
 
@@ -108,14 +108,12 @@ void MonthMaker::writeSlips(int year, int month) {
 }
 
 void MonthMaker::writeSlip(const Customer& customer, Date day) {
-    int nendo = 0;
-    int getudo = 0;
-    DateToGetudo(customer.code, day, nendo, getudo);
+    const BillingMonth billed = DateToGetudo(customer.code, day);
     const std::int32_t dno = nextSlip_++;
     int eda = 0;
     const auto add = [&](int code, const QString& name, Currency amount, Currency count, Currency price) {
-        slips_.add({dno, ++eda, day, customer.code, code, name, count, price, amount, nendo, getudo,
-                    std::int16_t{0}});
+        slips_.add({dno, ++eda, day, customer.code, code, name, count, price, amount, billed.nendo,
+                    billed.getudo, std::int16_t{0}});
     };
     const int goods = dice_.percent(75) ? 1 : dice_.between(2, 3);
     for (int i = 0; i < goods; ++i) {
@@ -151,14 +149,12 @@ void MonthMaker::writePayments(int year, int month) {
 void MonthMaker::writePayment(const Customer& customer, int year, int month, Currency amount) {
     if (amount.IsZero()) return;
     const Date date = paymentDay(customer, year, month);
-    int nendo = 0;
-    int getudo = 0;
-    DateToGetudo(customer.code, date, nendo, getudo);
-    if (getudo != month) paidAhead_[customer.code] += amount;
+    const BillingMonth billed = DateToGetudo(customer.code, date);
+    if (billed.getudo != month) paidAhead_[customer.code] += amount;
     const std::int32_t dno = nextPayment_++;
     int eda = 0;
     const auto add = [&](int paymentClass, Currency part, const QString& memo) {
-        payments_.add({dno, ++eda, date, customer.code, paymentClass, part, memo, nendo, getudo});
+        payments_.add({dno, ++eda, date, customer.code, paymentClass, part, memo, billed.nendo, billed.getudo});
     };
     const Currency fee = Currency(440);
     if (customer.paymentClass == 3 && amount > fee && dice_.percent(10)) {
