@@ -2,7 +2,6 @@
 
 #include <cerrno>
 
-#include "platform/runtime/FileError.h"
 #include "platform/runtime/RuntimeError.h"
 
 #ifdef Q_OS_WIN

@@ -4,12 +4,10 @@
 #include <limits>
 
 #include "platform/runtime/Calendar.h"
-#include "platform/runtime/DateFormat.h"
 #include "platform/runtime/DateText.h"
 #include "platform/runtime/Decimal.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/NumberOf.h"
-#include "platform/runtime/NumberText.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {

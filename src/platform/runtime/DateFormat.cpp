@@ -1,7 +1,6 @@
-#include "platform/runtime/DateFormat.h"
+#include "platform/runtime/DateText.h"
 
 #include "platform/runtime/Calendar.h"
-#include "platform/runtime/Era.h"
 #include "platform/runtime/FormatMask.h"
 #include "platform/runtime/Literals.h"
 

@@ -3,7 +3,6 @@
 #include <QRegularExpression>
 
 #include "platform/runtime/Calendar.h"
-#include "platform/runtime/Era.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/Text.h"
 

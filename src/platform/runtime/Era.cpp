@@ -1,4 +1,4 @@
-#include "platform/runtime/Era.h"
+#include "platform/runtime/DateText.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "platform/runtime/FileError.h"
+#include "platform/runtime/ByteFile.h"
 
 #include <QFileInfo>
 #include <cerrno>

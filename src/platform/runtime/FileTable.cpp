@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/runtime/FileError.h"
+#include "platform/runtime/ByteFile.h"
 #include "platform/runtime/Files.h"
 #include "platform/runtime/RuntimeError.h"
 

@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 #include <filesystem>
 
-#include "platform/runtime/FileError.h"
+#include "platform/runtime/ByteFile.h"
 #include "platform/runtime/FileTable.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"

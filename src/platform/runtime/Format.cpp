@@ -5,9 +5,8 @@
 #include <optional>
 
 #include "platform/runtime/Conversion.h"
-#include "platform/runtime/DateFormat.h"
+#include "platform/runtime/DateText.h"
 #include "platform/runtime/FormatMask.h"
-#include "platform/runtime/NumberFormat.h"
 #include "platform/runtime/NumberOf.h"
 
 namespace akarix {

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <optional>
 
+#include "platform/runtime/Decimal.h"
+
 namespace akarix {
 
 enum class MaskKind { Number, Date };
@@ -17,5 +19,8 @@ MaskKind MaskKindOf(const QString& mask);
 /// Takes a backslash with its character or a text in quotes off the mask at `at`; nothing when neither is
 /// there.
 std::optional<QString> TakeQuoted(const QString& mask, qsizetype& at);
+
+/// A number under a mask of up to three sections: positive, negative, zero. Rounds half away from zero.
+QString FormatDecimal(const Decimal& number, const QString& mask);
 
 }  // namespace akarix

@@ -1,11 +1,9 @@
-#include "platform/runtime/NumberFormat.h"
+#include "platform/runtime/FormatMask.h"
 
 #include <QList>
 #include <optional>
 #include <unordered_map>
 #include <vector>
-
-#include "platform/runtime/FormatMask.h"
 
 namespace akarix {
 

@@ -1,6 +1,5 @@
 #include "platform/runtime/NumberOf.h"
 
-#include "platform/runtime/NumberText.h"
 #include "platform/runtime/RuntimeError.h"
 
 namespace akarix {

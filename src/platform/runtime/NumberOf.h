@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/runtime/Decimal.h"
 #include "platform/runtime/Variant.h"
 
@@ -14,5 +16,9 @@ int SignificantDigits(VarType type);
 
 /// The number as the classic texts show it.
 Decimal ShownNumberOf(const Variant& value);
+
+/// Reads a number the way a clerk may write it: blanks around, a sign in front or behind, thousands marks,
+/// "\" or "¥", parentheses for a negative, an exponent, all of it full-width too. Nothing else.
+std::optional<Decimal> ReadNumberText(const QString& text);
 
 }  // namespace akarix

@@ -1,4 +1,4 @@
-#include "platform/runtime/NumberText.h"
+#include "platform/runtime/NumberOf.h"
 
 #include "platform/runtime/Text.h"
 

@@ -1,8 +1,8 @@
 #include <QDate>
 #include <algorithm>
 #include <cmath>
-#include <tuple>
 
+#include "platform/runtime/DateText.h"
 #include "platform/runtime/Literals.h"
 #include "platform/sheet/FormatCode.h"
 
@@ -17,32 +17,17 @@ constexpr qint64 kMsPerSecond = 1000, msPerMinute = 60'000, msPerHour = 3'600'00
 struct Day {
     int year, month, day;
     int weekday;  ///< 0 is Sunday
+    const Era* era;
 };
 
 // Serial 1 is 1 January 1900; serial 60 is that year's 29 February, which never was but is counted.
 Day DayOf(qint64 serial) {
     const int weekday = static_cast<int>((serial + 6) % 7);
-    if (serial == 0) return {1900, 1, 0, weekday};
-    if (serial == 60) return {1900, 2, 29, weekday};
+    const Era* era = EraOfDay(serial);  // the day beside it in 1900, which is as far from the next era
+    if (serial == 0) return {1900, 1, 0, weekday, era};
+    if (serial == 60) return {1900, 2, 29, weekday, era};
     const QDate date = QDate(1899, 12, serial < 60 ? 31 : 30).addDays(serial);
-    return {date.year(), date.month(), date.day(), weekday};
-}
-
-struct Era {
-    int year, month, day;
-    const char16_t* name;
-    char16_t letter;
-};
-
-const Era& EraOf(const Day& day) {
-    static constexpr Era eras[] = {{2019, 5, 1, u"令和", u'R'},
-                                   {1989, 1, 8, u"平成", u'H'},
-                                   {1926, 12, 25, u"昭和", u'S'},
-                                   {1912, 7, 30, u"大正", u'T'},
-                                   {1868, 1, 25, u"明治", u'M'}};
-    for (const Era& era : eras)
-        if (std::tie(era.year, era.month, era.day) <= std::tie(day.year, day.month, day.day)) return era;
-    return eras[std::size(eras) - 1];
+    return {date.year(), date.month(), date.day(), weekday, era};
 }
 
 QString Padded(qint64 number, qsizetype width) {
@@ -61,8 +46,8 @@ QString DayText(QStringView code, const Day& day, bool firstYearByName) {
     static const QStringView weekdays[] = {u"Sunday",   u"Monday", u"Tuesday", u"Wednesday",
                                            u"Thursday", u"Friday", u"Saturday"};
     const QStringView month = months[day.month - 1], weekday = weekdays[day.weekday];
-    const Era& era = EraOf(day);
-    const int eraYear = day.year - era.year + 1;
+    const Era& era = *day.era;
+    const int eraYear = day.year - era.firstYear + 1;
     const qsizetype length = code.size();
     switch (code[0].unicode()) {
         case u'y':

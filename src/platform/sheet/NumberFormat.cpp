@@ -4,6 +4,7 @@
 #include <cmath>
 #include <unordered_map>
 
+#include "platform/runtime/Decimal.h"
 #include "platform/runtime/Literals.h"
 #include "platform/sheet/FormatCode.h"
 
@@ -13,80 +14,32 @@ namespace {
 
 using Kind = FormatToken::Kind;
 
-/// A number's magnitude as the 15 decimal digits that a spreadsheet works with: 0.DIGITS times 10^point.
-/// Rounding on these, not on the binary value, makes 1.005 to two places 1.01.
-struct Decimal {
-    QByteArray digits;  ///< without zeros at either end; empty is zero
-    int point = 0;
+/// A magnitude rounded half away from zero to a number of places. It is rounded on the 15 digits that a
+/// spreadsheet works with, not on the binary value, so that 1.005 to two places is 1.01.
+struct Parts {
+    QString integer;  ///< without leading zeros, so empty below 1
+    QString fraction;
 
-    static Decimal of(double magnitude) {
-        Decimal decimal;
-        if (magnitude == 0) return decimal;
-        const QByteArray text = QByteArray::number(magnitude, 'e', 14);
-        const qsizetype e = text.indexOf('e');
-        decimal.digits = text.left(1) + text.mid(2, e - 2);
-        decimal.point = text.mid(e + 1).toInt() + 1;
-        while (decimal.digits.endsWith('0'))
-            decimal.digits.chop(1);
-        return decimal;
+    Parts(Decimal number, int places) {
+        number.roundTo(places);
+        if (number.point > 0) integer = number.plainText().section(u'.', 0, 0);
+        fraction = number.plainText().section(u'.', 1).leftJustified(places, u'0');
     }
-
-    struct Parts {
-        QByteArray integer;  ///< without leading zeros, so empty below 1
-        QByteArray fraction;
-        bool isZero() const { return integer.isEmpty() && fraction.count('0') == fraction.size(); }
-    };
-
-    /// Rounded half away from zero to a number of places.
-    Parts rounded(int places) const {
-        QByteArray kept = QByteArray(std::max(0, -point), '0') + digits;  // digits behind the integer part
-        int integerDigits = std::max(0, point);
-        const qsizetype wanted = integerDigits + places;
-        const bool up = kept.size() > wanted && kept[wanted] >= '5';
-        kept = kept.leftJustified(wanted, '0', true);
-        if (up) {
-            qsizetype i = wanted - 1;
-            while (i >= 0 && kept[i] == '9')
-                kept[i--] = '0';
-            if (i >= 0) {
-                kept[i] = static_cast<char>(kept[i] + 1);
-            } else {
-                kept.prepend('1');
-                ++integerDigits;
-            }
-        }
-        return {kept.left(integerDigits), kept.mid(integerDigits)};
-    }
+    bool isZero() const { return integer.isEmpty() && fraction.count(u'0') == fraction.size(); }
 };
-
-QString ExponentText(int exponent) {
-    return u"E%1%2"_s.arg(QChar(exponent < 0 ? u'-' : u'+')).arg(std::abs(exponent), 2, 10, QLatin1Char('0'));
-}
-
-QString WithoutTrailingZeros(const Decimal::Parts& parts) {
-    QByteArray fraction = parts.fraction;
-    while (fraction.endsWith('0'))
-        fraction.chop(1);
-    QString text = QString::fromLatin1(parts.integer.isEmpty() ? QByteArrayLiteral("0") : parts.integer);
-    if (!fraction.isEmpty()) text += u'.' + QString::fromLatin1(fraction);
-    return text;
-}
 
 // As much of a number as eleven characters hold.
 QString GeneralText(double magnitude) {
-    const Decimal decimal = Decimal::of(magnitude);
-    constexpr int widest = 11, mantissaPlaces = 5;
-    const auto plain = decimal.rounded(std::max(0, widest - 1 - std::max(decimal.point, 1)));
-    const bool tooSmall = decimal.point < -3 && decimal.digits.size() - decimal.point > widest - 2;
-    if (decimal.digits.isEmpty() || (plain.integer.size() <= widest && !tooSmall))
-        return WithoutTrailingZeros(plain);
-    int exponent = decimal.point - 1;
-    auto mantissa = Decimal{decimal.digits, 1}.rounded(mantissaPlaces);
-    if (mantissa.integer.size() > 1) {
-        ++exponent;
-        mantissa = {QByteArrayLiteral("1"), QByteArray()};
-    }
-    return WithoutTrailingZeros(mantissa) + ExponentText(exponent);
+    const Decimal exact = Decimal::of(magnitude);
+    constexpr int widest = 11, mantissaDigits = 6;
+    Decimal shown = exact;
+    shown.roundTo(std::max(0, widest - 1 - std::max(exact.point, 1)));
+    const bool tooSmall =
+        exact.point < -3 && static_cast<int>(exact.digits.size()) - exact.point > widest - 2;
+    if (exact.isZero() || (shown.point <= widest && !tooSmall)) return shown.plainText();
+    shown = exact;
+    shown.roundTo(mantissaDigits - exact.point);
+    return shown.generalText(0);
 }
 
 QString BlankFor(const FormatToken& placeholder) {
@@ -137,16 +90,16 @@ class NumberWriter {
         const int places = digitsBetween(point, end);
         if (digitsBetween(0, point) + places == 0) return;
         Decimal decimal = Decimal::of(magnitude_);
-        if (!decimal.digits.isEmpty()) decimal.point += section_.shift;
+        if (!decimal.isZero()) decimal.point += section_.shift;
 
-        const auto parts = decimal.rounded(places);
+        const Parts parts(decimal, places);
         zero_ = parts.isZero();
         writeInteger(parts.integer, point);
         writePlaces(parts.fraction, point, end);
     }
 
     // From the right; the leftmost placeholder takes all the digits that are left.
-    void writeInteger(const QByteArray& digits, size_t to) {
+    void writeInteger(const QString& digits, size_t to) {
         size_t leftmost = to;
         for (size_t i = to; i-- > 0;)
             if (isDigit(i)) leftmost = i;
@@ -161,22 +114,22 @@ class NumberWriter {
         for (size_t i = to; i-- > 0;) {
             if (!isDigit(i)) continue;
             if (left > 0)
-                prepend(out_[i], QLatin1Char(digits[--left]));
+                prepend(out_[i], digits[--left]);
             else if (const QString blank = BlankFor(tokens_[i]); !blank.isEmpty())
                 prepend(out_[i], blank[0]);
             while (i == leftmost && left > 0)
-                prepend(out_[i], QLatin1Char(digits[--left]));
+                prepend(out_[i], digits[--left]);
         }
     }
 
-    void writePlaces(const QByteArray& digits, size_t from, size_t to) {
+    void writePlaces(const QString& digits, size_t from, size_t to) {
         qsizetype significant = digits.size();
-        while (significant > 0 && digits[significant - 1] == '0')
+        while (significant > 0 && digits[significant - 1] == u'0')
             --significant;
         qsizetype place = 0;
         for (size_t i = from; i < to; ++i) {
             if (!isDigit(i)) continue;
-            out_[i] = place < significant ? QString(QLatin1Char(digits[place])) : BlankFor(tokens_[i]);
+            out_[i] = place < significant ? QString(digits[place]) : BlankFor(tokens_[i]);
             ++place;
         }
     }
