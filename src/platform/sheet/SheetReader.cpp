@@ -17,10 +17,6 @@ namespace {
 
 constexpr double kPointsPerInch = 72, pointsPerMillimetre = 72 / 25.4;
 
-QString Text(const pugi::xml_attribute& attribute) {
-    return QString::fromUtf8(attribute.value());
-}
-
 // Characters that XML cannot hold are written _x000D_.
 QString Unescaped(QString value) {
     for (qsizetype at = value.indexOf(u"_x"); at >= 0; at = value.indexOf(u"_x", at + 1)) {
@@ -91,9 +87,9 @@ class Reader {
         from1904_ = IsOn(ChildNamed(root, "workbookPr").attribute("date1904"));
         int index = 0;
         for (const auto& node : ChildNamed(root, "sheets")) {
-            if (Text(node.attribute("name")).compare(sheet_.name, Qt::CaseInsensitive) == 0) {
+            if (AttributeText(node.attribute("name")).compare(sheet_.name, Qt::CaseInsensitive) == 0) {
                 sheetIndex_ = index;
-                const QString id = Text(PrefixedAttribute(node, "id"));
+                const QString id = AttributeText(PrefixedAttribute(node, "id"));
                 for (const auto& relation : relations_)
                     if (relation.id == id) sheetPart_ = relation.part;
                 break;
@@ -218,7 +214,7 @@ class Reader {
         for (const auto& node : row) {
             if (!IsNamed(node, "c")) continue;
             if (const auto address = node.attribute("r"))
-                at = ParseRange(Text(address)).first;
+                at = ParseRange(AttributeText(address)).first;
             else
                 ++at.column;
             if (at.column > kLastSheetColumn) parts_.fail(u"列の番号が正しくありません。"_s);
@@ -230,7 +226,7 @@ class Reader {
             readValue(node, cell);
             if (ChildNamed(node, "f")) {
                 ++formulas_;
-                if (formulas_ == 1) firstFormula_ = Text(node.attribute("r"));
+                if (formulas_ == 1) firstFormula_ = AttributeText(node.attribute("r"));
             }
             if (!cell.text.isEmpty() || cell.number)
                 tallestFont = std::max(tallestFont, sheet_.styles[static_cast<size_t>(cell.style)].font.size);
@@ -277,7 +273,7 @@ class Reader {
     void readMerges(const pugi::xml_node& merges) {
         for (const auto& node : merges) {
             if (!IsNamed(node, "mergeCell")) continue;
-            const CellRange range = ParseRange(Text(node.attribute("ref")));
+            const CellRange range = ParseRange(AttributeText(node.attribute("ref")));
             if (range.first != range.last) sheet_.merges.push_back(range);
         }
     }
@@ -291,8 +287,8 @@ class Reader {
             page.paperWidth = paper.width * pointsPerMillimetre;
             page.paperHeight = paper.height * pointsPerMillimetre;
         }
-        const double ownWidth = Measure(Text(setup.attribute("paperWidth")));
-        const double ownHeight = Measure(Text(setup.attribute("paperHeight")));
+        const double ownWidth = Measure(AttributeText(setup.attribute("paperWidth")));
+        const double ownHeight = Measure(AttributeText(setup.attribute("paperHeight")));
         constexpr double smallestPaper = 36, largestPaper = 4000;
         if (std::min(ownWidth, ownHeight) >= smallestPaper && std::max(ownWidth, ownHeight) <= largestPaper) {
             page.paperWidth = ownWidth;
@@ -337,7 +333,7 @@ class Reader {
     void readNames() {
         for (const auto& node : ChildNamed(workbook_.document_element(), "definedNames")) {
             if (node.attribute("localSheetId").as_int(-1) != sheetIndex_) continue;
-            const QString name = Text(node.attribute("name"));
+            const QString name = AttributeText(node.attribute("name"));
             const QString value = QString::fromUtf8(node.text().get());
             if (name == u"_xlnm.Print_Area") readPrintArea(value);
             if (name == u"_xlnm.Print_Titles") readPrintTitles(value);

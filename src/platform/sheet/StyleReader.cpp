@@ -13,10 +13,6 @@ namespace akarix {
 
 namespace {
 
-QString Text(const pugi::xml_attribute& attribute) {
-    return QString::fromUtf8(attribute.value());
-}
-
 template <class T>
 T At(const std::vector<T>& list, const pugi::xml_attribute& index) {
     const auto i = static_cast<size_t>(index.as_uint());
@@ -97,12 +93,12 @@ class Reader {
         readTheme(theme.document_element());
         int index = 0;
         for (const auto& node : ChildNamed(ChildNamed(root_, "colors"), "indexedColors"))
-            palette_[index++] = argb(Text(node.attribute("rgb")));
+            palette_[index++] = argb(AttributeText(node.attribute("rgb")));
     }
 
     WorkbookStyles read() {
         for (const auto& node : ChildNamed(root_, "numFmts"))
-            formats_[node.attribute("numFmtId").as_int()] = Text(node.attribute("formatCode"));
+            formats_[node.attribute("numFmtId").as_int()] = AttributeText(node.attribute("formatCode"));
         for (const auto& node : ChildNamed(root_, "fonts"))
             fonts_.push_back(font(node));
         for (const auto& node : ChildNamed(root_, "fills"))
@@ -132,7 +128,8 @@ class Reader {
         const auto scheme = ChildNamed(ChildNamed(theme, "themeElements"), "clrScheme");
         for (const char* name : order) {
             const auto color = ChildNamed(scheme, name).first_child();
-            theme_.push_back(argb(Text(color.attribute(IsNamed(color, "sysClr") ? "lastClr" : "val"))));
+            theme_.push_back(
+                argb(AttributeText(color.attribute(IsNamed(color, "sysClr") ? "lastClr" : "val"))));
         }
     }
 
@@ -141,7 +138,7 @@ class Reader {
     QColor color(const pugi::xml_node& node, const QColor& automatic) const {
         QColor found;
         if (const auto rgb = node.attribute("rgb"))
-            found = argb(Text(rgb));
+            found = argb(AttributeText(rgb));
         else if (const auto theme = node.attribute("theme"))
             found = At(theme_, theme);
         else if (const auto index = node.attribute("indexed"))
@@ -164,7 +161,7 @@ class Reader {
     SheetFont font(const pugi::xml_node& node) const {
         SheetFont font;
         for (const char* tag : {"name", "rFont"})
-            if (const auto name = ChildNamed(node, tag)) font.name = Text(name.attribute("val"));
+            if (const auto name = ChildNamed(node, tag)) font.name = AttributeText(name.attribute("val"));
         if (const auto size = ChildNamed(node, "sz"))
             font.size = std::clamp(size.attribute("val").as_double(font.size), 1.0, 409.0);
         font.bold = flag(node, "b");

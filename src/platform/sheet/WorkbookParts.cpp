@@ -58,10 +58,9 @@ std::vector<WorkbookParts::Relation> WorkbookParts::relations(const QString& par
         if (!IsNamed(node, "Relationship") ||
             std::strcmp(node.attribute("TargetMode").value(), "External") == 0)
             continue;
-        const QString type = QString::fromUtf8(node.attribute("Type").value());
-        found.push_back({QString::fromUtf8(node.attribute("Id").value()),
-                         type.mid(type.lastIndexOf(u'/') + 1),
-                         Resolved(part, QString::fromUtf8(node.attribute("Target").value()))});
+        const QString type = AttributeText(node.attribute("Type"));
+        found.push_back({AttributeText(node.attribute("Id")), type.mid(type.lastIndexOf(u'/') + 1),
+                         Resolved(part, AttributeText(node.attribute("Target")))});
     }
     return found;
 }
@@ -81,6 +80,10 @@ pugi::xml_attribute PrefixedAttribute(const pugi::xml_node& node, const char* na
         if (std::strchr(attribute.name(), ':') && std::strcmp(LocalName(attribute.name()), name) == 0)
             return attribute;
     return {};
+}
+
+QString AttributeText(const pugi::xml_attribute& attribute) {
+    return QString::fromUtf8(attribute.value());
 }
 
 bool IsOn(const pugi::xml_attribute& attribute, bool otherwise) {

@@ -34,6 +34,7 @@ class WorkbookParts {
 bool IsNamed(const pugi::xml_node& node, const char* name);
 pugi::xml_node ChildNamed(const pugi::xml_node& parent, const char* name);
 pugi::xml_attribute PrefixedAttribute(const pugi::xml_node& node, const char* name);
+QString AttributeText(const pugi::xml_attribute& attribute);
 /// An on/off attribute or element value as SpreadsheetML writes it.
 bool IsOn(const pugi::xml_attribute& attribute, bool otherwise = false);
 
