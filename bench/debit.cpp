@@ -79,9 +79,8 @@ int Run() {
         const Consignor fitted = FitPostConsignor(post);
         const RetransferDay never{u"  "_s, u"  "_s};
         writing.product.push_back(Measure([&] {
-            WriteRequest(
-                u"A:\\disk"_s, gDb->OpenRecordset(DebitQuery(kPostOffice, {kYear, kMonth})),
-                PostRequest(fitted, kDebited, never), [](const QString&) {});
+            WriteRequest(u"A:\\disk"_s, gDb->OpenRecordset(DebitQuery(kPostOffice, {kYear, kMonth})),
+                         PostRequest(fitted, kDebited, never), [](const QString&) {});
         }));
         reading.product.push_back(Measure([&] { ReadBack(clerk); }));
 

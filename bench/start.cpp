@@ -33,13 +33,11 @@ class Watch : public QObject {
                 splashSeen_ = true;
                 QTimer::singleShot(0, form, &Form::Unload);
             } else if (name == u"Request_frm") {
-                QTimer::singleShot(
-                    0, this,
-                    [this] {
-                        std::printf("%.3f %.3f\n", MillisecondsSince(start_), ProcessorMilliseconds());
-                        std::fflush(stdout);
-                        std::_Exit(0);
-                    });
+                QTimer::singleShot(0, this, [this] {
+                    std::printf("%.3f %.3f\n", MillisecondsSince(start_), ProcessorMilliseconds());
+                    std::fflush(stdout);
+                    std::_Exit(0);
+                });
             }
         }
         return QObject::eventFilter(watched, event);

@@ -65,14 +65,12 @@ QString Slashed(const QString& year, const QString& month, const QString& day) {
 SlipG_frm::SlipG_frm() : EntryForm(u"SlipG_frm"_s, u"検針入力"_s) {
     layOut();
     on(&ebox(kRoute), &TextBox::LostFocus, [this] { takeRouteDay(); });
-    on(
-        List_, &FlexGrid::KeyDown,
-        [this](KeyEvent& event) {
-            if (event.KeyCode != key::Tab) return;
-            event.KeyCode = 0;
-            if (event.Shift == 0) return SetFocus(Command1_);
-            FocusSelect(ebox(kCustomer));
-        });
+    on(List_, &FlexGrid::KeyDown, [this](KeyEvent& event) {
+        if (event.KeyCode != key::Tab) return;
+        event.KeyCode = 0;
+        if (event.Shift == 0) return SetFocus(Command1_);
+        FocusSelect(ebox(kCustomer));
+    });
     cell_.emplace(*this, *List_, &IsTyped, [this](int keyCode) { return cellKey(keyCode); });
 }
 

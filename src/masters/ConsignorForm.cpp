@@ -71,9 +71,8 @@ ConsignorForm::ConsignorForm(const QString& name, const QString& caption, Master
 }
 
 bool ConsignorForm::maySave() {
-    return std::all_of(
-        required_.begin(), required_.end(),
-        [this](const Requirement& need) { return require(need.field, need.message); });
+    return std::all_of(required_.begin(), required_.end(),
+                       [this](const Requirement& need) { return require(need.field, need.message); });
 }
 
 QString ConsignorForm::removeSql() {

@@ -56,12 +56,10 @@ void FinishWhenAbandoned(const std::weak_ptr<PrintSink>& document) {
 /// When the event loop turns with nothing under way. A long run lets it turn in its midst, so the loop alone
 /// is no sign of a run's end.
 void FinishLater(const std::weak_ptr<PrintSink>& document) {
-    QTimer::singleShot(
-        0, qApp,
-        [document] {
-            AfterAction(
-                [document] { PrintRun::UnderWay() ? FinishLater(document) : FinishWhenAbandoned(document); });
-        });
+    QTimer::singleShot(0, qApp, [document] {
+        AfterAction(
+            [document] { PrintRun::UnderWay() ? FinishLater(document) : FinishWhenAbandoned(document); });
+    });
 }
 
 /// The pages of the sheet as it stands now; they keep a copy, since the template is filled again. Their

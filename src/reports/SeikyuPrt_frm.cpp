@@ -133,12 +133,9 @@ SeikyuPrt_frm::SeikyuPrt_frm() : EntryForm(u"SeikyuPrt_frm"_s, u"請求書発行
     const auto add = [&](const QString& caption, const QString& name, std::function<void()> press) {
         bar->addWidget(&Named(newButton(caption, std::move(press)), name));
     };
-    add(
-        u"印刷"_s, u"Btn"_s, [this] { TrapPrinting([this] { print(); }); });
-    add(
-        u"全ﾁｪｯｸ"_s, u"Command1"_s, [this] { markAll(kMark); });
-    add(
-        u"全消"_s, u"DelBtn"_s, [this] { markAll({}); });
+    add(u"印刷"_s, u"Btn"_s, [this] { TrapPrinting([this] { print(); }); });
+    add(u"全ﾁｪｯｸ"_s, u"Command1"_s, [this] { markAll(kMark); });
+    add(u"全消"_s, u"DelBtn"_s, [this] { markAll({}); });
     add(u"Excel"_s, u"ExcelBtn"_s, [this] { exportGrid(); });
     bar->addStretch();
 

@@ -10,23 +10,17 @@ CellEditor::CellEditor(Form& form, FlexGrid& grid, std::function<bool(int column
     box_->SetIMEMode(ImeMode::Off);
     box_->setAlignment(Qt::AlignRight);
     box_->hide();
-    form.on(
-        &grid, &FlexGrid::Click, [this] { open(); });
-    form.on(
-        &grid, &FlexGrid::RowColChange, [this] { open(); });
-    form.on(
-        &grid, &FlexGrid::KeyDown,
-        [this](KeyEvent& event) {
-            if (event.KeyCode == key::Return) open();
-        });
+    form.on(&grid, &FlexGrid::Click, [this] { open(); });
+    form.on(&grid, &FlexGrid::RowColChange, [this] { open(); });
+    form.on(&grid, &FlexGrid::KeyDown, [this](KeyEvent& event) {
+        if (event.KeyCode == key::Return) open();
+    });
     form.on(&grid, &FlexGrid::Scroll, [this] { leave(); });
-    form.on(
-        box_, &TextBox::KeyDown,
-        [this, key](KeyEvent& event) {
-            const bool escape = event.KeyCode == key::Escape;
-            if (escape) leave();
-            if (escape || key(event.KeyCode)) event.KeyCode = 0;
-        });
+    form.on(box_, &TextBox::KeyDown, [this, key](KeyEvent& event) {
+        const bool escape = event.KeyCode == key::Escape;
+        if (escape) leave();
+        if (escape || key(event.KeyCode)) event.KeyCode = 0;
+    });
     form.on(box_, &TextBox::LostFocus, [this] { box_->hide(); });
 }
 

@@ -26,8 +26,8 @@ const std::array<QString, 4> kMasks = {u"###,###,###,###,##0"_s, u"###,###,###,#
                                        u"###,###,###,###,##0.00"_s, u"###,###,###,###,##0.000"_s};
 
 bool HoldsOperator(const QString& text) {
-    return std::any_of(
-        text.begin(), text.end(), [](QChar c) { return c == u'*' || c == u'+' || c == u'-' || c == u'/'; });
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar c) { return c == u'*' || c == u'+' || c == u'-' || c == u'/'; });
 }
 
 }  // namespace
@@ -63,15 +63,12 @@ Dentaku_frm::Dentaku_frm() : Form(u"電卓"_s, u"メモ型電卓"_s) {
     layout->setRowStretch(1, 1);
     layout->setColumnStretch(1, 1);
 
-    on(
-        eSiki_, &MemoBox::KeyDown,
-        [this](KeyEvent& event) {
-            if (event.KeyCode != key::Return) return;
-            event.KeyCode = 0;
-            answerMemo();
-        });
-    on(
-        Combo1_, &ComboBox::Click, [this] { reformatAnswer(); });
+    on(eSiki_, &MemoBox::KeyDown, [this](KeyEvent& event) {
+        if (event.KeyCode != key::Return) return;
+        event.KeyCode = 0;
+        answerMemo();
+    });
+    on(Combo1_, &ComboBox::Click, [this] { reformatAnswer(); });
     on(Combo1_, &ComboBox::LostFocus, [this] { reformatAnswer(); });
     on(&clear, &CommandButton::Click, [this] {
         eSiki_->SetText({});

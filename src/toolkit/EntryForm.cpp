@@ -26,23 +26,21 @@ void EntryForm::leave(TextBox& box) {
 }
 
 void EntryForm::wireKeys(TextBox& box, const std::function<void()>& goOn) {
-    on(
-        &box, &TextBox::KeyDown,
-        [this, &box, goOn](KeyEvent& event) {
-            switch (MapEditKey(event.KeyCode, event.Shift)) {
-                case key::Return:
-                    event.KeyCode = 0;
-                    goOn();
-                    break;
-                case key::Up:
-                    event.KeyCode = 0;
-                    FitMaxLength(box);
-                    PrevField(*this, TabIndex(&box));
-                    break;
-                default:
-                    break;
-            }
-        });
+    on(&box, &TextBox::KeyDown, [this, &box, goOn](KeyEvent& event) {
+        switch (MapEditKey(event.KeyCode, event.Shift)) {
+            case key::Return:
+                event.KeyCode = 0;
+                goOn();
+                break;
+            case key::Up:
+                event.KeyCode = 0;
+                FitMaxLength(box);
+                PrevField(*this, TabIndex(&box));
+                break;
+            default:
+                break;
+        }
+    });
     on(&box, &TextBox::LostFocus, [&box] { FitMaxLength(box); });
 }
 
@@ -133,8 +131,7 @@ FieldLine EntryForm::addCode(FieldLine line, int index, const CodeLookup& lookup
 Image& EntryForm::addLookup(int picture, std::function<QString()> pick,
                             std::function<void(const QString& code)> take) {
     Image& image = F6.add(picture, new Image);
-    on(
-        &image, &Image::MouseDown, [&image] { image.SetBorderStyle(1); });
+    on(&image, &Image::MouseDown, [&image] { image.SetBorderStyle(1); });
     on(&image, &Image::MouseUp, [&image] { image.SetBorderStyle(0); });
     on(&image, &Image::Click, [pick = std::move(pick), take = std::move(take)] {
         const QString code = pick();
@@ -144,12 +141,10 @@ Image& EntryForm::addLookup(int picture, std::function<QString()> pick,
 }
 
 Image& EntryForm::addLookup(int picture, std::function<QString()> pick, int index) {
-    return addLookup(
-        picture, std::move(pick),
-        [this, index](const QString& code) {
-            ebox(index).SetText(code);
-            pressEnter(index);
-        });
+    return addLookup(picture, std::move(pick), [this, index](const QString& code) {
+        ebox(index).SetText(code);
+        pressEnter(index);
+    });
 }
 
 Image& EntryForm::addLookup(int picture, const QString& table, int index) {

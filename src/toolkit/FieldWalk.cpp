@@ -46,13 +46,11 @@ void WalkFrom(Form& form, int from, Step step) {
 }  // namespace
 
 void NextField(Form& form, int tabIndex) {
-    WalkFrom(
-        form, tabIndex, [](int at) { return at + 1; });
+    WalkFrom(form, tabIndex, [](int at) { return at + 1; });
 }
 
 void PrevField(Form& form, int tabIndex) {
-    WalkFrom(
-        form, tabIndex, [](int at) { return std::max(at - 1, 0); });
+    WalkFrom(form, tabIndex, [](int at) { return std::max(at - 1, 0); });
 }
 
 int MapEditKey(int keyCode, int shift) {

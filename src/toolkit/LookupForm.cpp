@@ -20,14 +20,12 @@ QString LikeCondition(const QString& column, const QString& text) {
 
 LookupForm::LookupForm(const QString& name, int column, bool pressed)
     : EntryForm(name, u"さがす"_s), List_(&Named(new FlexGrid(this), u"List"_s)) {
-    on(
-        List_, &FlexGrid::Click,
-        [this, column, pressed] {
-            const int row = pressed ? List_->MouseRow() : List_->Row();
-            if (row < List_->FixedRows() || row >= List_->Rows()) return;
-            code_ = List_->TextMatrix(row, column);
-            Hide();
-        });
+    on(List_, &FlexGrid::Click, [this, column, pressed] {
+        const int row = pressed ? List_->MouseRow() : List_->Row();
+        if (row < List_->FixedRows() || row >= List_->Rows()) return;
+        code_ = List_->TextMatrix(row, column);
+        Hide();
+    });
 }
 
 void LookupForm::layOut(FieldLayout* search, QHBoxLayout* buttons) {

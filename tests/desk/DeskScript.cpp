@@ -137,18 +137,14 @@ class DeskTest : public ScreenTest {
             } else if (kind == u"first" || kind == u"second") {
                 clerk.answerConfirmRev(kind == u"first");
             } else if (kind == u"pick") {
-                clerk.expect(
-                    FirstWord(rest), [this, rest](QWidget&) { pick(rest); });
+                clerk.expect(FirstWord(rest), [this, rest](QWidget&) { pick(rest); });
             } else if (kind == u"save") {
-                clerk.expect(
-                    u"SaveAs_frm"_s,
-                    [this, path = store_.path(rest)](QWidget&) {
-                        clerk.find<TextBox>(u"Path"_s).SetText(path);
-                        clerk.click(u"Save"_s);
-                    });
+                clerk.expect(u"SaveAs_frm"_s, [this, path = store_.path(rest)](QWidget&) {
+                    clerk.find<TextBox>(u"Path"_s).SetText(path);
+                    clerk.click(u"Save"_s);
+                });
             } else if (kind == u"close") {
-                clerk.expect(
-                    rest, [this](QWidget& shown) { clerk.closeBox(shown); });
+                clerk.expect(rest, [this](QWidget& shown) { clerk.closeBox(shown); });
             } else {
                 wrong(u"no such dialog: "_s + dialog);
             }
@@ -318,9 +314,9 @@ bool RegisterDeskScripts(const QString& folder, DeskOpeners openers) {
     for (const QFileInfo& script : scripts.entryInfoList()) {
         const QByteArray path = script.filePath().toUtf8();
         for (const Case& test : ReadCases(script.filePath())) {
-            testing::RegisterTest(
-                script.baseName().toUtf8(), test.name.toUtf8(), nullptr, nullptr, path, test.line,
-                [path, test]() -> ScreenTest* { return new DeskTest(path, test, known); });
+            testing::RegisterTest(script.baseName().toUtf8(), test.name.toUtf8(), nullptr, nullptr, path,
+                                  test.line,
+                                  [path, test]() -> ScreenTest* { return new DeskTest(path, test, known); });
         }
     }
     return !scripts.isEmpty();

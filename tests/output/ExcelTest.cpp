@@ -158,12 +158,10 @@ TEST_F(ExcelTest, PagesPrintedBeforeAnErrorStayPrinted) {
 TEST_F(ExcelTest, PreviewShowsEachPageAndNeverPrints) {
     gPrintPreview = true;
     for (int page = 0; page < 2; ++page) {
-        clerk.expect(
-            "Preview_frm",
-            [&](QWidget&) {
-                EXPECT_EQ(clerk.find<PreviewPages>("Pages").pageCount(), 1);
-                clerk.press(Qt::Key_Escape);
-            });
+        clerk.expect("Preview_frm", [&](QWidget&) {
+            EXPECT_EQ(clerk.find<PreviewPages>("Pages").pageCount(), 1);
+            clerk.press(Qt::Key_Escape);
+        });
     }
     ExcelOpen("台帳");
     printPage("一");
@@ -263,12 +261,10 @@ TEST_F(PagedTest, PreviewTellsWhetherMoreFollows) {
     AnswerPrinter(clerk, folder.filePath("list.pdf"));
     QStringList shown;
     for (int page = 0; page < 3; ++page) {
-        clerk.expect(
-            "Preview_frm",
-            [&](QWidget& window) {
-                shown += clerk.text("Place") + (window.findChild<QWidget*>("Stop") ? "+" : "");
-                clerk.click("Close");
-            });
+        clerk.expect("Preview_frm", [&](QWidget& window) {
+            shown += clerk.text("Place") + (window.findChild<QWidget*>("Stop") ? "+" : "");
+            clerk.click("Close");
+        });
     }
     Report report;
     const PrintRun printing("台帳");

@@ -128,12 +128,10 @@ TEST_F(PbPaperTest, ARunIsShownPageByPageUntilItIsStopped) {
     AnswerPrinter(clerk, path("out.pdf"));
     QStringList titles;
     for (const int key : {Qt::Key_Return, Qt::Key_Escape}) {
-        clerk.expect(
-            "FM",
-            [&, key](QWidget& window) {
-                titles += window.windowTitle();
-                clerk.press(key);
-            });
+        clerk.expect("FM", [&, key](QWidget& window) {
+            titles += window.windowTitle();
+            clerk.press(key);
+        });
     }
     clerk.answerConfirm(true);
     TrapPrinting([&] {

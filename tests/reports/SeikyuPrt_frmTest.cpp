@@ -123,12 +123,10 @@ TEST_F(InvoiceIssue, AShownRunIsStoppedAtAnyPage) {
     for (int run = 0; run < 2; ++run) {
         AnswerPrinter(clerk, store.path("out.pdf"));
         for (const char* place : {"1 頁（1 / 3 件目）", "2 頁（2 / 3 件目）"}) {
-            clerk.expect(
-                "Preview_frm",
-                [this, place](QWidget&) {
-                    EXPECT_EQ(clerk.text("Place"), place);
-                    clerk.click(*place == '1' ? "Close" : "Stop");
-                });
+            clerk.expect("Preview_frm", [this, place](QWidget&) {
+                EXPECT_EQ(clerk.text("Place"), place);
+                clerk.click(*place == '1' ? "Close" : "Stop");
+            });
         }
         clerk.click("Btn");
         EXPECT_EQ(clerk.expectedDialogs(), 0);

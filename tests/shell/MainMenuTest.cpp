@@ -35,12 +35,10 @@ class MainMenu : public ScreenTest {
         prepare(u"UPDATE zSysFunc SET contents='%1' WHERE Code=123"_s.arg(password));
     }
     void clickSplash() {
-        clerk.expect(
-            u"Opening_frm"_s,
-            [this](QWidget&) {
-                EXPECT_EQ(gDb, nullptr) << "the store is opened behind the splash";
-                clerk.click("Image1");
-            });
+        clerk.expect(u"Opening_frm"_s, [this](QWidget&) {
+            EXPECT_EQ(gDb, nullptr) << "the store is opened behind the splash";
+            clerk.click("Image1");
+        });
     }
     bool start(const QString& password = {}) {
         clickSplash();

@@ -46,12 +46,10 @@ class Lookups : public ScreenTest {
     QStringList column(int col) { return GridRows(list(), col, col); }
     /// What `look` sees in the dialog, which it leaves open for the close box.
     void inDialog(const QString& name, std::function<void()> look) {
-        clerk.expect(
-            name,
-            [this, look = std::move(look)](QWidget& dialog) {
-                look();
-                if (dialog.isVisible()) clerk.closeBox(dialog);
-            });
+        clerk.expect(name, [this, look = std::move(look)](QWidget& dialog) {
+            look();
+            if (dialog.isVisible()) clerk.closeBox(dialog);
+        });
     }
 
     ScratchStore store;

@@ -13,8 +13,7 @@ namespace akarix {
 namespace {
 
 void Fill(int customers, int months) {
-    sample::FillSampleDealer(
-        {customers, months, 2011, 3}, [](const QString&) {});
+    sample::FillSampleDealer({customers, months, 2011, 3}, [](const QString&) {});
 }
 
 QByteArray ContentsOfEveryTable() {

@@ -112,10 +112,9 @@ QString ReadingReport(const std::vector<DoubtfulReading>& doubtful, BillingMonth
     Columns table(
         {u"年月"_s, u">得意先"_s, u"名前"_s, u">前回"_s, u">今回"_s, u">使用量"_s, u">料金"_s, u"わけ"_s});
     for (const DoubtfulReading& reading : doubtful) {
-        table.add({MonthText(reading.month), QString::number(reading.deal),
-                   NameOf(reading.deal, names), Grouped(reading.zenkaiMeter), Grouped(reading.konkaiMeter),
-                   Grouped(reading.use), Grouped(reading.charge),
-                   WordFor(kDoubtWords, reading.doubt, Grouped(reading.usual))});
+        table.add({MonthText(reading.month), QString::number(reading.deal), NameOf(reading.deal, names),
+                   Grouped(reading.zenkaiMeter), Grouped(reading.konkaiMeter), Grouped(reading.use),
+                   Grouped(reading.charge), WordFor(kDoubtWords, reading.doubt, Grouped(reading.usual))});
     }
     return text + u"  目を通してほしいもの: %1 件\n"_s.arg(doubtful.size()) + table.text();
 }
@@ -124,8 +123,8 @@ QString LeaseReport(const std::vector<LeaseFinding>& findings, const CustomerNam
     if (findings.empty()) return u"リースの伝票: 請求処理をした月と得意先の印に合います。\n"_s;
     Columns table({u"年月"_s, u">得意先"_s, u"名前"_s, u">伝票"_s, u"わけ"_s});
     for (const LeaseFinding& finding : findings) {
-        table.add({MonthText(finding.month), QString::number(finding.deal),
-                   NameOf(finding.deal, names), finding.slip == 0 ? QString() : QString::number(finding.slip),
+        table.add({MonthText(finding.month), QString::number(finding.deal), NameOf(finding.deal, names),
+                   finding.slip == 0 ? QString() : QString::number(finding.slip),
                    WordFor(kLeaseWords, finding.fault, finding.line)});
     }
     return u"リースの伝票: 合わないところ %1\n"_s.arg(findings.size()) + table.text();

@@ -14,8 +14,7 @@ namespace {
 using enum DebitField::Holds;
 
 bool IsDigits(const QByteArray& bytes) {
-    return std::all_of(
-        bytes.begin(), bytes.end(), [](char c) { return c >= '0' && c <= '9'; });
+    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
 bool IsBlank(const QByteArray& bytes) {

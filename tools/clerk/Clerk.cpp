@@ -206,30 +206,25 @@ void Clerk::expect(const QString& name, Answer answer) {
 }
 
 void Clerk::answerAlert() {
-    expect(
-        u"Alert_frm"_s, [this](QWidget&) { enter(); });
+    expect(u"Alert_frm"_s, [this](QWidget&) { enter(); });
 }
 
 void Clerk::answerText(const QString& text) {
-    expect(
-        u"Request_frm"_s,
-        [this, text](QWidget&) {
-            if (text.isEmpty())
-                press(Qt::Key_Delete);
-            else
-                type(text);
-            enter();
-        });
+    expect(u"Request_frm"_s, [this, text](QWidget&) {
+        if (text.isEmpty())
+            press(Qt::Key_Delete);
+        else
+            type(text);
+        enter();
+    });
 }
 
 void Clerk::answerConfirm(bool first) {
-    expect(
-        u"Confirm_frm"_s,
-        [this, first](QWidget&) {
-            if (!first) down();
-            enter();
-            enter();
-        });
+    expect(u"Confirm_frm"_s, [this, first](QWidget&) {
+        if (!first) down();
+        enter();
+        enter();
+    });
 }
 
 void Clerk::answerConfirmRev(bool first) {
@@ -238,8 +233,7 @@ void Clerk::answerConfirmRev(bool first) {
 }
 
 void Clerk::answerMsgBox() {
-    expect(
-        u"MsgBox"_s, [this](QWidget&) { enter(); });
+    expect(u"MsgBox"_s, [this](QWidget&) { enter(); });
 }
 
 QString Clerk::lastSaid() {

@@ -161,8 +161,7 @@ class Walk {
 
 std::vector<LeaseFinding> CheckLeases(Database& db, BillingMonth from) {
     std::vector<LeaseFinding> findings = Walk(db).run();
-    std::erase_if(
-        findings, [from](const LeaseFinding& f) { return f.month < from; });
+    std::erase_if(findings, [from](const LeaseFinding& f) { return f.month < from; });
     std::stable_sort(findings.begin(), findings.end(), [](const LeaseFinding& a, const LeaseFinding& b) {
         return std::tie(a.month, a.deal) < std::tie(b.month, b.deal);
     });

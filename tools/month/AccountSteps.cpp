@@ -15,9 +15,8 @@ const QString kBalanceForm = u"TorZan_frm"_s;
 /// line.
 const DocumentNotes::value_type& TellingSlip(const TypedMonth& typed) {
     const auto hasPaid = [&typed](std::int32_t deal) {
-        return std::any_of(
-            typed.payments.begin(), typed.payments.end(),
-            [deal](const auto& payment) { return payment.second.deal == deal; });
+        return std::any_of(typed.payments.begin(), typed.payments.end(),
+                           [deal](const auto& payment) { return payment.second.deal == deal; });
     };
     const auto found = std::find_if(typed.slips.begin(), typed.slips.end(),
                                     [&](const auto& slip) { return hasPaid(slip.second.deal); });

@@ -74,12 +74,10 @@ void TakeForm(Desk& desk, const QString& picture, const QString& form) {
 }
 
 void ExpectPictured(Desk& desk, const QString& dialog, const QString& picture, int key) {
-    desk.clerk.expect(
-        dialog,
-        [&desk, picture, key](QWidget& shown) {
-            desk.album.take(picture, {&shown});
-            desk.clerk.press(key);
-        });
+    desk.clerk.expect(dialog, [&desk, picture, key](QWidget& shown) {
+        desk.album.take(picture, {&shown});
+        desk.clerk.press(key);
+    });
 }
 
 void SaveAs(Desk& desk, const QString& button, const QString& path, const QString& picture) {
@@ -93,16 +91,14 @@ void SaveAs(Desk& desk, const QString& button, const QString& path, const QStrin
 }
 
 void ExpectPrinter(Desk& desk, const QString& path, const QString& picture) {
-    desk.clerk.expect(
-        u"Printer_frm"_s,
-        [&desk, path, picture](QWidget& dialog) {
-            desk.clerk.press(Qt::Key_End);
-            desk.clerk.tab();
-            RequireFocus(desk, u"Path"_s);
-            desk.clerk.type(path);
-            if (!picture.isEmpty()) desk.album.take(picture, {&dialog});
-            desk.clerk.enter();
-        });
+    desk.clerk.expect(u"Printer_frm"_s, [&desk, path, picture](QWidget& dialog) {
+        desk.clerk.press(Qt::Key_End);
+        desk.clerk.tab();
+        RequireFocus(desk, u"Path"_s);
+        desk.clerk.type(path);
+        if (!picture.isEmpty()) desk.album.take(picture, {&dialog});
+        desk.clerk.enter();
+    });
 }
 
 void PrintInto(Desk& desk, const QString& button, const QString& path, const QString& picture) {

@@ -17,7 +17,7 @@ std::optional<Options> ReadOptions(const QStringList& arguments) {
     parser.addOptions({{u"customers"_s, {}, u"n"_s, QString::number(options.customers)},
                        {u"out"_s, {}, u"folder"_s, options.out},
                        {u"scale"_s, {}, u"n"_s, u"1"_s},
-                       {u"month"_s, {}, u"month"_s, admin::MonthText(Year(Today()), Month(Today()))},
+                       {u"month"_s, {}, u"month"_s, admin::MonthText(BillingMonth::Of(Today()))},
                        {u"templates"_s, {}, u"folder"_s},
                        {{u"h"_s, u"help"_s}, {}}});
     if (!parser.parse(QStringList(QString()) + arguments) || !parser.positionalArguments().isEmpty())
@@ -32,12 +32,12 @@ std::optional<Options> ReadOptions(const QStringList& arguments) {
     const auto month = admin::ReadMonth(parser.value(u"month"_s));
     options.scale = parser.value(u"scale"_s).toDouble(&isNumber);
     options.out = parser.value(u"out"_s);
-    if (!customers || !month || month->year < firstYear || !isNumber || options.scale < leastScale ||
+    if (!customers || !month || month->nendo < firstYear || !isNumber || options.scale < leastScale ||
         options.scale > mostScale || options.out.isEmpty())
         return std::nullopt;
     options.customers = *customers;
-    options.year = month->year;
-    options.month = month->month;
+    options.year = month->nendo;
+    options.month = month->getudo;
     options.templates = parser.value(u"templates"_s);
     options.help = parser.isSet(u"help"_s);
     return options;

@@ -154,7 +154,8 @@ void MonthMaker::writePayment(const Customer& customer, int year, int month, Cur
     const std::int32_t dno = nextPayment_++;
     int eda = 0;
     const auto add = [&](int paymentClass, Currency part, const QString& memo) {
-        payments_.add({dno, ++eda, date, customer.code, paymentClass, part, memo, billed.nendo, billed.getudo});
+        payments_.add(
+            {dno, ++eda, date, customer.code, paymentClass, part, memo, billed.nendo, billed.getudo});
     };
     const Currency fee = Currency(440);
     if (customer.paymentClass == 3 && amount > fee && dice_.percent(10)) {

@@ -159,9 +159,9 @@ int CompareBytes(int lengthA, const void* a, int lengthB, const void* b, Compare
 
 /// The keys' own, which files carry in their schema and which so never changes.
 int CompareNoCase(void*, int lengthA, const void* a, int lengthB, const void* b) {
-    return CompareBytes(
-        lengthA, a, lengthB, b,
-        [](const QString& left, const QString& right) { return left.compare(right, Qt::CaseInsensitive); });
+    return CompareBytes(lengthA, a, lengthB, b, [](const QString& left, const QString& right) {
+        return left.compare(right, Qt::CaseInsensitive);
+    });
 }
 
 int CompareAsTexts(void*, int lengthA, const void* a, int lengthB, const void* b) {

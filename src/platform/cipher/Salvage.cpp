@@ -61,9 +61,8 @@ std::vector<StoreValue> KeyOf(const TableDef& table, const StoreRow& row) {
 }
 
 bool SameNumberOfValues(const TableDef& table, const std::vector<StoredRow>& rows) {
-    return std::all_of(
-        rows.begin(), rows.end(),
-        [&](const StoredRow& row) { return row.values.size() == table.columns.size(); });
+    return std::all_of(rows.begin(), rows.end(),
+                       [&](const StoredRow& row) { return row.values.size() == table.columns.size(); });
 }
 
 }  // namespace
@@ -152,12 +151,9 @@ void Salvage::placeStrays() {
 Salvage::Tree* Salvage::ownerOf(const std::vector<StoredRow>& rows) {
     std::vector<Tree*> candidates;
     for (Tree& tree : trees_) {
-        const bool hasRoom = std::any_of(
-            tree.gaps.begin(), tree.gaps.end(),
-            [&](const Gap& gap) {
-                return (gap.above == kLeast || rows.front().number > gap.above) &&
-                       rows.back().number <= gap.upTo;
-            });
+        const bool hasRoom = std::any_of(tree.gaps.begin(), tree.gaps.end(), [&](const Gap& gap) {
+            return (gap.above == kLeast || rows.front().number > gap.above) && rows.back().number <= gap.upTo;
+        });
         if (hasRoom && std::all_of(rows.begin(), rows.end(),
                                    [&](const StoredRow& row) { return FitsTable(*tree.table, row.values); }))
             candidates.push_back(&tree);

@@ -30,15 +30,14 @@ BoundPtr MakeColumn(const BoundTable* table, int column) {
 
 bool SameExpression(const BoundExpression& a, const BoundExpression& b) {
     return a.node == b.node &&
-           std::equal(
-               a.operands.begin(), a.operands.end(), b.operands.begin(), b.operands.end(),
-               [](const BoundPtr& x, const BoundPtr& y) { return SameExpression(*x, *y); });
+           std::equal(a.operands.begin(), a.operands.end(), b.operands.begin(), b.operands.end(),
+                      [](const BoundPtr& x, const BoundPtr& y) { return SameExpression(*x, *y); });
 }
 
 bool HasAggregate(const BoundExpression& expression) {
-    return expression.as<Aggregate>() || std::any_of(
-                                             expression.operands.begin(), expression.operands.end(),
-                                             [](const BoundPtr& operand) { return HasAggregate(*operand); });
+    return expression.as<Aggregate>() ||
+           std::any_of(expression.operands.begin(), expression.operands.end(),
+                       [](const BoundPtr& operand) { return HasAggregate(*operand); });
 }
 
 }  // namespace akarix

@@ -9,8 +9,8 @@ namespace {
 constexpr std::ptrdiff_t kMostPlaces = 900;
 
 bool HasFrom(const std::vector<Token>& tokens) {
-    return std::any_of(
-        tokens.begin(), tokens.end(), [](const Token& token) { return token.keyword == Keyword::From; });
+    return std::any_of(tokens.begin(), tokens.end(),
+                       [](const Token& token) { return token.keyword == Keyword::From; });
 }
 
 /// Whether the literals behind a word are lifted; the words that say nothing about it leave it as it was.

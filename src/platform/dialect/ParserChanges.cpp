@@ -9,9 +9,8 @@ namespace {
 /// SELECT without FROM gives one row of values, the same as VALUES.
 bool IsValuesOnly(const ParsedQuery& query) {
     return !query.source && query.groups.empty() && query.order.empty() &&
-           std::all_of(
-               query.items.begin(), query.items.end(),
-               [](const ParsedItem& item) { return item.expression != nullptr; });
+           std::all_of(query.items.begin(), query.items.end(),
+                       [](const ParsedItem& item) { return item.expression != nullptr; });
 }
 
 }  // namespace

@@ -21,8 +21,8 @@ BoundText WithValues(std::shared_ptr<const BoundStatement> statement, const std:
 }  // namespace
 
 bool Translator::Kept::holdsFor(const std::vector<Literal>& literals) const {
-    return std::all_of(
-        staying.begin(), staying.end(), [&](const auto& one) { return literals[one.first] == one.second; });
+    return std::all_of(staying.begin(), staying.end(),
+                       [&](const auto& one) { return literals[one.first] == one.second; });
 }
 
 BoundText Translator::translate(const QString& sql) {

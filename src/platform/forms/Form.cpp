@@ -181,11 +181,9 @@ void Form::addKeys() {
         shortcut->setAutoRepeat(false);
         on(shortcut, &QShortcut::activated, action);
     };
-    add(
-        Qt::Key_F1,
-        [this] {
-            if (helpStep()) helpStep()(*this);
-        });
+    add(Qt::Key_F1, [this] {
+        if (helpStep()) helpStep()(*this);
+    });
     add(Qt::CTRL | Qt::Key_S, [this] { pressKeep(); });
 }
 

@@ -49,11 +49,9 @@ class Form : public QWidget {
     /// Attaches a handler: run inside an action, an escaping error shown in the run time's box.
     template <class Sender, class Signal, class Handler>
     void on(Sender* sender, Signal signal, Handler handler) {
-        QObject::connect(
-            sender, signal, this,
-            [handler = std::move(handler)](auto&&... arguments) mutable {
-                RunGuarded([&] { call(handler, arguments...); });
-            });
+        QObject::connect(sender, signal, this, [handler = std::move(handler)](auto&&... arguments) mutable {
+            RunGuarded([&] { call(handler, arguments...); });
+        });
     }
     /// The same for every control of an array; the handler gets the index first.
     template <class T, class Signal, class Handler>

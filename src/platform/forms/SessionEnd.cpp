@@ -18,14 +18,12 @@ bool requested = false;
 
 // Through the event loop each time: what waits in a closed dialog has to come to its end first.
 void LeaveWhenIdle() {
-    QTimer::singleShot(
-        0, qApp,
-        [] {
-            if (Action::UnderWay())
-                AfterAction(LeaveWhenIdle);
-            else if (const auto leave = std::exchange(leaveStep, nullptr))
-                leave();
-        });
+    QTimer::singleShot(0, qApp, [] {
+        if (Action::UnderWay())
+            AfterAction(LeaveWhenIdle);
+        else if (const auto leave = std::exchange(leaveStep, nullptr))
+            leave();
+    });
 }
 
 }  // namespace

@@ -36,18 +36,14 @@ class SaveAs_frm : public EscapableForm {
         layout->addWidget(file_);
         layout->addLayout(buttons);
 
-        on(
-            file_->box(), &TextBox::KeyDown,
-            [this](KeyEvent& event) {
-                if (event.KeyCode == key::Return) {
-                    event.KeyCode = 0;
-                    this->save();
-                }
-            });
-        on(
-            file_->browse(), &CommandButton::Click, [this] { file_->chooseFile(); });
-        on(
-            save, &CommandButton::Click, [this] { this->save(); });
+        on(file_->box(), &TextBox::KeyDown, [this](KeyEvent& event) {
+            if (event.KeyCode == key::Return) {
+                event.KeyCode = 0;
+                this->save();
+            }
+        });
+        on(file_->browse(), &CommandButton::Click, [this] { file_->chooseFile(); });
+        on(save, &CommandButton::Click, [this] { this->save(); });
         on(cancel, &CommandButton::Click, [this] { Unload(); });
         file_->box()->setFocus();
         file_->box()->selectAll();

@@ -42,12 +42,9 @@ class Preview_frm : public PreviewForm {
         layout->addWidget(pages_, 1);
         resize(Twips(13200), Twips(11400));
 
-        on(
-            previous_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() - 1); });
-        on(
-            next_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() + 1); });
-        on(
-            zoom, &ComboBox::Click, [this, zoom] { pages_->setZoom(zoom->ItemData(zoom->ListIndex())); });
+        on(previous_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() - 1); });
+        on(next_, &CommandButton::Click, [this] { pages_->goTo(pages_->currentPage() + 1); });
+        on(zoom, &ComboBox::Click, [this, zoom] { pages_->setZoom(zoom->ItemData(zoom->ListIndex())); });
         on(pages_, &PreviewPages::currentPageChanged, [this](int page) { showPlace(page); });
         showPlace(0);
         pages_->setFocus();

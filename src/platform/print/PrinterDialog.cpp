@@ -27,16 +27,11 @@ class Printer_frm : public EscapableForm {
         : EscapableForm(u"Printer_frm"_s, u"印刷"_s), accepted_(std::move(accepted)) {
         build(SafeFileName(document) + u".pdf"_s);
         fill();
-        on(
-            printers_, &QListWidget::currentRowChanged, [this](int) { showChoice(); });
-        on(
-            printers_, &QListWidget::itemActivated, [this](QListWidgetItem*) { print(); });
-        on(
-            file_->box(), &TextBox::KeyDown, [this](KeyEvent& event) { pathKey(event); });
-        on(
-            file_->browse(), &CommandButton::Click, [this] { file_->chooseFile(); });
-        on(
-            print_, &CommandButton::Click, [this] { print(); });
+        on(printers_, &QListWidget::currentRowChanged, [this](int) { showChoice(); });
+        on(printers_, &QListWidget::itemActivated, [this](QListWidgetItem*) { print(); });
+        on(file_->box(), &TextBox::KeyDown, [this](KeyEvent& event) { pathKey(event); });
+        on(file_->browse(), &CommandButton::Click, [this] { file_->chooseFile(); });
+        on(print_, &CommandButton::Click, [this] { print(); });
         on(cancel_, &CommandButton::Click, [this] { Unload(); });
         showChoice();
         printers_->setFocus();

@@ -82,8 +82,7 @@ qsizetype LengthWithoutHalf(const QByteArray& bytes) {
 /// True for text that is the same in every code page; most of what a record holds.
 template <class Text>
 bool IsPlain(const Text& text) {
-    return std::all_of(
-        text.begin(), text.end(), [](auto c) { return c >= u' ' && c <= u'~'; });
+    return std::all_of(text.begin(), text.end(), [](auto c) { return c >= u' ' && c <= u'~'; });
 }
 
 }  // namespace

@@ -125,8 +125,7 @@ double Int(double value) {
 }
 
 Variant Int(const Variant& value) {
-    return WholePart(
-        value, [](auto number) { return Int(number); });
+    return WholePart(value, [](auto number) { return Int(number); });
 }
 
 Currency Fix(Currency value) {
@@ -138,8 +137,7 @@ double Fix(double value) {
 }
 
 Variant Fix(const Variant& value) {
-    return WholePart(
-        value, [](auto number) { return Fix(number); });
+    return WholePart(value, [](auto number) { return Fix(number); });
 }
 
 bool IsNumeric(const Variant& value) {

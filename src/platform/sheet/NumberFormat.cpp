@@ -73,8 +73,7 @@ class NumberWriter {
     bool isDigit(size_t i) const { return i < tokens_.size() && tokens_[i].kind == Kind::Digit; }
     size_t find(Kind kind) const {
         return static_cast<size_t>(
-            std::find_if(
-                tokens_.begin(), tokens_.end(), [kind](const auto& t) { return t.kind == kind; }) -
+            std::find_if(tokens_.begin(), tokens_.end(), [kind](const auto& t) { return t.kind == kind; }) -
             tokens_.begin());
     }
     int digitsBetween(size_t from, size_t to) const {

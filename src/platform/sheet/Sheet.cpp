@@ -161,9 +161,9 @@ int Sheet::styleIndexAt(CellAddress address) const {
 }
 
 bool Sheet::hiddenByMerge(CellAddress address) const {
-    return std::any_of(
-        merges.begin(), merges.end(),
-        [address](const CellRange& merge) { return merge.contains(address) && merge.first != address; });
+    return std::any_of(merges.begin(), merges.end(), [address](const CellRange& merge) {
+        return merge.contains(address) && merge.first != address;
+    });
 }
 
 bool Sheet::prints(const QString& address) const {

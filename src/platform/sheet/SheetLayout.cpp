@@ -59,8 +59,7 @@ class Breaker {
     double roomHeight() const { return std::max(1.0, setup_.paperHeight - setup_.top - setup_.bottom); }
 
     std::vector<Span> columnSpans(double scale) const {
-        return spans(
-            columns_, area_.last.column, [&](int) { return roomWidth() / scale; }, {});
+        return spans(columns_, area_.last.column, [&](int) { return roomWidth() / scale; }, {});
     }
     std::vector<Span> rowSpans(double scale) const {
         // Manual breaks and a wanted number of pages contradict each other; the wanted number wins.

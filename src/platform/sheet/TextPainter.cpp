@@ -148,9 +148,8 @@ class TextSetter {
     void paintLines() {
         QStringList lines;
         if (!shown_.number && (Wraps(style_) || align_ == HorizontalAlign::Distributed)) {
-            lines = Wrapped(
-                shown_.text, room(),
-                [this](qsizetype from, const QString& part) { return width(from, part); });
+            lines = Wrapped(shown_.text, room(),
+                            [this](qsizetype from, const QString& part) { return width(from, part); });
         } else {
             QString line = shown_.text;
             lines += line.remove(QLatin1Char('\n'));

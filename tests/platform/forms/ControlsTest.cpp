@@ -33,12 +33,10 @@ class Controls : public ScreenTest {
     }
 
     void listen(TextBox& box) {
-        form.on(
-            &box, &TextBox::KeyDown,
-            [this](KeyEvent& event) {
-                seen << QString("%1/%2").arg(event.KeyCode).arg(event.Shift);
-                if (event.KeyCode == key::Escape) event.KeyCode = 0;
-            });
+        form.on(&box, &TextBox::KeyDown, [this](KeyEvent& event) {
+            seen << QString("%1/%2").arg(event.KeyCode).arg(event.Shift);
+            if (event.KeyCode == key::Escape) event.KeyCode = 0;
+        });
     }
     void input(QWidget& box, const QString& preedit, const QString& commit) {
         QInputMethodEvent event(preedit, {});
@@ -161,8 +159,7 @@ TEST_F(Controls, ABoxTakesNoMoreThanItsBytes) {
 
 TEST_F(Controls, FocusEventsFollowTheFieldsNotTheWindows) {
     TextBox& box = show(new TextBox);
-    form.on(
-        &box, &TextBox::GotFocus, [this] { seen << "got"; });
+    form.on(&box, &TextBox::GotFocus, [this] { seen << "got"; });
     form.on(&box, &TextBox::LostFocus, [this] { seen << "lost"; });
     clerk.tab();
     clerk.shiftTab();
@@ -202,10 +199,8 @@ TEST_F(Controls, ADoubleClickIsOnePressOfWhateverIsPressed) {
     auto* picture = new Image;
     for (QWidget* control : {static_cast<QWidget*>(tick), static_cast<QWidget*>(picture)})
         line->addWidget(control);
-    form.on(
-        &button, &CommandButton::Click, [this] { seen << "button"; });
-    form.on(
-        tick, &CheckBox::Click, [this] { seen << "tick"; });
+    form.on(&button, &CommandButton::Click, [this] { seen << "button"; });
+    form.on(tick, &CheckBox::Click, [this] { seen << "tick"; });
     form.on(picture, &Image::Click, [this] { seen << "picture"; });
     for (QWidget* control :
          {static_cast<QWidget*>(&button), static_cast<QWidget*>(tick), static_cast<QWidget*>(picture)}) {
@@ -255,14 +250,11 @@ TEST_F(Controls, EnterLeavesAnOptionForTheNextControl) {
 TEST_F(Controls, APictureClicksWhereItIsLetGo) {
     auto& picture = show(new Image);
     picture.resize(20, 20);
-    form.on(
-        &picture, &Image::MouseDown,
-        [&] {
-            picture.SetBorderStyle(1);
-            seen << "down";
-        });
-    form.on(
-        &picture, &Image::MouseUp, [&] { seen << "up"; });
+    form.on(&picture, &Image::MouseDown, [&] {
+        picture.SetBorderStyle(1);
+        seen << "down";
+    });
+    form.on(&picture, &Image::MouseUp, [&] { seen << "up"; });
     form.on(&picture, &Image::Click, [&] { seen << "click"; });
     clerk.click(picture);
     EXPECT_EQ(seen.join(u' '), u"down up click");

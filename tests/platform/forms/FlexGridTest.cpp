@@ -16,9 +16,8 @@ class Grid : public ScreenTest {
         auto* whole = new QVBoxLayout(&form);
         whole->addWidget(&grid);
         form.resize(400, 300);
-        form.on(
-            &grid, &FlexGrid::RowColChange,
-            [this] { log << QString("%1,%2").arg(grid.Row()).arg(grid.Col()); });
+        form.on(&grid, &FlexGrid::RowColChange,
+                [this] { log << QString("%1,%2").arg(grid.Row()).arg(grid.Col()); });
         form.on(&grid, &FlexGrid::Click,
                 [this] { log << QString("click %1,%2").arg(grid.MouseRow()).arg(grid.MouseCol()); });
     }

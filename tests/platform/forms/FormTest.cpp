@@ -102,12 +102,10 @@ TEST_F(Forms, HelpAndKeepHaveAKeyOnEveryForm) {
     QStringList pressed;
     Form::SetHelp([&](const Form& asking) { pressed << "help of " + asking.objectName(); });
     Sample_frm& form = sample();
-    form.on(
-        &form.Btn(0), &CommandButton::Click,
-        [&] {
-            pressed << "kept";
-            form.ForgetEdits();
-        });
+    form.on(&form.Btn(0), &CommandButton::Click, [&] {
+        pressed << "kept";
+        form.ForgetEdits();
+    });
     form.on(&form.ebox(0), &TextBox::LostFocus, [&] { pressed << "left"; });
     clerk.press(Qt::Key_F1);
     clerk.press(Qt::Key_S, Qt::ControlModifier);  // nothing typed yet
@@ -192,8 +190,7 @@ TEST_F(Forms, TheSecondOfADoubleClickDoesNothingToWhatHasComeUnderTheMouse) {
     auto& other = Form::Instance<Other_frm>();
     auto& ok = *other.findChild<CommandButton*>("Btn");
     int pressed = 0;
-    form.on(
-        &ok, &CommandButton::Click, [&] { ++pressed; });
+    form.on(&ok, &CommandButton::Click, [&] { ++pressed; });
     form.on(&form.Btn(0), &CommandButton::Click, [&] { SetFocus(&form.ebox(0)); });
     clerk.doubleClick("Btn(0)");
     EXPECT_EQ(clerk.focusedName(), u"ebox(0)") << "nor does it take the keyboard back";
@@ -247,12 +244,10 @@ TEST_F(Forms, EveryHandlerRunsInAnActionWhoseEndMayFail) {
     EXPECT_EQ(log.join(u' '), u"inner end");
 
     log.clear();
-    clerk.expect(
-        "MsgBox",
-        [&](QWidget&) {
-            log << "shown";
-            clerk.enter();
-        });
+    clerk.expect("MsgBox", [&](QWidget&) {
+        log << "shown";
+        clerk.enter();
+    });
     EXPECT_FALSE(RunGuarded([] { throw RuntimeError(3022); }));
     EXPECT_EQ(log.join(u' '), u"end shown");
 

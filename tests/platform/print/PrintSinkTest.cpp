@@ -14,8 +14,7 @@ namespace akarix {
 namespace {
 
 PrintPage PageSaying(const QString& text, QSizeF paper = QSizeF(595.276, 841.89)) {
-    return {paper,
-            [text](QPainter& painter) {
+    return {paper, [text](QPainter& painter) {
                 painter.setFont(FontOnPaper({u"ＭＳ 明朝"_s, 12}).font());
                 painter.drawText(QPointF(1000, 1000), text);
             }};

@@ -72,12 +72,9 @@ double Left(int column) {
 TEST(SheetPainterTest, TextsStandInTheirCells) {
     Sheet sheet;
     Put(sheet, {1, 1}, "code");
-    Put(
-        sheet, {1, 2}, 1234567, [](CellStyle& s) { s.numberFormat = "#,##0", s.font.size = 8; });
-    Put(
-        sheet, {2, 2}, "mid", [](CellStyle& s) { s.horizontal = HorizontalAlign::Center; });
-    Put(
-        sheet, {2, 3}, "in", [](CellStyle& s) { s.indent = 2, s.horizontal = HorizontalAlign::Left; });
+    Put(sheet, {1, 2}, 1234567, [](CellStyle& s) { s.numberFormat = "#,##0", s.font.size = 8; });
+    Put(sheet, {2, 2}, "mid", [](CellStyle& s) { s.horizontal = HorizontalAlign::Center; });
+    Put(sheet, {2, 3}, "in", [](CellStyle& s) { s.indent = 2, s.horizontal = HorizontalAlign::Left; });
     Put(sheet, {4, 1}, "over", [](CellStyle& s) { s.horizontal = HorizontalAlign::Center; });
     sheet.merges = {{{4, 1}, {5, 4}}};
     const PaintedPage page(sheet);
@@ -93,10 +90,8 @@ TEST(SheetPainterTest, TextsStandInTheirCells) {
 
 TEST(SheetPainterTest, WhatIsTooWide) {
     Sheet sheet;
-    Put(
-        sheet, {1, 1}, 123456789012.0, [](CellStyle& s) { s.numberFormat = "0"; });
-    Put(
-        sheet, {2, 1}, "shrunktofitthecell", [](CellStyle& s) { s.shrink = true; });
+    Put(sheet, {1, 1}, 123456789012.0, [](CellStyle& s) { s.numberFormat = "0"; });
+    Put(sheet, {2, 1}, "shrunktofitthecell", [](CellStyle& s) { s.shrink = true; });
     Put(sheet, {3, 1}, "一二三四五六七八九十",
         [](CellStyle& s) { s.wrap = true, s.font.name = "ＭＳ ゴシック"; });
     sheet.rowHeights[3] = 40;
@@ -158,12 +153,10 @@ double Ink(const QImage& picture, const QRectF& where) {
 TEST(SheetPainterTest, ThePreviewShowsLettersAsBoldAsThePaper) {
     Sheet sheet;
     for (int look = 0; look < 16; ++look) {
-        Put(
-            sheet, {look + 1, 1}, "請求書 12,345 円也",
-            [look](CellStyle& s) {
-                s.font.bold = look & 1, s.font.italic = look & 2, s.font.underline = look & 4;
-                s.font.strikeout = look & 8;
-            });
+        Put(sheet, {look + 1, 1}, "請求書 12,345 円也", [look](CellStyle& s) {
+            s.font.bold = look & 1, s.font.italic = look & 2, s.font.underline = look & 4;
+            s.font.strikeout = look & 8;
+        });
     }
     const QImage paper = PaintedPage(sheet).picture();
     constexpr int gap = 12, percentOfTwoPixels = 150;
@@ -247,12 +240,10 @@ TEST(SheetPainterTest, TheStrongerOfTwoLinesIsDrawnAndNoneInsideAMerge) {
     Sheet sheet;
     const Border thickRed{BorderStyle::Thick, Qt::red};
     const Border thinBlue{BorderStyle::Thin, Qt::blue};
-    Put(
-        sheet, {1, 1}, "", [&](CellStyle& s) { s.right = thinBlue, s.bottom = thickRed; });
+    Put(sheet, {1, 1}, "", [&](CellStyle& s) { s.right = thinBlue, s.bottom = thickRed; });
     Put(sheet, {1, 2}, "", [&](CellStyle& s) { s.left = thickRed; });
     for (int column = 1; column <= 2; ++column) {
-        Put(
-            sheet, {3, column}, "",
+        Put(sheet, {3, column}, "",
             [&](CellStyle& s) { s.left = s.right = s.top = s.bottom = thickRed, s.fill = Qt::green; });
     }
     sheet.merges = {{{3, 1}, {3, 2}}};
