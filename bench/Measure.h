@@ -41,6 +41,7 @@ Time Measure(Work&& work) {
 inline Time Median(const std::vector<Time>& times) {
     const auto middle = [&](double Time::*of) {
         std::vector<double> values;
+        values.reserve(times.size());
         for (const Time& time : times)
             values.push_back(time.*of);
         const auto place = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);

@@ -136,6 +136,7 @@ void BenchBalances() {
     }
     showMonth();
     std::vector<Time> enters;
+    enters.reserve(kEnters);
     for (int i = 0; i < kEnters; ++i)
         enters.push_back(Measure([&] { desk.clerk().enter(); }));
     PrintRow("opening balances of 30,000, shown", Median(shown), std::nullopt, std::nullopt);
@@ -147,6 +148,7 @@ void BenchBalances() {
 template <class Work>
 Time MedianOf(Work&& work) {
     std::vector<Time> times;
+    times.reserve(kOpenings);
     for (int i = 0; i < kOpenings; ++i)
         times.push_back(work());
     return Median(times);

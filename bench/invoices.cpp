@@ -68,6 +68,7 @@ int Run() {
     Issue(all, kFew, files.path("few"));
     const double few = PeakMegabytes();
     std::vector<Time> pages;
+    pages.reserve(kRuns);
     for (int i = 0; i < kRuns; ++i)
         pages.push_back(Issue(all, kMany, files.path("many")));
     const double many = PeakMegabytes();

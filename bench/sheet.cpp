@@ -84,6 +84,7 @@ void BenchEnter(int customers, const char* work) {
     Sheet sheet;
     sheet.show();
     std::vector<Time> enters;
+    enters.reserve(kReadings);
     // The smallest sheet must not come to its end.
     for (int i = 0; i < std::min(kReadings, customers) - 1; ++i)
         enters.push_back(sheet.confirmReading());

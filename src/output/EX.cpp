@@ -69,6 +69,7 @@ std::vector<PrintPage> NextPages(Workbook& open) {
     const std::vector<SheetPage> layout = LayOutSheet(*sheet);
     const int count = open.pages + static_cast<int>(layout.size());
     std::vector<PrintPage> pages;
+    pages.reserve(layout.size());
     for (const SheetPage& part : layout) {
         pages.push_back({QSizeF(sheet->page.paperWidth, sheet->page.paperHeight),
                          [sheet, part, number = ++open.pages, count](QPainter& painter) {

@@ -109,7 +109,7 @@ struct Kept {
 };
 
 void KeepStep(sqlite3_context* context, int count, sqlite3_value** values) {
-    auto** slot = static_cast<Kept**>(sqlite3_aggregate_context(context, sizeof(Kept*)));
+    auto** slot = static_cast<Kept**>(sqlite3_aggregate_context(context, sizeof(void*)));
     std::vector<StoreValue> place;
     place.reserve(static_cast<std::size_t>(count));
     for (int i = 1; i < count; ++i)

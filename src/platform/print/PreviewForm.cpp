@@ -35,7 +35,7 @@ void PreviewForm::keyPressEvent(QKeyEvent* event) {
             if (!event->isAutoRepeat()) RunGuarded([this] { Unload(); });
             break;
         default:
-            Form::keyPressEvent(event);
+            EscapableForm::keyPressEvent(event);
     }
 }
 
