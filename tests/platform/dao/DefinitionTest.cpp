@@ -5,6 +5,15 @@ namespace {
 
 using Kind = Definition::Kind;
 
+QString Described(const ColumnDef& column) {
+    return QString("%1 %2 %3 %4 %5")
+        .arg(column.name)
+        .arg(static_cast<int>(column.type))
+        .arg(column.size)
+        .arg(column.zeroDefault)
+        .arg(column.required);
+}
+
 class DefinitionTest : public StoreTest {
  protected:
     void SetUp() override { database_ = &create(); }
@@ -44,11 +53,9 @@ TEST_F(DefinitionTest, EveryKindIsReadBack) {
     EXPECT_EQ(found->uniqueKeys, table.uniqueKeys);
     ASSERT_EQ(found->columns.size(), table.columns.size());
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        EXPECT_EQ(found->columns[i].name, table.columns[i].name);
-        EXPECT_EQ(found->columns[i].type, table.columns[i].type);
-        EXPECT_EQ(found->columns[i].size, table.columns[i].size);
-        EXPECT_EQ(found->columns[i].zeroDefault, table.columns[i].zeroDefault);
-        EXPECT_EQ(found->columns[i].required, i < 2);
+        ColumnDef expected = table.columns[i];
+        expected.required = i < 2;
+        EXPECT_EQ(Described(found->columns[i]), Described(expected));
     }
 }
 
@@ -64,7 +71,6 @@ TEST_F(DefinitionTest, ASecondRunOfTheSameStepFailsAndChangesNothing) {
     const Step steps[] = {
         {Kind::CreateTable, GoodsTable(), {}, {}, 3010},
         {Kind::AlterColumn, {name, {}, {}}, {"RTE", FieldType::Currency}, {}, 3380},
-        {Kind::AddColumn, {name, {}, {}}, {"Kensin", FieldType::Integer}, {}, 3380},
         {Kind::AddColumn, {name, {}, {}}, {"Keiyaku", FieldType::Text, 30}, {}, 3380},
         {Kind::AlterColumn, {name, {}, {}}, {"Kana", FieldType::Text, 20}, {}, 3380},
         {Kind::CreateIndex, {name, {}, {}}, {}, {"Kana"}, 3075},
@@ -77,21 +83,16 @@ TEST_F(DefinitionTest, ASecondRunOfTheSameStepFailsAndChangesNothing) {
     EXPECT_EQ(define(Kind::AddColumn, {"Nix", {}, {}}, {"A"}), 3371);
     EXPECT_EQ(column("Rte").type, FieldType::Currency);
     EXPECT_EQ(column("Kana").size, 20);
-    EXPECT_EQ(goods()->columns.size(), GoodsTable().columns.size() + 2);
+    EXPECT_EQ(goods()->columns.size(), GoodsTable().columns.size() + 1);
 }
 
-TEST_F(DefinitionTest, AlteringConvertsTheValuesAndKeepsTheRest) {
+TEST_F(DefinitionTest, AlteringConvertsTheValuesAndKeepsTheRestAndItsIndexes) {
     MakeTable(*database_, GoodsTable());
     const TableDef name{"Goods", {}, {}};
-    Recordset rows = database_->OpenRecordset("SELECT * FROM Goods");
-    for (const int code : {3, 1}) {
-        rows.AddNew();
-        rows.Fields("Code") = std::int32_t{code};
-        rows.Fields("Kana") = "ｱｲｳｴｵ";
-        rows.Fields("Rte") = static_cast<std::int16_t>(code * 100);
-        rows.Fields("Tanka") = Currency::FromText("2.5");
-        rows.Update();
-    }
+    for (const int code : {3, 1})
+        database_->Execute(
+            QString("INSERT INTO Goods(Code,Kana,Rte,Tanka) VALUES(%1,'ｱｲｳｴｵ',%1*100,2.5)").arg(code));
+    ASSERT_EQ(define(Kind::CreateIndex, name, {}, {"Kana"}), 0);
     ASSERT_EQ(define(Kind::AlterColumn, name, {"Rte", FieldType::Currency}), 0);
     EXPECT_EQ(value("Rte"), Variant(Currency(300)));
     ASSERT_EQ(define(Kind::AlterColumn, name, {"Tanka", FieldType::Integer}), 0);
@@ -103,15 +104,7 @@ TEST_F(DefinitionTest, AlteringConvertsTheValuesAndKeepsTheRest) {
     EXPECT_EQ(define(Kind::AlterColumn, name, {"Kana", FieldType::Long}), 3421);
     EXPECT_EQ(goods()->uniqueKeys, GoodsTable().uniqueKeys);
     EXPECT_TRUE(column("Flg").zeroDefault);
-}
-
-TEST_F(DefinitionTest, IndexesOutliveAnAlteredColumn) {
-    MakeTable(*database_, GoodsTable());
-    const TableDef name{"Goods", {}, {}};
-    const QStringList index{"Kana"};
-    ASSERT_EQ(define(Kind::CreateIndex, name, {}, index), 0);
-    ASSERT_EQ(define(Kind::AlterColumn, name, {"Rte", FieldType::Long}), 0);
-    EXPECT_EQ(define(Kind::CreateIndex, name, {}, index), 3075) << "it is there still";
+    EXPECT_EQ(define(Kind::CreateIndex, name, {}, {"Kana"}), 3075) << "it is there still";
 }
 
 }  // namespace
