@@ -26,14 +26,12 @@ TEST_F(DatabaseTest, TheDeliveredFileHasEveryTableAndItsSettings) {
         for (const ColumnDef& column : table.columns) {
             Field& field = set.Fields(column.name);
             EXPECT_EQ(field.Type(), column.type) << column.name.toStdString();
-            const int size = column.type == FieldType::Text ? column.size : field.Size();
-            EXPECT_EQ(field.Size(), size) << column.name.toStdString();
+            EXPECT_TRUE(column.type != FieldType::Text || field.Size() == column.size);
         }
     }
     EXPECT_EQ(ScratchStore::rows("SELECT Code,contents FROM zSysFunc ORDER BY Code"),
               (QStringList{"1|31", "2|1", "3|25", "100|1", "123| "}));
     EXPECT_EQ(ScratchStore::rows("SELECT COUNT(*) AS n FROM UserOP WHERE Code<=22").value(0), "22");
-    EXPECT_EQ(ScratchStore::rows("SELECT Namae FROM NyukinKubun WHERE Code=2").value(0), "口座振替");
 }
 
 TEST_F(DatabaseTest, AmountsThatAreNotGivenAreZero) {
@@ -54,21 +52,21 @@ TEST_F(DatabaseTest, AmountsThatAreNotGivenAreZero) {
 
 TEST_F(DatabaseTest, KeysDropTheSecondRow) {
     const ScratchStore store;
-    const char* const keys[][3] = {
-        {"Deal", "Code", "1"},
-        {"Tnk", "Ptn,Capa", "1,2.5"},
-        {"GasKeisan", "Ptn,St,Ed", "1,0,5"},
-        {"Dud", "Dno,Eda", "1,1"},
-        {"Dgd", "Nendo,Getudo,Deal", "2011,3,1"},
-        {"Dny", "Dno,Eda", "1,1"},
-        {"TtoD", "Deal,Nendo,Getudo", "1,2011,3"},
-        {"Syukei", "Nen,Tuki", "2011,3"},
+    const QString keys[] = {
+        "Deal(Code) VALUES(1)",
+        "Tnk(Ptn,Capa) VALUES(1,2.5)",
+        "GasKeisan(Ptn,St,Ed) VALUES(1,0,5)",
+        "Dud(Dno,Eda) VALUES(1,1)",
+        "Dgd(Nendo,Getudo,Deal) VALUES(2011,3,1)",
+        "Dny(Dno,Eda) VALUES(1,1)",
+        "TtoD(Deal,Nendo,Getudo) VALUES(1,2011,3)",
+        "Syukei(Nen,Tuki) VALUES(2011,3)",
     };
-    for (const auto& [table, columns, values] : keys) {
-        const QString insert = QString("INSERT INTO %1(%2) VALUES(%3)").arg(table, columns, values);
-        gDb->Execute(insert);
-        EXPECT_NO_THROW(gDb->Execute(insert)) << table;
-        EXPECT_EQ(ScratchStore::rows(QString("SELECT * FROM ") + table).size(), 1) << table;
+    for (const QString& row : keys) {
+        gDb->Execute("INSERT INTO " + row);
+        gDb->Execute("INSERT INTO " + row);
+        EXPECT_EQ(ScratchStore::rows("SELECT * FROM " + row.section(u'(', 0, 0)).size(), 1)
+            << row.toStdString();
     }
 }
 
@@ -93,7 +91,7 @@ TEST_F(DatabaseTest, MigrationBringsAnOlderFileUpToDateAndCanBeRunAgain) {
     }
 }
 
-TEST_F(DatabaseTest, AMissingFileIsToldAndNothingIsMade) {
+TEST_F(DatabaseTest, AMissingFileAndAWrongPasswordAreTold) {
     const ScratchStore store(false);
     QFile::remove(store.path());
     EXPECT_FALSE(OpenDb(NoteFailure));
@@ -101,20 +99,15 @@ TEST_F(DatabaseTest, AMissingFileIsToldAndNothingIsMade) {
     EXPECT_TRUE(failures[0].startsWith("エラー|エラー番号  3024")) << failures[0].toStdString();
     EXPECT_TRUE(failures[0].contains(" でエラーが発生しました。 \r"));
     EXPECT_FALSE(QFile::exists(store.path()));
-}
 
-TEST_F(DatabaseTest, AWrongPasswordIsToldAndNotRepaired) {
-    const ScratchStore store(false);
-    QFile::remove(store.path());
     DBEngine::Workspaces(0).CreateDatabase(DatabaseName(), "MS Access;PWD=other")->Close();
     EXPECT_FALSE(OpenDb(NoteFailure));
-    ASSERT_EQ(failures.size(), 1);
-    EXPECT_TRUE(failures[0].startsWith("エラー|エラー番号  3031")) << failures[0].toStdString();
+    ASSERT_EQ(failures.size(), 2);
+    EXPECT_TRUE(failures[1].startsWith("エラー|エラー番号  3031")) << failures[1].toStdString();
 }
 
 TEST_F(DatabaseTest, ADamagedFileIsRepairedWithoutAWord) {
     const ScratchStore store;
-    ScratchStore::run("INSERT INTO Deal(Code,Namae) VALUES(7,'残る');\n");
     CloseDb();
     QFile file(store.path());
     ASSERT_TRUE(file.open(QFile::ReadWrite));

@@ -19,15 +19,12 @@ const char* const kPlans = AKARIX_TEST_DATA "/plans.txt";
 const Catalogue& SmallCatalogue() {
     static const Catalogue catalogue = [] {
         Catalogue made;
-        TableDef table{"T",
-                       {{"Code", FieldType::Long},
-                        {"Namae", FieldType::Text, 20},
-                        {"Gaku", FieldType::Currency},
-                        {"Hi", FieldType::Date}},
-                       {{"Code"}}};
-        made.put(table);
-        table.name = "U";
-        made.put(table);
+        const std::vector<ColumnDef> columns{{"Code", FieldType::Long},
+                                             {"Namae", FieldType::Text, 20},
+                                             {"Gaku", FieldType::Currency},
+                                             {"Hi", FieldType::Date}};
+        for (const char* name : {"T", "U"})
+            made.put({name, columns, {{"Code"}}});
         return made;
     }();
     return catalogue;
@@ -48,8 +45,7 @@ TEST(PlanCache, SparesTheWorkWhereOnlyLiteralsDiffer) {
         Translator translator(SmallCatalogue());
         const auto first = translator.translate(cells[0]);
         const auto second = translator.translate(cells[1]);
-        const bool shared = cells[2] == "true";
-        EXPECT_EQ(first.statement == second.statement, shared) << line;
+        EXPECT_EQ(first.statement == second.statement, cells[2] == "true") << line;
     }
 }
 
@@ -111,23 +107,26 @@ TEST(Translator, NamesTheConstructAndItsPlace) {
     }
 }
 
+Database& MakeStore(const QTemporaryDir& folder) {
+    Database& database =
+        *DBEngine::Workspaces(0).CreateDatabase(folder.filePath("Store.MDB"), "MS Access;PWD=dialect");
+    for (const char* table : {"T", "U"})
+        database.Execute(
+            QString("CREATE TABLE %1(Code Long, Namae Text(20), Gaku Currency, Hi DateTime)").arg(table));
+    return database;
+}
+
 // What is too deep must be refused here, and what is let through the engine must take.
 TEST(Translator, KeepsTheDepthOfStatementsWithinWhatTheEngineTakes) {
-    const auto nested = [](const QString& open, const QString& middle, const QString& close, int depth) {
-        return "SELECT Code FROM T WHERE " + open.repeated(depth) + middle + close.repeated(depth);
-    };
     const QTemporaryDir folder;
-    Database& database =
-        *DBEngine::Workspaces(0).CreateDatabase(folder.filePath("Deep.MDB"), "MS Access;PWD=deep");
-    database.Execute("CREATE TABLE T(Code Long)");
+    Database& database = MakeStore(folder);
     for (const auto& [shape, line] : ReadTable(kPlans, "deep")) {
         for (const int depth : {3, 20, 60, 190, 800, 20000}) {
-            const QString sql = nested(shape[0], shape[1], shape.value(2), depth);
+            const QString nested = shape[0].repeated(depth) + shape[1] + shape.value(2).repeated(depth);
             try {
-                Recordset rows = database.OpenRecordset(sql);
-                rows.Eof();
+                database.OpenRecordset("SELECT Code FROM T WHERE " + nested).Eof();
             } catch (const RuntimeError& error) {
-                EXPECT_EQ(error.number(), 3360) << depth << ' ' << sql.left(60).toStdString() << error.what();
+                EXPECT_EQ(error.number(), 3360) << depth << line << error.what();
             }
         }
     }
@@ -138,13 +137,7 @@ TEST(Translator, KeepsTheDepthOfStatementsWithinWhatTheEngineTakes) {
 // neither is a text that the engine does not understand.
 TEST(Translator, StandsBrokenStatements) {
     const QTemporaryDir folder;
-    Database& database =
-        *DBEngine::Workspaces(0).CreateDatabase(folder.filePath("Broken.MDB"), "MS Access;PWD=broken");
-    for (const char* table : {"T", "U"}) {
-        database.Execute(QString("CREATE TABLE %1(Code Long, Namae Text(20), Gaku Currency, "
-                                 "Hi DateTime)")
-                             .arg(table));
-    }
+    Database& database = MakeStore(folder);
     const auto seeds = ReadTable(kPlans, "sound");
     std::mt19937 random(7164);
     const auto pick = [&](qsizetype below) {
@@ -157,20 +150,15 @@ TEST(Translator, StandsBrokenStatements) {
         for (int change = round % 3; change < 3; ++change) {
             const qsizetype place = pick(words.size());
             const QStringList other = seeds[random() % seeds.size()].cells[0].split(u' ');
-            switch (random() % 4) {
-                case 0:
-                    words[place] = other[pick(other.size())];
-                    break;
-                case 1:
-                    words.insert(place, words[pick(words.size())]);
-                    break;
-                case 2:
-                    words[place].truncate(pick(words[place].size() + 1));
-                    break;
-                default:
-                    words[place].append("()[]'\"#.,*-;=é"[pick(14)]);
-                    break;
-            }
+            const auto kind = random() % 4;
+            if (kind == 0)
+                words[place] = other[pick(other.size())];
+            else if (kind == 1)
+                words.insert(place, words[pick(words.size())]);
+            else if (kind == 2)
+                words[place].truncate(pick(words[place].size() + 1));
+            else
+                words[place].append("()[]'\"#.,*-;=é"[pick(14)]);
         }
         const QString sql = words.join(u' ');
         try {
