@@ -1,11 +1,8 @@
-#include <gtest/gtest.h>
-
-#include <QFile>
-
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/Raises.h"
+#include "support/CaseFile.h"
 
 namespace akarix {
 
@@ -23,15 +20,8 @@ Variant ValueOf(const QString& text) {
 }
 
 TEST(Format, FollowsTheTable) {
-    QFile file(QStringLiteral(AKARIX_TEST_DATA "/formats.txt"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)) {
-        if (line.startsWith(u"# "_s)) continue;
-        const QStringList parts = line.split(u'\t');
-        ASSERT_GE(parts.size(), 3) << line.toStdString();
-        EXPECT_EQ(Format(ValueOf(parts[0]), parts[1]).toStdString(), parts[2].toStdString())
-            << line.toStdString();
-    }
+    for (const auto& [cells, line] : ReadTable(QStringLiteral(AKARIX_TEST_DATA "/formats.txt")))
+        EXPECT_EQ(Format(ValueOf(cells[0]), cells[1]), cells[2]) << line;
 }
 
 TEST(Format, ANumberBeyondTheDatesOverflowsUnderADateMask) {
