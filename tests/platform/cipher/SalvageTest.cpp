@@ -133,30 +133,22 @@ TEST_F(SalvageTest, ManyPagesLost) {
     garble(head, 1, 16);
     QByteArray firstPage = sound_;
     garble(firstPage, 1);
-    struct Case {
-        const char* name;
-        QByteArray bytes;
-        double least;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, QByteArray, double> cases[] = {
         {"first page", firstPage, 1.0},
         {"twenty pages", twenty, 0.8},
         {"first 64 KB", head, 0.9},
         {"a tenth cut off", sound_.left(sound_.size() * 9 / 10), 0.8},
         {"half cut off, inside a page", sound_.left(sound_.size() / 2 + 1000), 0.25},
     };
-    for (const Case& damage : cases) {
-        SCOPED_TRACE(damage.name);
-        EXPECT_GE(repaired(damage.bytes), damage.least);
-    }
+    for (const auto& [name, bytes, least] : cases)
+        EXPECT_GE(repaired(bytes), least) << name;
 }
 
 TEST_F(SalvageTest, DeletedRowsDoNotComeBack) {
     write(path(), sound_);
     Database& database = open();
-    const QString table = "T6";
     database.Execute("DELETE * FROM T6");
-    std::erase_if(written_, [&](const auto& entry) { return entry.first.first == table; });
+    written_ = contents(database);
     database.Close();
     QByteArray bytes = bytesOf(path());
     garble(bytes, 1, 3);

@@ -17,6 +17,14 @@
 namespace akarix {
 namespace {
 
+/// Lets the timer of a waiting group run out.
+void Wait() {
+    for (int i = 0; i < 80; ++i) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+}
+
 class WriteGroupTest : public StoreTest {
  protected:
     void SetUp() override {
@@ -52,11 +60,7 @@ TEST_F(WriteGroupTest, CommitsAtTheEndOfTheOutermostAction) {
 }
 
 TEST_F(WriteGroupTest, CommitsBeforeTheEndWhereItMust) {
-    struct Case {
-        const char* name;
-        std::function<void()> step;
-    };
-    const Case cases[] = {
+    const std::pair<std::string, std::function<void()>> cases[] = {
         {"flush", [&] { database_->engine().flush(); }},
         {"definition", [&] { MakeTable(*database_, GoodsTable("Further")); }},
         {"copy", [&] { database_->engine().copyTo(path("Copy.MDB")); }},
@@ -71,24 +75,19 @@ TEST_F(WriteGroupTest, CommitsBeforeTheEndWhereItMust) {
              const QCoreApplication application(none, nullptr);
              database_->engine().flush();
              add(*database_, 1000);
-             for (int i = 0; i < 200 && seen() < 6; ++i) {
-                 QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-                 std::this_thread::sleep_for(std::chrono::milliseconds(1));
-             }
+             Wait();
          }},
         {"close", [&] { database_->Close(); }},
     };
     int code = 0;
     int expected = 0;
-    for (const Case& commit : cases) {
-        SCOPED_TRACE(commit.name);
+    for (const auto& [name, step] : cases) {
         const Action action;
         add(*database_, ++code);
-        ++expected;
-        EXPECT_EQ(seen(), expected - 1);
-        commit.step();
-        expected += commit.name == std::string("waiting for the operator") ? 1 : 0;
-        EXPECT_EQ(seen(), expected);
+        EXPECT_EQ(seen(), expected) << name;
+        step();
+        expected += name == "waiting for the operator" ? 2 : 1;
+        EXPECT_EQ(seen(), expected) << name;
     }
 }
 
@@ -108,14 +107,6 @@ TEST_F(WriteGroupTest, AFailedStatementTakesNothingWithIt) {
     EXPECT_EQ(ErrorOf([&] { addOrRaise(2); }), 3022);
     add(*database_, 3);
     EXPECT_EQ(seen(), 3) << "outside an action, too";
-}
-
-/// Lets the timer of a waiting group run out.
-void Wait() {
-    for (int i = 0; i < 80; ++i) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
 }
 
 TEST_F(WriteGroupTest, ATimedCommitThatTheFileHasNoRoomForIsTold) {

@@ -10,6 +10,7 @@
 #include "platform/dao/DBEngine.h"
 #include "platform/dialect/Engine.h"
 #include "platform/runtime/RuntimeError.h"
+#include "support/PrintQString.h"
 
 namespace akarix {
 
@@ -40,8 +41,8 @@ class StoreTest : public ::testing::Test {
     Database& create(const QString& name = "Store.MDB") {
         return *DBEngine::Workspaces(0).CreateDatabase(path(name), Connect());
     }
-    Database& open(const QString& password = "secret1") {
-        return *DBEngine::Workspaces(0).OpenDatabase(path(), false, false, Connect(password));
+    Database& open(const QString& password = "secret1", const QString& name = "Store.MDB") {
+        return *DBEngine::Workspaces(0).OpenDatabase(path(name), false, false, Connect(password));
     }
 
     static int count(Database& database, const QString& table) {
