@@ -8,27 +8,9 @@
 namespace akarix {
 namespace {
 
-class Dialogs : public ScreenTest {};
-
-TEST_F(Dialogs, AlertShowsItsLinesAndGoesAtEnter) {
-    clerk.expect("Alert_frm", [&](QWidget& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), u"Nagomi Systems");
-        EXPECT_EQ(clerk.focusedName(), u"Btn");
-        clerk.enter();
-    });
-    ShowAlert(u"一行目\n二行目 <b>"_s);
-    EXPECT_EQ(clerk.lastSaid(), u"一行目\n二行目 <b>");
-    EXPECT_FALSE(clerk.isOpen("Alert_frm"));
-}
-
-struct ChoiceCase {
-    const char* keys;  // v ^ arrows, e Enter, x the close box
-    bool confirm;
-    bool confirmRev;
-};
-
-class Choices : public ScreenTest, public testing::WithParamInterface<ChoiceCase> {
+class Dialogs : public ScreenTest {
  protected:
+    /// \param keys v ^ arrows, e Enter, x the close box
     void play(const char* keys, QWidget& dialog) {
         for (; *keys != '\0'; ++keys) {
             EXPECT_TRUE(dialog.isVisible()) << "gone before " << keys;
@@ -45,29 +27,35 @@ class Choices : public ScreenTest, public testing::WithParamInterface<ChoiceCase
     }
 };
 
-TEST_P(Choices, AnswerByKeysAndCloseBox) {
-    const auto answer = [this](QWidget& dialog) { play(GetParam().keys, dialog); };
-    clerk.expect("Confirm_frm", answer);
-    EXPECT_EQ(AskConfirm(u"a&bで更新します。"_s), GetParam().confirm);
-    EXPECT_EQ(clerk.lastSaid(), u"a&bで更新します。");
-    clerk.expect("gyakuConfirm_frm", answer);
-    EXPECT_EQ(AskConfirmRev(u"この対象年月のデータを削除しますか？"_s, u"削除"_s), GetParam().confirmRev);
+TEST_F(Dialogs, AlertShowsItsLinesAndGoesAtEnter) {
+    clerk.expect("Alert_frm", [&](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Nagomi Systems");
+        EXPECT_EQ(clerk.focusedName(), u"Btn");
+        clerk.enter();
+    });
+    ShowAlert(u"一行目\n二行目 <b>"_s);
+    EXPECT_EQ(clerk.lastSaid(), u"一行目\n二行目 <b>");
+    EXPECT_FALSE(clerk.isOpen("Alert_frm"));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Keys, Choices,
-    testing::Values(ChoiceCase{"ee", true, true},      // the first Enter only moves the focus
-                    ChoiceCase{"vee", false, false},   //
-                    ChoiceCase{"v^ee", true, true},    //
-                    ChoiceCase{"x", false, true},      //
-                    ChoiceCase{"vx", false, true},     //
-                    ChoiceCase{"vex", false, true}));  // the button has the focus, unpressed
-
-TEST_F(Dialogs, ConfirmOpensOnTheFirstAnswerEachTime) {
-    clerk.answerConfirm(false);
-    EXPECT_FALSE(AskConfirm("?"));
-    clerk.answerConfirm(true);
-    EXPECT_TRUE(AskConfirm("?"));
+TEST_F(Dialogs, AnswerByKeysAndCloseBox) {
+    const struct {
+        const char* keys;
+        bool confirm, confirmRev;
+    } cases[] = {{"ee", true, true},  // the first Enter only moves the focus
+                 {"vee", false, false},
+                 {"v^ee", true, true},
+                 {"vx", false, true},
+                 {"vex", false, true}};  // the button has the focus, unpressed
+    for (const auto& c : cases) {
+        const auto answer = [&](QWidget& dialog) { play(c.keys, dialog); };
+        clerk.expect("Confirm_frm", answer);
+        EXPECT_EQ(AskConfirm(u"a&bで更新します。"_s), c.confirm) << c.keys;
+        EXPECT_EQ(clerk.lastSaid(), u"a&bで更新します。");
+        clerk.expect("gyakuConfirm_frm", answer);
+        EXPECT_EQ(AskConfirmRev(u"この対象年月のデータを削除しますか？"_s, u"削除"_s), c.confirmRev)
+            << c.keys;
+    }
 }
 
 TEST_F(Dialogs, AskTextTakesWhatStandsInTheBox) {

@@ -113,7 +113,6 @@ TEST_F(Lookups, CustomersAreFoundByRouteInTheirRound) {
     clerk.expect(u"HelpDeal_frm"_s, [this](QWidget&) {
         EXPECT_EQ(list().Rows(), 1) << "nothing is read before a search";
         EXPECT_EQ(list().TextMatrix(0, 1), u"ｺｰﾄﾞ"_s);
-        clerk.clickCell(list(), 0, 1);
         clerk.click(u"ebox(0)"_s);
         clerk.enter();
         clerk.enter();
@@ -141,20 +140,17 @@ TEST_F(Lookups, CustomersAreFoundByRouteInTheirRound) {
     EXPECT_EQ(PickCode(u"Deal"_s), QString());
 }
 
-TEST_F(Lookups, SlipsAreListedNewestFirst) {
+TEST_F(Lookups, SlipsAndACustomersPaymentsAreListedNewestFirst) {
     insert(
-        "Dud(Dno,Eda,Hizuke,Deal,HinNamae,Gaku) "
-        "VALUES(1,1,#2011/03/05#,11,'ボンベ',1200),(1,2,#2011/03/05#,11,'ホース',300),(2,1,#2011/03/"
-        "06#,12,'コンロ',19800)");
+        "Dud(Dno,Eda,Hizuke,Deal,HinNamae,Gaku) VALUES(1,1,#2011/03/05#,11,'ボンベ',1200),"
+        "(1,2,#2011/03/05#,11,'ホース',300),(2,1,#2011/03/06#,12,'コンロ',19800)");
     clerk.expect(u"HelpSlip_frm"_s, [this](QWidget&) {
         EXPECT_EQ(GridRows(list()),
                   (QStringList{u"2|2011/03/06|佐藤|コンロ|19,800"_s, u"1|2011/03/05|山田|ボンベ|1,500"_s}));
         clerk.clickCell(list(), 2, 0);
     });
     EXPECT_EQ(PickSlip(), u"1"_s);
-}
 
-TEST_F(Lookups, PaymentsOfOneCustomer) {
     insert(
         "Dny(Dno,Eda,Hizuke,Deal,Gaku) "
         "VALUES(5,1,#2011/03/05#,11,1200),(6,1,#2011/04/05#,11,2300),(7,1,#2011/04/06#,12,1)");
@@ -163,8 +159,6 @@ TEST_F(Lookups, PaymentsOfOneCustomer) {
         clerk.clickCell(list(), 1, 0);
     });
     EXPECT_EQ(PickPayment(11), u"6"_s);
-    inDialog(u"HelpN_frm"_s, [this] { EXPECT_EQ(list().Rows(), 1); });
-    EXPECT_EQ(PickPayment(99), QString());
 }
 
 }  // namespace

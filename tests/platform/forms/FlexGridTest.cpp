@@ -4,7 +4,7 @@
 #include <QVBoxLayout>
 
 #include "platform/forms/Form.h"
-#include "platform/runtime/RuntimeError.h"
+#include "support/Raised.h"
 #include "support/ScreenTest.h"
 
 namespace akarix {
@@ -36,15 +36,6 @@ class Grid : public ScreenTest {
     static QString cellText(int row, int col) { return QString("%1:%2").arg(row).arg(col); }
     std::string played() { return log.join(u' ').toStdString(); }
 
-    static int raised(const std::function<void()>& step) {
-        try {
-            step();
-            return 0;
-        } catch (const RuntimeError& error) {
-            return error.number();
-        }
-    }
-
     Form form{"Grid_frm", ""};
     FlexGrid& grid = *new FlexGrid;
     QStringList log;
@@ -67,13 +58,13 @@ TEST_F(Grid, TextsStayWhereTheyAreWhenTheShapeChanges) {
 
 TEST_F(Grid, OutsideTheGridRaises) {
     fill(2, 2);
-    EXPECT_EQ(raised([&] { grid.TextMatrix(2, 0); }), 381);
-    EXPECT_EQ(raised([&] { grid.SetTextMatrix(0, 2, ""); }), 9);
-    EXPECT_EQ(raised([&] { grid.SetRow(-1); }), 381);
-    EXPECT_EQ(raised([&] { grid.SetCol(2); }), 9);
-    EXPECT_EQ(raised([&] { grid.SetColWidth(2, 100); }), 9);
+    EXPECT_EQ(Raised([&] { grid.TextMatrix(2, 0); }), 381);
+    EXPECT_EQ(Raised([&] { grid.SetTextMatrix(0, 2, ""); }), 9);
+    EXPECT_EQ(Raised([&] { grid.SetRow(-1); }), 381);
+    EXPECT_EQ(Raised([&] { grid.SetCol(2); }), 9);
+    EXPECT_EQ(Raised([&] { grid.SetColWidth(2, 100); }), 9);
     grid.SetRows(0);
-    EXPECT_EQ(raised([&] { grid.TextMatrix(0, 0); }), 381);
+    EXPECT_EQ(Raised([&] { grid.TextMatrix(0, 0); }), 381);
 }
 
 TEST_F(Grid, KeysMoveThePresentCellButNotOntoTheHead) {
@@ -92,19 +83,16 @@ TEST_F(Grid, KeysMoveThePresentCellButNotOntoTheHead) {
     EXPECT_EQ(grid.Row(), 199);
 }
 
-TEST_F(Grid, ThePresentCellMovesByMouseAndProgramAndTellsOnce) {
+TEST_F(Grid, AClickMovesThePresentCellButNotOnTheHeadOrBesideTheCells) {
     fill(5, 3);
     clerk.clickCell(grid, 3, 2);
     grid.SetRow(3);
     grid.SetRow(4);
     EXPECT_EQ(played(), "3,2 click 3,2 4,2");
-}
-
-TEST_F(Grid, AClickOnTheHeadOrBesideTheCellsMovesNothing) {
-    fill(5, 3);
+    log.clear();
     clerk.clickCell(grid, 0, 1);
     EXPECT_EQ(played(), "click 0,1");
-    EXPECT_EQ(grid.Row(), 1);
+    EXPECT_EQ(grid.Row(), 4);
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, QPoint(10, grid.viewport()->height() - 5));
     EXPECT_EQ(played(), "click 0,1") << "beside the cells it is no click";
     EXPECT_EQ(grid.MouseRow(), -1);
@@ -132,16 +120,13 @@ TEST_F(Grid, CellPlaceFollowsWidthsAndScrolling) {
     grid.SetColWidth(0, 600);
     grid.SetColWidth(1, 0);
     grid.SetColWidth(2, 1500);
-    EXPECT_EQ(grid.ColWidth(1), 0);
     grid.SetCol(2);
     const QRect top = grid.CellRect();
     EXPECT_EQ(top.width(), 100 - 1);  // less the grid line
     EXPECT_EQ(top.left(), grid.viewport()->x() + 40);
     grid.SetRow(250);
-    const QRect far = grid.CellRect();
-    EXPECT_TRUE(grid.rect().contains(far));
+    EXPECT_TRUE(grid.rect().contains(grid.CellRect()));
     grid.SetRows(400);
-    EXPECT_EQ(grid.ColWidth(2), 1500);
     grid.SetCols(5);
     EXPECT_EQ(grid.ColWidth(2), 1500);
     EXPECT_EQ(grid.ColWidth(1), 0);

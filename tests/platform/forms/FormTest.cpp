@@ -10,7 +10,7 @@
 #include "platform/forms/Notice.h"
 #include "platform/forms/TextBox.h"
 #include "platform/runtime/ActionListener.h"
-#include "platform/runtime/RuntimeError.h"
+#include "support/Raised.h"
 #include "support/ScreenTest.h"
 
 namespace akarix {
@@ -35,7 +35,6 @@ class Sample_frm : public Form {
 
     using Form::on;
     std::function<void(bool&)> askBeforeClosing;
-    std::function<void(int)> pressed;
     static inline int built = 0;
 
     ControlArray<TextBox> ebox{"ebox"};
@@ -44,9 +43,6 @@ class Sample_frm : public Form {
  protected:
     void QueryUnload(bool& cancel) override {
         if (askBeforeClosing) askBeforeClosing(cancel);
-    }
-    void MouseDown(int shift) override {
-        if (pressed) pressed(shift);
     }
 };
 
@@ -267,30 +263,9 @@ TEST_F(Forms, EveryHandlerRunsInAnActionWhoseEndMayFail) {
     EXPECT_TRUE(QTest::qWaitFor(told, 2000));
 }
 
-TEST_F(Forms, MouseDownTellsTheShiftsOnTheFormAlone) {
-    Sample_frm& form = sample();
-    QStringList presses;
-    form.pressed = [&](int shift) { presses << QString::number(shift); };
-    const QPoint bare(2, 2);
-    QTest::mouseClick(&form, Qt::RightButton, Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier,
-                      bare);
-    QTest::mouseClick(&form, Qt::LeftButton, {}, bare);
-    clerk.click(form.Btn(0), Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
-    form.Btn(0).setEnabled(false);
-    clerk.click(form.Btn(0));
-    EXPECT_EQ(presses.join(u' '), u"7 0");
-}
-
 TEST_F(Forms, SetFocusRefusesWhatCannotTakeIt) {
     Sample_frm& form = sample();
-    const auto number = [](QWidget* control) {
-        try {
-            SetFocus(control);
-            return 0;
-        } catch (const RuntimeError& error) {
-            return error.number();
-        }
-    };
+    const auto number = [](QWidget* control) { return Raised([control] { SetFocus(control); }); };
     form.ebox(1).setVisible(false);
     form.ebox(2).setEnabled(false);
     EXPECT_EQ(number(&form.ebox(0)), 0);

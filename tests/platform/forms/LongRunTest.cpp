@@ -8,7 +8,7 @@
 #include "platform/forms/MsgBox.h"
 #include "platform/forms/Notice.h"
 #include "platform/forms/TextBox.h"
-#include "platform/runtime/RuntimeError.h"
+#include "support/Raised.h"
 #include "support/ScreenTest.h"
 
 namespace akarix {
@@ -33,16 +33,12 @@ class LongRunTest : public ScreenTest {
     static bool work(LongRun& run, int milliseconds = 1200) {
         QElapsedTimer clock;
         clock.start();
-        try {
-            while (clock.elapsed() < milliseconds) {
+        const int error = Raised([&] {
+            for (; clock.elapsed() < milliseconds; QTest::qSleep(20))
                 run.step(3, 7);
-                QTest::qSleep(20);
-            }
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.number(), CancelledByOperator);
-            return false;
-        }
-        return true;
+        });
+        EXPECT_TRUE(error == 0 || error == CancelledByOperator);
+        return error == 0;
     }
 };
 
