@@ -9,6 +9,7 @@
 #include "platform/dao/Database.h"
 #include "platform/dao/Workspace.h"
 #include "support/CaseFile.h"
+#include "support/Raised.h"
 #include "support/ScreenTest.h"
 
 namespace akarix {
@@ -94,12 +95,7 @@ class PbDetailTest : public ScreenTest {
     }
     int run() {
         report->DetailSet.emplace(database_->OpenRecordset("SELECT * FROM Test ORDER BY N"));
-        try {
-            RunReport(*report, surface);
-        } catch (const RuntimeError& error) {
-            return error.number();
-        }
-        return 0;
+        return Raised([this] { RunReport(*report, surface); });
     }
     /// The texts of each page without their places.
     QStringList pages() const {

