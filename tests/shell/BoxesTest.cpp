@@ -1,27 +1,10 @@
-#include "billing/Seikyu_frm.h"
-#include "entry/SlipG_frm.h"
-#include "entry/SlipN2_frm.h"
-#include "entry/Slip_frm.h"
-#include "entry/TorZan_frm.h"
-#include "masters/GTanka_frm.h"
-#include "masters/MstBnk_frm.h"
-#include "masters/MstDeal_frm.h"
-#include "masters/MstHin_frm.h"
-#include "masters/MstRte_frm.h"
-#include "masters/MstTanka_frm.h"
-#include "masters/MstYubin_frm.h"
-#include "masters/ms_frm.h"
 #include "platform/forms/FlexGrid.h"
 #include "platform/forms/TextBox.h"
 #include "platform/runtime/Literals.h"
-#include "reports/RepoDaichou_frm.h"
-#include "reports/RepoSeikyu_frm.h"
-#include "reports/SeikyuPrt_frm.h"
-#include "shell/SysFunc_frm.h"
+#include "shell/Screens.h"
 #include "store/Tables.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
-#include "toolkit/HelpDeal_frm.h"
 #include "values/Text.h"
 
 namespace akarix {
@@ -44,23 +27,13 @@ class Boxes : public ScreenTest {
             const bool signedLong = column.name == u"Haisou"_s;
             const bool key = column.name == u"Code"_s || column.name == u"Ptn"_s;
             columns += column.name;
-            switch (column.type) {
-                case FieldType::Long:  // one below the highest, so that the next number is the highest
-                    values += signedLong ? u"-2147483648"_s : u"2147483646"_s;
-                    break;
-                case FieldType::Integer:
-                    values += key ? u"32766"_s : u"-32768"_s;
-                    break;
-                case FieldType::Currency:
-                    values += u"-922337203685476.5807"_s;
-                    break;
-                case FieldType::Date:
-                    values += u"#2023/12/31#"_s;
-                    break;
-                default:
-                    values += u"Null"_s;
-                    break;
-            }
+            QString value = u"Null"_s;
+            if (column.type == FieldType::Long)  // one below the highest, so that the next is the highest
+                value = signedLong ? u"-2147483648"_s : u"2147483646"_s;
+            if (column.type == FieldType::Integer) value = key ? u"32766"_s : u"-32768"_s;
+            if (column.type == FieldType::Currency) value = u"-922337203685476.5807"_s;
+            if (column.type == FieldType::Date) value = u"#2023/12/31#"_s;
+            values += value;
         }
         ScratchStore::run(
             u"INSERT INTO %1(%2) VALUES(%3)"_s.arg(table.name, columns.join(u','), values.join(u',')));

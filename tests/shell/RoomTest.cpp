@@ -2,34 +2,11 @@
 #include <QScreen>
 #include <QScrollArea>
 
-#include "billing/Seikyu_frm.h"
-#include "entry/SlipG_frm.h"
-#include "entry/SlipN2_frm.h"
-#include "entry/Slip_frm.h"
-#include "entry/TorZan_frm.h"
-#include "masters/BKItaku_frm.h"
-#include "masters/GTanka_frm.h"
-#include "masters/MstBnk_frm.h"
-#include "masters/MstDeal_frm.h"
-#include "masters/MstHin_frm.h"
-#include "masters/MstRte_frm.h"
-#include "masters/MstTanka_frm.h"
-#include "masters/MstYubin_frm.h"
-#include "masters/ms_frm.h"
 #include "platform/runtime/Literals.h"
-#include "reports/RepoDaichou_frm.h"
-#include "reports/RepoSeikyu_frm.h"
-#include "reports/SeikyuPrt_frm.h"
 #include "shell/Guide_frm.h"
-#include "shell/Keihoki_frm.h"
-#include "shell/SysFunc_frm.h"
-#include "shell/etc_frm.h"
-#include "shell/main_menu.h"
+#include "shell/Screens.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
-#include "toolkit/Dentaku_frm.h"
-#include "toolkit/HelpDeal_frm.h"
-#include "toolkit/Help_frm.h"
 
 namespace akarix {
 namespace {
