@@ -27,22 +27,29 @@ namespace {
 constexpr int Rows = 5;
 constexpr int FirstRow = 2;
 
-/// Writes the page and the record into the sheet.
+/// Writes down how it is called, and the page and the record into the sheet.
 class Report : public ReportForm {
  public:
-    void ClrDetail() override { ExcelCell("A3:B9", ""); }
-    void PrintOutHead(int page) override { ExcelCell("A1", QString("頁%1").arg(page)); }
+    void ClrDetail() override {
+        calls += "clear";
+        ExcelCell("A3:B9", "");
+    }
+    void PrintOutHead(int page) override {
+        calls += QString("head %1").arg(page);
+        ExcelCell("A1", QString("頁%1").arg(page));
+    }
     void PrintOutDetail(int row, Recordset&) override {
+        calls += QString("row %1").arg(row);
         ExcelCell(QString("A%1").arg(row), QString("行%1").arg(++records_));
         if (records_ == failAt) throw RuntimeError(13);
         if (records_ == 6 && atRow6) atRow6();
     }
     void PrintOutDetailGokei(int line, int firstRow, int page) override {
-        total = QString("total %1 %2 %3").arg(line).arg(firstRow).arg(page);
+        calls += QString("total %1 %2 %3").arg(line).arg(firstRow).arg(page);
         ExcelCell("B9", "合計");
     }
 
-    QString total;
+    QStringList calls;
     int failAt = 0;
     std::function<void()> atRow6;
 
@@ -178,9 +185,18 @@ TEST_F(PagedTest, PagesAndTheTotalsPlace) {
         Printer::Current().UsePdf(folder.filePath("out.pdf"));
         Report report;
         run(report, c.records);
-        EXPECT_EQ(report.total, c.total) << c.records;
+        EXPECT_EQ(report.calls.last(), c.total) << c.records;
         EXPECT_EQ(printed(), c.pages) << c.records;
     }
+}
+
+TEST_F(PagedTest, OrderOfHeadAndClearing) {
+    Report turned;
+    run(turned, 5);
+    EXPECT_EQ(turned.calls.join(u' '), "clear head 1 row 3 row 4 row 5 row 6 clear head 2 row 3 total 2 2 2");
+    Report full;
+    run(full, 4);
+    EXPECT_EQ(full.calls.join(u' '), "clear head 1 row 3 row 4 row 5 row 6 head 2 clear total 1 2 2");
 }
 
 TEST_F(PagedTest, AStoppedRunKeepsThePagesThatAreWhole) {
