@@ -9,11 +9,13 @@
 
 #include "platform/forms/Choice.h"
 #include "platform/forms/TextBox.h"
+#include "platform/print/PdfText.h"
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Literals.h"
 #include "platform/sheet/SheetReader.h"
-#include "support/GridText.h"
+#include "store/Settings.h"
+#include "support/ListScreen.h"
 #include "support/ScratchStore.h"
 #include "support/ScreenTest.h"
 #include "toolkit/FieldWalk.h"
@@ -61,11 +63,13 @@ std::vector<Case> ReadCases(const QString& path) {
         } else if (line.startsWith(u": ")) {
             steps.back().rows += line.mid(2);
         } else {
-            QStringList rows = line.split(u" : "_s);
+            QStringList rows = line.section(u" -> "_s, 0, 0).split(u" : "_s);
             QStringList focus = rows.takeFirst().split(u" @ "_s);
             QStringList dialogs = focus.takeFirst().split(u" > "_s);
             const QString step = dialogs.takeFirst();
             steps.push_back({number, FirstWord(step), AfterFirst(step), rows, dialogs, focus.value(0)});
+            const QString shown = line.section(u" -> "_s, 1);
+            if (!shown.isEmpty()) steps.push_back({number, u"shows"_s, shown, {}, {}, {}});
         }
     }
     cases.erase(cases.begin());
@@ -139,9 +143,15 @@ class DeskTest : public ScreenTest {
             } else if (kind == u"pick") {
                 clerk.expect(FirstWord(rest), [this, rest](QWidget&) { pick(rest); });
             } else if (kind == u"save") {
-                clerk.expect(u"SaveAs_frm"_s, [this, path = store_.path(rest)](QWidget&) {
-                    clerk.find<TextBox>(u"Path"_s).SetText(path);
-                    clerk.click(u"Save"_s);
+                AnswerSaveAs(clerk, store_.path(rest));
+            } else if (kind == u"paper") {
+                AnswerPrinter(clerk, store_.path(rest));
+            } else if (kind == u"escape") {
+                AnswerEscape(clerk, rest);
+            } else if (kind == u"page") {
+                clerk.expect(u"Preview_frm"_s, [this, rest](QWidget&) {
+                    expect(clerk.text(u"Place"_s), rest.section(u'|', 0, 0));
+                    clerk.click(rest.section(u'|', 1));
                 });
             } else if (kind == u"close") {
                 clerk.expect(rest, [this](QWidget& shown) { clerk.closeBox(shown); });
@@ -155,13 +165,15 @@ class DeskTest : public ScreenTest {
         const auto [row, col] = PlaceIn(AfterFirst(dialogAndCell));
         clerk.clickCell(clerk.find<FlexGrid>(u"List"_s), row, col);
     }
+    static inline const QStringList kSilent =
+        u"pick save paper escape page close"_s.split(u' ');  ///< the step's answer alone counts
     void checkDialogs(qsizetype heard) const {
         QStringList found;
         QStringList wanted;
         for (const QString& dialog : step_->dialogs) {
             const QString kind = FirstWord(dialog);
             QString said = clerk.said().value(heard++, u"(no dialog)"_s);
-            if (kind == u"pick" || kind == u"save" || kind == u"close") continue;
+            if (kSilent.contains(kind)) continue;
             const bool error = kind == u"error";
             wanted += error ? u"実行時エラー '%1'"_s.arg(AfterFirst(dialog)) : AfterFirst(dialog);
             found += error ? said.left(wanted.last().size()) : said;
@@ -174,19 +186,33 @@ class DeskTest : public ScreenTest {
     void perform() {
         using Doing = void (DeskTest::*)(const QString&);
         static const std::map<QString, Doing> doings{
-            {u"today"_s, &DeskTest::setToday},   {u"sql"_s, &DeskTest::runSql},
-            {u"view"_s, &DeskTest::define},      {u"fields"_s, &DeskTest::define},
-            {u"open"_s, &DeskTest::open},        {u"type"_s, &DeskTest::type},
-            {u"in"_s, &DeskTest::typeIn},        {u"put"_s, &DeskTest::put},
-            {u"keys"_s, &DeskTest::keys},        {u"press"_s, &DeskTest::press},
-            {u"click"_s, &DeskTest::click},      {u"cell"_s, &DeskTest::clickCell},
-            {u"focus"_s, &DeskTest::focus},      {u"shows"_s, &DeskTest::shows},
-            {u"rows"_s, &DeskTest::rows},        {u"grid"_s, &DeskTest::wholeGrid},
-            {u"row"_s, &DeskTest::gridRow},      {u"at"_s, &DeskTest::cursor},
-            {u"count"_s, &DeskTest::countRows},  {u"hidden"_s, &DeskTest::hidden},
-            {u"visible"_s, &DeskTest::visible},  {u"closed"_s, &DeskTest::closed},
-            {u"sheet"_s, &DeskTest::sheetShows}, {u"double"_s, &DeskTest::doubleClick},
+            {u"today"_s, &DeskTest::setToday},
+            {u"sql"_s, &DeskTest::runSql},
+            {u"view"_s, &DeskTest::define},
+            {u"fields"_s, &DeskTest::define},
+            {u"open"_s, &DeskTest::open},
+            {u"type"_s, &DeskTest::type},
+            {u"in"_s, &DeskTest::typeIn},
+            {u"put"_s, &DeskTest::put},
+            {u"keys"_s, &DeskTest::keys},
+            {u"press"_s, &DeskTest::press},
+            {u"click"_s, &DeskTest::click},
+            {u"cell"_s, &DeskTest::clickCell},
+            {u"focus"_s, &DeskTest::focus},
+            {u"shows"_s, &DeskTest::shows},
+            {u"rows"_s, &DeskTest::rows},
+            {u"grid"_s, &DeskTest::wholeGrid},
+            {u"row"_s, &DeskTest::gridRow},
+            {u"at"_s, &DeskTest::cursor},
+            {u"count"_s, &DeskTest::countRows},
+            {u"hidden"_s, &DeskTest::hidden},
+            {u"visible"_s, &DeskTest::visible},
+            {u"closed"_s, &DeskTest::closed},
+            {u"sheet"_s, &DeskTest::sheetShows},
+            {u"double"_s, &DeskTest::doubleClick},
             {u"close"_s, &DeskTest::closeBox},
+            {u"paper"_s, &DeskTest::paperShows},
+            {u"templates"_s, &DeskTest::linkTemplates},
         };
         const auto doing = doings.find(step_->verb);
         if (doing == doings.end()) wrong(u"nobody knows how to "_s + step_->verb);
@@ -194,6 +220,11 @@ class DeskTest : public ScreenTest {
     }
 
     void setToday(const QString& date) { SetClock(CDate(date)); }
+    void linkTemplates(const QString& wanted) {
+        gPrintPreview = wanted == u"shown";
+        QFile::remove(store_.path(u"Prt"_s));
+        if (wanted != u"gone") QFile::link(QStringLiteral(AKARIX_SOURCE_DIR "/Prt"), store_.path(u"Prt"_s));
+    }
     void runSql(const QString& statement) { ScratchStore::run(statement); }
     void define(const QString& nameAndMeaning) {
         names_[FirstWord(nameAndMeaning)] = AfterFirst(nameAndMeaning);
@@ -220,7 +251,10 @@ class DeskTest : public ScreenTest {
         if (nameAndTexts.contains(u' ')) type(AfterFirst(nameAndTexts));
     }
     void put(const QString& nameAndText) {
-        clerk.find<TextBox>(FirstWord(nameAndText)).SetText(AfterFirst(nameAndText));
+        const QStringList texts = AfterFirst(nameAndText).split(u'|');
+        qsizetype next = 0;
+        for (const QString& name : NamesIn(FirstWord(nameAndText)))
+            clerk.find<TextBox>(name).SetText(texts.value(next++));
     }
     void keys(const QString& text) { clerk.type(text); }
     void press(const QString& keys) {
@@ -232,9 +266,10 @@ class DeskTest : public ScreenTest {
     void click(const QString& name) { clerk.click(name); }
     void closeBox(const QString& form) { clerk.closeBox(clerk.form(form)); }
     void doubleClick(const QString& name) { clerk.doubleClick(name); }
-    void clickCell(const QString& gridAndCell) {
-        const auto [row, col] = PlaceIn(AfterFirst(gridAndCell));
-        clerk.clickCell(grid(gridAndCell), row, col);
+    void clickCell(const QString& gridCellAndTexts) {
+        const auto [row, col] = PlaceIn(gridCellAndTexts.section(u' ', 1, 1));
+        clerk.clickCell(grid(gridCellAndTexts), row, col);
+        if (gridCellAndTexts.count(u' ') > 1) type(gridCellAndTexts.section(u' ', 2));
     }
 
     // ---- what is seen
@@ -296,6 +331,19 @@ class DeskTest : public ScreenTest {
             found += sheet.shownText({row, col}).trimmed();
         }
         expectRows(found);
+    }
+    void paperShows(const QString& name) {
+        clerk.settle();  // what a broken run has printed goes out when the screen waits again
+        const QString path = store_.path(name);
+        const QStringList pages = QFile::exists(path) ? PdfPages(path) : QStringList();
+        QFile::remove(path);
+        expect(QString::number(pages.size()), QString::number(step_->rows.size()));
+        for (qsizetype page = 0; page < std::min(pages.size(), step_->rows.size()); ++page) {
+            for (const QString& text : step_->rows[page].split(u'|')) {
+                const bool unwanted = text.startsWith(u'!');
+                if (pages[page].contains(text.mid(unwanted ? 1 : 0)) == unwanted) expect(pages[page], text);
+            }
+        }
     }
 
     QByteArray file_;
