@@ -25,7 +25,6 @@ TEST_F(SubTest, GasCharge) {
     };
     const Case cases[] = {
         {1, u"12.3", u"4827"},                       // 1,800 + Int(6.3 x 480.5 = 3,027.15)
-        {1, u"0", u"1800"},                          // the band from 0
         {1, u"5", u"1800"},                          // both bounds belong to a band
         {1, u"6", u"1800"},    {1, u"20", u"8527"},  // 14 x 480.5 = 6,727
         {1, u"5.5", u"0"},                           // between two bands
@@ -52,13 +51,6 @@ TEST_F(SubTest, EarlierMeter) {
     EXPECT_EQ(PrevKonkaiMeter(1, {2010, 12}).ToText(), u"700"_s);
     EXPECT_EQ(PrevKonkaiMeter(1, {2010, 3}), Currency(0));
     EXPECT_EQ(PrevKonkaiMeter(2, {2011, 3}), Currency(0)) << "a month listed and not read is not";
-}
-
-TEST_F(SubTest, WhoGetsNoInvoice) {
-    ScratchStore::run("INSERT INTO Deal(Code,NoSeikyu) VALUES(1,1),(2,0);\nINSERT INTO Deal(Code) VALUES(3)");
-    EXPECT_TRUE(IsNoInvoice(1));
-    EXPECT_FALSE(IsNoInvoice(2) || IsNoInvoice(3));
-    EXPECT_TRUE(IsNoInvoice(99)) << "no customer";
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "billing/Tto.h"
 
+#include <functional>
+
 #include "platform/runtime/Calendar.h"
 #include "platform/runtime/Literals.h"
 #include "platform/runtime/RuntimeError.h"
@@ -44,6 +46,24 @@ class TtoTest : public testing::Test {
     }
     void customers(QString codes) {
         ScratchStore::run("INSERT INTO Deal(Code) VALUES(" + codes.replace(",", "),(") + ")");
+    }
+    /// Each has a reading, a sale and a payment in March 2011.
+    void twoCustomers() {
+        customers(u"1,2"_s);
+        for (int deal = 1; deal <= 2; ++deal) {
+            reading(2011, 3, deal, u"3000"_s);
+            sale(deal, 1, deal, 2011, 3, u"700"_s);
+            payment(deal, deal, 2011, 3, u"1200"_s);
+        }
+    }
+
+    static int errorOf(const std::function<void()>& run) {
+        try {
+            run();
+        } catch (const RuntimeError& error) {
+            return error.number();
+        }
+        return 0;
     }
 
     ScratchStore store;
@@ -92,12 +112,7 @@ TEST_F(TtoTest, TheBalanceIsCarriedFromTheLatestEarlierMonth) {
 }
 
 TEST_F(TtoTest, ASecondRunClearsSalesAloneOfWhatLostItsSources) {
-    customers(u"1,2"_s);
-    for (int deal = 1; deal <= 2; ++deal) {
-        reading(2011, 3, deal, u"3000"_s);
-        sale(deal, 1, deal, 2011, 3, u"700"_s);
-        payment(deal, deal, 2011, 3, u"1200"_s);
-    }
+    twoCustomers();
     bill(2011, 3);
     ScratchStore::run(
         u"DELETE FROM Dgd WHERE Deal=1;\nDELETE FROM Dud WHERE Deal=1;\n"
@@ -129,12 +144,7 @@ class Stopping : public Progress {
 };
 
 TEST_F(TtoTest, ARunStoppedBetweenTwoCustomersIsMendedByTheNext) {
-    customers(u"1,2"_s);
-    for (int deal = 1; deal <= 2; ++deal) {
-        reading(2011, 3, deal, u"3000"_s);
-        sale(deal, 1, deal, 2011, 3, u"700"_s);
-        payment(deal, deal, 2011, 3, u"1200"_s);
-    }
+    twoCustomers();
     struct Case {
         const char16_t* stage;
         const char16_t* second;  ///< the ledger row of the customer before whom the run stopped
@@ -190,12 +200,7 @@ TEST_F(TtoTest, AFeePastSixteenBitsStopsTheRunAndWhatWasDoneStays) {
         u"INSERT INTO Deal(Code,Keihou) VALUES(1,1);\n"
         "UPDATE UserOP SET contents='32768' WHERE Code=2;\n"_s);
     reading(2011, 3, 1, u"3000"_s);
-    try {
-        bill(2011, 3);
-        FAIL() << "no overflow";
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.number(), 6);
-    }
+    EXPECT_EQ(errorOf([this] { bill(2011, 3); }), 6);
     EXPECT_EQ(Ledger(2011, 3), QStringList{u"1|0|3000|0|0|0|0"_s});
 }
 
@@ -203,12 +208,7 @@ TEST_F(TtoTest, CustomersAreCountedInSixteenBits) {
     customers(u"1"_s);
     for (int count = 1; count <= 16384; count *= 2)
         gDb->Execute(u"INSERT INTO Deal(Code) SELECT Code+%1 FROM Deal"_s.arg(count));
-    try {
-        CarryForwardMonth({2011, 3});
-        FAIL() << "32,768 customers";
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.number(), 6);
-    }
+    EXPECT_EQ(errorOf([] { CarryForwardMonth({2011, 3}); }), 6);
     EXPECT_TRUE(Ledger(2011, 3).isEmpty());
 }
 

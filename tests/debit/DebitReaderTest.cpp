@@ -99,12 +99,8 @@ TEST_F(ReadBack, TheYearOfTheHeader) {
         Date today;
         const char* monthAndDay;
         QString day;  ///< none: error 13
-    } cases[] = {{january, "1227", "2022/12/27"},
-                 {january, "0105", "2023/01/05"},
-                 {may, " 427", "2023/04/27"},
-                 {may, "0431", {}},
-                 {may, "1301", {}},
-                 {may, "", {}}};
+    } cases[] = {
+        {january, "1227", "2022/12/27"}, {may, " 427", "2023/04/27"}, {may, "0431", {}}, {may, "", {}}};
     for (const auto& [today, monthAndDay, day] : cases) {
         forget();
         SetClock(today);
@@ -125,11 +121,9 @@ TEST_F(ReadBack, FilesOfAllKinds) {
         QString said;
         QStringList payments;
     } cases[] = {
-        {"nothing but a trailer", end(), "0 / 0" + all, {}},
         {"all failed", data(1, 5, '1') + data(2, 5, '9') + end(), "0 / 2" + none, {}},
         {"blank or letter", data(1, 5, ' ') + data(2, 6, 'X') + end(), "2 / 2" + all, {"1|5", "2|6"}},
         {"nobody's number", data(777, 5) + end(), "1 / 1" + all, {"777|5"}},
-        {"the end record alone", data(1, 5) + "9", "1 / 1" + all, {"1|5"}},
         {"more behind the trailer", end() + data(1, 5), "0 / 0" + all, {}},
         {"no end", data(1, 5), "62", {"1|5"}},
         {"an end mark in the middle", data(1, 5) + "\x1a" + end(), "62", {"1|5"}},
@@ -137,7 +131,6 @@ TEST_F(ReadBack, FilesOfAllKinds) {
         {"an empty line counts", "\r\n" + end(), "1 / 1" + all, {"0|0"}},
         {"blanks in the amount", Changed(81, "  1 2 \xa5   ", 10) + end(), "1 / 1" + all, {"1|12"}},
         {"ten digits of yen", Changed(81, "9876543210", 10) + end(), "1 / 1" + all, {"1|9876543210"}},
-        {"a half-width name", Changed(51, "\xb1\xb2\xb3", 3) + end(), "1 / 1" + all, {"1|5"}},
         {"a full-width character counts as one", Changed(51, "\x82\xa0", 1) + end(), "1 / 1" + all, {"1|5"}},
         {"a comma parts the record", Changed(61, ",", 1) + end(), "2 / 2" + all, {"0|0", "0|0"}},
         {"a record in two lines",

@@ -75,11 +75,8 @@ TEST_F(Statements, WhereThePagesTurn) {
     } cases[] = {
         {31, {"110010"}, {"01100"}},
         {32, {"110010"}, {"00100", "01000"}},
-        {34, {"110010"}, {"00110", "01000"}},
         {35, {"110010"}, {"10110", "01001"}},
-        {42, {"011010"}, {"10110", "01001"}},
         {43, {"011010", "100101"}, {"10110", "01001"}},
-        {67, {"011010", "100101"}, {"10110", "00001", "01000"}},
         {69, {"011010", "100101"}, {"10110", "10001", "01000"}},
     };
     int made = 0;
@@ -121,12 +118,13 @@ TEST_F(Statements, WhatComesToNothing) {
 
     customers(9900, 1, 1);
     QDir("Prt").removeRecursively();
-    for (const auto& statement : {std::function([] {
-                                      PrintBankStatement(9900, {2023, 4});
-                                  }),
-                                  std::function([] {
-                                      PrintPostStatement({2023, 4}, {}, {});
-                                  })}) {
+    const std::function<void()> statements[] = {[] {
+                                                    PrintBankStatement(9900, {2023, 4});
+                                                },
+                                                [] {
+                                                    PrintPostStatement({2023, 4}, {}, {});
+                                                }};
+    for (const auto& statement : statements) {
         AnswerEscape(clerk, "Printer_frm");
         statement();  // the template is not even looked for
         print(statement, true);
