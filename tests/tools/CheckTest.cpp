@@ -87,8 +87,6 @@ TEST_F(ThreeMonths, ADifferenceIsToldWithWhyItArose) {
         {"nothing", QString(), QString()},
         {"a figure changed by itself", u"UPDATE TtoD SET GGaku=GGaku+1"_s + ofMarch,
          u"1 2011/3 GGaku 3000 3001 5|1 2011/3 Gaku 3001 3000 5"_s},
-        {"a reading corrected after the run", u"UPDATE Dgd SET Gaku=3100"_s + ofMarch,
-         u"1 2011/3 GGaku 3100 3000 1"_s},
         {"a slip after the run", slip(2, 1, 3, 400), u"1 2011/3 UGaku 400 0 1"_s},
         {"a slip of an earlier month, which was billed again",
          slip(2, 1, 2, 400) + u";\nUPDATE TtoD SET UGaku=400,Gaku=3400"_s + ofFebruary,
@@ -99,7 +97,6 @@ TEST_F(ThreeMonths, ADifferenceIsToldWithWhyItArose) {
         {"a debit read back beside another payment",
          payment(9, 1, 3, 2, 800) + u";\nUPDATE TtoD SET NGaku=800"_s + ofMarch,
          u"1 2011/3 NGaku 3800 800 3"_s},
-        {"payments moved away", u"DELETE FROM Dny WHERE Dno=3"_s, u"1 2011/3 NGaku 0 3000 4"_s},
         {"a reading deleted", u"DELETE FROM Dgd"_s + ofMarch, u"1 2011/3 GGaku 0 3000 4"_s},
         {"a balance set by hand over another", u"UPDATE TtoD SET ZenkaiGaku=7,SyokiFlg=1"_s + ofMarch,
          u"1 2011/3 ZenkaiGaku 0 7 0"_s},
@@ -169,7 +166,6 @@ TEST_F(ThreeMonths, TheMonthsLeaseSlips) {
          u"2 2 0 "_s + alarm},
         {"a slip lost", u"DELETE FROM Dud WHERE Deal=1 AND Getudo=3"_s, u"1 3 0 ACUリース代"_s},
         {"a lease begun behind the run", u"UPDATE Deal SET Keihou=1"_s, u"1 3 0 "_s + alarm},
-        {"both ended", ended, {}},
         {"a slip lost before the end", ended + u";\nDELETE FROM Dud WHERE Deal=1 AND Getudo=2"_s,
          u"1 2 0 ACUリース代"_s},
         {"a line that nobody leases", line(march, 2, u"警報機リース代"), u"1 3 1 "_s + alarm},
@@ -214,16 +210,11 @@ TEST_F(ThreeMonths, CheckTellsADealerAndAScript) {
         {u"UPDATE TtoD SET UGaku=UGaku+1 WHERE Deal=2 AND Getudo=2"_s, u" --since 2011/4"_s, 0,
          "2011/04 から"},
         {u"UPDATE TtoD SET ZenkaiGaku=7,SyokiFlg=1 WHERE Deal=1 AND Getudo=3"_s, {}, 0, "繰越を手で決めた"},
-        {u"UPDATE Dgd SET Suu=-10,KonkaiMeter=20 WHERE Deal=1 AND Getudo=3"_s, {}, 1, "使用量がマイナス"},
         {u"DELETE FROM TtoD WHERE Deal=2 AND Getudo=1;\nDELETE FROM Dgd WHERE Deal=2 AND Getudo=1"_s,
          {},
          0,
          "はじめの月を消した得意先の、確かめられない繰越: 1 件（得意先 2）"},
         {u"UPDATE Deal SET ACU=1 WHERE Code=1"_s, {}, 1, "2011/03       1  山田        ACUリース代がない"},
-        {u"UPDATE Dgd SET ZenkaiMeter=25,Suu=15 WHERE Deal=1 AND Getudo=3"_s,
-         {},
-         1,
-         "前回が、最後に読んだ値（30）と違う"},
         {u"UPDATE Dgd SET KonkaiMeter=0,Suu=0,Gaku=0 WHERE Deal=2 AND Getudo=3;\n"
          "UPDATE TtoD SET GGaku=0,Gaku=0 WHERE Deal=2 AND Getudo=3"_s,
          {},
@@ -263,12 +254,9 @@ TEST(Check, ADamagedFileIsToldPageByPage) {
         std::string says;
     } const cases[] = {
         {[](const QString& path) { admin::BreakPage(path, 4); }, 2, "1 ページが壊れています（4）"},
-        {[](const QString& path) { admin::BreakPage(path, 1); }, 2, "（1）"},
         {[last](const QString& path) { admin::BreakPage(path, last); }, 1, std::to_string(last)},
         {[&sound](const QString& path) { admin::WriteFile(path, sound.left(sound.size() / 2 + 100)); }, 2,
          "終わりが切れています"},
-        {[](const QString& path) { admin::WriteFile(path, QByteArray(9000, 'x')); }, 2,
-         "Akarix のデータベースではない"},
         {[](const QString& path) { admin::WriteFile(path, {}); }, 2, "Akarix のデータベースではない"},
         {[](const QString& path) {
              QFile::remove(path);
@@ -291,7 +279,6 @@ TEST(Readings, OnesOutOfTheRowAreDoubted) {
         const char* uses;  // m³, month after month
         const char* doubted;
     } const cases[] = {
-        {"20 21 19 18 22", ""},
         {"20 21 19 18 64", "4:3"},
         {"20 21 64", ""},   // too young to have a usual use
         {"1 1 1 1 4", ""},  // small uses jump
@@ -329,7 +316,6 @@ TEST(Readings, EachBeginsWhereTheLastOneEnded) {
         bool takesGas;
         const char* doubted;  // month:doubt:usual
     } const cases[] = {
-        {"0-100 100-120 120-150", true, ""},
         {"0-100 100-120 110-150", true, "2:5:120"},
         {"700-720", true, ""},  // nothing to hold it against
         {"0-100 100-12/150/0 12-30", true, ""},
@@ -337,12 +323,10 @@ TEST(Readings, EachBeginsWhereTheLastOneEnded) {
         {"0-100 100-0/130/0 0-20", true, ""},          // exchanged, and nothing used since
         {"0-100 100-0 0-150", true, "1:6:1 2:5:100"},  // a month not read breaks the chain
         {"0-100 100-0 100-150", true, "1:6:1"},        // and somebody has mended it
-        {"0-100 100-0 0-0 0-0 100-150", true, "1:6:3"},
-        {"0-100 100-0 0-0 0-0", false, "1:6:1"},  // the meter is gone, or so it seems
+        {"0-100 100-0 0-0 0-0", false, "1:6:1"},       // the meter is gone, or so it seems
         {"0-100 100-0?", true, ""},
         {"0-100 0-0?", true, "1:5:100"},  // shown before the month ahead was read
         {"0-0 0-0", false, ""},
-        {"0-0", true, "0:6:1"},
         {"0-100 . . . . . . . . . . . . . . . . . . . . . . . . 90-120", true, "25:5:100"},
     };
     for (const auto& [months, takesGas, doubted] : cases) {
