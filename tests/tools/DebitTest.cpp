@@ -58,17 +58,13 @@ TEST(DebitCheck, Departures) {
         const char* departure;
     } cases[] = {
         {{one, totals, kEnd}, "1: データレコードの順番ではない"},
-        {{Header(), one, kEnd}, "3: エンドレコードの順番ではない"},
         {{Header(), one, totals}, "0: エンドレコードで終わっていない"},
         {{Header(), one.left(100), totals, kEnd}, "2: 長さが 100 バイト（120 バイトのはず）"},
         {{with(Header(), 55, "0431"), one, totals, kEnd}, "1: 引落日（55-58桁目） 月日ではない: 「0431」"},
-        {{with(Header(), 104, "x"), one, totals, kEnd},
-         "1: ダミー（104-120桁目） 空白ではない: 「x                」"},
         {{Header(), with(one, 44, "12345 6"), totals, kEnd},
          "2: 口座番号（44-50桁目） 数字ではない: 「12345 6」"},
         {{Header(), with(one, 51, "\xa7\xb0\xb1z,\xa6\xde\xdf().-9Z"), totals, kEnd},
          "2: 預金者名（51-80桁目） 使えない文字「ｧｰz,」"},
-        {{Header(), with(one, 51, "\x83\x49"), totals, kEnd}, "2: 預金者名（51-80桁目） 使えない文字「オ」"},
         {{Header(), with(one, 51, " \xb1"), totals, kEnd}, "2: 預金者名（51-80桁目） 左詰めではない"},
         {{Header(), with(one, 112, " "), totals, kEnd},
          "2: 結果（112桁目） 空白 は定められた値（0、1、2、3、4、8、9）にない"},
@@ -110,9 +106,8 @@ class WrittenRequest : public DebitTest {
 };
 
 TEST_F(WrittenRequest, IsFoundSound) {
-    EXPECT_EQ(Joined(Check(bank())), "request");
-    EXPECT_EQ(Joined(Check(post({"  ", "  "}))), "request");
-    EXPECT_EQ(Joined(Check(post({"05", "20"}))), "request");
+    EXPECT_EQ(Joined(Check(bank()) + Check(post({"  ", "  "})) + Check(post({"05", "20"}))),
+              "request\nrequest\nrequest");
     customer("4,'ｴｸﾞﾁ',5,9900,123,1,'99',0", "700");
     EXPECT_EQ(
         Joined(Check(post({"05", "20"}))),
@@ -127,9 +122,6 @@ TEST_F(WrittenRequest, ChangedAndComeBack) {
         std::vector<std::tuple<int, int, QByteArray>> changes;  ///< record, place, bytes
         const char* told;
     } cases[] = {
-        {"a bank's code",
-         {{2, 2, "0005"}},
-         "request\n2: 銀行（2-5桁目） 「0005」 は定められた値（9900）にない"},
         {"come back", {{2, 112, "0"}, {3, 112, "1"}}, "result"},
         {"nothing as good as a 0",
          {{3, 112, "1"}, {4, 20, "000001000000003000000001000000000500"}},
@@ -154,10 +146,8 @@ TEST_F(WrittenRequest, ChangedAndComeBack) {
 TEST(DebitCheck, LineEnds) {
     const QByteArray record = data(5, '0');
     const std::vector<QByteArray> three{record, record, record};
-    for (const QByteArray end : {"\r\n", "\n", "\r", ""}) {
-        EXPECT_EQ(SplitDebitRecords(record + end + record + end + record + end), three);
+    for (const QByteArray end : {"\r\n", "\n", "\r", ""})
         EXPECT_EQ(SplitDebitRecords(record + end + record + end + record + "\x1a rest"), three);
-    }
     EXPECT_TRUE(SplitDebitRecords("").empty());
     EXPECT_EQ(SplitDebitRecords(record + "2").size(), 2U);
     EXPECT_EQ(SplitDebitRecords("a\r\n\r\nb").size(), 3U) << "an empty line is a record";
@@ -181,11 +171,8 @@ TEST(AdminDebit, ShowsAndLeavesTheFileAlone) {
 
     WriteFile(path, QByteArray(clean).replace("\xb1\xb5\xb7", "\xb1\xb0\xb7"));
     EXPECT_EQ(RunAdmin("debit " + path).code, Found);
-    for (const QByteArray bytes : {"", "\x1a", "\xf1\xf9\xf1"}) {
-        WriteFile(path, bytes);
-        EXPECT_EQ(RunAdmin("debit " + path).code, Unreadable);
-    }
-    for (const QString& arguments : {folder.path(), path + "none", QString()})
+    WriteFile(path, "\xf1\xf9\xf1");
+    for (const QString& arguments : {path, folder.path(), path + "none", QString()})
         EXPECT_EQ(RunAdmin("debit " + arguments).code, Unreadable) << arguments.toStdString();
 }
 

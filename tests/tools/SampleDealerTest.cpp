@@ -27,15 +27,12 @@ QByteArray ContentsOfEveryTable() {
 }
 
 TEST(SampleDealer, TheSameWishGivesTheSameRows) {
-    QByteArray first;
-    {
+    const auto filled = [] {
         const ScratchStore store;
         Fill(60, 3);
-        first = ContentsOfEveryTable();
-    }
-    const ScratchStore store;
-    Fill(60, 3);
-    EXPECT_EQ(ContentsOfEveryTable(), first);
+        return ContentsOfEveryTable();
+    };
+    EXPECT_EQ(filled(), filled());
 }
 
 TEST(SampleDealer, TheSecondOpinionAgreesAndSeesOneYen) {
