@@ -1,12 +1,12 @@
 #include "platform/sheet/TextPainter.h"
 
-#include <QTextBoundaryFinder>
 #include <algorithm>
 #include <cmath>
 
 #include "platform/print/PaperFont.h"
 #include "platform/runtime/Literals.h"
 #include "platform/sheet/SheetLayout.h"
+#include "platform/sheet/TextLines.h"
 
 namespace akarix {
 namespace {
@@ -61,58 +61,6 @@ double BlockTop(const QRectF& box, VerticalAlign align, double height) {
     return box.bottom() - EdgePadding - height;
 }
 
-bool IsWordLetter(QChar letter) {
-    return letter.unicode() > 0x20 && letter.unicode() < 0x250;
-}
-
-/// The pieces that distributed text keeps together: a Japanese letter each, a western word.
-QStringList Pieces(const QString& text) {
-    QStringList pieces;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    for (qsizetype from = 0, to = finder.toNextBoundary(); to > 0; from = to, to = finder.toNextBoundary()) {
-        const QString piece = text.mid(from, to - from);
-        const bool word = IsWordLetter(piece.front());
-        if (word && from > 0 && IsWordLetter(text.at(from - 1)))
-            pieces.last() += piece;
-        else if (!piece.front().isSpace())
-            pieces += piece;
-    }
-    return pieces;
-}
-
-/// Breaks a text into lines.
-/// \param measure the width of a part that begins at a place in the text
-template <class Measure>
-QStringList Wrapped(const QString& text, double room, Measure measure) {
-    QStringList lines;
-    qsizetype start = 0;  // of the paragraph
-    for (const QString& paragraph : text.split(QLatin1Char('\n'))) {
-        QTextBoundaryFinder finder(QTextBoundaryFinder::Line, paragraph);
-        QString line;
-        for (qsizetype from = 0, to = finder.toNextBoundary(); to > 0;
-             from = to, to = finder.toNextBoundary()) {
-            QString piece = paragraph.mid(from, to - from);
-            // Blanks at a line's end need no room.
-            if (!line.isEmpty() && measure(start + from - line.size(), (line + piece).trimmed()) > room) {
-                lines += line;
-                line.clear();
-            }
-            // As many letters as fit, at least one.
-            while (measure(start + to - piece.size(), piece.trimmed()) > room && piece.size() > 1) {
-                qsizetype length = 1;
-                while (measure(start + to - piece.size(), piece.left(length + 1)) <= room)
-                    ++length;
-                lines += piece.left(length);
-                piece.remove(0, length);
-            }
-            line += piece;
-        }
-        lines += line;
-        start += paragraph.size() + 1;
-    }
-    return lines;
-}
-
 class TextSetter {
  public:
     TextSetter(QPainter& painter, const CellStyle& style, const ShownText& shown)
@@ -148,8 +96,8 @@ class TextSetter {
     void paintLines() {
         QStringList lines;
         if (!shown_.number && (Wraps(style_) || align_ == HorizontalAlign::Distributed)) {
-            lines = Wrapped(shown_.text, room(),
-                            [this](qsizetype from, const QString& part) { return width(from, part); });
+            lines = TextLines(shown_.text, room(),
+                              [this](qsizetype from, const QString& part) { return width(from, part); });
         } else {
             QString line = shown_.text;
             lines += line.remove(QLatin1Char('\n'));
@@ -240,7 +188,7 @@ class TextSetter {
     }
 
     void paintSpread(const QString& line, double baseline) {
-        const QStringList pieces = Pieces(line);
+        const QStringList pieces = TextPieces(line);
         double total = 0;
         for (const QString& piece : pieces)
             total += font_->width(piece);
@@ -445,11 +393,6 @@ bool MaySpill(const CellStyle& style, bool number) {
 
 void PaintText(QPainter& painter, const CellStyle& style, const ShownText& shown) {
     if (!shown.text.isEmpty()) TextSetter(painter, style, shown).paint();
-}
-
-QStringList WrapText(const QString& text, const SheetFont& sheetFont, double width) {
-    PaperFont& font = FontOf(sheetFont, sheetFont.size);
-    return Wrapped(text, width, [&font](qsizetype, const QString& part) { return font.width(part); });
 }
 
 }  // namespace akarix

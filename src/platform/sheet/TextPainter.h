@@ -21,7 +21,5 @@ struct ShownText {
 bool MaySpill(const CellStyle& style, bool number);
 /// Sets a text into its box by the cell's style: alignment, wrapping, shrinking, rotation.
 void PaintText(QPainter& painter, const CellStyle& style, const ShownText& shown);
-/// Breaks a text into lines that fit a width.
-QStringList WrapText(const QString& text, const SheetFont& font, double width);
 
 }  // namespace akarix

@@ -6,10 +6,11 @@
 #include <QPdfWriter>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <numeric>
 
 #include "platform/print/PdfText.h"
 #include "platform/print/PreviewPages.h"
-#include "platform/sheet/TextPainter.h"
+#include "platform/sheet/TextLines.h"
 
 namespace akarix {
 namespace {
@@ -191,14 +192,16 @@ TEST(SheetPainterTest, HeadersShrinkWithTheSheet) {
 }
 
 TEST(SheetPainterTest, WrappingKeepsMarksFromTheLinesHead) {
-    SheetFont font;
-    font.name = "ＭＳ ゴシック";
-    font.size = 10;
-    const double four = 4 * 200 + 1;
-    EXPECT_EQ(WrapText("一二三四。五", font, four), QStringList({"一二三", "四。五"}));
-    EXPECT_EQ(WrapText("ab cd efgh", font, four), QStringList({"ab cd ", "efgh"}));
-    EXPECT_EQ(WrapText("一\n\n二", font, four), QStringList({"一", "", "二"}));
-    EXPECT_EQ(WrapText("abcdefghijkl", font, four), QStringList({"abcdefgh", "ijkl"}));
+    const auto lines = [](const QString& text) {
+        return TextLines(text, 8, [](qsizetype, const QString& part) {
+            return std::accumulate(part.begin(), part.end(), 0.0,
+                                   [](double sum, QChar c) { return sum + (c.unicode() < 0x80 ? 1 : 2); });
+        });
+    };
+    EXPECT_EQ(lines("一二三四。五"), QStringList({"一二三", "四。五"}));
+    EXPECT_EQ(lines("ab cd efgh"), QStringList({"ab cd ", "efgh"}));
+    EXPECT_EQ(lines("一\n\n二"), QStringList({"一", "", "二"}));
+    EXPECT_EQ(lines("abcdefghijkl"), QStringList({"abcdefgh", "ijkl"}));
 }
 
 /// Colours of a page at two pixels to the point, counted from the sheet's own corner.
