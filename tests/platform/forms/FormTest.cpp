@@ -10,6 +10,7 @@
 #include "platform/forms/Notice.h"
 #include "platform/forms/TextBox.h"
 #include "platform/runtime/ActionListener.h"
+#include "platform/runtime/Literals.h"
 #include "support/Raised.h"
 #include "support/ScreenTest.h"
 
@@ -295,4 +296,3 @@ TEST(ClerkAlone, DialogsNobodyExpectedAreReportedAndClosed) {
 }  // namespace akarix
 
 #include "FormTest.moc"
-#include "platform/runtime/Literals.h"
