@@ -19,8 +19,6 @@ namespace {
 
 /// Three fields and a button; what the handlers do is up to the test.
 class Sample_frm : public Form {
-    Q_OBJECT
-
  public:
     Sample_frm() : Form("Sample_frm", "見本") {
         auto* whole = new QVBoxLayout(this);
@@ -48,8 +46,6 @@ class Sample_frm : public Form {
 };
 
 class Other_frm : public Form {
-    Q_OBJECT
-
  public:
     Other_frm() : Form("Other_frm", "別") {
         auto* whole = new QVBoxLayout(this);
@@ -294,5 +290,3 @@ TEST(ClerkAlone, DialogsNobodyExpectedAreReportedAndClosed) {
 
 }  // namespace
 }  // namespace akarix
-
-#include "FormTest.moc"
