@@ -11,7 +11,9 @@ endif()
 
 add_compile_options(-Wall -Wextra -Wconversion -Wshadow)
 # Optimising, this compiler sees uninitialised texts in every variant that holds none.
-add_compile_options($<$<AND:$<CONFIG:Release>,$<CXX_COMPILER_ID:GNU>>:-Wno-maybe-uninitialized>)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND (AKARIX_SANITIZE OR CMAKE_BUILD_TYPE STREQUAL "Release"))
+    add_compile_options(-Wno-maybe-uninitialized)
+endif()
 if(AKARIX_WERROR)
     add_compile_options(-Werror)
 endif()
