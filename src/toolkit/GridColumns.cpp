@@ -1,5 +1,7 @@
 #include "toolkit/GridColumns.h"
 
+#include <optional>
+
 #include "platform/forms/Control.h"
 #include "values/Text.h"
 
@@ -33,6 +35,9 @@ int FillGrid(FlexGrid& grid, const GridColumns& columns, Recordset& set,
         int col;
         const Field* field;  // found once, not for each of the rows
         const GridColumn* column;
+        // A value that equals the one above it is not put through its mask again.
+        std::optional<Variant> above = {};
+        QString shown = {};
     };
     std::vector<Source> sources;
     for (int col = 0; const GridColumn& column : columns) {
@@ -42,10 +47,12 @@ int FillGrid(FlexGrid& grid, const GridColumns& columns, Recordset& set,
     int row = grid.FixedRows();
     grid.SetRows(row + count + emptyRows);
     for (; !set.Eof(); ++row, set.MoveNext()) {
-        for (const Source& source : sources) {
-            const Variant value = source.field->Value();
-            grid.SetTextMatrix(row, source.col,
-                               source.column->text ? source.column->text(value) : NullToEmpty(value));
+        for (Source& source : sources) {
+            if (const Variant value = source.field->Value(); source.above != value) {
+                source.shown = source.column->text ? source.column->text(value) : NullToEmpty(value);
+                source.above = value;
+            }
+            grid.SetTextMatrix(row, source.col, source.shown);
         }
         if (rest) rest(row);
     }
