@@ -53,7 +53,7 @@ RequestKind BankRequest(const Consignor& consignor, Date creation) {
 }
 
 void WriteBankDebit(const DebitWish& wish, const QString& bankCode, const ShowProgress& progress) {
-    if (!AskConfirm(u"銀行ディスクを作成しますか？"_s)) return;
+    if (!AskConfirm(u"銀行ディスクを作成しますか？"_s, u"はい"_s, u"いいえ"_s)) return;
     progress(u"ディスク作成中！"_s);
     const std::int16_t bank = CInt(KeepNumeric(bankCode));
     Consignor consignor = LoadBankConsignor(bank);

@@ -69,7 +69,8 @@ void Read(const QString& path, const QString& bank, const ShowProgress& progress
     Open(path, OpenMode::Input, kDebitFile);
     const Date debited = ResultDate(Input(kDebitFile), today);
     const Disk disk{bank, NumStr(Year(debited)), NumStr(Month(debited))};
-    if (!AskConfirm(u"処理年="_s + disk.nendo + u" 月="_s + disk.getudo + u" は正しいですか？"_s)) {
+    if (!AskConfirm(u"処理年="_s + disk.nendo + u" 月="_s + disk.getudo + u" は正しいですか？"_s, u"はい"_s,
+                    u"いいえ"_s)) {
         Close(kDebitFile);
         return;
     }
@@ -87,7 +88,7 @@ void Read(const QString& path, const QString& bank, const ShowProgress& progress
 }
 
 void ReadDisk(const Consignor& consignor, int bank, const ShowProgress& progress) {
-    if (!AskConfirm(u"ディスクを読みこみますか？"_s)) return;
+    if (!AskConfirm(u"ディスクを読みこみますか？"_s, u"はい"_s, u"いいえ"_s)) return;
     progress(u"ディスク読込中!"_s);
     TrapDebit([&] { Read(SplitDebitPath(consignor.fName).whole(), NumStr(bank), progress); });
 }

@@ -18,7 +18,7 @@ namespace akarix {
 namespace {
 
 bool Ask(const QString& question) {
-    return AskConfirm(question);
+    return AskConfirm(question, u"はい"_s, u"いいえ"_s);
 }
 
 RetransferDay DayOf(const QString& typed) {

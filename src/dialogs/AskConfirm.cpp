@@ -1,7 +1,6 @@
 #include "dialogs/AskConfirm.h"
 
 #include "dialogs/ChoiceForm.h"
-#include "platform/runtime/Literals.h"
 
 namespace akarix {
 namespace {
@@ -18,12 +17,12 @@ bool Ask(const QString& question, const QString& first, const QString& second) {
 
 }  // namespace
 
-bool AskConfirm(const QString& question) {
-    return Ask<Confirm_frm>(question, u"はい"_s, u"いいえ"_s);
+bool AskConfirm(const QString& question, const QString& first, const QString& second) {
+    return Ask<Confirm_frm>(question, first, second);
 }
 
-bool AskConfirmRev(const QString& question, const QString& goOn) {
-    return Ask<gyakuConfirm_frm>(question, u"いいえ"_s, goOn);
+bool AskConfirmRev(const QString& question, const QString& first, const QString& second) {
+    return Ask<gyakuConfirm_frm>(question, first, second);
 }
 
 }  // namespace akarix

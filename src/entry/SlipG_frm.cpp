@@ -131,7 +131,8 @@ void SlipG_frm::QueryUnload(bool& cancel) {
 
 /// False when the clerk wants to keep what stands on the sheet.
 bool SlipG_frm::mayDropReadings() {
-    if (unsaved_ && AskConfirmRev(u"保存していない検針値を捨てますか？"_s, u"捨てる"_s)) return false;
+    if (unsaved_ && AskConfirmRev(u"保存していない検針値を捨てますか？"_s, u"いいえ"_s, u"捨てる"_s))
+        return false;
     unsaved_ = false;
     return true;
 }
@@ -235,7 +236,7 @@ void SlipG_frm::save() {
 }
 
 void SlipG_frm::askAndDelete() {
-    if (AskConfirmRev(u"この月度の検針を削除します。"_s, u"削除"_s)) return;
+    if (AskConfirmRev(u"この月度の検針を削除します。"_s, u"いいえ"_s, u"削除"_s)) return;
     month().clearRoute(KeepNumeric(ebox(kRoute).Text()));
     clear();
 }

@@ -263,7 +263,7 @@ void Slip_frm::removeRows() {
 }
 
 void Slip_frm::askAndRemove() {
-    if (!AskConfirm(u"この売上伝票を削除します。"_s)) return;
+    if (!AskConfirm(u"この売上伝票を削除します。"_s, u"はい"_s, u"いいえ"_s)) return;
     removeRows();
     clear();
 }

@@ -188,7 +188,7 @@ bool MstTanka_frm::save() {
 }
 
 void MstTanka_frm::remove() {
-    if (!AskConfirm(u"この単価パターンを削除します。"_s)) return;
+    if (!AskConfirm(u"この単価パターンを削除します。"_s, u"はい"_s, u"いいえ"_s)) return;
     gDb->Execute(
         u"DELETE FROM Tnk "
         " WHERE Ptn="_s +

@@ -14,7 +14,7 @@ QString ChosenFor(const QString& document) {
 }
 
 bool AskStop() {
-    return AskConfirm(u"残りの頁の表示を中止しますか？"_s);
+    return AskConfirm(u"残りの頁の表示を中止しますか？"_s, u"はい"_s, u"いいえ"_s);
 }
 
 }  // namespace

@@ -160,7 +160,7 @@ void RepoDaichou_frm::purgeCustomer() {
 }
 
 void RepoDaichou_frm::purge(const QString& question, const QString& customer) {
-    if (AskConfirmRev(question, u"削除"_s)) return;
+    if (AskConfirmRev(question, u"いいえ"_s, u"削除"_s)) return;
     PurgeMonth(number(kPurgeYear), number(kPurgeMonth), customer);
     ebox(kPurgeYear).SetText({});
     ebox(kPurgeMonth).SetText({});

@@ -41,7 +41,7 @@ void ChangeBackupPlace() {
     if (Dir(BackupPlaceFile()).toUpper() == BackupPlaceFile().toUpper()) place = ReadBackupPlace();
     QString answer = AskText(u"バックアップの場所。"_s, place);
     if (answer.isEmpty()) answer = Trim(place);
-    if (AskConfirm(answer + u"で更新します。"_s)) WriteBackupPlace(answer);
+    if (AskConfirm(answer + u"で更新します。"_s, u"はい"_s, u"いいえ"_s)) WriteBackupPlace(answer);
 }
 
 void BackUp() {

@@ -199,7 +199,7 @@ void main_menu::ChangePassword() {
     row.Edit();
     QString answer = AskText(u"パスワードを入力します。"_s, current);
     if (answer.isEmpty()) answer = current;
-    if (AskConfirm(answer + u"で更新します。"_s)) {
+    if (AskConfirm(answer + u"で更新します。"_s, u"はい"_s, u"いいえ"_s)) {
         row.Fields(contents) = EmptyToBlank(answer);
         row.Update();
     }

@@ -143,7 +143,7 @@ QString MasterForm::removeSql() {
 
 void MasterForm::remove() {
     if (!mayAskToRemove()) return;
-    if (!AskConfirm(texts_.removeQuestion)) return;
+    if (!AskConfirm(texts_.removeQuestion, u"はい"_s, u"いいえ"_s)) return;
     if (!mayRemove()) return;
     gDb->Execute(removeSql());
     clear();

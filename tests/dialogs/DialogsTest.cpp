@@ -50,10 +50,11 @@ TEST_F(Dialogs, AnswerByKeysAndCloseBox) {
     for (const auto& c : cases) {
         const auto answer = [&](QWidget& dialog) { play(c.keys, dialog); };
         clerk.expect("Confirm_frm", answer);
-        EXPECT_EQ(AskConfirm(u"a&bで更新します。"_s), c.confirm) << c.keys;
+        EXPECT_EQ(AskConfirm(u"a&bで更新します。"_s, u"はい"_s, u"いいえ"_s), c.confirm) << c.keys;
         EXPECT_EQ(clerk.lastSaid(), u"a&bで更新します。");
         clerk.expect("gyakuConfirm_frm", answer);
-        EXPECT_EQ(AskConfirmRev(u"この対象年月のデータを削除しますか？"_s, u"削除"_s), c.confirmRev)
+        EXPECT_EQ(AskConfirmRev(u"この対象年月のデータを削除しますか？"_s, u"いいえ"_s, u"削除"_s),
+                  c.confirmRev)
             << c.keys;
     }
 }
